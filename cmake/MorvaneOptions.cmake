@@ -1,0 +1,17 @@
+# What a person may switch. Everything beside the libraries is off when Morvane is embedded.
+option(MORVANE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
+option(MORVANE_BUILD_EXAMPLES "Build the gallery and the examples" ${PROJECT_IS_TOP_LEVEL})
+option(MORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(MORVANE_WARNINGS_AS_ERRORS "Treat warnings in Morvane's own sources as errors" OFF)
+option(MORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+set(MORVANE_HOST_LIBRARY "" CACHE STRING
+    "CMake target or library file that implements the host services in place of libmorvane-host")
+
+include(GNUInstallDirs)
+
+if(PROJECT_IS_TOP_LEVEL)
+    # One directory for programs and libraries, so that a Windows build finds its DLLs.
+    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+    set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+    set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+endif()

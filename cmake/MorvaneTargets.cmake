@@ -1,0 +1,62 @@
+include(GenerateExportHeader)
+
+# How Morvane's own code is compiled. Consumers never see any of it.
+add_library(morvane-build-flags INTERFACE)
+target_compile_definitions(morvane-build-flags INTERFACE
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+if(MSVC)
+    target_compile_options(morvane-build-flags INTERFACE
+        /W4 /utf-8 /permissive- $<$<BOOL:${MORVANE_WARNINGS_AS_ERRORS}>:/WX>)
+else()
+    target_compile_options(morvane-build-flags INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2
+        $<$<BOOL:${MORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
+endif()
+if(MORVANE_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_compile_options(morvane-build-flags INTERFACE ${sanitizers})
+    target_link_options(morvane-build-flags INTERFACE ${sanitizers})
+endif()
+
+# Compiles TARGET the way all of Morvane's own code is compiled.
+function(morvane_own_code target)
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:morvane-build-flags>)
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    set_target_properties(${target} PROPERTIES
+        CXX_EXTENSIONS OFF AUTOMOC ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+endfunction()
+
+# morvane_library(NAME morvane-ui EXPORT_NAME Ui EXPORT_HEADER ui/qt/MorvaneUiExport.h EXPORT_MACRO MORVANE_UI_EXPORT
+#                 PUBLIC_HEADERS ... SOURCES ...)
+# A versioned shared library with its export header; header paths are relative to the include root.
+function(morvane_library)
+    cmake_parse_arguments(arg "" "NAME;EXPORT_NAME;EXPORT_HEADER;EXPORT_MACRO" "PUBLIC_HEADERS;SOURCES" ${ARGN})
+    list(TRANSFORM arg_PUBLIC_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/common/src/ OUTPUT_VARIABLE header_files)
+    add_library(${arg_NAME} SHARED ${arg_SOURCES} ${header_files})
+    add_library(Morvane::${arg_EXPORT_NAME} ALIAS ${arg_NAME})
+    morvane_own_code(${arg_NAME})
+    set_target_properties(${arg_NAME} PROPERTIES
+        EXPORT_NAME ${arg_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+
+    set(generated ${PROJECT_BINARY_DIR}/generated)
+    generate_export_header(${arg_NAME}
+        EXPORT_MACRO_NAME ${arg_EXPORT_MACRO} EXPORT_FILE_NAME ${generated}/${arg_EXPORT_HEADER})
+    target_include_directories(${arg_NAME} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/common/src> $<BUILD_INTERFACE:${generated}>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/morvane>)
+    morvane_install_headers(${arg_PUBLIC_HEADERS})
+    morvane_install_headers(BASE ${generated} ${arg_EXPORT_HEADER})
+endfunction()
+
+# Installs headers under include/morvane, keeping their paths below BASE (the include root unless given).
+function(morvane_install_headers)
+    cmake_parse_arguments(arg "" "BASE" "" ${ARGN})
+    if(NOT arg_BASE)
+        set(arg_BASE ${PROJECT_SOURCE_DIR}/common/src)
+    endif()
+    foreach(header IN LISTS arg_UNPARSED_ARGUMENTS)
+        cmake_path(GET header PARENT_PATH directory)
+        install(FILES ${arg_BASE}/${header}
+                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/morvane/${directory} COMPONENT Development)
+    endforeach()
+endfunction()

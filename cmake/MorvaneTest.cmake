@@ -1,0 +1,12 @@
+# morvane_add_test(NAME SOURCES... [LIBRARIES ...] [TIMEOUT seconds])
+# A test program of GoogleTest cases; CTest runs each case in a process of its own, as NAME/Suite.case.
+function(morvane_add_test name)
+    cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 60)
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    morvane_own_code(${name})
+    target_link_libraries(${name} PRIVATE morvane-test-support ${arg_LIBRARIES})
+    gtest_discover_tests(${name} TEST_PREFIX ${name}/ DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT ${arg_TIMEOUT})
+endfunction()

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "host/MorvaneHostExport.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <string>
+
+namespace morvane {
+
+/**
+ * The host's store of small named values, such as the geometry of a dialog.
+ *
+ * This default implementation keeps them in one INI file through `QSettings`. Every write is on disk when
+ * depositValue() returns, the file is replaced as a whole, and several processes may share it: none sees half a file,
+ * and none loses what another stored under other keys.
+ *
+ * A host replaces the service for the whole process by a subclass and setInstance() (or InstanceOverride), or at link
+ * time by a library of its own. GUI thread only.
+ */
+class MORVANE_HOST_EXPORT ApplicationSettings
+{
+public:
+    /** The replacement given to setInstance(), or else a default object made on first use, which uses
+     * defaultFileName(). */
+    static ApplicationSettings& getInstance();
+    /**
+     * Makes @p replacement the object that getInstance() returns; null brings the default object back.
+     * @return the previous replacement, null when there was none. Ownership stays with the caller.
+     */
+    static ApplicationSettings* setInstance(ApplicationSettings* replacement);
+
+    /** `settings.ini` in the application's own directory below the user's configuration directory. */
+    static QString defaultFileName();
+
+    /** @param fileName the file to keep the values in; it and its directory are made when the first value is stored. */
+    explicit ApplicationSettings(const QString& fileName = defaultFileName());
+    virtual ~ApplicationSettings();
+    ApplicationSettings(const ApplicationSettings&) = delete;
+    ApplicationSettings& operator=(const ApplicationSettings&) = delete;
+
+    /**
+     * The bytes last stored under @p key, or an empty array when there are none.
+     *
+     * @param key any UTF-8 text: the empty key, slashes, `=`, blanks and non-ASCII text are ordinary keys, and upper
+     *        and lower case differ on every platform.
+     *
+     * A file that cannot be read or is damaged gives empty arrays and one warning in Qt's message log for each object.
+     */
+    virtual QByteArray getByteArrayValue(const std::string& key);
+
+    /**
+     * Stores @p value under @p key, replacing what was there. Any bytes are kept as they are; an empty array is stored
+     * too, and cannot be told from a key that was never stored.
+     *
+     * Where the file cannot be written, one warning goes to Qt's message log for each object, and the value is kept in
+     * memory for the life of the object. A damaged file is never overwritten: it is first moved aside to a name with
+     * `.damaged` appended, and if that fails nothing is written.
+     */
+    virtual void depositValue(const std::string& key, const QByteArray& value);
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace morvane

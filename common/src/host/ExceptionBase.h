@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/MorvaneHostExport.h"
+
+#include <exception>
+#include <string>
+
+namespace morvane {
+
+/** Base of the exceptions that Morvane throws; each of them is a `std::exception` too. */
+class MORVANE_HOST_EXPORT ExceptionBase : public std::exception
+{
+public:
+    /** @param message UTF-8 text that what() returns; may be empty. */
+    explicit ExceptionBase(std::string message);
+    ExceptionBase(const ExceptionBase& other);
+    ExceptionBase& operator=(const ExceptionBase& other);
+    ~ExceptionBase() override;
+
+    /** The message, UTF-8, valid as long as this object. A NUL inside the message ends it early. */
+    const char* what() const noexcept override;
+
+private:
+    std::string m_message;
+};
+
+} // namespace morvane

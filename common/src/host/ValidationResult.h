@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/MorvaneHostExport.h"
+
+#include <string>
+
+namespace morvane {
+
+/** What a validator says of one value: valid, or invalid with a reason. */
+class MORVANE_HOST_EXPORT ValidationResult
+{
+public:
+    /** The valid result; errorString() is empty. */
+    ValidationResult();
+    /**
+     * An invalid result.
+     * @param errorString UTF-8 reason that can be shown to a person. It may be empty; the result is invalid all the
+     * same.
+     */
+    explicit ValidationResult(std::string errorString);
+    ValidationResult(const ValidationResult& other);
+    ValidationResult& operator=(const ValidationResult& other);
+    virtual ~ValidationResult();
+
+    bool isValid() const;
+    /** The reason given to the constructor, UTF-8; empty for the valid result. */
+    std::string errorString() const;
+
+private:
+    bool m_valid = true;
+    std::string m_errorString;
+};
+
+} // namespace morvane

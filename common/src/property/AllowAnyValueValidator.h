@@ -1,0 +1,15 @@
+#pragma once
+
+#include "property/ValidatorInterface.h"
+
+namespace morvane {
+
+/** Accepts every value; what a property starts with. */
+template <typename T>
+class AllowAnyValueValidator : public virtual ValidatorInterface<T>
+{
+public:
+    ValidationResult validate(const T&) const override { return ValidationResult(); }
+};
+
+} // namespace morvane

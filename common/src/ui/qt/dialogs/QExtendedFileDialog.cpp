@@ -1,0 +1,255 @@
+#include "ui/qt/dialogs/QExtendedFileDialog.h"
+
+#include "host/ApplicationSettings.h"
+#include "host/HelpLauncher.h"
+
+#include <QComboBox>
+#include <QCursor>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageLogger>
+#include <QPointer>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <boost/filesystem/exception.hpp>
+
+#include <utility>
+
+namespace {
+
+/** Pushes an override cursor for its lifetime, which may be longer than that of the dialog. */
+class ArrowCursor
+{
+public:
+    ArrowCursor() { QGuiApplication::setOverrideCursor(QCursor(Qt::ArrowCursor)); }
+    ~ArrowCursor() { QGuiApplication::restoreOverrideCursor(); }
+    ArrowCursor(const ArrowCursor&) = delete;
+    ArrowCursor& operator=(const ArrowCursor&) = delete;
+};
+
+QString fromUtf8(const std::string& text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+} // namespace
+
+QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
+    const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode)
+    : QExtendedFileDialog(&parent, caption, directory, filter, helpTopic, acceptMode)
+{
+}
+
+QExtendedFileDialog::QExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+    const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode)
+    : QFileDialog(parent, fromUtf8(caption), fromUtf8(directory), fromUtf8(filter)),
+      m_helpTopic(helpTopic),
+      m_geometryPersistenceKey("QExtendedFileDialog/Geometry_v2")
+{
+    init(acceptMode);
+    if (!m_helpTopic.empty()) {
+        setHelpAction();
+    }
+}
+
+QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, QFileDialog::AcceptMode acceptMode) : QFileDialog(&parent)
+{
+    init(acceptMode);
+}
+
+QExtendedFileDialog::~QExtendedFileDialog()
+{
+    restoreCursor();
+}
+
+void QExtendedFileDialog::setGeometryPersistenceKey(std::string key)
+{
+    m_geometryPersistenceKey = std::move(key);
+}
+
+void QExtendedFileDialog::setDefaultSize(QSize size)
+{
+    m_defaultSize = size;
+}
+
+void QExtendedFileDialog::performSelectedFileValidation(bool validate)
+{
+    m_performSelectedFileValidation = validate;
+}
+
+void QExtendedFileDialog::setDontConfirmOverwrite(bool on)
+{
+    setOption(QFileDialog::DontConfirmOverwrite, on);
+}
+
+void QExtendedFileDialog::setShowDirectoriesOnly(bool on)
+{
+    setOption(QFileDialog::ShowDirsOnly, on);
+}
+
+void QExtendedFileDialog::show()
+{
+    restoreSizeAndPosition();
+    restoreFilters();
+    addSidebarUrls();
+    QWidget::show();
+    saveSizeAndPosition();
+}
+
+int QExtendedFileDialog::exec()
+{
+    restoreSizeAndPosition();
+    restoreFilters();
+    addSidebarUrls();
+    const ArrowCursor arrow;
+    const QPointer<QExtendedFileDialog> self(this);
+    const int result = QDialog::exec();
+    if (self) {
+        saveSizeAndPosition();
+    }
+    return result;
+}
+
+void QExtendedFileDialog::accept()
+{
+    const QString text = m_fileNameEdit->text();
+    if (!text.contains(QLatin1Char('*'))) {
+        if (m_performSelectedFileValidation) {
+            QFileDialog::accept();
+        } else {
+            QDialog::accept();
+        }
+        return;
+    }
+
+    if (m_savedNameFilters.isEmpty()) {
+        m_savedNameFilters = nameFilters();
+    }
+    QStringList filters = nameFilters();
+    const QString selected = selectedNameFilter();
+    const QString description = selected.left(selected.indexOf(QLatin1Char('(')));
+    // setNameFilters() simplifies white space, and selectNameFilter() wants the very text that it shows.
+    m_modifiedNameFilter = QString(description + QLatin1Char('(') + text + QLatin1Char(')')).simplified();
+    const int position = filters.indexOf(selected);
+    if (position >= 0) {
+        filters[position] = m_modifiedNameFilter;
+    }
+
+    m_fileTypeCombo->blockSignals(true);
+    setNameFilters(filters);
+    selectNameFilter(m_modifiedNameFilter);
+    m_fileTypeCombo->blockSignals(false);
+    connect(m_fileTypeCombo, SIGNAL(activated(QString)), this, SLOT(revertModifiedFilterAndSelect(QString)),
+        Qt::UniqueConnection);
+}
+
+void QExtendedFileDialog::restoreFilters()
+{
+    if (m_savedNameFilters.isEmpty()) {
+        return;
+    }
+    setNameFilters(m_savedNameFilters);
+    m_savedNameFilters.clear();
+    m_modifiedNameFilter.clear();
+}
+
+void QExtendedFileDialog::revertModifiedFilterAndSelect(QString filter)
+{
+    if (m_modifiedNameFilter.isEmpty() || m_modifiedNameFilter == filter) {
+        return;
+    }
+    disconnect(m_fileTypeCombo, SIGNAL(activated(QString)), this, SLOT(revertModifiedFilterAndSelect(QString)));
+    const QString current = selectedNameFilter();
+    restoreFilters();
+    selectNameFilter(current);
+}
+
+void QExtendedFileDialog::launchHelp()
+{
+    morvane::HelpLauncher::getInstance().showHelp(m_helpTopic);
+}
+
+void QExtendedFileDialog::onDirectoryLoaded(const QString&)
+{
+    restoreCursor();
+}
+
+void QExtendedFileDialog::onRootPathChanged(const QString& path)
+{
+    if (!m_overrideCursorSet && QFileInfo(path).isDir()) {
+        QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+        m_overrideCursorSet = true;
+    }
+}
+
+void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
+{
+    setAcceptMode(acceptMode);
+    setFileMode(acceptMode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    // Also what makes Qt build the child widgets that are looked up below.
+    setOption(QFileDialog::DontUseNativeDialog, true);
+    m_performSelectedFileValidation = true;
+    m_overrideCursorSet = false;
+
+    m_fileTypeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    m_fileNameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    const auto* const view = findChild<QListView*>(QStringLiteral("listView"));
+    const auto* const model = qobject_cast<QFileSystemModel*>(view->model());
+    connect(model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));
+    connect(model, SIGNAL(rootPathChanged(const QString&)), this, SLOT(onRootPathChanged(const QString&)));
+}
+
+void QExtendedFileDialog::setHelpAction()
+{
+    auto* const buttons = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+    buttons->addButton(QDialogButtonBox::Help);
+    connect(buttons, SIGNAL(helpRequested()), this, SLOT(launchHelp()));
+}
+
+void QExtendedFileDialog::addSidebarUrls()
+{
+    if (!morvane::ApplicationSettings::getInstance().getByteArrayValue(m_geometryPersistenceKey).isEmpty()) {
+        return;
+    }
+    try {
+        QList<QUrl> urls = sidebarUrls();
+        for (const auto location :
+            {QStandardPaths::DesktopLocation, QStandardPaths::DocumentsLocation, QStandardPaths::HomeLocation}) {
+            const QStringList places = QStandardPaths::standardLocations(location);
+            if (!places.isEmpty()) {
+                urls.append(QUrl::fromLocalFile(places.first()));
+            }
+        }
+        setSidebarUrls(urls);
+    } catch (const boost::filesystem::filesystem_error& error) {
+        QMessageLogger().debug("Unable to add default storage locations to sidebar: %s", error.what());
+    }
+}
+
+void QExtendedFileDialog::saveSizeAndPosition()
+{
+    morvane::ApplicationSettings::getInstance().depositValue(m_geometryPersistenceKey, saveGeometry());
+}
+
+void QExtendedFileDialog::restoreSizeAndPosition()
+{
+    const QByteArray stored = morvane::ApplicationSettings::getInstance().getByteArrayValue(m_geometryPersistenceKey);
+    if (!stored.isEmpty()) {
+        restoreGeometry(stored);
+    } else if (m_defaultSize.width() >= 1 && m_defaultSize.height() >= 1) {
+        resize(m_defaultSize);
+    }
+}
+
+void QExtendedFileDialog::restoreCursor()
+{
+    if (m_overrideCursorSet) {
+        m_overrideCursorSet = false;
+        QGuiApplication::restoreOverrideCursor();
+    }
+}

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "ui/qt/MorvaneUiExport.h"
+
+#include <QFileDialog>
+#include <QSize>
+#include <QStringList>
+
+#include <string>
+
+class QComboBox;
+class QLineEdit;
+
+/**
+ * A QFileDialog that always shows Qt's own widgets and adds what engineers miss in it:
+ *
+ * - its size and position are kept in morvane::ApplicationSettings, under a key;
+ * - the sidebar gets the desktop, documents and home folders the first time;
+ * - a Help button opens a topic through morvane::HelpLauncher;
+ * - a wait cursor stands while a folder is being read;
+ * - a wildcard typed as the file name (`*.dat`) filters the view in place instead of being taken as a name.
+ *
+ * All `std::string` arguments are UTF-8. A name filter is a description, one blank, and blank-separated patterns in
+ * parentheses, `Images (*.png *.jpg)`; several are joined by `;;`.
+ *
+ * @code
+ * QExtendedFileDialog dialog(window, "Open measurement", "", "Data (*.dat);;All (*)", "open", QFileDialog::AcceptOpen);
+ * if (dialog.exec() == QDialog::Accepted) {
+ *     load(dialog.selectedFiles().first());
+ * }
+ * @endcode
+ *
+ * GUI thread only.
+ */
+class MORVANE_UI_EXPORT QExtendedFileDialog : public QFileDialog
+{
+    Q_OBJECT
+
+public:
+    /**
+     * @param parent     owner of the dialog and the window it is modal to
+     * @param caption    window title; empty for Qt's own
+     * @param directory  start directory, or a file to start at; empty for the current directory
+     * @param filter     name filters joined by `;;`; empty for "All Files (*)"
+     * @param helpTopic  handed to the help launcher; empty for a dialog without Help button
+     * @param acceptMode opening starts with the file mode `ExistingFile`, saving with `AnyFile`; setFileMode() changes
+     * it
+     *
+     * The geometry is kept under the settings key "QExtendedFileDialog/Geometry_v2".
+     */
+    QExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
+        const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode);
+
+    /** No caption, directory, filter or help; the geometry is kept under the empty key. */
+    QExtendedFileDialog(QWidget& parent, QFileDialog::AcceptMode acceptMode);
+
+    /** Ends the wait cursor, if this dialog has set one. */
+    ~QExtendedFileDialog() override;
+
+    /** Sets the settings key of the geometry, used as it stands. Any text will do, the empty one included. */
+    void setGeometryPersistenceKey(std::string key);
+
+    /**
+     * Sets the size, in device-independent pixels, that the dialog opens with while no geometry is stored.
+     * A size with a side below 1 has no effect.
+     */
+    void setDefaultSize(QSize size);
+
+    /**
+     * Whether accepting runs Qt's checks (does the file exist, may it be replaced); true initially. Without them the
+     * dialog closes with whatever stands in the name field.
+     */
+    void performSelectedFileValidation(bool validate);
+
+    /** Whether saving over an existing file goes without Qt's question. */
+    void setDontConfirmOverwrite(bool on);
+
+    /** Whether only directories are listed; effective in the file mode `Directory`. */
+    void setShowDirectoriesOnly(bool on);
+
+public Q_SLOTS:
+    /**
+     * Shows the dialog without waiting for it: restores the stored geometry, shows, and stores the geometry at once.
+     * Hides QWidget::show(), which is not virtual; a call through a base class pointer does none of this but showing.
+     */
+    void show();
+
+    /**
+     * Runs the dialog modally and returns QDialog::Accepted or QDialog::Rejected.
+     *
+     * Restores the stored geometry before and stores it after. The name filters that a typed wildcard had changed in an
+     * earlier run are the caller's own again. When the dialog is destroyed while it runs, as with its parent, the
+     * result is QDialog::Rejected and nothing is stored.
+     */
+    int exec() override;
+
+protected Q_SLOTS:
+    /** Closes the dialog, unless the name field holds a `*`: then the current name filter takes it as its pattern. */
+    void accept() override;
+
+private Q_SLOTS:
+    void restoreFilters();
+    void revertModifiedFilterAndSelect(QString filter);
+    void launchHelp();
+    void onDirectoryLoaded(const QString& path);
+    void onRootPathChanged(const QString& path);
+
+private:
+    friend class ExtendedFileDialog;
+
+    // For callers that may have no parent.
+    QExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode);
+
+    void init(QFileDialog::AcceptMode acceptMode);
+    void setHelpAction();
+    void addSidebarUrls();
+    void saveSizeAndPosition();
+    void restoreSizeAndPosition();
+    void restoreCursor();
+
+    QLineEdit* m_fileNameEdit = nullptr;
+    QComboBox* m_fileTypeCombo = nullptr;
+    QStringList m_savedNameFilters;
+    QString m_modifiedNameFilter;
+    bool m_performSelectedFileValidation = true;
+    bool m_overrideCursorSet = false;
+    std::string m_helpTopic;
+    std::string m_geometryPersistenceKey;
+    QSize m_defaultSize = QSize(-1, -1);
+};

@@ -1,0 +1,55 @@
+#include "support/ModalScript.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+
+namespace morvane::test {
+
+ModalScript::ModalScript(int timeLimitMs)
+{
+    connect(&m_poll, &QTimer::timeout, this, [this] { poll(); });
+    connect(&m_watchdog, &QTimer::timeout, this, [this] { giveUp(); });
+    m_poll.start(5);
+    m_watchdog.start(timeLimitMs);
+}
+
+ModalScript::~ModalScript()
+{
+    if (!m_steps.empty() && !m_gaveUp) {
+        ADD_FAILURE() << m_steps.size() << " steps of the script were never reached";
+    }
+}
+
+void ModalScript::poll()
+{
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (m_gaveUp || m_steps.empty() || !modal || !modal->isVisible()) {
+        return;
+    }
+    // The step may open a modal loop of its own, in which the next step is due.
+    const QPointer<ModalScript> self(this);
+    Step step = std::move(m_steps.front());
+    m_steps.pop_front();
+    if (!step(modal) && self) {
+        m_steps.push_front(std::move(step));
+    }
+}
+
+void ModalScript::giveUp()
+{
+    if (m_steps.empty() && !QApplication::activeModalWidget()) {
+        return;
+    }
+    if (!m_gaveUp) {
+        m_gaveUp = true;
+        ADD_FAILURE() << "the script hung with " << m_steps.size() << " steps left";
+        m_watchdog.start(50);
+    }
+    if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+        dialog->reject();
+    }
+}
+
+} // namespace morvane::test
