@@ -4,12 +4,17 @@ option(MORVANE_BUILD_EXAMPLES "Build the gallery and the examples" ${PROJECT_IS_
 option(MORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(MORVANE_WARNINGS_AS_ERRORS "Treat warnings in Morvane's own sources as errors" OFF)
 option(MORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(MORVANE_INSTALL "Provide the install rules" ${PROJECT_IS_TOP_LEVEL})
 set(MORVANE_HOST_LIBRARY "" CACHE STRING
     "CMake target or library file that implements the host services in place of libmorvane-host")
 
 include(GNUInstallDirs)
 
 if(PROJECT_IS_TOP_LEVEL)
+    find_program(CCACHE_PROGRAM ccache)
+    if(CCACHE_PROGRAM AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+    endif()
     # One directory for programs and libraries, so that a Windows build finds its DLLs.
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
     set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)

@@ -50,6 +50,9 @@ endfunction()
 
 # Installs headers under include/morvane, keeping their paths below BASE (the include root unless given).
 function(morvane_install_headers)
+    if(NOT MORVANE_INSTALL)
+        return()
+    endif()
     cmake_parse_arguments(arg "" "BASE" "" ${ARGN})
     if(NOT arg_BASE)
         set(arg_BASE ${PROJECT_SOURCE_DIR}/common/src)
