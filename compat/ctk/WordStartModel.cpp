@@ -27,6 +27,21 @@ bool beginsWord(const QString& text, const QString& prefix, Qt::CaseSensitivity 
 
 WordStartModel::WordStartModel(const QCompleter& completer) : m_completer(completer) {}
 
+void WordStartModel::setSourceModel(QAbstractItemModel* model)
+{
+    if (sourceModel()) {
+        disconnect(sourceModel(), &QObject::destroyed, this, nullptr);
+    }
+    QIdentityProxyModel::setSourceModel(model);
+    if (model) {
+        // The base class turns empty without a word.
+        connect(model, &QObject::destroyed, this, [this] {
+            beginResetModel();
+            endResetModel();
+        });
+    }
+}
+
 Qt::ItemFlags WordStartModel::flags(const QModelIndex& index) const
 {
     const Qt::ItemFlags flags = QIdentityProxyModel::flags(index);

@@ -17,6 +17,7 @@ class WordStartModel : public QIdentityProxyModel
 public:
     explicit WordStartModel(const QCompleter& completer);
 
+    void setSourceModel(QAbstractItemModel* model) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:

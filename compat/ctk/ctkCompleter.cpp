@@ -2,11 +2,20 @@
 
 #include "WordStartModel.h"
 
-ctkCompleter::ctkCompleter(QObject* parent) : QCompleter(parent) {}
+ctkCompleter::ctkCompleter(QObject* parent) : QCompleter(parent)
+{
+    followCaseSensitivity();
+}
 
-ctkCompleter::ctkCompleter(QAbstractItemModel* model, QObject* parent) : QCompleter(model, parent) {}
+ctkCompleter::ctkCompleter(QAbstractItemModel* model, QObject* parent) : QCompleter(model, parent)
+{
+    followCaseSensitivity();
+}
 
-ctkCompleter::ctkCompleter(const QStringList& completions, QObject* parent) : QCompleter(completions, parent) {}
+ctkCompleter::ctkCompleter(const QStringList& completions, QObject* parent) : QCompleter(completions, parent)
+{
+    followCaseSensitivity();
+}
 
 ctkCompleter::~ctkCompleter()
 {
@@ -54,6 +63,18 @@ void ctkCompleter::setSourceModel(QAbstractItemModel* model)
         setModel(model);
     }
     setCompletionPrefix(completionPrefix());
+}
+
+void ctkCompleter::followCaseSensitivity()
+{
+    // After such a change QCompleter shows all entries until the next prefix, and nothing but the reset tells of it.
+    m_filteredWith = caseSensitivity();
+    connect(completionModel(), &QAbstractItemModel::modelReset, this, [this] {
+        if (m_filteredWith != caseSensitivity()) {
+            m_filteredWith = caseSensitivity();
+            setCompletionPrefix(completionPrefix());
+        }
+    });
 }
 
 void ctkCompleter::replaceModel(QAbstractItemModel* model)

@@ -46,8 +46,10 @@ public:
     void setSourceModel(QAbstractItemModel* model);
 
 private:
+    void followCaseSensitivity();
     void replaceModel(QAbstractItemModel* model);
 
     ModelFiltering m_filtering = FilterStartsWith;
+    Qt::CaseSensitivity m_filteredWith = Qt::CaseSensitive;
     std::unique_ptr<WordStartModel> m_wordStarts;
 };

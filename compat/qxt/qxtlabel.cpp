@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 
 QxtLabel::QxtLabel(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags) {}
 
@@ -60,9 +61,8 @@ QSize QxtLabel::sizeFor(const QString& text) const
 {
     const QFontMetrics metrics = fontMetrics();
     const QSize size(metrics.horizontalAdvance(text), metrics.height());
-    const QMargins margins = contentsMargins();
-    return (isOnItsSide() ? size.transposed() : size) +
-           QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+    const QSize frameAndMargins = this->size() - contentsRect().size();
+    return (isOnItsSide() ? size.transposed() : size) + frameAndMargins;
 }
 
 void QxtLabel::invalidateLayout()
@@ -87,7 +87,8 @@ void QxtLabel::paintEvent(QPaintEvent* event)
     const QFontMetrics metrics = painter.fontMetrics();
     const bool fits = metrics.horizontalAdvance(m_text) <= room.width();
     const QString shown = fits ? m_text : metrics.elidedText(m_text, m_elideMode, room.width());
-    painter.drawText(QRect(QPoint(0, 0), room), int(m_alignment) | Qt::TextSingleLine | Qt::TextDontClip, shown);
+    const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignAbsolute;
+    painter.drawText(QRect(QPoint(0, 0), room), int(alignment) | Qt::TextSingleLine | Qt::TextDontClip, shown);
 }
 
 void QxtLabel::changeEvent(QEvent* event)

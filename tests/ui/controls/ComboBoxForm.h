@@ -27,10 +27,12 @@ inline void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifi
     }
 }
 
+/** Types Latin text through the window that has the keyboard. */
 inline void type(const QString& text)
 {
     for (const QChar character : text) {
-        pressKey(Qt::Key(character.toUpper().unicode()), character.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
+        QWidget* const popup = QApplication::activePopupWidget();
+        QTest::keyClick(popup ? popup->windowHandle() : QGuiApplication::focusWindow(), character.toLatin1());
     }
 }
 
@@ -57,6 +59,7 @@ protected:
     void show()
     {
         window.show();
+        box->show();
         activate();
         box->setFocus();
         ASSERT_TRUE(QTest::qWaitFor([this] { return box->hasFocus(); }));
