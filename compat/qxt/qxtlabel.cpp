@@ -87,8 +87,11 @@ void QxtLabel::paintEvent(QPaintEvent* event)
     const QFontMetrics metrics = painter.fontMetrics();
     const bool fits = metrics.horizontalAdvance(m_text) <= room.width();
     const QString shown = fits ? m_text : metrics.elidedText(m_text, m_elideMode, room.width());
+    // The direction is that of the whole text, so that the ellipsis stands where the text goes on.
     const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignAbsolute;
-    painter.drawText(QRect(QPoint(0, 0), room), int(alignment) | Qt::TextSingleLine | Qt::TextDontClip, shown);
+    const int direction = m_text.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    painter.drawText(
+        QRect(QPoint(0, 0), room), int(alignment) | direction | Qt::TextSingleLine | Qt::TextDontClip, shown);
 }
 
 void QxtLabel::changeEvent(QEvent* event)

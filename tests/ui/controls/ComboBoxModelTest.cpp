@@ -65,7 +65,7 @@ TEST_F(ComboBoxModel, settingUpTwiceMakesANewLineAndCompleterAndEndsTheEditingOn
     EXPECT_EQ(completerPopup()->textElideMode(), Qt::ElideLeft);
 
     box->lineEdit()->clear();
-    type("ar");
+    type("a");
     EXPECT_TRUE(completerPopup()->isVisible());
     EXPECT_FALSE(completer->popup()->isVisible());
     pressKey(Qt::Key_Return);

@@ -11,6 +11,13 @@ namespace {
 const QString ellipsis(QChar(0x2026));
 const QString path("measurements/2024/run-17/pressure.dat");
 
+bool isBlank(const QImage& image)
+{
+    QImage white(image.size(), image.format());
+    white.fill(Qt::white);
+    return image == white;
+}
+
 class CountingLabel : public ElidedTextLabel
 {
 public:
@@ -54,7 +61,10 @@ protected:
         image.fill(Qt::white);
         QPainter painter(&image);
         painter.setFont(label.font());
-        painter.drawText(label.rect(), Qt::AlignLeft | Qt::AlignAbsolute, text);
+        const bool isRightToLeft = label.text().isRightToLeft();
+        painter.drawText(label.rect(),
+            Qt::AlignLeft | Qt::AlignAbsolute | (isRightToLeft ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight),
+            text);
         return image;
     }
 
@@ -201,7 +211,14 @@ TEST_F(ElidedLabel, rightToLeftTextKeepsItsEnd)
     const QString shown = label.fontMetrics().elidedText(hebrew, Qt::ElideLeft, label.width());
     ASSERT_TRUE(shown.startsWith(ellipsis));
     ASSERT_TRUE(hebrew.endsWith(shown.mid(1)));
+    // The start of the text is at its right, and so is the ellipsis.
     EXPECT_EQ(picture(), drawn(shown));
+    // Dots have no ink above the middle of the line.
+    const int dots = label.fontMetrics().horizontalAdvance(ellipsis);
+    const int shownWidth = label.fontMetrics().horizontalAdvance(shown);
+    const QSize upperHalf(dots - 3, label.height() / 2);
+    EXPECT_TRUE(isBlank(picture().copy(QRect(QPoint(shownWidth - dots + 2, 0), upperHalf))));
+    EXPECT_FALSE(isBlank(picture().copy(QRect(QPoint(1, 0), upperHalf))));
     EXPECT_EQ(label.toolTip(), hebrew);
 }
 
@@ -230,7 +247,7 @@ TEST_F(ElidedLabel, theCutNeverSplitsACharacter)
         for (int width = 1; width < whole; ++width) {
             label.resize(width, label.height());
             const QImage image = picture();
-            bool isWholeCharacters = image == drawn(ellipsis);
+            bool isWholeCharacters = image == drawn(ellipsis) || image == drawn("");
             for (int start = 0; start < text.size(); start += 2) {
                 isWholeCharacters = isWholeCharacters || image == drawn(ellipsis + text.mid(start));
             }
