@@ -141,6 +141,7 @@ public:
 
 private:
     friend class ExtendedFileDialog;
+    friend class SaveFileWinDialog;
 
     // For callers that may have no parent.
     ExtendedWinFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "ui/qt/MorvaneUiExport.h"
-
 #include <QString>
 #include <QStringList>
 
 #include <string>
 #include <string_view>
 
-// Reading name filters for the native dialog. Internal: exported for the tests, not installed.
+// Reading name filters for the native dialog. Internal, not installed.
 // Every function takes time proportional to the length of the text and does not recurse.
 
 /** One file type as the Shell wants it, UTF-8. */
@@ -28,17 +26,17 @@ struct FileTypeText
  * blank and parenthesis that still have a closing parenthesis after them, up to the last closing one. A text of another
  * form, one with a line break included, is all patterns and gets the description "File of Type".
  */
-MORVANE_UI_EXPORT FileTypeText splitNameFilter(std::string_view filter);
+FileTypeText splitNameFilter(std::string_view filter);
 
 /**
  * The extension that a filter gives to the typed name, as capture 1 of `.* \(\*\.(.*)\).*`: what stands between the
  * last blank, parenthesis, asterisk and dot and the last closing parenthesis. `Data (*.dat)` gives `dat`; two patterns
  * give both, blank and all. Empty when the filter has another form.
  */
-MORVANE_UI_EXPORT std::string extensionOfNameFilter(std::string_view filter);
+std::string extensionOfNameFilter(std::string_view filter);
 
 /**
  * Splits filters joined by `;;` and strips the blanks around each. A piece between two separators that is empty is
  * dropped; one that becomes empty by stripping is kept.
  */
-MORVANE_UI_EXPORT QStringList splitNameFilters(const std::string& filters);
+QStringList splitNameFilters(const std::string& filters);
