@@ -166,20 +166,6 @@ TEST_F(QExtendedFileDialogSeveralNames, oddNamesArePickedTogether)
     EXPECT_EQ(chosen, expected);
 }
 
-TEST_F(QExtendedFileDialogSeveralNames, quotedNamesAreTypedTogether)
-{
-    makeFiles({QStringLiteral("my run.dat"), QString::fromUtf8("\U0001F600.dat")});
-    const Dialog dialog = openDialog();
-    dialog->setFileMode(QFileDialog::ExistingFiles);
-
-    const int result = run(
-        *dialog, [&](FileDialogPage& page) { page.enterName(QString::fromUtf8("\"my run.dat\" \"\U0001F600.dat\"")); });
-
-    EXPECT_EQ(result, QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedFiles(),
-        QStringList({path(QStringLiteral("my run.dat")), path(QString::fromUtf8("\U0001F600.dat"))}));
-}
-
 TEST_F(QExtendedFileDialogSeveralNames, nameWithAStarFiltersInsteadOfOpening)
 {
     makeFiles({QStringLiteral("a*.dat"), QStringLiteral("b.dat")});
