@@ -1,0 +1,169 @@
+#include "GalleryWindow.h"
+
+#include "host/ApplicationSettings.h"
+#include "host/HelpLauncher.h"
+#include "LogPane.h"
+#include "Page.h"
+#include "PageList.h"
+#include "tour/TourUser.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QStackedWidget>
+
+#include <algorithm>
+
+namespace gallery {
+
+namespace {
+
+const char* const geometryKey = "gallery/window geometry";
+const char* const pageKey = "gallery/page";
+
+} // namespace
+
+GalleryWindow::GalleryWindow() : m_list(new QListWidget), m_stack(new QStackedWidget), m_log(new LogPane)
+{
+    setWindowTitle(QApplication::applicationDisplayName());
+    m_list->setAccessibleName(tr("Pages"));
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setUniformItemSizes(true);
+
+    auto* const columns = new QSplitter(Qt::Horizontal);
+    columns->setChildrenCollapsible(false);
+    columns->addWidget(m_list);
+    columns->addWidget(m_stack);
+    columns->setStretchFactor(1, 1);
+    auto* const rows = new QSplitter(Qt::Vertical);
+    rows->setChildrenCollapsible(false);
+    rows->addWidget(columns);
+    rows->addWidget(m_log);
+    rows->setStretchFactor(0, 1);
+    setCentralWidget(rows);
+
+    for (Page* const page : makePages()) {
+        addPage(page);
+    }
+    connect(m_list, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
+    addMenus();
+    m_list->setMinimumWidth(m_list->sizeHintForColumn(0) + 2 * m_list->fontMetrics().averageCharWidth());
+    m_list->setCurrentRow(0);
+    m_list->setFocus();
+    resize(1040, 780);
+    rows->setSizes({620, 160});
+}
+
+bool GalleryWindow::showPage(const QString& name)
+{
+    const auto page = std::find_if(m_pages.begin(), m_pages.end(), [&](const Page* p) { return p->name() == name; });
+    if (page == m_pages.end()) {
+        return false;
+    }
+    select(static_cast<int>(page - m_pages.begin()));
+    return true;
+}
+
+void GalleryWindow::restoreState()
+{
+    auto& settings = morvane::ApplicationSettings::getInstance();
+    restoreGeometry(settings.getByteArrayValue(geometryKey));
+    showPage(QString::fromUtf8(settings.getByteArrayValue(pageKey)));
+}
+
+void GalleryWindow::closeEvent(QCloseEvent* event)
+{
+    auto& settings = morvane::ApplicationSettings::getInstance();
+    settings.depositValue(geometryKey, saveGeometry());
+    settings.depositValue(pageKey, m_pages[static_cast<size_t>(m_list->currentRow())]->name().toUtf8());
+    QMainWindow::closeEvent(event);
+}
+
+void GalleryWindow::addPage(Page* page)
+{
+    auto* const scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidget(page);
+    m_stack->addWidget(scroll);
+
+    auto* const item = new QListWidgetItem(page->title(), m_list);
+    item->setSizeHint(
+        QSize(m_list->fontMetrics().horizontalAdvance(page->title()) + 24, 2 * m_list->fontMetrics().height()));
+    connect(page, &Page::reported, m_log, &LogPane::append);
+    m_pages.push_back(page);
+}
+
+void GalleryWindow::addMenus()
+{
+    QMenu* const file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+
+    QMenu* const view = menuBar()->addMenu(tr("&View"));
+    view->addAction(
+        tr("&Next Page"), this, [this] { select(m_list->currentRow() + 1); },
+        QKeySequence(Qt::CTRL + Qt::Key_PageDown));
+    view->addAction(
+        tr("&Previous Page"), this, [this] { select(m_list->currentRow() - 1); },
+        QKeySequence(Qt::CTRL + Qt::Key_PageUp));
+    view->addSeparator();
+    view->addAction(tr("&Copy the Log"), m_log, &LogPane::copyAll, QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
+    view->addAction(tr("Cl&ear the Log"), m_log, &LogPane::clear);
+
+    QMenu* const help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(
+        tr("&Contents"), this, [] { morvane::HelpLauncher::getInstance().showHelp("index"); },
+        QKeySequence(QKeySequence::HelpContents));
+    help->addAction(tr("&About"), this, &GalleryWindow::about);
+}
+
+void GalleryWindow::select(int row)
+{
+    m_list->setCurrentRow(std::clamp(row, 0, m_list->count() - 1));
+}
+
+void GalleryWindow::about()
+{
+    QMessageBox::about(this, tr("About"),
+        tr("%1 %2\n\nThe dialogs and widgets of the Morvane library, in a program that uses them as any other would.")
+            .arg(QApplication::applicationDisplayName(), QApplication::applicationVersion()));
+}
+
+TourStep GalleryWindow::stepToPage(const Page& page)
+{
+    const auto row = static_cast<int>(std::find(m_pages.begin(), m_pages.end(), &page) - m_pages.begin());
+    return {QStringLiteral("page"), [this, row] { tour::clickItem(*m_list, m_list->model()->index(row, 0)); },
+        [this, row] {
+            return tour::expect(m_list->currentRow() == row && m_stack->currentIndex() == row, "the page is not shown");
+        }};
+}
+
+std::vector<TourStep> GalleryWindow::closingSteps()
+{
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("next-page-by-keyboard"),
+        [this] {
+            select(0);
+            tour::press(*m_list, Qt::Key_Down);
+        },
+        [this] { return tour::expect(m_stack->currentIndex() == 1, "Down does not show the second page"); }});
+    steps.push_back({QStringLiteral("copy-log"), [this] { tour::click(m_log->copyButton()); },
+        [this] {
+            const QString copied = QApplication::clipboard()->text();
+            return tour::expect(!copied.isEmpty() && copied == m_log->text(), "the clipboard does not hold the log");
+        }});
+    steps.push_back({QStringLiteral("clear-log"), [this] { tour::click(m_log->clearButton()); },
+        [this] {
+            return tour::expect(m_log->text().isEmpty() && !m_log->clearButton().isEnabled(), "the log is not empty");
+        }});
+    return steps;
+}
+
+} // namespace gallery

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "tour/TourStep.h"
+
+#include <QMainWindow>
+
+#include <vector>
+
+class QListWidget;
+class QStackedWidget;
+
+namespace gallery {
+
+class LogPane;
+class Page;
+
+/** The list of pages at the left, the page at the right, the log below. */
+class GalleryWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    GalleryWindow();
+
+    const std::vector<Page*>& pages() const { return m_pages; }
+    /** Shows the page of that name. @return false when there is none */
+    bool showPage(const QString& name);
+    LogPane& log() { return *m_log; }
+
+    /** Brings the size, position and page of the last run back. */
+    void restoreState();
+
+    /** What the tour does to get to @p page, as a user would. */
+    TourStep stepToPage(const Page& page);
+    /** What the tour does to the window itself, after all pages. */
+    std::vector<TourStep> closingSteps();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void addPage(Page* page);
+    void addMenus();
+    void select(int row);
+    void about();
+
+    std::vector<Page*> m_pages;
+    QListWidget* m_list;
+    QStackedWidget* m_stack;
+    LogPane* m_log;
+};
+
+} // namespace gallery
