@@ -50,8 +50,9 @@ CommandLine parseCommandLine(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(translated("Shows the dialogs and widgets of the Morvane library at work."));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
+    // The parser's own help option promises another one for the toolkit's options.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, translated("Show this help."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, translated("Show the version."));
     const QCommandLineOption page(
         QStringLiteral("page"), translated("Start with the page <name>."), translated("name"));
     const QCommandLineOption dark(QStringLiteral("dark"), translated("Use a dark palette."));
@@ -59,7 +60,7 @@ CommandLine parseCommandLine(const QStringList& arguments)
         translated("Play a user on every page, write one picture a step and a summary into <dir>, and exit with 0 only "
                    "if every step ended as expected."),
         translated("dir"));
-    parser.addOptions({page, dark, tour});
+    parser.addOptions({help, version, page, dark, tour});
     addToolkitOptions(parser);
 
     if (!parser.parse(arguments)) {

@@ -3,6 +3,7 @@
 #include "host/ApplicationSettings.h"
 #include "host/HelpLauncher.h"
 #include "LogPane.h"
+#include "PaddedItemDelegate.h"
 #include "Page.h"
 #include "PageList.h"
 #include "tour/TourUser.h"
@@ -15,6 +16,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -27,6 +29,7 @@ namespace {
 
 const char* const geometryKey = "gallery/window geometry";
 const char* const pageKey = "gallery/page";
+constexpr int logHeight = 160;
 
 } // namespace
 
@@ -36,6 +39,7 @@ GalleryWindow::GalleryWindow() : m_list(new QListWidget), m_stack(new QStackedWi
     m_list->setAccessibleName(tr("Pages"));
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setUniformItemSizes(true);
+    m_list->setItemDelegate(new PaddedItemDelegate(m_list));
 
     auto* const columns = new QSplitter(Qt::Horizontal);
     columns->setChildrenCollapsible(false);
@@ -57,8 +61,9 @@ GalleryWindow::GalleryWindow() : m_list(new QListWidget), m_stack(new QStackedWi
     m_list->setMinimumWidth(m_list->sizeHintForColumn(0) + 2 * m_list->fontMetrics().averageCharWidth());
     m_list->setCurrentRow(0);
     m_list->setFocus();
-    resize(1040, 780);
-    rows->setSizes({620, 160});
+    resize(comfortableSize().boundedTo(screen()->availableSize()));
+    rows->setSizes({height() - logHeight, logHeight});
+    columns->setSizes({m_list->minimumWidth(), width()});
 }
 
 bool GalleryWindow::showPage(const QString& name)
@@ -95,8 +100,8 @@ void GalleryWindow::addPage(Page* page)
     m_stack->addWidget(scroll);
 
     auto* const item = new QListWidgetItem(page->title(), m_list);
-    item->setSizeHint(
-        QSize(m_list->fontMetrics().horizontalAdvance(page->title()) + 24, 2 * m_list->fontMetrics().height()));
+    item->setSizeHint(QSize(m_list->fontMetrics().horizontalAdvance(page->title()) + 2 * m_list->fontMetrics().height(),
+        2 * m_list->fontMetrics().height()));
     connect(page, &Page::reported, m_log, &LogPane::append);
     m_pages.push_back(page);
 }

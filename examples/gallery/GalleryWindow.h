@@ -25,6 +25,8 @@ public:
     const std::vector<Page*>& pages() const { return m_pages; }
     /** Shows the page of that name. @return false when there is none */
     bool showPage(const QString& name);
+    /** The size that shows a page whole; the window starts with it where the screen is large enough. */
+    static QSize comfortableSize() { return QSize(1080, 840); }
     LogPane& log() { return *m_log; }
 
     /** Brings the size, position and page of the last run back. */

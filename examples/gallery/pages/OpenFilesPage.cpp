@@ -2,6 +2,7 @@
 
 #include "host/ApplicationSettings.h"
 #include "InlineNote.h"
+#include "PaddedItemDelegate.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 
 #include <QCheckBox>
@@ -74,13 +75,8 @@ QFormLayout* OpenFilesPage::makeOptions()
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("Choose:"), makeModeRow());
     form->addRow(tr("Name &filters:"), m_filters);
-    auto* const folder = new QVBoxLayout;
-    folder->setSpacing(2);
-    folder->addWidget(m_startFolder);
-    folder->addWidget(m_startFolderNote);
-    auto* const folderLabel = new QLabel(tr("S&tart folder:"));
-    folderLabel->setBuddy(m_startFolder);
-    form->addRow(folderLabel, folder);
+    form->addRow(tr("S&tart folder:"), m_startFolder);
+    form->addRow(QString(), m_startFolderNote);
     form->addRow(tr("Help:"), makeHelpRow());
     form->addRow(tr("Validation:"), m_validate);
     form->addRow(tr("Default size:"), makeSizeRow());
@@ -140,12 +136,15 @@ void OpenFilesPage::prepareTable()
     m_chosen->horizontalHeader()->setStretchLastSection(true);
     m_chosen->horizontalHeader()->setHighlightSections(false);
     m_chosen->verticalHeader()->hide();
+    m_chosen->setItemDelegate(new PaddedItemDelegate(m_chosen));
+    m_chosen->setTextElideMode(Qt::ElideMiddle);
+    m_chosen->setWordWrap(false);
     m_chosen->setShowGrid(false);
     m_chosen->setAlternatingRowColors(true);
     m_chosen->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_chosen->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_chosen->setTabKeyNavigation(false);
-    m_chosen->setMinimumHeight(6 * m_chosen->verticalHeader()->defaultSectionSize());
+    m_chosen->setMinimumHeight(5 * m_chosen->verticalHeader()->defaultSectionSize());
 }
 
 void OpenFilesPage::connectOptions()

@@ -26,6 +26,11 @@ QString seconds(qint64 milliseconds)
     return QString::number(static_cast<double>(milliseconds) / 1000.0, 'f', 2) + QStringLiteral(" s");
 }
 
+bool isOffscreen()
+{
+    return QGuiApplication::platformName() == QLatin1String("offscreen");
+}
+
 } // namespace
 
 Tour::Tour(GalleryWindow& window, const TourWorkspace& workspace, const QDir& output)
@@ -44,6 +49,10 @@ Tour::Tour(GalleryWindow& window, const TourWorkspace& workspace, const QDir& ou
 
 void Tour::start()
 {
+    if (isOffscreen()) {
+        // That screen is a fiction, and small.
+        m_window.resize(GalleryWindow::comfortableSize());
+    }
     m_totalTime.start();
     QTimer::singleShot(0, this, &Tour::runNextStep);
 }
@@ -81,9 +90,8 @@ void Tour::awaitOutcome()
 
 void Tour::settle()
 {
-    const bool offscreen = QGuiApplication::platformName() == QLatin1String("offscreen");
     // What was right a moment ago must still be right in the picture.
-    QTimer::singleShot(offscreen ? pollMs : screenDelayMs, this, [this] { stepDone(m_steps[m_next].check()); });
+    QTimer::singleShot(isOffscreen() ? pollMs : screenDelayMs, this, [this] { stepDone(m_steps[m_next].check()); });
 }
 
 void Tour::stepDone(const QString& complaint)
