@@ -39,7 +39,7 @@ GalleryWindow::GalleryWindow() : m_list(new QListWidget), m_stack(new QStackedWi
     m_list->setAccessibleName(tr("Pages"));
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setUniformItemSizes(true);
-    m_list->setItemDelegate(new PaddedItemDelegate(m_list));
+    m_list->setItemDelegate(new PaddedItemDelegate(m_list->fontMetrics().height() / 2, m_list));
 
     auto* const columns = new QSplitter(Qt::Horizontal);
     columns->setChildrenCollapsible(false);

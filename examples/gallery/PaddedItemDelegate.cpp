@@ -4,14 +4,9 @@
 
 namespace gallery {
 
-namespace {
-
-int padding(const QStyleOptionViewItem& option)
+PaddedItemDelegate::PaddedItemDelegate(int padding, QObject* parent) : QStyledItemDelegate(parent), m_padding(padding)
 {
-    return option.fontMetrics.height() / 2;
 }
-
-} // namespace
 
 void PaddedItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
@@ -21,13 +16,13 @@ void PaddedItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     style->drawPrimitive(QStyle::PE_PanelItemViewItem, &whole, painter, option.widget);
 
     QStyleOptionViewItem text = option;
-    text.rect.adjust(padding(option), 0, -padding(option), 0);
+    text.rect.adjust(m_padding, 0, -m_padding, 0);
     QStyledItemDelegate::paint(painter, text, index);
 }
 
 QSize PaddedItemDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    return QStyledItemDelegate::sizeHint(option, index) + QSize(2 * padding(option), 0);
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(2 * m_padding, 0);
 }
 
 } // namespace gallery

@@ -8,10 +8,14 @@ namespace gallery {
 class PaddedItemDelegate : public QStyledItemDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    /** @param padding at each side, in device-independent pixels */
+    PaddedItemDelegate(int padding, QObject* parent);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+private:
+    int m_padding;
 };
 
 } // namespace gallery

@@ -112,8 +112,9 @@ QLayout* OpenFilesPage::makeSizeRow()
     row->addWidget(new QLabel(tr("by")));
     row->addWidget(m_height);
     row->addSpacing(6);
-    row->addWidget(new QLabel(tr("while no geometry is kept")));
-    row->addStretch(1);
+    auto* const condition = new QLabel(tr("while no geometry is kept"));
+    condition->setWordWrap(true);
+    row->addWidget(condition, 1);
     return row;
 }
 
@@ -134,9 +135,10 @@ void OpenFilesPage::prepareTable()
     m_chosen->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_chosen->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_chosen->horizontalHeader()->setStretchLastSection(true);
+    m_chosen->horizontalHeader()->setMinimumSectionSize(14 * m_chosen->fontMetrics().averageCharWidth());
     m_chosen->horizontalHeader()->setHighlightSections(false);
     m_chosen->verticalHeader()->hide();
-    m_chosen->setItemDelegate(new PaddedItemDelegate(m_chosen));
+    m_chosen->setItemDelegate(new PaddedItemDelegate(4, m_chosen));
     m_chosen->setTextElideMode(Qt::ElideMiddle);
     m_chosen->setWordWrap(false);
     m_chosen->setShowGrid(false);

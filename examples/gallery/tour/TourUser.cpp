@@ -15,7 +15,7 @@ void bringIntoView(QWidget& widget)
 {
     for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
         if (auto* const area = qobject_cast<QScrollArea*>(parent)) {
-            area->ensureWidgetVisible(&widget);
+            area->ensureWidgetVisible(&widget, 0, 2 * widget.height());
         }
     }
 }
