@@ -6,16 +6,13 @@
 #include "PaddedItemDelegate.h"
 #include "Page.h"
 #include "PageList.h"
-#include "tour/TourUser.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
@@ -122,11 +119,11 @@ void GalleryWindow::addMenus()
     view->addAction(tr("&Copy the Log"), m_log, &LogPane::copyAll, QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
     view->addAction(tr("Cl&ear the Log"), m_log, &LogPane::clear);
 
-    QMenu* const help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(
+    m_helpMenu = menuBar()->addMenu(tr("&Help"));
+    m_helpMenu->addAction(
         tr("&Contents"), this, [] { morvane::HelpLauncher::getInstance().showHelp("index"); },
         QKeySequence(QKeySequence::HelpContents));
-    help->addAction(tr("&About"), this, &GalleryWindow::about);
+    m_about = m_helpMenu->addAction(tr("&About"), this, &GalleryWindow::about);
 }
 
 void GalleryWindow::select(int row)
@@ -139,36 +136,6 @@ void GalleryWindow::about()
     QMessageBox::about(this, tr("About"),
         tr("%1 %2\n\nThe dialogs and widgets of the Morvane library, in a program that uses them as any other would.")
             .arg(QApplication::applicationDisplayName(), QApplication::applicationVersion()));
-}
-
-TourStep GalleryWindow::stepToPage(const Page& page)
-{
-    const auto row = static_cast<int>(std::find(m_pages.begin(), m_pages.end(), &page) - m_pages.begin());
-    return {QStringLiteral("page"), [this, row] { tour::clickItem(*m_list, m_list->model()->index(row, 0)); },
-        [this, row] {
-            return tour::expect(m_list->currentRow() == row && m_stack->currentIndex() == row, "the page is not shown");
-        }};
-}
-
-std::vector<TourStep> GalleryWindow::closingSteps()
-{
-    std::vector<TourStep> steps;
-    steps.push_back({QStringLiteral("next-page-by-keyboard"),
-        [this] {
-            select(0);
-            tour::press(*m_list, Qt::Key_Down);
-        },
-        [this] { return tour::expect(m_stack->currentIndex() == 1, "Down does not show the second page"); }});
-    steps.push_back({QStringLiteral("copy-log"), [this] { tour::click(m_log->copyButton()); },
-        [this] {
-            const QString copied = QApplication::clipboard()->text();
-            return tour::expect(!copied.isEmpty() && copied == m_log->text(), "the clipboard does not hold the log");
-        }});
-    steps.push_back({QStringLiteral("clear-log"), [this] { tour::click(m_log->clearButton()); },
-        [this] {
-            return tour::expect(m_log->text().isEmpty() && !m_log->clearButton().isEnabled(), "the log is not empty");
-        }});
-    return steps;
 }
 
 } // namespace gallery

@@ -6,7 +6,9 @@
 
 #include <vector>
 
+class QAction;
 class QListWidget;
+class QMenu;
 class QStackedWidget;
 
 namespace gallery {
@@ -45,11 +47,15 @@ private:
     void addMenus();
     void select(int row);
     void about();
+    std::vector<TourStep> aboutSteps();
+    std::vector<TourStep> logSteps();
 
     std::vector<Page*> m_pages;
     QListWidget* m_list;
     QStackedWidget* m_stack;
     LogPane* m_log;
+    QMenu* m_helpMenu = nullptr;
+    QAction* m_about = nullptr;
 };
 
 } // namespace gallery

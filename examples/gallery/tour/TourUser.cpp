@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QTest>
@@ -36,6 +38,16 @@ void clickItem(QAbstractItemView& view, const QModelIndex& index, Qt::KeyboardMo
     bringIntoView(view);
     view.scrollTo(index);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.visualRect(index).center());
+}
+
+void clickAction(QMenuBar& bar, QAction& action)
+{
+    QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.actionGeometry(&action).center());
+}
+
+void clickAction(QMenu& menu, QAction& action)
+{
+    QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, menu.actionGeometry(&action).center());
 }
 
 void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers)

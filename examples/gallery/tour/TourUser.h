@@ -5,7 +5,10 @@
 #include <QWidget>
 
 class QAbstractItemView;
+class QAction;
 class QLineEdit;
+class QMenu;
+class QMenuBar;
 class QModelIndex;
 
 /** What a user's hands do: events of the keyboard and the mouse, where a user would cause them. */
@@ -15,6 +18,9 @@ namespace gallery::tour {
 void click(QWidget& widget);
 /** Clicks @p index, after scrolling to it. */
 void clickItem(QAbstractItemView& view, const QModelIndex& index, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+/** Clicks an entry of a menu bar or of an open menu. */
+void clickAction(QMenuBar& bar, QAction& action);
+void clickAction(QMenu& menu, QAction& action);
 void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 /** Clicks into the field, selects what stands there, and types @p text key by key. */
 void type(QLineEdit& field, const QString& text);
