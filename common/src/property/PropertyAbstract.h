@@ -22,7 +22,7 @@ namespace morvane {
  *
  * An observer may set the property again: the inner change is stored and announced before the outer announcement goes
  * on, and the observers that are still to be called for the outer one receive the outer value. Observers that need the
- * present value read value().
+ * present value read value(). An observer may also destroy the property; the typed observers after it are still told.
  *
  * GUI thread by convention; setValue() takes no lock.
  *
@@ -60,7 +60,11 @@ public:
 
 protected:
     /** Tells the observers that the value is now @p v. */
-    virtual void emitValueChanged(const T& v) { signalValueChanged(v); }
+    virtual void emitValueChanged(const T& v)
+    {
+        const auto alive = SignalAccess<decltype(signalValueChanged)>::hold(signalValueChanged);
+        signalValueChanged(v);
+    }
 
 public:
     /** Same as value(), for callers that want a non-virtual entry. */
@@ -105,11 +109,25 @@ public:
 protected:
     PropertyAbstract()
         : m_validator(boost::make_shared<AllowAnyValueValidator<T>>()),
-          m_forwardConnection(signalValueChanged.connect([this](const T&) { this->signalPropertyChanged(); }))
+          m_forwardConnection(signalValueChanged.connect([this](const T&) { forwardChange(); }))
     {
     }
 
 private:
+    // An emission ends by tidying up in the signal's implementation, which must outlast an observer that destroys the
+    // property; the signal itself does not see to that.
+    template <typename Signal>
+    struct SignalAccess : Signal
+    {
+        static boost::shared_ptr<void> hold(const Signal& signal) { return (signal.*&SignalAccess::lock_pimpl)(); }
+    };
+
+    void forwardChange()
+    {
+        const auto alive = SignalAccess<decltype(this->signalPropertyChanged)>::hold(this->signalPropertyChanged);
+        this->signalPropertyChanged();
+    }
+
     boost::shared_ptr<ValidatorInterface<T>> m_validator;
     boost::signals2::scoped_connection m_forwardConnection;
 };
