@@ -131,6 +131,18 @@ TEST_F(ApplicationSettingsTest, seesAFileThatWasExchangedForOneOfTheSameLength)
     EXPECT_EQ(settings.getByteArrayValue("key"), "bbb");
 }
 
+TEST_F(ApplicationSettingsTest, leavesTheFileAloneWhenItHoldsTheValueAlready)
+{
+    ApplicationSettings settings(m_file);
+    settings.depositValue("key", "value");
+    write(m_file, read(m_file) + "\n\n");
+    settings.depositValue("key", "value");
+    EXPECT_TRUE(read(m_file).endsWith("\n\n\n"));
+    settings.depositValue("key", "other");
+    EXPECT_FALSE(read(m_file).endsWith("\n\n"));
+    EXPECT_EQ(onDisk("key"), "other");
+}
+
 TEST_F(ApplicationSettingsTest, makesTheDirectoriesOnTheWayWithTheFirstValue)
 {
     const QString deep = m_directory.filePath(QStringLiteral("a b/\u00E4/c/settings.ini"));

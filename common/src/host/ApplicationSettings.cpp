@@ -102,8 +102,18 @@ struct ApplicationSettings::Impl
         }
     }
 
+    bool holds(const std::string& key, const QByteArray& value) const
+    {
+        const Snapshot snapshot = readFile(fileName);
+        return snapshot.state == FileState::Intact && snapshot.document.value(key) == value;
+    }
+
     bool write(const std::string& key, const QByteArray& value)
     {
+        // A dialog that opens stores the geometry that it has just restored; that need not wait for the disk.
+        if (holds(key, value)) {
+            return true;
+        }
         // The file behind a link is locked and replaced, whichever of its names is used.
         const QString canonical = QFileInfo(fileName).canonicalFilePath();
         const QString target = canonical.isEmpty() ? fileName : canonical;

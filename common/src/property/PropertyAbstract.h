@@ -33,7 +33,7 @@ class PropertyAbstract : public PropertyItemInterface
 {
 public:
     /** Disconnects every observer. */
-    ~PropertyAbstract() override = default;
+    ~PropertyAbstract() override { this->keepWhileAnnouncing(signalValueChanged); }
 
     void refresh() override {}
 
@@ -62,7 +62,7 @@ protected:
     /** Tells the observers that the value is now @p v. */
     virtual void emitValueChanged(const T& v)
     {
-        const auto alive = SignalAccess<decltype(signalValueChanged)>::hold(signalValueChanged);
+        const Announcement announcement(*this);
         signalValueChanged(v);
     }
 
@@ -114,17 +114,9 @@ protected:
     }
 
 private:
-    // An emission ends by tidying up in the signal's implementation, which must outlast an observer that destroys the
-    // property; the signal itself does not see to that.
-    template <typename Signal>
-    struct SignalAccess : Signal
-    {
-        static boost::shared_ptr<void> hold(const Signal& signal) { return (signal.*&SignalAccess::lock_pimpl)(); }
-    };
-
     void forwardChange()
     {
-        const auto alive = SignalAccess<decltype(this->signalPropertyChanged)>::hold(this->signalPropertyChanged);
+        const Announcement announcement(*this);
         this->signalPropertyChanged();
     }
 
