@@ -17,7 +17,11 @@
 
 namespace morvane::test {
 
-WidgetUser::WidgetUser(QFileDialog& window) : m_window(&window) {}
+WidgetUser::WidgetUser(QFileDialog& window) : m_window(&window)
+{
+    // The name field selects its text when the window becomes active, and the next key would replace it.
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
 
 WidgetUser::~WidgetUser() = default;
 

@@ -74,7 +74,10 @@ HRESULT RecordingDialog::Show(HWND owner)
     m_outcome.reset();
     m_results.clear();
     m_controls.forgetPick();
-    const auto stop = qScopeGuard([this] { m_running = false; });
+    const auto stop = qScopeGuard([this] {
+        m_running = false;
+        m_results = m_outcome == S_OK ? m_results : QStringList();
+    });
     play();
     return *m_outcome;
 }

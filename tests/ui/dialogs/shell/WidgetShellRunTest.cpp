@@ -118,6 +118,27 @@ protected:
         names.sort();
         return names;
     }
+    static void controlClick(QFileDialog& window, const QString& name)
+    {
+        auto* const view = window.findChild<QListView*>(QStringLiteral("listView"));
+        view->setFocus();
+        const auto find = [&] {
+            return view->model()->match(view->model()->index(0, 0, view->rootIndex()), 0, name).value(0);
+        };
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !view->visualRect(find()).isEmpty(); }));
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ControlModifier, view->visualRect(find()).center());
+        EXPECT_TRUE(view->selectionModel()->isSelected(find())) << name.toStdString();
+    }
+    static void pressAcceptAndReadMessage(WidgetUser& user, const std::string& part)
+    {
+        ModalScript script;
+        script.on<QMessageBox>([&part](QMessageBox& box) {
+            EXPECT_THAT(box.text().toStdString(), ::testing::HasSubstr(part));
+            box.accept();
+        });
+        user.pressAccept();
+        EXPECT_TRUE(script.finished()) << "no message was shown";
+    }
     ShellString text(const char* utf8) { return toShellString(QString::fromUtf8(utf8)); }
 
     WidgetShell shell{WidgetShell::Appearance::AlwaysWidgets};
@@ -211,43 +232,30 @@ TEST_F(WidgetShellRun, severalFilesAreChosenInTheList)
 {
     change(FOS_ALLOWMULTISELECT);
     const HRESULT hr = show([&](QFileDialog& window) {
-        auto* const view = window.findChild<QListView*>(QStringLiteral("listView"));
+        WidgetUser user(window);
         EXPECT_TRUE(QTest::qWaitFor([&] { return shownFiles(window).size() == 5; }));
-        view->setFocus();
-        for (int row = 0; row < 5; ++row) {
-            const QModelIndex index = view->model()->index(row, 0, view->rootIndex());
-            if (index.data().toString().endsWith(QLatin1String(".txt"))) {
-                QTest::mouseClick(
-                    view->viewport(), Qt::LeftButton, Qt::ControlModifier, view->visualRect(index).center());
-            }
-        }
-        QCoreApplication::processEvents();
-        EXPECT_GE(sink.count("OnSelectionChange"), 1);
+        controlClick(window, QStringLiteral("a.txt"));
+        controlClick(window, QStringLiteral("b.txt"));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return sink.count("OnSelectionChange") > 0; }));
         ComPtr<IShellItem> selected;
         EXPECT_EQ(dialog->GetCurrentSelection(selected.put()), S_OK);
-        WidgetUser(window).pressAccept();
+        EXPECT_EQ(user.nameEdit()->text(), QStringLiteral("\"a.txt\" \"b.txt\""));
+        user.pressAccept();
+        window.reject();
     });
     EXPECT_EQ(hr, S_OK);
-    QStringList names = results();
-    names.sort();
-    EXPECT_EQ(names, (QStringList{QStringLiteral("a.txt"), QStringLiteral("b.txt")}));
+    EXPECT_EQ(results(), (QStringList{QStringLiteral("a.txt"), QStringLiteral("b.txt")}));
 }
 
 TEST_F(WidgetShellRun, aMissingFileIsRefusedWithAMessage)
 {
-    ModalScript script;
-    script.on<QFileDialog>([](QFileDialog& window) {
+    const HRESULT hr = show([](QFileDialog& window) {
         WidgetUser user(window);
         user.typeName(QStringLiteral("missing.txt"));
-        user.pressAccept();
+        pressAcceptAndReadMessage(user, "missing.txt");
         user.pressCancel();
     });
-    script.on<QMessageBox>([](QMessageBox& box) {
-        EXPECT_THAT(box.text().toStdString(), ::testing::HasSubstr("missing.txt"));
-        box.accept();
-    });
-    EXPECT_EQ(dialog->Show(nullptr), cancelled);
-    EXPECT_TRUE(script.finished());
+    EXPECT_EQ(hr, cancelled);
     EXPECT_EQ(sink.count("OnFileOk"), 0);
 }
 
@@ -255,14 +263,12 @@ TEST_F(WidgetShellRun, aMissingFolderIsRefusedOnlyWhenItMustExist)
 {
     make(CLSID_FileSaveDialog);
     dialog->SetFileName(text("none/new.txt").c_str());
-    ModalScript script;
-    script.on<QFileDialog>([](QFileDialog& window) {
+    const HRESULT hr = show([](QFileDialog& window) {
         WidgetUser user(window);
-        user.pressAccept();
+        pressAcceptAndReadMessage(user, "none");
         user.pressCancel();
     });
-    script.on<QMessageBox>([](QMessageBox& box) { box.accept(); });
-    EXPECT_EQ(dialog->Show(nullptr), cancelled);
+    EXPECT_EQ(hr, cancelled);
     change(0, FOS_PATHMUSTEXIST);
     EXPECT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
 }
