@@ -21,6 +21,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
+#include <QTreeView>
 
 namespace {
 
@@ -120,7 +121,8 @@ protected:
     }
     static void controlClick(QFileDialog& window, const QString& name)
     {
-        auto* const view = window.findChild<QListView*>(QStringLiteral("listView"));
+        QAbstractItemView* view = window.findChild<QListView*>(QStringLiteral("listView"));
+        view = view->isVisible() ? view : window.findChild<QTreeView*>(QStringLiteral("treeView"));
         view->setFocus();
         const auto find = [&] {
             return view->model()->match(view->model()->index(0, 0, view->rootIndex()), 0, name).value(0);
