@@ -48,8 +48,8 @@ QString FileDialogPage::name() const
 
 void FileDialogPage::typeName(const QString& text) const
 {
-    // Shown again after a message box, the dialog is not made active by platforms without a window manager; Delete would
-    // then be taken for the dialog's shortcut.
+    // Shown again after a message box, the dialog is not made active by platforms without a window manager; Delete
+    // would then be taken for the dialog's shortcut.
     if (m_dialog.isVisible() && !m_dialog.isActiveWindow()) {
         QApplication::setActiveWindow(&m_dialog);
     }
