@@ -1,0 +1,87 @@
+#pragma once
+
+#include "ui/qt/dialogs/shell/ShellInterfaces.h"
+
+#include <utility>
+
+namespace morvane::ui {
+
+/**
+ * Owns one reference to a COM object and releases it.
+ *
+ * Nothing adds a reference behind your back: the constructor adopts the reference that it is given, share() is the one
+ * way to add one, and copying is not offered.
+ *
+ * @code
+ * ComPtr<IShellItem> item;
+ * if (SUCCEEDED(dialog->GetResult(item.put()))) { ... item->GetDisplayName(...) ... }
+ * @endcode
+ */
+template <typename Interface>
+class ComPtr
+{
+public:
+    ComPtr() = default;
+    /** Adopts the reference that the caller holds on @p object; null is an empty pointer. */
+    explicit ComPtr(Interface* object) : m_object(object) {}
+    ComPtr(ComPtr&& other) noexcept : m_object(other.detach()) {}
+    ComPtr& operator=(ComPtr&& other) noexcept
+    {
+        ComPtr(std::move(other)).swap(*this);
+        return *this;
+    }
+    ComPtr(const ComPtr&) = delete;
+    ComPtr& operator=(const ComPtr&) = delete;
+    ~ComPtr() { reset(); }
+
+    /** A pointer with a reference of its own to @p object, which may be null. */
+    static ComPtr share(Interface* object)
+    {
+        if (object) {
+            object->AddRef();
+        }
+        return ComPtr(object);
+    }
+
+    Interface* get() const { return m_object; }
+    Interface* operator->() const { return m_object; }
+    Interface& operator*() const { return *m_object; }
+    explicit operator bool() const { return m_object != nullptr; }
+
+    /** Releases what is held and gives the place where a call leaves its result. */
+    Interface** put()
+    {
+        reset();
+        return &m_object;
+    }
+    void** putVoid() { return reinterpret_cast<void**>(put()); }
+
+    /** Hands the reference over to the caller. */
+    Interface* detach() { return std::exchange(m_object, nullptr); }
+
+    /** Empty before the object is released, so that a call back into the owner finds nothing half gone. */
+    void reset()
+    {
+        if (Interface* const object = detach()) {
+            object->Release();
+        }
+    }
+
+    void swap(ComPtr& other) noexcept { std::swap(m_object, other.m_object); }
+
+    /** Another interface of the same object; empty when this is empty or the object does not have it. */
+    template <typename Other>
+    ComPtr<Other> query() const
+    {
+        ComPtr<Other> other;
+        if (m_object && FAILED(m_object->QueryInterface(iidOf<Other>(), other.putVoid()))) {
+            other.detach(); // a failed call leaves nothing to release, whatever it wrote
+        }
+        return other;
+    }
+
+private:
+    Interface* m_object = nullptr;
+};
+
+} // namespace morvane::ui
