@@ -173,6 +173,7 @@ TEST_F(TableCopyModelTest, aDeletedSelectionModelGivesTheEmptyText)
 TEST_F(TableCopyModelTest, aSelectionInAnotherModelCountsAsNone)
 {
     CellModel other(3, 3);
+    model.cellFlags = [](int, int) { return Qt::ItemIsEnabled | Qt::ItemIsSelectable; };
     view.selectionModel()->setModel(&other);
     view.selectionModel()->select(other.index(1, 1), QItemSelectionModel::Select);
     handler->copyToClipboard();
