@@ -80,7 +80,7 @@ QLayout* TableCopyPage::makeCopyRow()
     m_clipboard->setTabChangesFocus(true);
     m_clipboard->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_clipboard->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    m_clipboard->setTabStopDistance(12 * m_clipboard->fontMetrics().averageCharWidth());
+    m_clipboard->setTabStopDistance(16 * m_clipboard->fontMetrics().averageCharWidth());
     m_clipboard->setMinimumHeight(6 * m_clipboard->fontMetrics().lineSpacing());
     m_clipboard->setPlaceholderText(tr("Nothing was copied yet."));
     auto* const label = new QLabel(tr("On the c&lipboard:"));
