@@ -174,7 +174,7 @@ bool literalIntermediateValue(const QString& str, const ui::NumberRules& rules, 
             return search(tested, negative ? max_right : min_right, negative ? min_right : max_right).has_value();
         }
         // Not as a difference of two integers: it may not fit in one.
-        if (max_left - 1 == min_left || min_left - 1 == max_left) {
+        if ((max_left > min_left && max_left - 1 == min_left) || (min_left > max_left && min_left - 1 == max_left)) {
             return search(tested, min_right, negative ? 0 : dec).has_value() ||
                    search(tested, negative ? dec : 0, max_right).has_value();
         }

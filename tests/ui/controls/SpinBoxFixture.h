@@ -22,6 +22,7 @@ class Opened : public Base
 {
 public:
     using Base::Base;
+    using Base::keyPressEvent;
     using Base::lineEdit;
 };
 
