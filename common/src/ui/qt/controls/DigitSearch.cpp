@@ -75,7 +75,7 @@ private:
     };
 
     Progress after(Progress progress, int digit) const;
-    int missing(Progress progress) const;
+    int missing(Progress progress) const { return width - m_first - progress.met; }
     void complete(Digits& digits, int from, Progress progress, Direction direction) const;
 
     Digits m_digits;
@@ -90,13 +90,6 @@ DigitPattern::Progress DigitPattern::after(Progress progress, int digit) const
         ++progress.met;
     }
     return progress;
-}
-
-int DigitPattern::missing(Progress progress) const
-{
-    // A zero counts only behind another digit.
-    const bool needsLeader = progress.inLeadingZeros && m_digits[m_first] == 0;
-    return width - m_first - progress.met + (needsLeader ? 1 : 0);
 }
 
 void DigitPattern::complete(Digits& digits, int from, Progress progress, Direction direction) const
