@@ -117,8 +117,12 @@ void ScientificSpinBoxPage::stepByDecades(bool decades)
         return;
     }
     for (SpinBox* const field : m_constants) {
-        m_decadeSteps.emplace_back(field->signalIncrement.connect([field] { field->setValue(field->value() * 10); }));
-        m_decadeSteps.emplace_back(field->signalDecrement.connect([field] { field->setValue(field->value() / 10); }));
+        const auto multiply = [field](double factor) {
+            field->setValue(field->value() * factor);
+            field->selectAll();
+        };
+        m_decadeSteps.emplace_back(field->signalIncrement.connect([multiply] { multiply(10); }));
+        m_decadeSteps.emplace_back(field->signalDecrement.connect([multiply] { multiply(0.1); }));
     }
     Q_EMIT reported(tr("A step multiplies by 10"));
 }
