@@ -89,8 +89,8 @@ void openPlainDialog(benchmark::State& state)
     }
 }
 
-MORVANE_BENCHMARK(openExtendedDialog)->Iterations(10);
-MORVANE_BENCHMARK(openPlainDialog)->Iterations(10);
+MORVANE_BENCHMARK(openExtendedDialog)->Iterations(3);
+MORVANE_BENCHMARK(openPlainDialog)->Iterations(3);
 
 MORVANE_RATIO(qtdialog_open, openExtendedDialog, openPlainDialog, 1.1);
 

@@ -61,7 +61,7 @@ int main(int argc, char** argv)
     // Given first, so that the command line can override them.
     std::vector<char*> arguments(argv, argv + argc);
     std::string interleaving = "--benchmark_enable_random_interleaving=true";
-    std::string shortRuns = "--benchmark_min_time=0.02";
+    std::string shortRuns = "--benchmark_min_time=0.005";
     arguments.insert(arguments.begin() + 1, {interleaving.data(), shortRuns.data()});
     int count = static_cast<int>(arguments.size());
     ::benchmark::Initialize(&count, arguments.data());

@@ -46,7 +46,7 @@ const std::vector<Ratio>& ratios()
 ::benchmark::internal::Benchmark* interleaved(::benchmark::internal::Benchmark* benchmark)
 {
     // Odd, so that the median is a time that was measured.
-    return benchmark->Repetitions(21);
+    return benchmark->Repetitions(61);
 }
 
 bool report(const std::vector<std::pair<std::string, double>>& times)

@@ -32,7 +32,7 @@ bool report(const std::vector<std::pair<std::string, double>>& times);
 
 } // namespace morvane::bench
 
-/** Registers the function @p function as a benchmark of that name; options may follow: `->Iterations(10)`. */
+/** Registers the function @p function as a benchmark of that name; options may follow: `->Iterations(3)`. */
 #define MORVANE_BENCHMARK(function)                                                                                    \
     static ::benchmark::internal::Benchmark* const function##Registered =                                              \
         ::morvane::bench::interleaved(::benchmark::RegisterBenchmark(#function, &function))

@@ -150,7 +150,7 @@ TEST_F(PropertyValidatorTest, keepsTheVerdictOfAValidatorThatReplacesItself)
     EXPECT_EQ(m_property.value(), 1);
 }
 
-TEST_F(PropertyValidatorTest, releasesTheReplacedValidatorBeforeItThrows)
+TEST_F(PropertyValidatorTest, hasReleasedTheReplacedValidatorWhenItThrows)
 {
     boost::weak_ptr<FunctionValidator> first;
     first = install([&](int) {

@@ -5,13 +5,22 @@
 #include <QApplication>
 #include <QDialog>
 
+#include <utility>
+
 namespace morvane::test {
+
+namespace {
+
+constexpr int pollIntervalMs = 5;
+
+} // namespace
 
 ModalScript::ModalScript(int timeLimitMs)
 {
     connect(&m_poll, &QTimer::timeout, this, [this] { poll(); });
     connect(&m_watchdog, &QTimer::timeout, this, [this] { giveUp(); });
-    m_poll.start(5);
+    m_poll.setSingleShot(true);
+    m_poll.start(pollIntervalMs);
     m_watchdog.start(timeLimitMs);
 }
 
@@ -24,15 +33,23 @@ ModalScript::~ModalScript()
 
 void ModalScript::poll()
 {
+    // Armed again before the step, since a timer does not fire within its own slot, where a step may open another loop.
+    m_poll.start(pollIntervalMs);
     QWidget* const modal = QApplication::activeModalWidget();
-    if (m_gaveUp || m_steps.empty() || !modal || !modal->isVisible()) {
+    if (m_gaveUp || m_steps.empty() || !modal || !modal->isVisible() || modal == m_current) {
         return;
     }
     // The step may open a modal loop of its own, in which the next step is due.
     const QPointer<ModalScript> self(this);
     Step step = std::move(m_steps.front());
     m_steps.pop_front();
-    if (!step(modal) && self) {
+    const QPointer<QWidget> outer = std::exchange(m_current, modal);
+    const bool done = step(modal);
+    if (!self) {
+        return;
+    }
+    m_current = outer;
+    if (!done) {
         m_steps.push_front(std::move(step));
     }
 }

@@ -4,14 +4,7 @@ namespace morvane {
 
 PropertyItemInterface::PropertyItemInterface() = default;
 
-PropertyItemInterface::~PropertyItemInterface()
-{
-    if (m_announcement) {
-        m_announcement->m_untyped =
-            SignalAccess<decltype(signalPropertyChanged)>::implementation(signalPropertyChanged);
-        m_announcement->m_item = nullptr;
-    }
-}
+PropertyItemInterface::~PropertyItemInterface() = default;
 
 void PropertyItemInterface::signalPropertyChangedConnected() const {}
 

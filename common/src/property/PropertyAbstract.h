@@ -22,7 +22,8 @@ namespace morvane {
  *
  * An observer may set the property again: the inner change is stored and announced before the outer announcement goes
  * on, and the observers that are still to be called for the outer one receive the outer value. Observers that need the
- * present value read value(). An observer may also destroy the property; the typed observers after it are still told.
+ * present value read value(). An observer must not destroy the property: whoever calls setValue() holds a pointer to it
+ * until the call returns.
  *
  * GUI thread by convention; setValue() takes no lock.
  *
@@ -33,7 +34,7 @@ class PropertyAbstract : public PropertyItemInterface
 {
 public:
     /** Disconnects every observer. */
-    ~PropertyAbstract() override { this->keepWhileAnnouncing(signalValueChanged); }
+    ~PropertyAbstract() override = default;
 
     void refresh() override {}
 
@@ -60,11 +61,7 @@ public:
 
 protected:
     /** Tells the observers that the value is now @p v. */
-    virtual void emitValueChanged(const T& v)
-    {
-        const Announcement announcement(*this);
-        signalValueChanged(v);
-    }
+    virtual void emitValueChanged(const T& v) { signalValueChanged(v); }
 
 public:
     /** Same as value(), for callers that want a non-virtual entry. */
@@ -109,17 +106,11 @@ public:
 protected:
     PropertyAbstract()
         : m_validator(boost::make_shared<AllowAnyValueValidator<T>>()),
-          m_forwardConnection(signalValueChanged.connect([this](const T&) { forwardChange(); }))
+          m_forwardConnection(signalValueChanged.connect([this](const T&) { this->signalPropertyChanged(); }))
     {
     }
 
 private:
-    void forwardChange()
-    {
-        const Announcement announcement(*this);
-        this->signalPropertyChanged();
-    }
-
     boost::shared_ptr<ValidatorInterface<T>> m_validator;
     boost::signals2::scoped_connection m_forwardConnection;
 };

@@ -75,7 +75,7 @@ public:
     /** Whether saving over an existing file goes without Qt's question. */
     void setDontConfirmOverwrite(bool on);
 
-    /** Whether only directories are listed; effective in the file mode `Directory`. */
+    /** Whether only directories are listed; meant for the file mode `Directory`. */
     void setShowDirectoriesOnly(bool on);
 
 public Q_SLOTS:
@@ -107,6 +107,7 @@ private Q_SLOTS:
 
 private:
     friend class ExtendedFileDialog;
+    friend class SaveFileQtDialog;
 
     // For callers that may have no parent.
     QExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,

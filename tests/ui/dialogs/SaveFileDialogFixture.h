@@ -1,0 +1,97 @@
+#pragma once
+
+#include "support/FileDialogPage.h"
+#include "support/ModalScript.h"
+#include "ui/qt/dialogs/ExtendedFileDialog.h"
+#include "ui/qt/dialogs/SaveFileDialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWidget>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+inline void pressAccept(QFileDialog& dialog)
+{
+    morvane::test::FileDialogPage(dialog).click(QDialogButtonBox::Save);
+}
+
+inline void pressCancel(QFileDialog& dialog)
+{
+    morvane::test::FileDialogPage(dialog).click(QDialogButtonBox::Cancel);
+}
+
+inline void acceptName(QFileDialog& dialog, const QString& name)
+{
+    const morvane::test::FileDialogPage page(dialog);
+    page.typeName(name);
+    page.click(QDialogButtonBox::Save);
+}
+
+/** The key goes to the button that has the focus, as for a person who looks at the box. */
+inline void pressKey(QMessageBox& box, Qt::Key key)
+{
+    QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box, key);
+}
+
+/** The save flow on the native dialog (true) and on the Qt dialog (false), in a directory of its own. */
+class SaveFlow : public testing::TestWithParam<bool>
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_directory.isValid());
+        ExtendedFileDialog::setUseNativeFileDialog(GetParam());
+        m_parent = new QWidget;
+        m_parent->show();
+    }
+    void TearDown() override
+    {
+        delete m_parent;
+        ExtendedFileDialog::setUseNativeFileDialog(true);
+    }
+
+    std::string directory() const { return m_directory.path().toStdString(); }
+    std::string path(const std::string& name) const { return directory() + "/" + name; }
+
+    void makeFile(const std::string& name, const QByteArray& content = "old content") const
+    {
+        QFile file(QString::fromStdString(path(name)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    QByteArray contentOf(const std::string& name) const
+    {
+        QFile file(QString::fromStdString(path(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    }
+    QStringList entries() const { return QDir(m_directory.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+
+    std::unique_ptr<SaveFileDialog> makeFlow(const std::string& filter = "Data files (*.dat)",
+        std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler = nullptr)
+    {
+        return std::make_unique<SaveFileDialog>(
+            m_parent.data(), "Save data", directory(), "", filter, "", std::move(handler));
+    }
+    std::unique_ptr<SaveFileDialog> makeFlow(const std::vector<std::string>& writers, int selected)
+    {
+        return std::make_unique<SaveFileDialog>(
+            m_parent.data(), "Save data", directory(), "report", writers, selected, "");
+    }
+
+    QTemporaryDir m_directory;
+    QPointer<QWidget> m_parent;
+};
+
+inline std::string saveFlowName(const testing::TestParamInfo<bool>& info)
+{
+    return info.param ? "native" : "qt";
+}
