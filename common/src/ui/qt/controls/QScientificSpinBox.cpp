@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace morvane::ui {
 
@@ -86,8 +87,10 @@ double QScientificSpinBoxPrivate::validateAndInterpret(const QString& input, int
         state = cache.cachedState;
         return cache.cachedValue.toDouble();
     }
-    const NumberInterpretation interpretation = interpretNumber(input, pos, rules());
-    cache = {interpretation.text, interpretation.value, interpretation.state};
+    NumberInterpretation interpretation = interpretNumber(input, pos, rules());
+    cache.cachedText = std::move(interpretation.text);
+    cache.cachedValue.setValue(interpretation.value);
+    cache.cachedState = interpretation.state;
     state = interpretation.state;
     return interpretation.value;
 }

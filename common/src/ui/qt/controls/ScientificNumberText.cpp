@@ -9,6 +9,7 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace morvane::ui {
 
@@ -236,7 +237,13 @@ NumberInterpretation interpretNumber(const QString& input, int& pos, const Numbe
     if (state != QValidator::Acceptable) {
         value = rules.maximum > 0 ? rules.minimum : rules.maximum;
     }
-    return {state, value, rules.prefix + number + rules.suffix};
+    if (!rules.prefix.isEmpty()) {
+        number.prepend(rules.prefix);
+    }
+    if (!rules.suffix.isEmpty()) {
+        number.append(rules.suffix);
+    }
+    return {state, value, std::move(number)};
 }
 
 bool mayGrowIntoRange(const QString& number, const NumberRules& rules)
