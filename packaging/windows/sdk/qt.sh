@@ -24,14 +24,21 @@ configure_qt() {
         -no-opengl -no-dbus -no-icu -no-openssl -qt-zlib -qt-libpng -qt-libjpeg -qt-pcre -qt-freetype -qt-harfbuzz \
         -qt-doubleconversion -no-feature-sql -no-feature-network -no-feature-xml -no-feature-concurrent \
         -no-feature-printer -no-feature-tabletevent -no-direct2d
-    PATH=$tools:$PATH make qmake_all
 }
 
-make_qt() { PATH=$tools:$PATH make -C "$work/qt-build${2:-}" -j "$jobs" "$1"; }
-make_qt_tools() { make_qt sub-tools /src; }
-make_qt_core() { make_qt sub-corelib /src; }
-make_qt_gui() { make_qt sub-gui /src; }
-make_qt_widgets() { make_qt sub-widgets /src; }
-make_qt_test() { make_qt sub-testlib /src; }
-make_qt_rest() { make_qt first; }
-install_qt() { make_qt install; }
+# Only the libraries: the makefiles of Qt's tests and examples alone take minutes, and some of them do not even load.
+prepare_qt() { PATH=$tools:$PATH make -C "$work/qt-build" sub-src-qmake_all; }
+
+make_qt() { PATH=$tools:$PATH make -C "$work/qt-build/src" -j "$jobs" "$@"; }
+make_qt_tools() { make_qt sub-moc sub-rcc sub-uic; }
+make_qt_core() { make_qt sub-corelib; }
+make_qt_gui() { make_qt sub-gui; }
+make_qt_widgets() { make_qt sub-widgets; }
+make_qt_test() { make_qt sub-testlib; }
+make_qt_plugins() { make_qt sub-plugins; }
+
+install_qt() {
+    make_qt first
+    make_qt install
+    make -C "$work/qt-build" install_mkspecs
+}

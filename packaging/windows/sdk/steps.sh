@@ -1,6 +1,6 @@
 # The steps in their order; each leaves a stamp, so that a later run skips what is done. Sourced by make-sdk.
 
-step_total=16
+step_total=17
 step_number=0
 
 # step NAME TEXT FUNCTION: runs the function once, its output in a log file of its own.
@@ -17,7 +17,7 @@ step() {
     (
         set -e
         "$3"
-    ) >"$log" 2>&1 </dev/null 9>&-
+    ) >"$log" 2>&1 </dev/null
     status=$?
     set -e
     case $status in
@@ -42,12 +42,13 @@ run_steps() {
     step boost 'Boost.Filesystem' make_boost
     step googletest 'GoogleTest' make_googletest
     step configure-qt 'configuring Qt' configure_qt
+    step prepare-qt 'preparing the libraries of Qt' prepare_qt
     step qt-tools 'Qt: its tools for this machine' make_qt_tools
     step qt-core 'Qt Core' make_qt_core
     step qt-gui 'Qt Gui' make_qt_gui
     step qt-widgets 'Qt Widgets' make_qt_widgets
     step qt-test 'Qt Test' make_qt_test
-    step qt-rest 'Qt: the plugins' make_qt_rest
+    step qt-plugins 'Qt: the plugins' make_qt_plugins
     step install-qt 'installing Qt' install_qt
     step runtime 'run-time libraries of the compiler' finish_sdk
 }
