@@ -14,6 +14,9 @@ set(options -G ${GENERATOR} -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DCMAKE_CXX_COM
 if(SANITIZE)
     list(APPEND options "-DCMAKE_CXX_FLAGS=-fsanitize=address,undefined")
 endif()
+if(TOOLCHAIN)
+    list(APPEND options -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN} -DMORVANE_WINDOWS_SDK=${WINDOWS_SDK})
+endif()
 
 if(KIND STREQUAL find_package)
     run(${CMAKE_COMMAND} --install ${MORVANE_BINARY_DIR} --prefix ${WORK_DIR}/first)
@@ -26,4 +29,10 @@ endif()
 
 run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/${KIND} -B ${WORK_DIR}/build ${options})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
-run(${WORK_DIR}/build/consumer)
+if(EMULATOR)
+    # The libraries of a package stand in its bin directory, those of a sub-directory beside the program.
+    list(POP_BACK EMULATOR end_of_options)
+    run(${EMULATOR} --path ${WORK_DIR}/prefix/bin ${end_of_options} ${WORK_DIR}/build/consumer.exe)
+else()
+    run(${WORK_DIR}/build/consumer)
+endif()
