@@ -107,6 +107,7 @@ private Q_SLOTS:
 
 private:
     friend class ExtendedFileDialog;
+    friend class SaveFileQtDialog;
 
     // For callers that may have no parent.
     QExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,

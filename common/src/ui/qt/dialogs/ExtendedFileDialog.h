@@ -1,0 +1,86 @@
+#pragma once
+
+#include "ui/qt/dialogs/LaunchFileDialog.h"
+#include "ui/qt/MorvaneUiExport.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <string>
+
+class ExtendedWinFileDialog;
+class QExtendedFileDialog;
+class QWidget;
+
+/**
+ * The file dialog that a host holds: the native one (ExtendedWinFileDialog) or the one made of Qt's widgets
+ * (QExtendedFileDialog), whichever the process-wide switch says at construction, behind one interface.
+ *
+ * @code
+ * ExtendedFileDialog dialog(window, "Open", lastFolder, "Data (*.dat);;All (*)", "open", QFileDialog::AcceptOpen);
+ * if (dialog.exec() == QDialog::Accepted) {
+ *     load(dialog.selectedFiles());
+ * }
+ * @endcode
+ *
+ * Made for one use: construct, configure, run, read, destroy. Exceptions of the chosen dialog pass through. GUI thread
+ * only.
+ */
+class MORVANE_UI_EXPORT ExtendedFileDialog
+{
+public:
+    /** Whether dialogs made from now on are native; initially true. */
+    static bool useNativeFileDialog();
+    /** Sets the switch. Dialogs that exist keep what they are. */
+    static void setUseNativeFileDialog(bool on);
+
+    /**
+     * @param parent     the dialog is modal to its window
+     * @param caption    window title, UTF-8
+     * @param directory  start directory, UTF-8; empty: left to the dialog
+     * @param filter     name filters such as `Images (*.png *.jpg)`, joined by `;;`, UTF-8
+     * @param helpTopic  adds a Help button that hands it to morvane::HelpLauncher; empty for none
+     * @param acceptMode open or save
+     */
+    ExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
+        const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode);
+    virtual ~ExtendedFileDialog();
+    ExtendedFileDialog(const ExtendedFileDialog&) = delete;
+    ExtendedFileDialog& operator=(const ExtendedFileDialog&) = delete;
+
+    /** Runs the dialog modally; QDialog::Accepted or QDialog::Rejected. */
+    int exec();
+
+    /** Puts a file into the name field; the native dialog takes its last component only. */
+    void selectFile(const QString& file);
+    /** The chosen paths after an accepted exec(), in the form of the dialog (native paths on the native one). */
+    QStringList selectedFiles();
+    void setFileMode(QFileDialog::FileMode mode);
+    QDir directory();
+    void setDirectory(const QString& directory);
+    /** Chooses a filter by its exact text. */
+    void selectNameFilter(const QString& filter);
+    QStringList nameFilters();
+    void setNameFilters(const QStringList& filters);
+    QString selectedNameFilter();
+    /** Whether saving over an existing file goes without the dialog's own question. */
+    void setDontConfirmOverwrite(bool on);
+    /** Whether the Qt dialog lists directories only; the native dialog ignores it. */
+    void setShowDirectoriesOnly(bool on);
+
+private:
+    friend bool morvane::ui::LaunchFileDialog(std::vector<std::string>&, int&, const std::string&,
+        const std::vector<std::string>&, const std::vector<std::string>&, bool, bool, int);
+
+    // For callers that may have no parent.
+    ExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode);
+
+    static bool m_useNativeFileDialog;
+
+    std::unique_ptr<QExtendedFileDialog> m_qtDialog;
+    std::unique_ptr<ExtendedWinFileDialog> m_winDialog;
+};

@@ -1,0 +1,153 @@
+#pragma once
+
+#include "property/PropertyAbstract.h"
+#include "ui/qt/MorvaneUiExport.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QString>
+#include <QStringList>
+
+#include <boost/function.hpp>
+#include <boost/shared_ptr.hpp>
+
+#include <memory>
+#include <string>
+
+class QWidget;
+
+/**
+ * The platform's own file dialog behind an interface shaped like that of QFileDialog, with what the Qt dialog cannot
+ * do: push buttons and check boxes of the host inside the dialog, and a menu of options on the accept button.
+ *
+ * On Windows this is the Shell's common item dialog. Elsewhere the same interface is served by Qt's dialog, controls
+ * included.
+ *
+ * Make it, configure it, run it with exec() one or more times, read it, destroy it. Settings reach the dialog at the
+ * first exec(); controls and accept options reach it at once and may be added between runs. Between runs the dialog
+ * keeps folder, typed name and file type.
+ *
+ * All `std::string` arguments are UTF-8. A name filter is a description, one blank, and blank-separated patterns in
+ * parentheses, `Images (*.png *.jpg)`; several are joined by `;;`. In a save dialog, choosing another file type gives
+ * the typed name the extension of that type, or none when its pattern is not of the form `*.extension`.
+ *
+ * @code
+ * ExtendedWinFileDialog dialog(window, "Save", "", "Data (*.dat);;All (*)", "", QFileDialog::AcceptSave, true);
+ * dialog.addAcceptButtonOption("Save", 0);
+ * dialog.addAcceptButtonOption("Save and close", 1);
+ * dialog.addCustomCheckBox("Compress", compress);
+ * if (dialog.exec() == QDialog::Accepted) {
+ *     save(dialog.selectedFiles().first(), dialog.selectedAcceptMenuOption());
+ * }
+ * @endcode
+ *
+ * Failures of the platform are not reported. When it cannot make a dialog at all, every operation is safe, exec()
+ * returns `Rejected` and selectedFiles() is empty.
+ *
+ * GUI thread only; the constructor joins it to a single-threaded COM apartment and the destructor leaves it. Callbacks
+ * run nested in exec(). The object must not be destroyed while exec() runs; its parent may be.
+ */
+class MORVANE_UI_EXPORT ExtendedWinFileDialog
+{
+public:
+    /**
+     * @param parent        the dialog is modal to its window
+     * @param caption       window title; may be empty
+     * @param directory     start folder; for an existing file its folder; empty or missing: the platform chooses
+     * @param filter        name filters joined by `;;`; empty for none
+     * @param helpTopic     adds a button "&Help" that hands it to morvane::HelpLauncher; empty for no button
+     * @param acceptMode    open or save
+     * @param useAcceptMenu whether the accept button carries a menu, see addAcceptButtonOption()
+     */
+    ExtendedWinFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
+        const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode,
+        bool useAcceptMenu);
+    virtual ~ExtendedWinFileDialog();
+    ExtendedWinFileDialog(const ExtendedWinFileDialog&) = delete;
+    ExtendedWinFileDialog& operator=(const ExtendedWinFileDialog&) = delete;
+
+    /**
+     * Runs the dialog modally. `Accepted` when the user accepted or close() was called, `Rejected` on cancel, on every
+     * failure, when the parent is destroyed meanwhile, and at once when the dialog is already running.
+     *
+     * An exception thrown by an action or by an observer passes through where the platform lets it.
+     */
+    QDialog::DialogCode exec();
+
+    /** Puts the last component of @p file into the name field; the folder part is dropped. */
+    void selectFile(const QString& file);
+    /** The chosen paths in the platform's form, after an accepted exec(). Otherwise whatever the platform reports. */
+    QStringList selectedFiles();
+
+    /** What is asked for; initially `AnyFile`. `Directory` picks a folder; `DirectoryOnly` counts as `AnyFile`. */
+    void setFileMode(QFileDialog::FileMode mode);
+
+    /** The folder that the dialog starts in, and, once it has run, the one that it was left in. */
+    QDir directory();
+    /** Takes the text as it is, without looking whether the directory exists. */
+    void setDirectory(const QString& dir);
+
+    /** Chooses the file type with exactly this text; a text that is not in the list chooses none. */
+    void selectNameFilter(const QString& filter);
+    QStringList nameFilters();
+    /** Replaces the filters, taken as they are. */
+    void setNameFilters(const QStringList& filters);
+    /** The text of the chosen file type; empty when none is chosen. */
+    QString selectedNameFilter();
+
+    /**
+     * Adds a push button.
+     * @param action runs at each click, while the dialog is open; it may call close(). An empty function throws
+     *        boost::bad_function_call when the button is clicked.
+     * @return a stand-in for the button, see below
+     *
+     * The widget that this and the next two operations return shows nothing itself. Call show(), hide(), setVisible(),
+     * setEnabled() and setDisabled() on it, before or while the dialog runs, and the control follows. It belongs to
+     * this object and lives as long, or until clearAcceptMenuOptions() for an accept option; never delete it.
+     */
+    QWidget* addCustomButton(const std::string& text, boost::function<void()> action);
+    /**
+     * Adds a check box that starts with the value of @p checked and sets it at each toggle. Null shares no state; the
+     * box then starts unchecked.
+     */
+    QWidget* addCustomCheckBox(const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked);
+    /**
+     * Adds an entry to the menu of the accept button; needs `useAcceptMenu`.
+     * @param value what selectedAcceptMenuOption() reports once the user accepted with this entry
+     */
+    QWidget* addAcceptButtonOption(const std::string& text, int value);
+    /** Removes all entries of the menu, and destroys their stand-ins. */
+    void clearAcceptMenuOptions();
+    /** The value of the entry that was selected when the last run ended, be it by cancel; 255 before. */
+    int selectedAcceptMenuOption() const;
+
+    /**
+     * The chosen file type, counted from 1; 0 stands for none. It follows the user while the dialog runs; setting it
+     * before the first exec() chooses the type. Never null.
+     */
+    boost::shared_ptr<morvane::PropertyAbstract<int>> currentFilterIndex();
+
+    /** Whether saving over an existing file goes without the platform's question. */
+    void setDontConfirmOverwrite(bool on);
+    /** Has no effect: folders are picked by setFileMode(QFileDialog::Directory). Here because the Qt dialog has it. */
+    void setShowDirectoriesOnly(bool on);
+
+    /** The widget given to the constructor; null once it was destroyed. */
+    QWidget* parent();
+
+    /** Ends a running dialog as accepted; for actions. Does nothing when no dialog is open. */
+    void close();
+
+private:
+    friend class ExtendedFileDialog;
+    friend class SaveFileWinDialog;
+
+    // For callers that may have no parent.
+    ExtendedWinFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode,
+        bool useAcceptMenu);
+
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};

@@ -1,0 +1,289 @@
+#include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
+
+#include "host/HelpLauncher.h"
+#include "host/StringConversion.h"
+#include "property/Property.h"
+#include "ui/qt/dialogs/ExtendedWinFileDialogEventHandler.h"
+#include "ui/qt/dialogs/ExtendedWinFileDialogFakeWidget.h"
+#include "ui/qt/dialogs/FilePath.h"
+#include "ui/qt/dialogs/NameFilterText.h"
+
+#include <boost/filesystem/operations.hpp>
+#include <boost/make_shared.hpp>
+
+#include <utility>
+
+using morvane::Property;
+using morvane::ui::ComPtr;
+using morvane::ui::iidOf;
+using morvane::ui::Shell;
+using morvane::ui::ShellString;
+
+ExtendedWinFileDialog::Impl::Impl(QWidget* parent, const std::string& caption, const std::string& directory,
+    const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode, bool useAcceptMenu)
+    : m_shell(Shell::instance()),
+      m_parent(parent),
+      m_caption(caption),
+      m_directory(boost::make_shared<Property<std::string>>()),
+      m_helpTopic(helpTopic),
+      m_acceptMode(acceptMode),
+      m_currentFilterIndex(boost::make_shared<Property<int>>(1)),
+      m_fileName(boost::make_shared<Property<std::string>>()),
+      m_useAcceptMenu(useAcceptMenu)
+{
+    if (FAILED(m_shell.coInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))) {
+        return;
+    }
+    const CLSID& kind = acceptMode == QFileDialog::AcceptOpen ? CLSID_FileOpenDialog : CLSID_FileSaveDialog;
+    m_shell.coCreateInstance(kind, nullptr, CLSCTX_INPROC_SERVER, iidOf<IFileDialog>(), m_dialog.putVoid());
+    if (!directory.empty()) {
+        initStartFolder(directory);
+    }
+    if (!filter.empty()) {
+        m_nameFilters = splitNameFilters(filter);
+    }
+    if (m_useAcceptMenu) {
+        initAcceptMenu();
+    }
+    if (!m_helpTopic.empty()) {
+        initHelpButton();
+    }
+}
+
+ExtendedWinFileDialog::Impl::~Impl()
+{
+    // The apartment is left before the dialog goes; hosts rely on the order.
+    m_shell.coUninitialize();
+    m_acceptMenuWidgets.clear();
+    m_controlWidgets.clear();
+    m_acceptMenuValues.clear();
+    m_checkBoxProperties.clear();
+    m_buttonActions.clear();
+    m_fileName.reset();
+    m_currentFilterIndex.reset();
+    m_helpTopic.clear();
+    m_nameFilters.clear();
+    m_directory.reset();
+    m_caption.clear();
+    m_dialog.reset();
+}
+
+void ExtendedWinFileDialog::Impl::initStartFolder(const std::string& directory)
+{
+    try {
+        const boost::filesystem::path path = pathFromUtf8(directory);
+        const boost::filesystem::file_status status = boost::filesystem::status(path);
+        if (boost::filesystem::exists(status)) {
+            const bool isFolder = boost::filesystem::is_directory(status);
+            m_directory->setValue(pathToUtf8(isFolder ? path : path.parent_path()));
+        }
+    } catch (const boost::filesystem::filesystem_error&) {
+        // The folder is left to the Shell.
+    }
+}
+
+void ExtendedWinFileDialog::Impl::initAcceptMenu()
+{
+    const auto customize = m_dialog.query<IFileDialogCustomize>();
+    m_acceptMenuId = m_nextControlId++;
+    if (customize) {
+        customize->EnableOpenDropDown(m_acceptMenuId);
+    }
+}
+
+void ExtendedWinFileDialog::Impl::initHelpButton()
+{
+    addCustomButton(
+        "&Help", [this] { showHelp(); }, true);
+}
+
+void ExtendedWinFileDialog::Impl::showHelp()
+{
+    morvane::HelpLauncher::getInstance().showHelp(m_helpTopic);
+}
+
+QString ExtendedWinFileDialog::Impl::currentNameFilter() const
+{
+    return m_nameFilters.value(m_currentFilterIndex->value() - 1);
+}
+
+void ExtendedWinFileDialog::Impl::close()
+{
+    if (m_dialog) {
+        m_dialog->Close(S_OK);
+    }
+}
+
+QStringList ExtendedWinFileDialog::Impl::selectedFiles()
+{
+    QStringList files;
+    if (!m_dialog) {
+        return files;
+    }
+    FILEOPENDIALOGOPTIONS options = 0;
+    m_dialog->GetOptions(&options);
+    if ((options & FOS_ALLOWMULTISELECT) == 0) {
+        ComPtr<IShellItem> item;
+        if (SUCCEEDED(m_dialog->GetResult(item.put())) && item) {
+            files.append(pathOf(*item));
+        }
+        return files;
+    }
+    const auto open = m_dialog.query<IFileOpenDialog>();
+    ComPtr<IShellItemArray> items;
+    if (!open || FAILED(open->GetResults(items.put())) || !items) {
+        return files;
+    }
+    DWORD count = 0;
+    items->GetCount(&count);
+    for (DWORD i = 0; i < count; ++i) {
+        ComPtr<IShellItem> item;
+        items->GetItemAt(i, item.put());
+        if (item) {
+            files.append(pathOf(*item));
+        }
+    }
+    return files;
+}
+
+QWidget* ExtendedWinFileDialog::Impl::addCustomButton(
+    const std::string& text, boost::function<void()> action, bool prominent)
+{
+    const unsigned int id = addControl(ControlKind::PushButton, text, prominent, false);
+    m_buttonActions[id] = std::move(action);
+    m_controlWidgets.push_back(std::make_unique<FakeWidget>(m_dialog.get(), ControlKind::PushButton, id, 0));
+    return m_controlWidgets.back().get();
+}
+
+QWidget* ExtendedWinFileDialog::Impl::addCustomCheckBox(
+    const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked)
+{
+    const unsigned int id = addControl(ControlKind::CheckBox, text, false, checked && checked->value());
+    m_checkBoxProperties[id] = std::move(checked);
+    m_controlWidgets.push_back(std::make_unique<FakeWidget>(m_dialog.get(), ControlKind::CheckBox, id, 0));
+    return m_controlWidgets.back().get();
+}
+
+QWidget* ExtendedWinFileDialog::Impl::addAcceptButtonOption(const std::string& text, int value)
+{
+    const unsigned int id = addControl(ControlKind::AcceptMenuItem, text, false, false);
+    m_acceptMenuValues[id] = value;
+    m_acceptMenuWidgets.push_back(
+        std::make_unique<FakeWidget>(m_dialog.get(), ControlKind::AcceptMenuItem, m_acceptMenuId, id));
+    return m_acceptMenuWidgets.back().get();
+}
+
+void ExtendedWinFileDialog::Impl::clearAcceptMenuOptions()
+{
+    const auto customize = m_dialog.query<IFileDialogCustomize>();
+    for (const auto& widget : m_acceptMenuWidgets) {
+        if (customize) {
+            customize->RemoveControlItem(m_acceptMenuId, widget->itemId());
+        }
+    }
+    m_acceptMenuWidgets.clear();
+}
+
+unsigned int ExtendedWinFileDialog::Impl::addControl(
+    ControlKind kind, const std::string& text, bool prominent, bool checked)
+{
+    const auto customize = m_dialog.query<IFileDialogCustomize>();
+    const unsigned int id = m_nextControlId++;
+    if (customize && SUCCEEDED(requestControl(*customize, kind, id, text, checked)) && prominent) {
+        customize->MakeProminent(id);
+    }
+    return id;
+}
+
+HRESULT ExtendedWinFileDialog::Impl::requestControl(
+    IFileDialogCustomize& customize, ControlKind kind, DWORD id, const std::string& text, bool checked)
+{
+    const ShellString label = shellText(text);
+    switch (kind) {
+    case ControlKind::PushButton:
+        return customize.AddPushButton(id, label.c_str());
+    case ControlKind::CheckBox:
+        return customize.AddCheckButton(id, label.c_str(), checked ? TRUE : FALSE);
+    case ControlKind::AcceptMenuItem:
+        break;
+    }
+    return customize.AddControlItem(m_acceptMenuId, id, label.c_str());
+}
+
+void ExtendedWinFileDialog::Impl::folderChanged(IFileDialog& dialog)
+{
+    ComPtr<IShellItem> folder;
+    dialog.GetFolder(folder.put());
+    if (!folder) {
+        return;
+    }
+    const QString path = pathOf(*folder);
+    if (!path.isEmpty()) { // a virtual folder has none
+        m_directory->setValue(path.toStdString());
+    }
+}
+
+void ExtendedWinFileDialog::Impl::typeChanged(IFileDialog& dialog)
+{
+    UINT index = static_cast<UINT>(m_currentFilterIndex->value());
+    dialog.GetFileTypeIndex(&index);
+    m_currentFilterIndex->setValue(static_cast<int>(index));
+    if (m_acceptMode != QFileDialog::AcceptSave) {
+        return;
+    }
+    const int position = m_currentFilterIndex->value() - 1;
+    if (position < 0 || position >= m_nameFilters.size()) {
+        return;
+    }
+    replaceTypedExtension(dialog, extensionOfNameFilter(m_nameFilters[position].toStdString()));
+}
+
+void ExtendedWinFileDialog::Impl::replaceTypedExtension(IFileDialog& dialog, const std::string& extension)
+{
+    LPWSTR text = nullptr;
+    const HRESULT result = dialog.GetFileName(&text);
+    const QString name = takeText(text);
+    if (FAILED(result) || name.isEmpty()) {
+        return;
+    }
+    boost::filesystem::path path = pathFromUtf8(name.toStdString());
+    path.replace_extension(pathFromUtf8(extension));
+    dialog.SetFileName(shellText(pathToGenericUtf8(path)).c_str());
+}
+
+void ExtendedWinFileDialog::Impl::buttonClicked(DWORD control)
+{
+    const auto found = m_buttonActions.find(control);
+    if (found != m_buttonActions.end()) {
+        const boost::function<void()> action = found->second; // it may add buttons
+        action();
+    }
+}
+
+void ExtendedWinFileDialog::Impl::checkButtonToggled(DWORD control, BOOL checked)
+{
+    const auto found = m_checkBoxProperties.find(control);
+    if (found != m_checkBoxProperties.end() && found->second) {
+        const auto property = found->second;
+        property->setValue(checked == TRUE);
+    }
+}
+
+ShellString ExtendedWinFileDialog::Impl::shellText(const std::string& utf8)
+{
+    return morvane::ui::toShellString(morvane::utf8ToWideString(utf8));
+}
+
+QString ExtendedWinFileDialog::Impl::takeText(LPWSTR text)
+{
+    const QString result = morvane::ui::toQString(text);
+    m_shell.coTaskMemFree(text);
+    return result;
+}
+
+QString ExtendedWinFileDialog::Impl::pathOf(IShellItem& item)
+{
+    LPWSTR path = nullptr;
+    item.GetDisplayName(SIGDN_FILESYSPATH, &path);
+    return takeText(path);
+}

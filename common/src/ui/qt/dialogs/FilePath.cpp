@@ -1,0 +1,48 @@
+#include "ui/qt/dialogs/FilePath.h"
+
+#include "host/StringConversion.h"
+
+#include <QString>
+
+#include <type_traits>
+
+namespace {
+
+using NativeText = boost::filesystem::path::string_type;
+
+template <typename Text>
+Text nativeFromUtf8(const std::string& utf8)
+{
+    if constexpr (std::is_same_v<Text, std::wstring>) {
+        return morvane::utf8ToWideString(utf8);
+    } else {
+        return utf8;
+    }
+}
+
+template <typename Text>
+std::string utf8FromNative(const Text& native)
+{
+    if constexpr (std::is_same_v<Text, std::wstring>) {
+        return QString::fromStdWString(native).toStdString();
+    } else {
+        return native;
+    }
+}
+
+} // namespace
+
+boost::filesystem::path pathFromUtf8(const std::string& utf8)
+{
+    return nativeFromUtf8<NativeText>(utf8);
+}
+
+std::string pathToUtf8(const boost::filesystem::path& path)
+{
+    return utf8FromNative(path.native());
+}
+
+std::string pathToGenericUtf8(const boost::filesystem::path& path)
+{
+    return utf8FromNative(path.generic_path().native());
+}

@@ -1,0 +1,99 @@
+#include "ui/qt/dialogs/LaunchFileDialog.h"
+
+#include "ui/qt/dialogs/ExtendedFileDialog.h"
+
+#include <QApplication>
+#include <QByteArray>
+#include <QFileInfo>
+
+#include <sstream>
+
+namespace morvane::ui {
+
+namespace {
+
+QString fromUtf8(const std::string& text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+std::string joinedFilters(const std::vector<std::string>& nameFilters)
+{
+    std::stringstream joined;
+    for (std::size_t i = 0; i + 1 < nameFilters.size(); ++i) {
+        joined << nameFilters[i] << ";;";
+    }
+    joined << nameFilters.back();
+    return joined.str();
+}
+
+QFileDialog::FileMode fileMode(bool saveMode, bool allowMultiple)
+{
+    if (allowMultiple) {
+        return QFileDialog::ExistingFiles;
+    }
+    return saveMode ? QFileDialog::AnyFile : QFileDialog::ExistingFile;
+}
+
+/** The text for the name field: several names are quoted. */
+QString selectionText(const std::vector<std::string>& selection, bool allowMultiple)
+{
+    if (!allowMultiple) {
+        return fromUtf8(selection.front());
+    }
+    QString text;
+    for (const std::string& entry : selection) {
+        if (!entry.empty()) {
+            text += QLatin1Char('"') + fromUtf8(entry) + QLatin1String("\" ");
+        }
+    }
+    return text;
+}
+
+void selectFilter(ExtendedFileDialog& dialog, const std::vector<std::string>& nameFilters, int index)
+{
+    if (static_cast<std::size_t>(index) < nameFilters.size()) {
+        dialog.selectNameFilter(fromUtf8(nameFilters[static_cast<std::size_t>(index)]));
+    }
+}
+
+} // namespace
+
+bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const std::string& caption,
+    const std::vector<std::string>& nameFilters, const std::vector<std::string>& initialSelection, bool saveMode,
+    bool allowMultiple, int initialFilterIndex)
+{
+    if (nameFilters.empty()) {
+        return false;
+    }
+    ExtendedFileDialog dialog(QApplication::activeWindow(), caption, std::string(), joinedFilters(nameFilters),
+        std::string(), saveMode ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(fileMode(saveMode, allowMultiple));
+
+    // A save dialog whose first filter takes every name chooses its filter before it is given a name, which would
+    // otherwise be given the filter's extension.
+    const bool filterFirst = saveMode && nameFilters.front().find("*.*") != std::string::npos;
+    if (filterFirst) {
+        selectFilter(dialog, nameFilters, initialFilterIndex);
+    }
+    if (!initialSelection.empty()) {
+        dialog.setDirectory(QFileInfo(fromUtf8(initialSelection.front())).absolutePath());
+        dialog.selectFile(selectionText(initialSelection, allowMultiple));
+    }
+    if (!filterFirst) {
+        selectFilter(dialog, nameFilters, initialFilterIndex);
+    }
+
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    const QStringList selected = dialog.selectedFiles();
+    files.resize(static_cast<std::size_t>(selected.size()));
+    for (int i = 0; i < selected.size(); ++i) {
+        files[static_cast<std::size_t>(i)] = selected[i].toUtf8().toStdString();
+    }
+    filterIndex = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
+    return true;
+}
+
+} // namespace morvane::ui

@@ -1,0 +1,72 @@
+#include "ui/qt/dialogs/NameFilterText.h"
+
+#include <algorithm>
+
+namespace {
+
+/** The text between the last `opening` that `)` follows and the last `)`, and where `opening` begins. */
+struct Enclosed
+{
+    bool found = false;
+    std::size_t openingAt = 0;
+    std::string_view text;
+};
+
+Enclosed findEnclosed(std::string_view filter, std::string_view opening)
+{
+    // A dot in the expressions matches no line break, so a text that has one matches as a whole never.
+    if (filter.find_first_of("\n\r") != std::string_view::npos) {
+        return {};
+    }
+    const std::size_t closing = filter.rfind(')');
+    if (closing == std::string_view::npos || closing < opening.size()) {
+        return {};
+    }
+    const std::size_t at = filter.rfind(opening, closing - opening.size());
+    if (at == std::string_view::npos) {
+        return {};
+    }
+    const std::size_t begin = at + opening.size();
+    return {true, at, filter.substr(begin, closing - begin)};
+}
+
+QString withoutBlanksAround(const QString& text)
+{
+    int begin = 0;
+    int end = text.size();
+    while (begin < end && text[begin] == QLatin1Char(' ')) {
+        ++begin;
+    }
+    while (end > begin && text[end - 1] == QLatin1Char(' ')) {
+        --end;
+    }
+    return text.mid(begin, end - begin);
+}
+
+} // namespace
+
+FileTypeText splitNameFilter(std::string_view filter)
+{
+    const Enclosed patterns = findEnclosed(filter, " (");
+    FileTypeText result{"File of Type", std::string(filter)};
+    if (patterns.found) {
+        result = {std::string(filter.substr(0, patterns.openingAt)), std::string(patterns.text)};
+    }
+    std::replace(result.patterns.begin(), result.patterns.end(), ' ', ';');
+    return result;
+}
+
+std::string extensionOfNameFilter(std::string_view filter)
+{
+    return std::string(findEnclosed(filter, " (*.").text);
+}
+
+QStringList splitNameFilters(const std::string& filters)
+{
+    const QString text = QString::fromUtf8(filters.data(), static_cast<int>(filters.size()));
+    QStringList result = text.split(QStringLiteral(";;"), Qt::SkipEmptyParts, Qt::CaseSensitive);
+    for (QString& filter : result) {
+        filter = withoutBlanksAround(filter);
+    }
+    return result;
+}

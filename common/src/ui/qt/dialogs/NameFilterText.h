@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <string>
+#include <string_view>
+
+// Reading name filters for the native dialog. Internal, not installed.
+// Every function takes time proportional to the length of the text and does not recurse.
+
+/** One file type as the Shell wants it, UTF-8. */
+struct FileTypeText
+{
+    std::string description;
+    std::string patterns; ///< separated by semicolons
+
+    bool operator==(const FileTypeText& other) const
+    {
+        return description == other.description && patterns == other.patterns;
+    }
+};
+
+/**
+ * Splits `Images (*.png *.jpg)` into `Images` and `*.png;*.jpg`, as the expression `(.*) \((.*)\).*` does: at the last
+ * blank and parenthesis that still have a closing parenthesis after them, up to the last closing one. A text of another
+ * form, one with a line break included, is all patterns and gets the description "File of Type".
+ */
+FileTypeText splitNameFilter(std::string_view filter);
+
+/**
+ * The extension that a filter gives to the typed name, as capture 1 of `.* \(\*\.(.*)\).*`: what stands between the
+ * last blank, parenthesis, asterisk and dot and the last closing parenthesis. `Data (*.dat)` gives `dat`; two patterns
+ * give both, blank and all. Empty when the filter has another form.
+ */
+std::string extensionOfNameFilter(std::string_view filter);
+
+/**
+ * Splits filters joined by `;;` and strips the blanks around each. A piece between two separators that is empty is
+ * dropped; one that becomes empty by stripping is kept.
+ */
+QStringList splitNameFilters(const std::string& filters);

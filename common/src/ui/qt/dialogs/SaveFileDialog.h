@@ -1,0 +1,81 @@
+#pragma once
+
+#include "ui/qt/dialogs/SaveFileMessageHandlerInterface.h"
+#include "ui/qt/MorvaneUiExport.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class QWidget;
+class SaveFileQtDialog;
+class SaveFileWinDialog;
+
+/**
+ * Asks the user for a name to save to, and returns only one that may be overwritten and really can be written.
+ *
+ * Runs on the native dialog or the Qt dialog, as ExtendedFileDialog::useNativeFileDialog() says at construction. After
+ * each accepted dialog the name gets the extension of the chosen filter, if it has none; when something of that name
+ * exists, the user is asked whether to replace it (No shows the dialog again); then writing there is tried for real,
+ * and where that fails the user may choose another place. The texts of the questions come from a message handler.
+ *
+ * @code
+ * SaveFileDialog dialog(window, "Save report", folder, "report", {"Text (*.txt)", "Table (*.csv)"}, 0, "save");
+ * if (dialog.launch()) {
+ *     writers[dialog.selectedWriter()]->write(dialog.selectedFilename());
+ * }
+ * @endcode
+ *
+ * All text is UTF-8. GUI thread only. The parent may be destroyed while the flow runs.
+ */
+class MORVANE_UI_EXPORT SaveFileDialog
+{
+public:
+    /**
+     * @param parent    owns the dialog's widgets, which live until it is destroyed. Null: a dialog without parent.
+     * @param caption   title of the dialog and of the questions
+     * @param directory start directory; empty: left to the dialog
+     * @param filename  name to start with; may be empty
+     * @param filter    name filters such as `Data (*.dat)`, joined by `;;`
+     * @param helpTopic adds a Help button that hands it to morvane::HelpLauncher; empty for none
+     */
+    SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, const std::string& filter, const std::string& helpTopic);
+    /** @param handler words the questions; taken over. Null: morvane::DefaultSaveFileMessageHandler. */
+    SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, const std::string& filter, const std::string& helpTopic,
+        std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
+    /**
+     * @param writerFilters       one name filter for each way of writing the file
+     * @param selectedWriterIndex position in @p writerFilters of the one to start with; outside of it none is selected
+     */
+    SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
+        const std::string& helpTopic);
+    SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
+        const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
+    virtual ~SaveFileDialog();
+    SaveFileDialog(const SaveFileDialog&) = delete;
+    SaveFileDialog& operator=(const SaveFileDialog&) = delete;
+
+    /**
+     * Runs the flow until a name is found or the user gives up; may be called again.
+     * @return whether there is a name to write to. False when the dialog is cancelled, when the user does not want
+     * another place for one that cannot be written, and when the parent is destroyed meanwhile.
+     * @throws what the message handler throws
+     */
+    virtual bool launch();
+
+    /** The name of the last accepted dialog, its extension applied; empty before. The one to write to after launch().
+     */
+    std::string selectedFilename();
+    /** The text of the chosen filter. */
+    std::string selectedFilter();
+    /** The position of the chosen filter among the filters, of equal ones the first; -1 when it is not among them. */
+    int selectedWriter() const;
+
+private:
+    std::unique_ptr<SaveFileQtDialog> m_qtDialog;
+    std::unique_ptr<SaveFileWinDialog> m_winDialog;
+};

@@ -1,0 +1,87 @@
+#include "ui/qt/dialogs/SaveFileLoop.h"
+
+#include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
+#include "ui/qt/dialogs/FilePath.h"
+#include "ui/qt/dialogs/SaveFileExtension.h"
+#include "ui/qt/dialogs/WriteAccessProbe.h"
+
+#include <QMessageBox>
+
+#include <boost/filesystem/operations.hpp>
+
+#include <utility>
+
+namespace {
+
+/** Asks with No as the default; no answer, because the parent was destroyed, counts as No. */
+bool isConfirmed(QWidget* parent, const std::string& title, const std::string& question)
+{
+    // On the heap, since the parent may take the box with it.
+    const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::Question, QString::fromStdString(title),
+        QString::fromStdString(question), QMessageBox::Yes | QMessageBox::No, parent));
+    box->setDefaultButton(QMessageBox::No);
+    box->setTextFormat(Qt::PlainText);
+    const int answer = box->exec();
+    delete box.data();
+    return answer == QMessageBox::Yes;
+}
+
+bool existsInAnyForm(const std::string& name)
+{
+    boost::system::error_code error;
+    const boost::filesystem::file_type type = boost::filesystem::status(pathFromUtf8(name), error).type();
+    return !error && type != boost::filesystem::status_error && type != boost::filesystem::file_not_found;
+}
+
+} // namespace
+
+SaveFileState::SaveFileState(QWidget* parent, const std::string& caption, const std::string& directory,
+    const std::string& filename, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
+    : m_parent(parent),
+      m_caption(caption),
+      m_directory(directory),
+      m_filename(filename),
+      m_messageHandler(std::move(handler))
+{
+    if (!m_messageHandler) {
+        m_messageHandler = std::make_unique<morvane::DefaultSaveFileMessageHandler>();
+    }
+}
+
+SaveFileState::~SaveFileState() = default;
+
+bool SaveFileState::launch()
+{
+    while (isAlive() && run() && isAlive()) {
+        const QStringList files = selectedFiles();
+        if (files.isEmpty()) {
+            return false;
+        }
+        m_selectedFilename = applyFilterExtension(files.first().toStdString(), selectedFilter().toStdString());
+
+        const std::string nameToCheck = m_messageHandler->filenameToCheck(m_selectedFilename);
+        if (existsInAnyForm(nameToCheck) &&
+            !isConfirmed(messageParent(), m_caption, m_messageHandler->okToOverwriteMessage())) {
+            continue;
+        }
+        if (!isAlive()) {
+            return false;
+        }
+        if (checkWriteAccess(pathFromUtf8(m_selectedFilename))) {
+            return true;
+        }
+        if (!isConfirmed(messageParent(), m_caption, m_messageHandler->unableToOverwriteMessage())) {
+            return false;
+        }
+    }
+    return false;
+}
+
+QStringList toNameFilters(const std::vector<std::string>& filters)
+{
+    QStringList result;
+    for (const std::string& filter : filters) {
+        result.append(QString::fromStdString(filter));
+    }
+    return result;
+}

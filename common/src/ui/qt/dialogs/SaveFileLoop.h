@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace morvane {
+class SaveFileMessageHandlerInterface;
+}
+
+// Internal, not installed.
+
+/** What a save-file object holds whatever its dialog is, and the loop that it runs. */
+struct SaveFileState
+{
+    /** @param handler null stands for the default one */
+    SaveFileState(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
+    virtual ~SaveFileState();
+
+    /**
+     * Runs the dialog until the user picks a name that may be overwritten and can be written, or gives up, or the
+     * dialog is destroyed. Returns whether m_selectedFilename may be written to.
+     */
+    bool launch();
+    /** The position of the chosen filter, or -1. */
+    int selectedWriter() { return nameFilters().indexOf(selectedFilter()); }
+
+    /** Runs the dialog modally and returns whether the user accepted. */
+    virtual bool run() = 0;
+    virtual QStringList selectedFiles() = 0;
+    virtual QStringList nameFilters() = 0;
+    virtual QString selectedFilter() = 0;
+    virtual QWidget* messageParent() = 0;
+    /** False once the dialog or its parent was destroyed; then launch() asks nothing more of it. */
+    virtual bool isAlive() = 0;
+
+    QPointer<QWidget> m_parent;
+    std::string m_caption;
+    std::string m_directory;
+    std::string m_filename;
+    std::string m_selectedFilename;
+    std::unique_ptr<morvane::SaveFileMessageHandlerInterface> m_messageHandler;
+};
+
+/** The filters in the same order. */
+QStringList toNameFilters(const std::vector<std::string>& filters);

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "ui/qt/dialogs/SaveFileMessageHandlerInterface.h"
+#include "ui/qt/MorvaneUiExport.h"
+
+#include <QObject>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class ExtendedWinFileDialog;
+class QWidget;
+
+/**
+ * The save flow of SaveFileDialog on the native file dialog. Use it where that dialog is wanted whatever the switch
+ * says.
+ *
+ * The dialog is made in the constructor. It is no widget that a parent could own, and outlives this object on purpose,
+ * until the process ends.
+ */
+class MORVANE_UI_EXPORT SaveFileWinDialog : public QObject
+{
+public:
+    /** @name Constructors: see SaveFileDialog */
+    ///@{
+    SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, const std::string& filter, const std::string& helpTopic);
+    SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, const std::string& filter, const std::string& helpTopic,
+        std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
+    SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
+        const std::string& helpTopic);
+    SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
+        const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
+    ///@}
+    ~SaveFileWinDialog() override;
+
+    /** Runs the flow; see SaveFileDialog::launch(). */
+    virtual bool launch();
+    std::string selectedFilename();
+    std::string selectedFilter();
+    int selectedWriter() const;
+
+protected:
+    /** The dialog that the flow runs; never null. */
+    ExtendedWinFileDialog* dialog();
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};

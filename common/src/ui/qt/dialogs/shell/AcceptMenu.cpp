@@ -1,0 +1,94 @@
+#include "ui/qt/dialogs/shell/AcceptMenu.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+
+namespace morvane::ui {
+
+namespace {
+
+constexpr int arrowWidth = 22;
+
+} // namespace
+
+AcceptMenu::AcceptMenu(
+    QAbstractButton& acceptButton, std::function<void(DWORD item)> picked, std::function<void()> opening)
+    : QToolButton(&acceptButton), m_acceptButton(acceptButton), m_picked(std::move(picked)), m_menu(new QMenu(this))
+{
+    setObjectName(QStringLiteral("acceptMenuArrow"));
+    setAccessibleName(tr("More ways to accept"));
+    setPopupMode(QToolButton::InstantPopup);
+    setFocusPolicy(Qt::TabFocus);
+    setMenu(m_menu);
+    connect(m_menu, &QMenu::aboutToShow, this, std::move(opening));
+    acceptButton.installEventFilter(this);
+}
+
+AcceptMenu::~AcceptMenu() = default;
+
+void AcceptMenu::update(const Control& dropDown)
+{
+    // The menu may be the sender of what leads here, so the actions go later.
+    for (QAction* const action : m_menu->actions()) {
+        m_menu->removeAction(action);
+        action->deleteLater();
+    }
+    bool any = false;
+    for (const ControlItem& item : dropDown.items) {
+        addItem(item);
+        any = any || (item.state & CDCS_VISIBLE) != 0;
+    }
+    setEnabled(dropDown.isEnabled());
+    setVisible(any && dropDown.isVisible());
+    // Room on both sides keeps the text of the button in its middle.
+    const int room = isHidden() ? 0 : 2 * arrowWidth;
+    m_acceptButton.setMinimumWidth(room == 0 ? 0 : m_acceptButton.sizeHint().width() + room);
+    fitToButton();
+}
+
+bool AcceptMenu::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutDirectionChange) {
+        fitToButton();
+    }
+    return QToolButton::eventFilter(watched, event);
+}
+
+void AcceptMenu::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    QStyleOption arrow;
+    arrow.initFrom(this);
+    const QColor line = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Mid);
+    const int lineX = isRightToLeft() ? width() - 1 : 0;
+    painter.setPen(line);
+    painter.drawLine(lineX, 4, lineX, height() - 5);
+    if (underMouse() || isDown() || hasFocus()) {
+        QColor wash = palette().color(QPalette::Highlight);
+        wash.setAlpha(isDown() ? 90 : 45);
+        painter.fillRect(rect().adjusted(2, 3, -3, -3), wash);
+    }
+    arrow.rect = QRect(0, 0, 12, 12);
+    arrow.rect.moveCenter(rect().center());
+    style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, this);
+}
+
+void AcceptMenu::addItem(const ControlItem& item)
+{
+    QAction* const action = m_menu->addAction(item.label);
+    action->setEnabled((item.state & CDCS_ENABLED) != 0);
+    action->setVisible((item.state & CDCS_VISIBLE) != 0);
+    connect(action, &QAction::triggered, this, [this, id = item.id] { m_picked(id); });
+}
+
+void AcceptMenu::fitToButton()
+{
+    const int x = m_acceptButton.isRightToLeft() ? 0 : m_acceptButton.width() - arrowWidth;
+    setGeometry(x, 0, arrowWidth, m_acceptButton.height());
+}
+
+} // namespace morvane::ui

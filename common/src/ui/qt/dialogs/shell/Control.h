@@ -1,0 +1,53 @@
+#pragma once
+
+#include "ui/qt/dialogs/shell/ShellInterfaces.h"
+
+#include <QString>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace morvane::ui {
+
+/** One item of the accept button's drop-down. */
+struct ControlItem
+{
+    DWORD id;
+    QString label;
+    CDCONTROLSTATEF state = CDCS_ENABLEDVISIBLE;
+};
+
+/** One custom control of the dialog, whether or not it is on the screen. */
+struct Control
+{
+    enum class Kind
+    {
+        PushButton,
+        CheckButton,
+        AcceptDropDown
+    };
+
+    DWORD id;
+    Kind kind;
+    QString label;
+    CDCONTROLSTATEF state = CDCS_ENABLEDVISIBLE;
+    bool checked = false;
+    bool prominent = false;
+    std::vector<ControlItem> items{};
+    std::optional<DWORD> selectedItem{};
+
+    bool isEnabled() const { return (state & CDCS_ENABLED) != 0; }
+    bool isVisible() const { return (state & CDCS_VISIBLE) != 0; }
+};
+
+/** What the dialog does when the user works a control. */
+struct ControlActions
+{
+    std::function<void(DWORD control)> clicked;
+    std::function<void(DWORD control, bool checked)> toggled;
+    std::function<void(DWORD control, DWORD item)> itemPicked; ///< an item of the accept button's drop-down
+    std::function<void(DWORD control)> activating;             ///< the drop-down is about to open
+};
+
+} // namespace morvane::ui

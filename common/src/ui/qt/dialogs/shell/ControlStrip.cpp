@@ -1,0 +1,116 @@
+#include "ui/qt/dialogs/shell/ControlStrip.h"
+
+#include "ui/qt/dialogs/shell/AcceptMenu.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace morvane::ui {
+
+namespace {
+
+constexpr int controlsPerRow = 4;
+
+} // namespace
+
+ControlStrip::ControlStrip(QFileDialog& dialog, ControlActions actions)
+    : QObject(&dialog),
+      m_dialog(dialog),
+      m_actions(std::move(actions)),
+      m_buttonBox(dialog.findChild<QDialogButtonBox*>()),
+      m_row(new QWidget(&dialog)),
+      m_rowLayout(new QGridLayout(m_row))
+{
+    m_row->setObjectName(QStringLiteral("customControls"));
+    m_row->hide();
+    m_rowLayout->setContentsMargins(0, 0, 0, 0);
+    m_rowLayout->setColumnStretch(controlsPerRow, 1);
+    if (auto* const grid = qobject_cast<QGridLayout*>(dialog.layout())) {
+        grid->addWidget(m_row, grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
+ControlStrip::~ControlStrip() = default;
+
+void ControlStrip::update(const std::vector<Control>& controls)
+{
+    bool anyInRow = false;
+    for (const Control& control : controls) {
+        if (control.kind == Control::Kind::AcceptDropDown) {
+            updateAcceptMenu(control);
+            continue;
+        }
+        QAbstractButton* const button = buttonFor(control);
+        const QSignalBlocker blocker(button);
+        place(control, *button);
+        button->setText(control.label);
+        button->setChecked(control.checked);
+        button->setEnabled(control.isEnabled());
+        button->setVisible(control.isVisible());
+        anyInRow = anyInRow || (control.isVisible() && button->parentWidget() == m_row);
+    }
+    m_row->setVisible(anyInRow);
+}
+
+QAbstractButton* ControlStrip::buttonFor(const Control& control)
+{
+    QAbstractButton*& button = m_buttons[control.id];
+    if (button) {
+        return button;
+    }
+    const DWORD id = control.id;
+    if (control.kind == Control::Kind::CheckButton) {
+        button = new QCheckBox(m_row);
+        connect(button, &QAbstractButton::toggled, this, [this, id](bool checked) { m_actions.toggled(id, checked); });
+    } else {
+        auto* const pushButton = new QPushButton(m_row);
+        pushButton->setAutoDefault(false);
+        button = pushButton;
+        connect(button, &QAbstractButton::clicked, this, [this, id] { m_actions.clicked(id); });
+    }
+    button->setObjectName(QStringLiteral("customControl%1").arg(id));
+    const int position = m_rowLayout->count();
+    m_rowLayout->addWidget(button, position / controlsPerRow, position % controlsPerRow);
+    return button;
+}
+
+void ControlStrip::place(const Control& control, QAbstractButton& button)
+{
+    if (control.prominent && control.kind == Control::Kind::PushButton && button.parentWidget() == m_row &&
+        m_buttonBox) {
+        m_rowLayout->removeWidget(&button);
+        m_buttonBox->addButton(&button, QDialogButtonBox::ActionRole);
+    } else if (!control.prominent && button.parentWidget() != m_row) {
+        m_buttonBox->removeButton(&button);
+        const int position = m_rowLayout->count();
+        m_rowLayout->addWidget(&button, position / controlsPerRow, position % controlsPerRow);
+    }
+}
+
+void ControlStrip::updateAcceptMenu(const Control& control)
+{
+    if (!m_acceptMenu && m_buttonBox) {
+        const auto buttons = m_buttonBox->buttons();
+        const auto accept = std::find_if(buttons.begin(), buttons.end(), [this](QAbstractButton* button) {
+            return m_buttonBox->buttonRole(button) == QDialogButtonBox::AcceptRole;
+        });
+        if (accept == buttons.end()) {
+            return;
+        }
+        const DWORD id = control.id;
+        m_acceptMenu = new AcceptMenu(
+            **accept, [this, id](DWORD item) { m_actions.itemPicked(id, item); },
+            [this, id] { m_actions.activating(id); });
+    }
+    if (m_acceptMenu) {
+        m_acceptMenu->update(control);
+    }
+}
+
+} // namespace morvane::ui

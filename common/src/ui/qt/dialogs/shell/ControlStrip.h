@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ui/qt/dialogs/shell/Control.h"
+
+#include <QObject>
+
+#include <map>
+
+class QAbstractButton;
+class QDialogButtonBox;
+class QFileDialog;
+class QGridLayout;
+class QWidget;
+
+namespace morvane::ui {
+
+class AcceptMenu;
+
+/**
+ * The widgets of the custom controls in one QFileDialog made of widgets: a row below the file types, the prominent push
+ * button below the dialog's own buttons, and the menu on the accept button. A child of the dialog.
+ */
+class ControlStrip : public QObject
+{
+public:
+    ControlStrip(QFileDialog& dialog, ControlActions actions);
+    ~ControlStrip() override;
+
+    /** Makes the widgets look like @p controls; safe while one of them is being worked. */
+    void update(const std::vector<Control>& controls);
+
+private:
+    QAbstractButton* buttonFor(const Control& control);
+    void place(const Control& control, QAbstractButton& button);
+    void updateAcceptMenu(const Control& control);
+
+    QFileDialog& m_dialog;
+    const ControlActions m_actions;
+    QDialogButtonBox* m_buttonBox;
+    QWidget* m_row;
+    QGridLayout* m_rowLayout;
+    std::map<DWORD, QAbstractButton*> m_buttons;
+    AcceptMenu* m_acceptMenu = nullptr;
+};
+
+} // namespace morvane::ui

@@ -1,0 +1,275 @@
+#include "ui/qt/dialogs/shell/CustomControls.h"
+
+#include "ui/qt/dialogs/shell/ShellText.h"
+
+#include <QFileDialog>
+
+#include <algorithm>
+
+namespace morvane::ui {
+
+namespace {
+
+bool isSelectable(const ControlItem& item)
+{
+    return (item.state & CDCS_ENABLEDVISIBLE) == CDCS_ENABLEDVISIBLE;
+}
+
+template <typename Range>
+auto* findById(Range& range, DWORD id)
+{
+    const auto found = std::find_if(range.begin(), range.end(), [id](const auto& entry) { return entry.id == id; });
+    return found == range.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+CustomControls::CustomControls(IUnknown& owner, ControlActions actions) : m_owner(owner), m_actions(std::move(actions))
+{
+}
+
+CustomControls::~CustomControls() = default;
+
+void CustomControls::showIn(QFileDialog& window)
+{
+    for (Control& control : m_controls) {
+        control.selectedItem.reset();
+    }
+    ControlActions actions = m_actions;
+    actions.toggled = [this](DWORD id, bool checked) { onToggled(id, checked); };
+    actions.itemPicked = [this](DWORD id, DWORD item) { onItemPicked(id, item); };
+    m_strip = new ControlStrip(window, std::move(actions));
+    m_strip->update(m_controls);
+}
+
+HRESULT CustomControls::QueryInterface(REFIID riid, void** object)
+{
+    return m_owner.QueryInterface(riid, object);
+}
+
+ULONG CustomControls::AddRef()
+{
+    return m_owner.AddRef();
+}
+
+ULONG CustomControls::Release()
+{
+    return m_owner.Release();
+}
+
+HRESULT CustomControls::EnableOpenDropDown(DWORD control)
+{
+    const bool present = std::any_of(m_controls.begin(), m_controls.end(),
+        [](const Control& other) { return other.kind == Control::Kind::AcceptDropDown; });
+    return present ? E_UNEXPECTED : add(Control{control, Control::Kind::AcceptDropDown, QString()});
+}
+
+HRESULT CustomControls::AddPushButton(DWORD control, LPCWSTR label)
+{
+    return add(Control{control, Control::Kind::PushButton, toQString(label)});
+}
+
+HRESULT CustomControls::AddCheckButton(DWORD control, LPCWSTR label, BOOL checked)
+{
+    Control check{control, Control::Kind::CheckButton, toQString(label)};
+    check.checked = checked != FALSE;
+    return add(std::move(check));
+}
+
+HRESULT CustomControls::SetControlLabel(DWORD control, LPCWSTR label)
+{
+    Control* const found = find(control);
+    if (!found || found->kind == Control::Kind::AcceptDropDown) {
+        return E_INVALIDARG;
+    }
+    found->label = toQString(label);
+    return updated();
+}
+
+HRESULT CustomControls::GetControlState(DWORD control, CDCONTROLSTATEF* state)
+{
+    const Control* const found = find(control);
+    if (!found || !state) {
+        return E_INVALIDARG;
+    }
+    *state = found->state;
+    return S_OK;
+}
+
+HRESULT CustomControls::SetControlState(DWORD control, CDCONTROLSTATEF state)
+{
+    Control* const found = find(control);
+    if (!found) {
+        return E_INVALIDARG;
+    }
+    found->state = state & CDCS_ENABLEDVISIBLE;
+    return updated();
+}
+
+HRESULT CustomControls::GetCheckButtonState(DWORD control, BOOL* checked)
+{
+    const Control* const found = find(control);
+    if (!found || found->kind != Control::Kind::CheckButton || !checked) {
+        return E_INVALIDARG;
+    }
+    *checked = found->checked ? TRUE : FALSE;
+    return S_OK;
+}
+
+HRESULT CustomControls::SetCheckButtonState(DWORD control, BOOL checked)
+{
+    Control* const found = find(control);
+    if (!found || found->kind != Control::Kind::CheckButton) {
+        return E_INVALIDARG;
+    }
+    found->checked = checked != FALSE;
+    return updated();
+}
+
+HRESULT CustomControls::AddControlItem(DWORD control, DWORD item, LPCWSTR label)
+{
+    Control* const found = findDropDown(control);
+    if (!found || findItem(control, item)) {
+        return E_INVALIDARG;
+    }
+    found->items.push_back(ControlItem{item, toQString(label)});
+    return updated();
+}
+
+HRESULT CustomControls::RemoveControlItem(DWORD control, DWORD item)
+{
+    Control* const found = findDropDown(control);
+    if (!found || !findItem(control, item)) {
+        return E_INVALIDARG;
+    }
+    found->items.erase(std::find_if(
+        found->items.begin(), found->items.end(), [item](const ControlItem& entry) { return entry.id == item; }));
+    if (found->selectedItem == item) {
+        found->selectedItem.reset();
+    }
+    return updated();
+}
+
+HRESULT CustomControls::RemoveAllControlItems(DWORD control)
+{
+    Control* const found = findDropDown(control);
+    if (!found) {
+        return E_INVALIDARG;
+    }
+    found->items.clear();
+    found->selectedItem.reset();
+    return updated();
+}
+
+HRESULT CustomControls::GetControlItemState(DWORD control, DWORD item, CDCONTROLSTATEF* state)
+{
+    const ControlItem* const found = findItem(control, item);
+    if (!found || !state) {
+        return E_INVALIDARG;
+    }
+    *state = found->state;
+    return S_OK;
+}
+
+HRESULT CustomControls::SetControlItemState(DWORD control, DWORD item, CDCONTROLSTATEF state)
+{
+    ControlItem* const found = findItem(control, item);
+    if (!found) {
+        return E_INVALIDARG;
+    }
+    found->state = state & CDCS_ENABLEDVISIBLE;
+    return updated();
+}
+
+HRESULT CustomControls::GetSelectedControlItem(DWORD control, DWORD* item)
+{
+    const Control* const found = findDropDown(control);
+    if (!found || !item) {
+        return E_INVALIDARG;
+    }
+    const auto first = std::find_if(found->items.begin(), found->items.end(), isSelectable);
+    if (!found->selectedItem && first == found->items.end()) {
+        return E_FAIL;
+    }
+    *item = found->selectedItem ? *found->selectedItem : first->id;
+    return S_OK;
+}
+
+HRESULT CustomControls::SetSelectedControlItem(DWORD control, DWORD item)
+{
+    if (!findItem(control, item)) {
+        return E_INVALIDARG;
+    }
+    find(control)->selectedItem = item;
+    return S_OK;
+}
+
+HRESULT CustomControls::MakeProminent(DWORD control)
+{
+    Control* const found = find(control);
+    if (!found || found->kind == Control::Kind::AcceptDropDown) {
+        return E_INVALIDARG;
+    }
+    for (Control& other : m_controls) {
+        other.prominent = &other == found;
+    }
+    return updated();
+}
+
+HRESULT CustomControls::SetControlItemText(DWORD control, DWORD item, LPCWSTR label)
+{
+    ControlItem* const found = findItem(control, item);
+    if (!found) {
+        return E_INVALIDARG;
+    }
+    found->label = toQString(label);
+    return updated();
+}
+
+HRESULT CustomControls::add(Control control)
+{
+    if (find(control.id)) {
+        return E_INVALIDARG;
+    }
+    m_controls.push_back(std::move(control));
+    return updated();
+}
+
+Control* CustomControls::find(DWORD id)
+{
+    return findById(m_controls, id);
+}
+
+ControlItem* CustomControls::findItem(DWORD control, DWORD item)
+{
+    Control* const found = findDropDown(control);
+    return found ? findById(found->items, item) : nullptr;
+}
+
+Control* CustomControls::findDropDown(DWORD id)
+{
+    Control* const found = find(id);
+    return found && found->kind == Control::Kind::AcceptDropDown ? found : nullptr;
+}
+
+void CustomControls::onToggled(DWORD id, bool checked)
+{
+    find(id)->checked = checked;
+    m_actions.toggled(id, checked);
+}
+
+void CustomControls::onItemPicked(DWORD id, DWORD item)
+{
+    find(id)->selectedItem = item;
+    m_actions.itemPicked(id, item);
+}
+
+HRESULT CustomControls::updated()
+{
+    if (m_strip) {
+        m_strip->update(m_controls);
+    }
+    return S_OK;
+}
+
+} // namespace morvane::ui

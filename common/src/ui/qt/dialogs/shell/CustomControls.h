@@ -1,0 +1,79 @@
+#pragma once
+
+#include "ui/qt/dialogs/shell/Control.h"
+#include "ui/qt/dialogs/shell/ControlStrip.h"
+#include "ui/qt/dialogs/shell/ShellInterfaces.h"
+
+#include <QPointer>
+
+#include <vector>
+
+class QFileDialog;
+
+namespace morvane::ui {
+
+/**
+ * The controls that an application adds to the dialog, kept from run to run, and shown in the window while there is
+ * one. Part of the dialog object, whose identity and reference count it shares.
+ *
+ * Push buttons, check buttons and the accept button's drop-down with its items exist. The other kinds of control
+ * (menus, combo boxes, radio lists, edit boxes, separators, texts, visual groups) are answered with E_NOTIMPL.
+ */
+class CustomControls final : public IFileDialogCustomize
+{
+public:
+    CustomControls(IUnknown& owner, ControlActions actions);
+    virtual ~CustomControls();
+
+    bool isEmpty() const { return m_controls.empty(); }
+    /** Shows the controls in @p window until it is destroyed, and forgets which drop-down item was picked before. */
+    void showIn(QFileDialog& window);
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
+    ULONG STDMETHODCALLTYPE AddRef() override;
+    ULONG STDMETHODCALLTYPE Release() override;
+
+    HRESULT STDMETHODCALLTYPE EnableOpenDropDown(DWORD control) override;
+    HRESULT STDMETHODCALLTYPE AddMenu(DWORD, LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE AddPushButton(DWORD control, LPCWSTR label) override;
+    HRESULT STDMETHODCALLTYPE AddComboBox(DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE AddRadioButtonList(DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE AddCheckButton(DWORD control, LPCWSTR label, BOOL checked) override;
+    HRESULT STDMETHODCALLTYPE AddEditBox(DWORD, LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE AddSeparator(DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE AddText(DWORD, LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetControlLabel(DWORD control, LPCWSTR label) override;
+    HRESULT STDMETHODCALLTYPE GetControlState(DWORD control, CDCONTROLSTATEF* state) override;
+    HRESULT STDMETHODCALLTYPE SetControlState(DWORD control, CDCONTROLSTATEF state) override;
+    HRESULT STDMETHODCALLTYPE GetEditBoxText(DWORD, WCHAR**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetEditBoxText(DWORD, LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetCheckButtonState(DWORD control, BOOL* checked) override;
+    HRESULT STDMETHODCALLTYPE SetCheckButtonState(DWORD control, BOOL checked) override;
+    HRESULT STDMETHODCALLTYPE AddControlItem(DWORD control, DWORD item, LPCWSTR label) override;
+    HRESULT STDMETHODCALLTYPE RemoveControlItem(DWORD control, DWORD item) override;
+    HRESULT STDMETHODCALLTYPE RemoveAllControlItems(DWORD control) override;
+    HRESULT STDMETHODCALLTYPE GetControlItemState(DWORD control, DWORD item, CDCONTROLSTATEF* state) override;
+    HRESULT STDMETHODCALLTYPE SetControlItemState(DWORD control, DWORD item, CDCONTROLSTATEF state) override;
+    HRESULT STDMETHODCALLTYPE GetSelectedControlItem(DWORD control, DWORD* item) override;
+    HRESULT STDMETHODCALLTYPE SetSelectedControlItem(DWORD control, DWORD item) override;
+    HRESULT STDMETHODCALLTYPE StartVisualGroup(DWORD, LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE EndVisualGroup() override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE MakeProminent(DWORD control) override;
+    HRESULT STDMETHODCALLTYPE SetControlItemText(DWORD control, DWORD item, LPCWSTR label) override;
+
+private:
+    HRESULT add(Control control);
+    Control* find(DWORD id);
+    ControlItem* findItem(DWORD control, DWORD item);
+    Control* findDropDown(DWORD id);
+    void onToggled(DWORD id, bool checked);
+    void onItemPicked(DWORD id, DWORD item);
+    HRESULT updated();
+
+    IUnknown& m_owner;
+    const ControlActions m_actions;
+    std::vector<Control> m_controls;
+    QPointer<ControlStrip> m_strip;
+};
+
+} // namespace morvane::ui

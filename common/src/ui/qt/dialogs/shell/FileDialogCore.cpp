@@ -1,0 +1,348 @@
+#include "ui/qt/dialogs/shell/FileDialogCore.h"
+
+#include "ui/qt/dialogs/shell/ComSupport.h"
+#include "ui/qt/dialogs/shell/WidgetShellItem.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QScopeGuard>
+#include <QSet>
+#include <QThread>
+
+#include <algorithm>
+
+namespace morvane::ui {
+
+namespace {
+
+// What the Shell's own dialogs report before anybody has set options.
+constexpr FILEOPENDIALOGOPTIONS initialOpenOptions = FOS_FILEMUSTEXIST | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR;
+constexpr FILEOPENDIALOGOPTIONS initialSaveOptions =
+    FOS_NOREADONLYRETURN | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR | FOS_OVERWRITEPROMPT;
+
+const HRESULT cancelled = HRESULT_FROM_WIN32(ERROR_CANCELLED);
+
+bool canShowWindows()
+{
+    return qobject_cast<QApplication*>(QCoreApplication::instance()) &&
+           QThread::currentThread() == QCoreApplication::instance()->thread();
+}
+
+QWidget* findOwner(HWND handle)
+{
+    return handle ? QWidget::find(reinterpret_cast<WId>(handle)) : nullptr;
+}
+
+FileTypeEntry fileTypeOf(const COMDLG_FILTERSPEC& spec)
+{
+    FileTypeEntry type;
+    type.description = toQString(spec.pszName);
+    for (const QString& piece : toQString(spec.pszSpec).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const QString pattern = piece.trimmed();
+        if (!pattern.isEmpty()) {
+            // To the Shell it means every file, to Qt only those with a dot.
+            type.patterns.append(pattern == QLatin1String("*.*") ? QStringLiteral("*") : pattern);
+        }
+    }
+    return type;
+}
+
+} // namespace
+
+FileDialogCore::FileDialogCore(IFileDialog& dialog, bool saving, bool alwaysWidgets)
+    : m_dialog(dialog),
+      m_alwaysWidgets(alwaysWidgets),
+      m_options(saving ? initialSaveOptions : initialOpenOptions),
+      m_controls(dialog, controlActions())
+{
+    m_settings.saving = saving;
+}
+
+FileDialogCore::~FileDialogCore() = default;
+
+HRESULT FileDialogCore::show(HWND owner)
+{
+    if (m_running) {
+        return HRESULT_FROM_WIN32(ERROR_BUSY);
+    }
+    if (!canShowWindows()) {
+        return E_UNEXPECTED;
+    }
+    // A sink may give up the last other reference.
+    const auto self = ComPtr<IFileDialog>::share(&m_dialog);
+    {
+        begin();
+        const auto stop = qScopeGuard([this] { m_running = false; });
+        run(findOwner(owner));
+    }
+    if (m_outcome != S_OK || m_exception) {
+        m_results.clear();
+    }
+    if (m_exception) {
+        std::rethrow_exception(std::exchange(m_exception, nullptr));
+    }
+    return m_outcome;
+}
+
+void FileDialogCore::begin()
+{
+    m_running = true;
+    m_ended = false;
+    m_outcome = cancelled;
+    m_results.clear();
+}
+
+void FileDialogCore::run(QWidget* owner)
+{
+    m_settings.folder = folder();
+    m_window = new FileDialogWindow(owner, settingsForRun(), *this);
+    const auto close = qScopeGuard([this] { delete m_window; });
+    if (m_window->consistsOfWidgets()) {
+        m_controls.showIn(*m_window);
+    }
+    announceOpening();
+    if (m_window && !m_ended) {
+        m_window->run();
+    }
+    if (m_window) {
+        m_fileName = m_window->typedName();
+    }
+}
+
+void FileDialogCore::announceOpening()
+{
+    mayEnterFolder(m_settings.folder);
+    if (m_window && !m_ended) {
+        onFolderChanged(m_settings.folder);
+    }
+    if (m_window && !m_ended && !m_settings.types.empty()) {
+        onTypeChanged(m_settings.typeIndex);
+    }
+}
+
+HRESULT FileDialogCore::close(HRESULT result)
+{
+    if (m_running) {
+        end(result);
+    }
+    return S_OK;
+}
+
+void FileDialogCore::end(HRESULT result)
+{
+    m_ended = true;
+    m_outcome = result;
+    if (m_window) {
+        m_window->done(QDialog::Rejected);
+    }
+}
+
+FileDialogSettings FileDialogCore::settingsForRun() const
+{
+    const auto has = [this](FILEOPENDIALOGOPTIONS option) { return (m_options & option) != 0; };
+    const bool validates = !has(FOS_NOVALIDATE);
+    FileDialogSettings settings = m_settings;
+    settings.picksFolders = has(FOS_PICKFOLDERS);
+    settings.allowsSeveral = has(FOS_ALLOWMULTISELECT) && !m_settings.saving;
+    settings.fileMustExist = has(FOS_FILEMUSTEXIST) && validates;
+    settings.pathMustExist = has(FOS_PATHMUSTEXIST) && validates;
+    settings.asksBeforeOverwriting = has(FOS_OVERWRITEPROMPT);
+    settings.showsHidden = has(FOS_FORCESHOWHIDDEN);
+    settings.usesWidgets = m_alwaysWidgets || !m_controls.isEmpty() || !typesSurviveInText();
+    settings.fileName = m_fileName.value_or(QString());
+    return settings;
+}
+
+bool FileDialogCore::typesSurviveInText() const
+{
+    QSet<QString> seen;
+    return std::all_of(m_settings.types.begin(), m_settings.types.end(), [&seen](const FileTypeEntry& type) {
+        const bool fresh = !seen.contains(type.description);
+        seen.insert(type.description);
+        return fresh && !type.description.isEmpty() && type.description == type.description.simplified();
+    });
+}
+
+QString FileDialogCore::folder() const
+{
+    for (const QString& candidate : {m_settings.folder, m_defaultFolder}) {
+        if (!candidate.isEmpty() && QFileInfo(candidate).isDir()) {
+            return candidate;
+        }
+    }
+    return QDir::currentPath();
+}
+
+HRESULT FileDialogCore::setFileTypes(UINT count, const COMDLG_FILTERSPEC* types)
+{
+    if (!m_settings.types.empty()) {
+        return E_UNEXPECTED;
+    }
+    if (count == 0 || !types) {
+        return E_INVALIDARG;
+    }
+    std::transform(types, types + count, std::back_inserter(m_settings.types), fileTypeOf);
+    return S_OK;
+}
+
+HRESULT FileDialogCore::setFileTypeIndex(UINT index)
+{
+    if (m_settings.types.empty()) {
+        return E_FAIL;
+    }
+    const auto clamped = std::clamp<std::size_t>(index, 1, m_settings.types.size());
+    m_settings.typeIndex = static_cast<int>(clamped - 1);
+    if (m_window) {
+        m_window->setTypeIndex(m_settings.typeIndex);
+    }
+    return S_OK;
+}
+
+HRESULT FileDialogCore::getFileTypeIndex(UINT* index) const
+{
+    if (!index) {
+        return E_INVALIDARG;
+    }
+    *index = m_settings.types.empty() ? 0 : static_cast<UINT>(m_settings.typeIndex + 1);
+    return S_OK;
+}
+
+HRESULT FileDialogCore::setOptions(FILEOPENDIALOGOPTIONS options)
+{
+    m_options = options;
+    return S_OK;
+}
+
+HRESULT FileDialogCore::getOptions(FILEOPENDIALOGOPTIONS* options) const
+{
+    if (!options) {
+        return E_INVALIDARG;
+    }
+    *options = m_options;
+    return S_OK;
+}
+
+HRESULT FileDialogCore::setDefaultFolder(IShellItem* folder)
+{
+    m_defaultFolder = pathOfShellItem(folder);
+    return m_defaultFolder.isEmpty() ? E_INVALIDARG : S_OK;
+}
+
+HRESULT FileDialogCore::setFolder(IShellItem* folder)
+{
+    const QString path = pathOfShellItem(folder);
+    if (path.isEmpty()) {
+        return E_INVALIDARG;
+    }
+    if (!m_window) {
+        m_settings.folder = path;
+    } else if (QFileInfo(path).isDir()) {
+        m_window->setFolder(path);
+    }
+    return S_OK;
+}
+
+HRESULT FileDialogCore::getFolder(IShellItem** folder) const
+{
+    if (!folder) {
+        return E_INVALIDARG;
+    }
+    *folder = makeShellItem(this->folder()).detach();
+    return S_OK;
+}
+
+HRESULT FileDialogCore::getCurrentSelection(IShellItem** item) const
+{
+    if (!item) {
+        return E_INVALIDARG;
+    }
+    const QStringList paths = m_window ? m_window->selectedPaths() : QStringList();
+    *item = paths.isEmpty() ? nullptr : makeShellItem(paths.first()).detach();
+    return *item ? S_OK : E_FAIL;
+}
+
+HRESULT FileDialogCore::getSelectedItems(IShellItemArray** items) const
+{
+    if (!items) {
+        return E_INVALIDARG;
+    }
+    const QStringList paths = m_window ? m_window->selectedPaths() : QStringList();
+    *items = paths.isEmpty() ? nullptr : makeShellItemArray(paths).detach();
+    return *items ? S_OK : E_FAIL;
+}
+
+HRESULT FileDialogCore::setFileName(LPCWSTR name)
+{
+    m_fileName = toQString(name);
+    if (m_window) {
+        m_window->setTypedName(*m_fileName);
+    }
+    return S_OK;
+}
+
+HRESULT FileDialogCore::getFileName(LPWSTR* name) const
+{
+    if (!name) {
+        return E_INVALIDARG;
+    }
+    *name = nullptr;
+    if (!m_window && !m_fileName) {
+        return E_FAIL;
+    }
+    return copyToTaskMemory(m_window ? m_window->typedName() : *m_fileName, name);
+}
+
+HRESULT FileDialogCore::setTitle(LPCWSTR title)
+{
+    m_settings.title = toQString(title);
+    applyTexts();
+    return S_OK;
+}
+
+HRESULT FileDialogCore::setOkButtonLabel(LPCWSTR label)
+{
+    m_settings.acceptLabel = toQString(label);
+    applyTexts();
+    return S_OK;
+}
+
+HRESULT FileDialogCore::setFileNameLabel(LPCWSTR label)
+{
+    m_settings.fileNameLabel = toQString(label);
+    applyTexts();
+    return S_OK;
+}
+
+void FileDialogCore::applyTexts()
+{
+    if (m_window) {
+        m_window->setTexts(m_settings.title, m_settings.acceptLabel, m_settings.fileNameLabel);
+    }
+}
+
+HRESULT FileDialogCore::setDefaultExtension(LPCWSTR extension)
+{
+    m_settings.defaultSuffix = toQString(extension);
+    return S_OK;
+}
+
+HRESULT FileDialogCore::getResult(IShellItem** item) const
+{
+    if (!item) {
+        return E_INVALIDARG;
+    }
+    *item = m_results.size() == 1 ? makeShellItem(m_results.first()).detach() : nullptr;
+    return *item ? S_OK : m_results.isEmpty() ? E_UNEXPECTED : E_FAIL;
+}
+
+HRESULT FileDialogCore::getResults(IShellItemArray** items) const
+{
+    if (!items) {
+        return E_INVALIDARG;
+    }
+    *items = m_results.isEmpty() ? nullptr : makeShellItemArray(m_results).detach();
+    return *items ? S_OK : E_UNEXPECTED;
+}
+
+} // namespace morvane::ui

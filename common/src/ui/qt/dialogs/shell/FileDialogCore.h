@@ -1,0 +1,90 @@
+#pragma once
+
+#include "ui/qt/dialogs/shell/CustomControls.h"
+#include "ui/qt/dialogs/shell/EventSinks.h"
+#include "ui/qt/dialogs/shell/FileDialogWindow.h"
+
+#include <QPointer>
+
+#include <exception>
+#include <optional>
+
+namespace morvane::ui {
+
+/**
+ * What the open and the save dialog have in common: the state behind IFileDialog and the run of the window.
+ *
+ * An exception that leaves an event sink ends the run and leaves show(), so that it never crosses Qt's event loop.
+ */
+class FileDialogCore final : private FileDialogObserver
+{
+public:
+    /** @param dialog the object that this is a part of; not owned */
+    FileDialogCore(IFileDialog& dialog, bool saving, bool alwaysWidgets);
+    ~FileDialogCore() override;
+
+    CustomControls& controls() { return m_controls; }
+
+    HRESULT show(HWND owner);
+    HRESULT close(HRESULT result);
+
+    HRESULT setFileTypes(UINT count, const COMDLG_FILTERSPEC* types);
+    HRESULT setFileTypeIndex(UINT index);
+    HRESULT getFileTypeIndex(UINT* index) const;
+    HRESULT advise(IFileDialogEvents* sink, DWORD* cookie) { return m_sinks.advise(sink, cookie); }
+    HRESULT unadvise(DWORD cookie) { return m_sinks.unadvise(cookie); }
+    HRESULT setOptions(FILEOPENDIALOGOPTIONS options);
+    HRESULT getOptions(FILEOPENDIALOGOPTIONS* options) const;
+    HRESULT setDefaultFolder(IShellItem* folder);
+    HRESULT setFolder(IShellItem* folder);
+    HRESULT getFolder(IShellItem** folder) const;
+    HRESULT getCurrentSelection(IShellItem** item) const;
+    HRESULT getSelectedItems(IShellItemArray** items) const;
+    HRESULT setFileName(LPCWSTR name);
+    HRESULT getFileName(LPWSTR* name) const;
+    HRESULT setTitle(LPCWSTR title);
+    HRESULT setOkButtonLabel(LPCWSTR label);
+    HRESULT setFileNameLabel(LPCWSTR label);
+    HRESULT setDefaultExtension(LPCWSTR extension);
+    HRESULT getResult(IShellItem** item) const;
+    HRESULT getResults(IShellItemArray** items) const;
+
+private:
+    bool mayEnterFolder(const QString& folder) override;
+    void onFolderChanged(const QString& folder) override;
+    void onSelectionChanged() override;
+    void onTypeChanged(int index) override;
+    OverwriteAnswer mayOverwrite(const QString& path) override;
+    bool mayAccept(const QStringList& paths) override;
+
+    ControlActions controlActions();
+    FileDialogSettings settingsForRun() const;
+    QString folder() const;
+    bool typesSurviveInText() const;
+    void begin();
+    void run(QWidget* owner);
+    void announceOpening();
+    void end(HRESULT result);
+    HRESULT guarded(const std::function<HRESULT()>& call);
+    HRESULT tell(const std::function<HRESULT(IFileDialogEvents&)>& call);
+    void tellControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call);
+    void applyTexts();
+
+    IFileDialog& m_dialog;
+    const bool m_alwaysWidgets;
+    FILEOPENDIALOGOPTIONS m_options;
+    FileDialogSettings m_settings; // the flags that follow from the options are filled in for each run
+    std::optional<QString> m_fileName;
+    QString m_defaultFolder;
+    EventSinks m_sinks;
+    CustomControls m_controls;
+
+    QPointer<FileDialogWindow> m_window;
+    bool m_running = false;
+    bool m_ended = false;
+    HRESULT m_outcome = S_OK;
+    std::exception_ptr m_exception;
+    QStringList m_results;
+};
+
+} // namespace morvane::ui

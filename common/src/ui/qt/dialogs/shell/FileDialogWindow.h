@@ -1,0 +1,125 @@
+#pragma once
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QStringList>
+
+#include <vector>
+
+class QComboBox;
+class QFileSystemModel;
+class QLineEdit;
+
+namespace morvane::ui {
+
+/** One entry of the list of file types. */
+struct FileTypeEntry
+{
+    QString description;
+    QStringList patterns; ///< wildcards; empty shows every file
+};
+
+/** What a run of the dialog starts with. */
+struct FileDialogSettings
+{
+    bool saving = false;
+    bool picksFolders = false;
+    bool allowsSeveral = false;
+    bool fileMustExist = false;
+    bool pathMustExist = false;
+    bool asksBeforeOverwriting = false;
+    bool showsHidden = false;
+    bool usesWidgets = false; ///< never the desktop's own dialog
+    QString title;            ///< empty: Qt's own
+    QString acceptLabel;      ///< empty: Qt's own
+    QString fileNameLabel;    ///< empty: Qt's own
+    QString folder;           ///< of an existing directory
+    QString fileName;
+    QString defaultSuffix; ///< added to names without suffix; empty: none
+    std::vector<FileTypeEntry> types;
+    int typeIndex = 0;
+};
+
+/** What the window asks and tells while it runs. Any of the operations may end the run or destroy the window. */
+class FileDialogObserver
+{
+public:
+    enum class OverwriteAnswer
+    {
+        Ask,
+        Accept,
+        Refuse
+    };
+
+    virtual ~FileDialogObserver() = default;
+    virtual bool mayEnterFolder(const QString& folder) = 0;
+    virtual void onFolderChanged(const QString& folder) = 0;
+    virtual void onSelectionChanged() = 0;
+    virtual void onTypeChanged(int index) = 0;
+    virtual OverwriteAnswer mayOverwrite(const QString& path) = 0;
+    virtual bool mayAccept(const QStringList& paths) = 0;
+};
+
+/**
+ * The file dialog on the screen: QFileDialog with a list of types that goes by position, the checks of the Shell in
+ * place of Qt's, and an observer that takes part in each decision.
+ *
+ * Where the desktop's own dialog appears instead, typing and switching cannot be followed as closely: a refused folder
+ * or choice opens the dialog again.
+ */
+class FileDialogWindow : public QFileDialog
+{
+public:
+    FileDialogWindow(QWidget* owner, const FileDialogSettings& settings, FileDialogObserver& observer);
+    ~FileDialogWindow() override;
+
+    /** Returns when the user, or done(), has ended the dialog or it was destroyed. */
+    void run();
+
+    bool consistsOfWidgets() const { return m_nameEdit != nullptr; }
+    QString typedName() const;
+    void setTypedName(const QString& name);
+    void setTypeIndex(int index);
+    QString folder() const { return m_folder; }
+    /** Goes to @p folder as if the user had; the observer is told before this returns. */
+    void setFolder(const QString& folder);
+    /** The selected files, or else the one whose name is typed. */
+    QStringList selectedPaths() const;
+    void setTexts(const QString& title, const QString& acceptLabel, const QString& fileNameLabel);
+
+    void accept() override;
+    using QFileDialog::done;
+
+private:
+    void applySettings();
+    void setUpWidgets();
+    void setUpTypeCombo();
+    void setUpNativeTypes();
+    void watchWidgets();
+    void applyPatterns();
+    void updateAcceptButton();
+    void onTypePicked(int index);
+    void onNativeTypePicked(const QString& filter);
+    void deliverLater();
+    void deliver();
+    void deliverFolder();
+    QStringList chosenPaths() const;
+    bool enterFolderAmong(const QStringList& paths);
+    bool exist(const QStringList& paths);
+    bool mayReplace(const QString& path);
+    QMessageBox::StandardButton ask(
+        const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton);
+
+    FileDialogSettings m_settings;
+    FileDialogObserver& m_observer;
+    QLineEdit* m_nameEdit = nullptr;
+    QComboBox* m_typeCombo = nullptr;
+    QFileSystemModel* m_model = nullptr;
+    QString m_folder;
+    bool m_folderPending = false;
+    bool m_selectionPending = false;
+    bool m_deliveryPosted = false;
+    bool m_again = false; ///< the desktop's dialog has ended with a choice that was refused
+};
+
+} // namespace morvane::ui

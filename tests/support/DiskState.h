@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+namespace morvane::test {
+
+/** Everything below a directory at one moment: names, kinds, sizes, bytes, permissions, modification times, link
+ * targets. */
+class DiskState
+{
+public:
+    explicit DiskState(const QString& directory);
+
+    /** One line an entry, for comparing and for reading in a failure. */
+    const std::string& text() const { return m_text; }
+
+private:
+    std::string m_text;
+};
+
+} // namespace morvane::test

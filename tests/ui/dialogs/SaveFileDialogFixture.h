@@ -1,0 +1,72 @@
+#pragma once
+
+#include "support/FileDialogUser.h"
+#include "support/ModalScript.h"
+#include "ui/qt/dialogs/ExtendedFileDialog.h"
+#include "ui/qt/dialogs/SaveFileDialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+/** The save flow on the native dialog (true) and on the Qt dialog (false), in a directory of its own. */
+class SaveFlow : public testing::TestWithParam<bool>
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_directory.isValid());
+        ExtendedFileDialog::setUseNativeFileDialog(GetParam());
+        m_parent = new QWidget;
+        m_parent->show();
+    }
+    void TearDown() override
+    {
+        delete m_parent;
+        ExtendedFileDialog::setUseNativeFileDialog(true);
+    }
+
+    std::string directory() const { return m_directory.path().toStdString(); }
+    std::string path(const std::string& name) const { return directory() + "/" + name; }
+
+    void makeFile(const std::string& name, const QByteArray& content = "old content") const
+    {
+        QFile file(QString::fromStdString(path(name)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    QByteArray contentOf(const std::string& name) const
+    {
+        QFile file(QString::fromStdString(path(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    }
+    QStringList entries() const { return QDir(m_directory.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+
+    std::unique_ptr<SaveFileDialog> makeFlow(const std::string& filter = "Data files (*.dat)",
+        std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler = nullptr)
+    {
+        return std::make_unique<SaveFileDialog>(
+            m_parent.data(), "Save data", directory(), "", filter, "", std::move(handler));
+    }
+    std::unique_ptr<SaveFileDialog> makeFlow(const std::vector<std::string>& writers, int selected)
+    {
+        return std::make_unique<SaveFileDialog>(
+            m_parent.data(), "Save data", directory(), "report", writers, selected, "");
+    }
+
+    QTemporaryDir m_directory;
+    QPointer<QWidget> m_parent;
+};
+
+inline std::string saveFlowName(const testing::TestParamInfo<bool>& info)
+{
+    return info.param ? "native" : "qt";
+}

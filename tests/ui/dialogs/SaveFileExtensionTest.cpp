@@ -1,0 +1,104 @@
+#include "ui/qt/dialogs/SaveFileExtension.h"
+
+#include <gtest/gtest.h>
+
+#include <QRegExp>
+#include <QString>
+
+#include <boost/filesystem/path.hpp>
+
+#include <random>
+#include <regex>
+#include <string>
+
+namespace {
+
+// The rule in the words that define it.
+std::string applyByExpressions(const std::string& filename, const std::string& nameFilter)
+{
+    const std::size_t dot = nameFilter.rfind('.');
+    static const std::regex noise("[\\s\\(\\)\\*]");
+    const std::string extension =
+        std::regex_replace(dot == std::string::npos ? nameFilter : nameFilter.substr(dot), noise, "");
+    if (extension.empty()) {
+        return filename;
+    }
+    const QString name = QString::fromStdString(filename);
+    if (name.contains(QRegExp("\\.[^\\.]*$")) && !name.endsWith('.')) {
+        return filename;
+    }
+    boost::filesystem::path path(filename);
+    return path.replace_extension(extension).generic_string();
+}
+
+struct RuleCase
+{
+    const char* filename;
+    const char* nameFilter;
+    const char* expected;
+};
+
+class FilterExtension : public testing::TestWithParam<RuleCase>
+{
+};
+
+} // namespace
+
+TEST_P(FilterExtension, isAppliedToNamesWithoutOne)
+{
+    const RuleCase& c = GetParam();
+    EXPECT_EQ(applyFilterExtension(c.filename, c.nameFilter), c.expected);
+    EXPECT_EQ(applyByExpressions(c.filename, c.nameFilter), c.expected) << "the oracle disagrees with the table";
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, FilterExtension,
+    testing::Values(RuleCase{"/d/report", "Data files (*.dat)", "/d/report.dat"},
+        RuleCase{"/d/report.", "Data files (*.dat)", "/d/report.dat"},
+        RuleCase{"/d/report.txt", "Data files (*.dat)", "/d/report.txt"},
+        RuleCase{"/d/report.DAT", "Data files (*.dat)", "/d/report.DAT"},
+        RuleCase{"/d/report", "Data files (*.DAT)", "/d/report.DAT"},
+        RuleCase{"C:/release1.2/report", "Data files (*.dat)", "C:/release1.2/report"},
+        RuleCase{"/d/report..", "Data files (*.dat)", "/d/report..dat"},
+        RuleCase{"/d/.hidden", "Data files (*.dat)", "/d/.hidden"},
+        RuleCase{"/d/.hidden.", "Data files (*.dat)", "/d/.hidden.dat"},
+        RuleCase{"/d/archive", "Archives (*.tar.gz)", "/d/archive.gz"},
+        RuleCase{"/d/archive.tar", "Archives (*.tar.gz)", "/d/archive.tar"},
+        RuleCase{"/d/plan", "Layouts (*.plt *.lay)", "/d/plan.lay"},
+        RuleCase{"/d/report", "All files (*)", "/d/report.Allfiles"}, RuleCase{"/d/report", "*", "/d/report"},
+        RuleCase{"/d/report", "(* ) ( *)", "/d/report"}, RuleCase{"/d/report", "All (*.*)", "/d/report."},
+        RuleCase{"/d/report", "", "/d/report"}, RuleCase{"/d/report", "Everything", "/d/report.Everything"},
+        RuleCase{"/d/report", "Single (*.d?t)", "/d/report.d?t"},
+        RuleCase{"/d/report", "Set (*.[ch])", "/d/report.[ch]"}, RuleCase{"/d/report", "dat", "/d/report.dat"},
+        RuleCase{"/d/report", "v1.2 data", "/d/report.2data"}, RuleCase{"report", "Data (*.dat)", "report.dat"},
+        RuleCase{"", "Data (*.dat)", ".dat"}, RuleCase{"/d/", "Data (*.dat)", "/d/.dat"},
+        RuleCase{"/d\\e\\report", "Data (*.dat)", "/d\\e\\report.dat"},
+        RuleCase{"/d/\xE6\x97\xA5\xE6\x9C\xAC", "Data (*.\xC3\xA4)", "/d/\xE6\x97\xA5\xE6\x9C\xAC.\xC3\xA4"},
+        RuleCase{"/d/\xF0\x9F\x98\x80.", "D\t(*.d\ta\nt)", "/d/\xF0\x9F\x98\x80.dat"}));
+
+TEST(FilterExtensionRule, keepsNamesLongerThanADiskTakes)
+{
+    for (const std::size_t length : {250u, 255u, 300u}) {
+        const std::string name = "/d/" + std::string(length, 'n');
+        EXPECT_EQ(applyFilterExtension(name, "Data (*.dat)"), name + ".dat");
+    }
+}
+
+TEST(FilterExtensionRule, agreesWithTheExpressionsOnRandomTexts)
+{
+    std::mt19937 random(20260812);
+    const std::string pieces[] = {".", "a", "/", "dat", " ", "(", ")", "*", "\xC3\xA4", "\\", "\n", "\t", "..", "?"};
+    const auto text = [&](int longest) {
+        std::uniform_int_distribution<std::size_t> pick(0, std::size(pieces) - 1);
+        std::string result;
+        for (int i = std::uniform_int_distribution<int>(0, longest)(random); i > 0; --i) {
+            result += pieces[pick(random)];
+        }
+        return result;
+    };
+    for (int i = 0; i < 50000 && !testing::Test::HasFailure(); ++i) {
+        const std::string name = text(6);
+        const std::string filter = text(8);
+        EXPECT_EQ(applyFilterExtension(name, filter), applyByExpressions(name, filter))
+            << testing::PrintToString(name) << " with " << testing::PrintToString(filter);
+    }
+}
