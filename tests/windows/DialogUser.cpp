@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <utility>
 
+namespace morvane::test {
+
 namespace {
 
 constexpr int secondsToAppear = 30;
@@ -50,11 +52,11 @@ void use(const DialogUser::Script& script)
 
 } // namespace
 
-DialogUser::DialogUser(Script script)
-    : m_thread([script = std::move(script)] { use(script); })
-{}
+DialogUser::DialogUser(Script script) : m_thread([script = std::move(script)] { use(script); }) {}
 
 DialogUser::~DialogUser()
 {
     m_thread.join();
 }
+
+} // namespace morvane::test

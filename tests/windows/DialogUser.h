@@ -5,6 +5,8 @@
 #include <functional>
 #include <thread>
 
+namespace morvane::test {
+
 /**
  * Somebody who uses the next common item dialog of this process, from a thread of their own while the dialog runs on
  * the test's. When the script leaves the dialog open or none appears, the test fails, and the dialog is cancelled so
@@ -28,3 +30,5 @@ public:
 private:
     std::thread m_thread;
 };
+
+} // namespace morvane::test

@@ -1,7 +1,11 @@
 #include "windows/NativeDialog.h"
 
+#include <commctrl.h>
+
 #include <chrono>
 #include <thread>
+
+namespace morvane::test {
 
 namespace {
 
@@ -68,10 +72,19 @@ HWND findChild(HWND parent, int id)
     return search.found;
 }
 
+BOOL CALLBACK matchList(HWND window, LPARAM argument)
+{
+    if (!hasClass(window, WC_LISTVIEWW)) {
+        return TRUE;
+    }
+    *reinterpret_cast<HWND*>(argument) = window;
+    return FALSE;
+}
+
 BOOL CALLBACK matchFileDialog(HWND window, LPARAM argument)
 {
-    const bool matches = isOurs(window) && hasClass(window, dialogClass) && IsWindowVisible(window)
-        && findChild(window, NativeDialog::Name) != nullptr;
+    const bool matches = isOurs(window) && hasClass(window, dialogClass) && IsWindowVisible(window) &&
+                         findChild(window, NativeDialog::Name) != nullptr;
     if (!matches) {
         return TRUE;
     }
@@ -110,9 +123,7 @@ HWND NativeDialog::waitForWindow(int seconds)
     return window;
 }
 
-NativeDialog::NativeDialog(HWND window)
-    : m_window(window)
-{}
+NativeDialog::NativeDialog(HWND window) : m_window(window) {}
 
 HWND NativeDialog::window() const
 {
@@ -179,6 +190,13 @@ void NativeDialog::chooseType(int index) const
     const HWND combo = find(Types);
     send(combo, CB_SETCURSEL, static_cast<WPARAM>(index));
     send(GetParent(combo), WM_COMMAND, MAKEWPARAM(Types, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+}
+
+int NativeDialog::listedFiles() const
+{
+    HWND list = nullptr;
+    EnumChildWindows(m_window, matchList, reinterpret_cast<LPARAM>(&list));
+    return static_cast<int>(send(list, LVM_GETITEMCOUNT));
 }
 
 bool NativeDialog::exists(int control) const
@@ -257,3 +275,5 @@ HWND NativeDialog::question() const
     const HWND popup = GetLastActivePopup(m_window);
     return popup != m_window && popup && hasClass(popup, dialogClass) && IsWindowVisible(popup) ? popup : nullptr;
 }
+
+} // namespace morvane::test

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace morvane::test {
+
 /** Asks again and again until @p condition holds. False when it did not within @p seconds. */
 bool waitUntil(const std::function<bool()>& condition, int seconds = 10);
 
@@ -17,7 +19,14 @@ class NativeDialog
 {
 public:
     /** Ids of the controls that every such dialog has. */
-    enum Control { Accept = IDOK, Cancel = IDCANCEL, AcceptArrow = 1024, Types = 1136, Name = 1152 };
+    enum Control
+    {
+        Accept = IDOK,
+        Cancel = IDCANCEL,
+        AcceptArrow = 1024,
+        Types = 1136,
+        Name = 1152
+    };
 
     /** The id of the control that was added as the @p index th, counted from 0. */
     static int customControl(int index);
@@ -44,6 +53,9 @@ public:
     int typeIndex() const;
     void chooseType(int index) const;
 
+    /** How many files and folders the list shows; it is filled a moment after the dialog or a folder opens. */
+    int listedFiles() const;
+
     bool exists(int control) const;
     std::wstring text(int control) const;
     void press(int control) const;
@@ -66,3 +78,5 @@ private:
 
     HWND m_window;
 };
+
+} // namespace morvane::test
