@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QDialog>
 
+#include <utility>
+
 namespace morvane::test {
 
 ModalScript::ModalScript(int timeLimitMs)
@@ -25,14 +27,20 @@ ModalScript::~ModalScript()
 void ModalScript::poll()
 {
     QWidget* const modal = QApplication::activeModalWidget();
-    if (m_gaveUp || m_steps.empty() || !modal || !modal->isVisible()) {
+    if (m_gaveUp || m_steps.empty() || !modal || !modal->isVisible() || modal == m_current) {
         return;
     }
     // The step may open a modal loop of its own, in which the next step is due.
     const QPointer<ModalScript> self(this);
     Step step = std::move(m_steps.front());
     m_steps.pop_front();
-    if (!step(modal) && self) {
+    const QPointer<QWidget> outer = std::exchange(m_current, modal);
+    const bool done = step(modal);
+    if (!self) {
+        return;
+    }
+    m_current = outer;
+    if (!done) {
         m_steps.push_front(std::move(step));
     }
 }

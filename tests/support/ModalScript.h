@@ -56,6 +56,7 @@ private:
     void giveUp();
 
     std::deque<Step> m_steps;
+    QPointer<QWidget> m_current; // the window of the step that runs; it may wait, and the next step must not begin then
     QTimer m_poll;
     QTimer m_watchdog;
     bool m_gaveUp = false;

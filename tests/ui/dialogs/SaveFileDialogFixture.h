@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/FileDialogUser.h"
+#include "support/FileDialogPage.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
@@ -10,13 +10,38 @@
 
 #include <QDir>
 #include <QFile>
+#include <QMessageBox>
 #include <QPointer>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QWidget>
 
 #include <memory>
 #include <string>
 #include <vector>
+
+inline void pressAccept(QFileDialog& dialog)
+{
+    morvane::test::FileDialogPage(dialog).click(QDialogButtonBox::Save);
+}
+
+inline void pressCancel(QFileDialog& dialog)
+{
+    morvane::test::FileDialogPage(dialog).click(QDialogButtonBox::Cancel);
+}
+
+inline void acceptName(QFileDialog& dialog, const QString& name)
+{
+    const morvane::test::FileDialogPage page(dialog);
+    page.typeName(name);
+    page.click(QDialogButtonBox::Save);
+}
+
+/** The key goes to the button that has the focus, as for a person who looks at the box. */
+inline void pressKey(QMessageBox& box, Qt::Key key)
+{
+    QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box, key);
+}
 
 /** The save flow on the native dialog (true) and on the Qt dialog (false), in a directory of its own. */
 class SaveFlow : public testing::TestWithParam<bool>

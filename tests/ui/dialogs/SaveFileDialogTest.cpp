@@ -60,7 +60,7 @@ TEST_P(SaveFlow, asksBeforeReplacingAndShowsTheDialogAgainOnNo)
         pressKey(box, Qt::Key_Return); // No is the default
     });
     user.on<QFileDialog>([](QFileDialog& dialog) {
-        EXPECT_TRUE(typedName(dialog).startsWith("old")) << "the dialog is as the user left it";
+        EXPECT_TRUE(FileDialogPage(dialog).name().startsWith("old")) << "the dialog is as the user left it";
         acceptName(dialog, "new");
     });
     EXPECT_TRUE(flow->launch());
@@ -142,7 +142,7 @@ TEST_P(SaveFlow, tellsWhichWriterWasChosen)
     EXPECT_EQ(flow->selectedWriter(), 1) << "the one to start with";
     ModalScript user;
     user.on<QFileDialog>([](QFileDialog& dialog) {
-        pickType(dialog, 2);
+        FileDialogPage(dialog).pickTypeWithKeys(2);
         acceptName(dialog, "report");
     });
     EXPECT_TRUE(flow->launch());
@@ -156,7 +156,7 @@ TEST_P(SaveFlow, startsWithTheGivenNameAndWriter)
     const auto flow = makeFlow({"Text (*.txt)", "Table (*.csv)"}, 1);
     ModalScript user;
     user.on<QFileDialog>([](QFileDialog& dialog) {
-        EXPECT_TRUE(typedName(dialog).startsWith("report"));
+        EXPECT_TRUE(FileDialogPage(dialog).name().startsWith("report"));
         pressAccept(dialog);
     });
     EXPECT_TRUE(flow->launch());

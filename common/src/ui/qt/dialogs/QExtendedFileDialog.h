@@ -75,7 +75,7 @@ public:
     /** Whether saving over an existing file goes without Qt's question. */
     void setDontConfirmOverwrite(bool on);
 
-    /** Whether only directories are listed; effective in the file mode `Directory`. */
+    /** Whether only directories are listed; meant for the file mode `Directory`. */
     void setShowDirectoriesOnly(bool on);
 
 public Q_SLOTS:

@@ -1,0 +1,91 @@
+#include "CommandLine.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace gallery {
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("CommandLine", text);
+}
+
+// The toolkit reads these itself, later.
+void addToolkitOptions(QCommandLineParser& parser)
+{
+    for (const char* const name : {"platform", "platformpluginpath", "platformtheme", "plugin", "style", "stylesheet",
+             "display", "geometry", "qwindowgeometry", "qwindowicon", "qwindowtitle", "session"}) {
+        QCommandLineOption option(QString::fromLatin1(name), QString(), QStringLiteral("value"));
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(option);
+    }
+    QCommandLineOption reverse(QStringLiteral("reverse"));
+    reverse.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(reverse);
+}
+
+CommandLine refuse(const QString& reason)
+{
+    CommandLine result;
+    result.action = CommandLine::Action::PrintAndFail;
+    result.message =
+        QStringLiteral("morvane-gallery: %1\n").arg(reason) + translated("Try \"morvane-gallery --help\".\n");
+    return result;
+}
+
+CommandLine print(const QString& text)
+{
+    CommandLine result;
+    result.action = CommandLine::Action::PrintAndSucceed;
+    result.message = text;
+    return result;
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.setApplicationDescription(translated("Shows the dialogs and widgets of the Morvane library at work."));
+    // The parser's own help option promises another one for the toolkit's options.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, translated("Show this help."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, translated("Show the version."));
+    const QCommandLineOption page(
+        QStringLiteral("page"), translated("Start with the page <name>."), translated("name"));
+    const QCommandLineOption dark(QStringLiteral("dark"), translated("Use a dark palette."));
+    const QCommandLineOption tour(QStringLiteral("tour"),
+        translated("Play a user on every page, write one picture a step and a summary into <dir>, and exit with 0 only "
+                   "if every step ended as expected."),
+        translated("dir"));
+    parser.addOptions({help, version, page, dark, tour});
+    addToolkitOptions(parser);
+
+    if (!parser.parse(arguments)) {
+        return refuse(parser.errorText());
+    }
+    if (parser.isSet(help)) {
+        return print(parser.helpText());
+    }
+    if (parser.isSet(version)) {
+        return print(QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion() +
+                     QLatin1Char('\n'));
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        return refuse(translated("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst()));
+    }
+    if (parser.isSet(tour) && parser.value(tour).isEmpty()) {
+        return refuse(translated("--tour needs a directory"));
+    }
+
+    CommandLine result;
+    result.page = parser.value(page);
+    result.dark = parser.isSet(dark);
+    result.tour = parser.isSet(tour);
+    result.tourDirectory = parser.value(tour);
+    return result;
+}
+
+} // namespace gallery

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "host/HelpLauncher.h"
+
+#include <functional>
+
+namespace gallery {
+
+/** Shows the help pages that are installed with the gallery, and tells which topic was asked for. */
+class HelpPages : public morvane::HelpLauncher
+{
+public:
+    HelpPages();
+
+    void showHelp(const std::string& topic) override;
+
+    /** Called with each topic before its page opens. */
+    void setObserver(std::function<void(const std::string& topic)> observer);
+
+private:
+    std::function<void(const std::string&)> m_observer;
+};
+
+} // namespace gallery

@@ -1,0 +1,79 @@
+#include "tour/TourUser.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QTest>
+
+namespace gallery::tour {
+
+namespace {
+
+void bringIntoView(QWidget& widget)
+{
+    for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto* const area = qobject_cast<QScrollArea*>(parent)) {
+            area->ensureWidgetVisible(&widget, 0, 2 * widget.height());
+        }
+    }
+}
+
+} // namespace
+
+void click(QWidget& widget)
+{
+    bringIntoView(widget);
+    const bool marked = qobject_cast<QCheckBox*>(&widget) || qobject_cast<QRadioButton*>(&widget);
+    const QPoint middle = widget.rect().center();
+    QTest::mouseClick(
+        &widget, Qt::LeftButton, Qt::NoModifier, marked ? QPoint(widget.height() / 2, middle.y()) : middle);
+}
+
+void clickItem(QAbstractItemView& view, const QModelIndex& index, Qt::KeyboardModifiers modifiers)
+{
+    bringIntoView(view);
+    view.scrollTo(index);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.visualRect(index).center());
+}
+
+void clickAction(QMenuBar& bar, QAction& action)
+{
+    QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, bar.actionGeometry(&action).center());
+}
+
+void clickAction(QMenu& menu, QAction& action)
+{
+    QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, menu.actionGeometry(&action).center());
+}
+
+void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(&widget, key, modifiers);
+}
+
+void type(QLineEdit& field, const QString& text)
+{
+    click(field);
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty()) {
+        QTest::keyClick(&field, Qt::Key_Delete);
+    } else {
+        QTest::keyClicks(&field, text);
+    }
+}
+
+QString expect(bool asExpected, const QString& complaint)
+{
+    return asExpected ? QString() : complaint;
+}
+
+QString expect(bool asExpected, const char* complaint)
+{
+    return expect(asExpected, QString::fromLatin1(complaint));
+}
+
+} // namespace gallery::tour

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "host/ApplicationSettings.h"
+#include "host/InstanceOverride.h"
+#include "tour/TourFolder.h"
+
+#include <QObject>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <memory>
+
+namespace gallery {
+
+/**
+ * Where the tour leaves its traces, and where they vanish with this object: settings, files to choose from, and the
+ * addresses that would otherwise be opened in the user's browser.
+ */
+class TourWorkspace : public QObject
+{
+    Q_OBJECT
+
+public:
+    TourWorkspace();
+    ~TourWorkspace() override;
+
+    /** Whether the temporary directory and all its files could be made. */
+    bool isUsable() const { return m_usable; }
+    const TourFolder& folder() const { return m_folder; }
+    /** The file that a Help button opened last; empty when none did. */
+    QString openedPage() const { return m_openedPage; }
+
+public Q_SLOTS:
+    void openUrl(const QUrl& url);
+
+private:
+    QTemporaryDir m_directory;
+    TourFolder m_folder;
+    bool m_usable = false;
+    QString m_openedPage;
+    std::unique_ptr<morvane::ApplicationSettings> m_settings;
+    std::unique_ptr<morvane::InstanceOverride<morvane::ApplicationSettings>> m_override;
+};
+
+} // namespace gallery

@@ -1,0 +1,25 @@
+#include "support/OverrideCursors.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+
+#include <algorithm>
+
+namespace morvane::test {
+
+std::vector<Qt::CursorShape> overrideCursors()
+{
+    // Qt shows only the top of its stack, so it is taken down and built up again.
+    std::vector<Qt::CursorShape> shapes;
+    while (const QCursor* const top = QGuiApplication::overrideCursor()) {
+        shapes.push_back(top->shape());
+        QGuiApplication::restoreOverrideCursor();
+    }
+    std::reverse(shapes.begin(), shapes.end());
+    for (const Qt::CursorShape shape : shapes) {
+        QGuiApplication::setOverrideCursor(QCursor(shape));
+    }
+    return shapes;
+}
+
+} // namespace morvane::test

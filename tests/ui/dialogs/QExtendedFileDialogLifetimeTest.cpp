@@ -1,0 +1,138 @@
+#include "FileDialogTest.h"
+
+#include <QFile>
+#include <QPointer>
+
+using namespace morvane::test;
+
+namespace {
+
+using Cursors = std::vector<Qt::CursorShape>;
+
+class QExtendedFileDialogLifetime : public FileDialogTest
+{
+protected:
+    static constexpr int manyFiles = 10000;
+
+    static QString numbered(int number)
+    {
+        return QStringLiteral("many/run%1.%2").arg(number, 5, 10, QLatin1Char('0')).arg(number == 7777 ? "dat" : "txt");
+    }
+
+    void makeManyFiles() const
+    {
+        makeFolder(QStringLiteral("many"));
+        for (int number = 0; number < manyFiles; ++number) {
+            makeFile(numbered(number));
+        }
+    }
+};
+
+} // namespace
+
+TEST_F(QExtendedFileDialogLifetime, parentDestroyedWhileItRuns)
+{
+    const QPointer<QExtendedFileDialog> dialog = openDialog().release();
+
+    const int result = run(*dialog, [&](FileDialogPage&) { m_parent.reset(); });
+
+    EXPECT_EQ(result, QDialog::Rejected);
+    EXPECT_FALSE(dialog);
+    EXPECT_TRUE(m_settings.written().empty());
+    EXPECT_EQ(overrideCursors(), Cursors());
+}
+
+TEST_F(QExtendedFileDialogLifetime, parentDestroyedInTheMiddleOfALoad)
+{
+    makeFolder(QStringLiteral("inner"));
+    const QPointer<QExtendedFileDialog> dialog = openDialog().release();
+
+    const int result = run(*dialog, [&](FileDialogPage& page) {
+        page.dialog().setDirectory(path(QStringLiteral("inner")));
+        EXPECT_EQ(overrideCursors().back(), Qt::WaitCursor);
+        m_parent.reset();
+        EXPECT_EQ(overrideCursors(), Cursors({Qt::ArrowCursor}));
+    });
+
+    EXPECT_EQ(result, QDialog::Rejected);
+    EXPECT_TRUE(m_settings.written().empty());
+    EXPECT_EQ(overrideCursors(), Cursors());
+}
+
+TEST_F(QExtendedFileDialogLifetime, dialogDestroyedWhileItRuns)
+{
+    QExtendedFileDialog* const dialog = openDialog().release();
+
+    EXPECT_EQ(run(*dialog, [&](FileDialogPage&) { delete dialog; }), QDialog::Rejected);
+
+    EXPECT_TRUE(m_settings.written().empty());
+    EXPECT_EQ(overrideCursors(), Cursors());
+}
+
+TEST_F(QExtendedFileDialogLifetime, dialogThatDeletesItselfOnCloseStillTellsItsResult)
+{
+    makeFile(QStringLiteral("a.dat"));
+    const QPointer<QExtendedFileDialog> dialog = openDialog().release();
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+
+    EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("a.dat")); }), QDialog::Accepted);
+
+    EXPECT_FALSE(dialog);
+    EXPECT_EQ(overrideCursors(), Cursors());
+}
+
+TEST_F(QExtendedFileDialogLifetime, shownDialogIsDestroyedWithItsParent)
+{
+    const QPointer<QExtendedFileDialog> dialog = openDialog().release();
+    dialog->show();
+
+    m_parent.reset();
+
+    EXPECT_FALSE(dialog);
+}
+
+TEST_F(QExtendedFileDialogLifetime, destroyedWhileAFolderOfTenThousandFilesIsRead)
+{
+    makeManyFiles();
+    Dialog dialog = openDialog();
+    dialog->show();
+    dialog->setDirectory(path(QStringLiteral("many")));
+    EXPECT_EQ(overrideCursors(), Cursors({Qt::WaitCursor}));
+
+    dialog.reset();
+
+    EXPECT_EQ(overrideCursors(), Cursors());
+}
+
+TEST_F(QExtendedFileDialogLifetime, tenThousandFilesAreListedFilteredAndPicked)
+{
+    makeManyFiles();
+    const Dialog dialog = openDialog("Text (*.txt);;All (*)");
+
+    const int result = run(*dialog, [&](FileDialogPage& page) {
+        page.dialog().setDirectory(path(QStringLiteral("many")));
+        EXPECT_EQ(overrideCursors().back(), Qt::WaitCursor);
+        EXPECT_TRUE(waitUntil([&] { return page.listed().size() == manyFiles - 1; }));
+        EXPECT_TRUE(waitUntil([&] { return overrideCursors() == Cursors({Qt::ArrowCursor}); }));
+        page.enterName(QStringLiteral("*.dat"));
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("run07777.dat")}));
+        page.pickTypeWithKeys(1);
+        EXPECT_TRUE(waitUntil([&] { return page.listed().size() == manyFiles; }));
+        page.clickFile(QStringLiteral("run07777.dat"));
+        page.click(QDialogButtonBox::Open);
+    });
+
+    EXPECT_EQ(result, QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("many/run07777.dat"))));
+}
+
+TEST_F(QExtendedFileDialogLifetime, runsAgainAndAgain)
+{
+    const Dialog dialog = openDialog("Text (*.txt);;All (*)");
+    for (int round = 0; round < 20; ++round) {
+        EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("*.dat")); }), 0);
+    }
+
+    EXPECT_EQ(m_settings.written().size(), 20U);
+    EXPECT_EQ(overrideCursors(), Cursors());
+}

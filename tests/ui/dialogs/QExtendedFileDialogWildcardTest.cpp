@@ -1,0 +1,242 @@
+#include "FileDialogTest.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSignalSpy>
+
+using namespace morvane::test;
+
+namespace {
+
+class QExtendedFileDialogWildcard : public FileDialogTest
+{
+protected:
+    QExtendedFileDialogWildcard()
+    {
+        makeFiles({QStringLiteral("a.txt"), QStringLiteral("b.dat"), QStringLiteral("c.dat"), QStringLiteral("d.csv")});
+    }
+
+    // The types that the dialog shows after the pattern was entered under the type of that row.
+    QStringList typesAfter(const std::string& filter, int row, const QString& pattern)
+    {
+        const Dialog dialog = openDialog(filter);
+        QStringList types;
+        run(*dialog, [&](FileDialogPage& page) {
+            page.pickTypeWithKeys(row);
+            page.enterName(pattern);
+            EXPECT_TRUE(page.isOpen());
+            EXPECT_EQ(page.types(), page.dialog().nameFilters());
+            types = page.types();
+        });
+        return types;
+    }
+};
+
+} // namespace
+
+TEST_F(QExtendedFileDialogWildcard, patternReplacesThatOfTheCurrentType)
+{
+    const Dialog dialog = openDialog("Text files (*.txt);;All (*)");
+
+    const int result = run(*dialog, [](FileDialogPage& page) {
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("a.txt")}));
+        page.enterName(QStringLiteral("*.dat"));
+
+        EXPECT_TRUE(page.isOpen());
+        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text files (*.dat)"), QStringLiteral("All (*)")}));
+        EXPECT_EQ(page.currentType(), QStringLiteral("Text files (*.dat)"));
+        EXPECT_EQ(page.dialog().selectedNameFilter(), QStringLiteral("Text files (*.dat)"));
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat")}));
+        page.click(QDialogButtonBox::Cancel);
+    });
+
+    EXPECT_EQ(result, QDialog::Rejected);
+}
+
+TEST_F(QExtendedFileDialogWildcard, typeKeepsItsPlaceInTheList)
+{
+    EXPECT_EQ(typesAfter("Text (*.txt);;All (*);;Data (*.dat)", 1, QStringLiteral("*.dat")),
+        QStringList({QStringLiteral("Text (*.txt)"), QStringLiteral("All (*.dat)"), QStringLiteral("Data (*.dat)")}));
+}
+
+TEST_F(QExtendedFileDialogWildcard, typeWithoutParenthesisGetsNoBlank)
+{
+    EXPECT_EQ(typesAfter("Everything;;All (*)", 0, QStringLiteral("*.dat")),
+        QStringList({QStringLiteral("Everything(*.dat)"), QStringLiteral("All (*)")}));
+}
+
+TEST_F(QExtendedFileDialogWildcard, descriptionEndsAtTheFirstParenthesis)
+{
+    EXPECT_EQ(typesAfter("Runs (old) (*.txt);;All (*)", 0, QStringLiteral("*.dat")),
+        QStringList({QStringLiteral("Runs (*.dat)"), QStringLiteral("All (*)")}));
+}
+
+TEST_F(QExtendedFileDialogWildcard, onlyTheFirstOfEqualTypesIsReplaced)
+{
+    const QStringList expected = {
+        QStringLiteral("Text (*.dat)"), QStringLiteral("Text (*.txt)"), QStringLiteral("All (*)")};
+
+    EXPECT_EQ(typesAfter("Text (*.txt);;Text (*.txt);;All (*)", 0, QStringLiteral("*.dat")), expected);
+    EXPECT_EQ(typesAfter("Text (*.txt);;Text (*.txt);;All (*)", 1, QStringLiteral("*.dat")), expected);
+}
+
+TEST_F(QExtendedFileDialogWildcard, allFilesStandInForAnEmptyFilter)
+{
+    EXPECT_EQ(typesAfter("", 0, QStringLiteral("*.dat")), QStringList({QStringLiteral("All Files (*.dat)")}));
+}
+
+TEST_F(QExtendedFileDialogWildcard, viewShowsOnlyWhatThePatternMatches)
+{
+    makeFolder(QStringLiteral("folder"));
+    const struct
+    {
+        QString pattern;
+        QStringList listed;
+    } rows[] = {
+        {QStringLiteral("*.dat"), {QStringLiteral("b.dat"), QStringLiteral("c.dat"), QStringLiteral("folder")}},
+        {QStringLiteral("*.none"), {QStringLiteral("folder")}},
+        {QStringLiteral("c*"), {QStringLiteral("c.dat"), QStringLiteral("folder")}},
+        {QStringLiteral("*.d* *.csv"),
+            {QStringLiteral("b.dat"), QStringLiteral("c.dat"), QStringLiteral("d.csv"), QStringLiteral("folder")}},
+        {QStringLiteral("*.txt  *.csv"), {QStringLiteral("a.txt"), QStringLiteral("d.csv"), QStringLiteral("folder")}},
+        {QStringLiteral("a.txt *.none"), {QStringLiteral("a.txt"), QStringLiteral("folder")}},
+        {QStringLiteral("*"), {QStringLiteral("a.txt"), QStringLiteral("b.dat"), QStringLiteral("c.dat"),
+                                  QStringLiteral("d.csv"), QStringLiteral("folder")}},
+    };
+    const Dialog dialog = openDialog("All (*)");
+    run(*dialog, [&](FileDialogPage& page) {
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.pattern.toStdString());
+            page.enterName(row.pattern);
+            EXPECT_TRUE(page.waitForListed(row.listed));
+        }
+    });
+}
+
+TEST_F(QExtendedFileDialogWildcard, blanksInThePatternDoNotLoseTheType)
+{
+    const Dialog dialog = openDialog("Text (*.txt);;All (*)");
+
+    run(*dialog, [](FileDialogPage& page) {
+        page.pickTypeWithKeys(1);
+        page.enterName(QStringLiteral(" *.dat   *.csv "));
+
+        EXPECT_EQ(page.currentType(), page.types().at(1));
+        EXPECT_TRUE(page.currentType().startsWith(QStringLiteral("All (")));
+        EXPECT_TRUE(page.currentType().contains(QStringLiteral("*.dat *.csv")));
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat"), QStringLiteral("d.csv")}));
+    });
+}
+
+TEST_F(QExtendedFileDialogWildcard, secondPatternReplacesTheFirst)
+{
+    const Dialog dialog = openDialog("Text (*.txt);;All (*)");
+
+    run(*dialog, [](FileDialogPage& page) {
+        page.enterName(QStringLiteral("*.dat"));
+        page.enterName(QStringLiteral("*.csv"));
+
+        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.csv)"), QStringLiteral("All (*)")}));
+        EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.csv)"));
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("d.csv")}));
+    });
+}
+
+TEST_F(QExtendedFileDialogWildcard, samePatternAgainChangesNothing)
+{
+    const Dialog dialog = openDialog("Text (*.txt);;All (*)");
+
+    run(*dialog, [](FileDialogPage& page) {
+        page.enterName(QStringLiteral("*.dat"));
+        page.pressEnter();
+
+        EXPECT_TRUE(page.isOpen());
+        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.dat)"), QStringLiteral("All (*)")}));
+        EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.dat)"));
+    });
+}
+
+TEST_F(QExtendedFileDialogWildcard, typeBoxTellsNothingWhileItIsChanged)
+{
+    const Dialog dialog = openDialog("Text (*.txt);;All (*)");
+
+    run(*dialog, [](FileDialogPage& page) {
+        const QSignalSpy current(&page.typeCombo(), SIGNAL(currentIndexChanged(int)));
+        page.enterName(QStringLiteral("*.dat"));
+
+        EXPECT_TRUE(current.isEmpty());
+        EXPECT_FALSE(page.typeCombo().signalsBlocked());
+    });
+}
+
+TEST_F(QExtendedFileDialogWildcard, patternIsNoNameWithValidationOffEither)
+{
+    const Dialog dialog = openDialog("All (*)");
+    dialog->performSelectedFileValidation(false);
+
+    const int result = run(*dialog, [](FileDialogPage& page) {
+        page.enterName(QStringLiteral("*.dat"));
+        EXPECT_TRUE(page.isOpen());
+        EXPECT_EQ(page.currentType(), QStringLiteral("All (*.dat)"));
+    });
+
+    EXPECT_EQ(result, QDialog::Rejected);
+}
+
+TEST_F(QExtendedFileDialogWildcard, otherWildcardCharactersAreNames)
+{
+    makeFile(QStringLiteral("[b]?.dat"));
+    const Dialog dialog = openDialog("All (*)");
+
+    EXPECT_EQ(
+        run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("[b]?.dat")); }), QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("[b]?.dat"))));
+}
+
+TEST_F(QExtendedFileDialogWildcard, fileIsPickedFromTheFilteredView)
+{
+    const Dialog dialog = openDialog("Text (*.txt);;All (*)");
+
+    const int result = run(*dialog, [](FileDialogPage& page) {
+        page.enterName(QStringLiteral("*.dat"));
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat")}));
+        page.clickFile(QStringLiteral("c.dat"));
+        page.click(QDialogButtonBox::Open);
+    });
+
+    EXPECT_EQ(result, QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("c.dat"))));
+    EXPECT_EQ(dialog->selectedNameFilter(), QStringLiteral("Text (*.dat)"));
+}
+
+TEST_F(QExtendedFileDialogWildcard, saveModeFiltersTheViewToo)
+{
+    const Dialog dialog = saveDialog("Text (*.txt);;All (*)");
+
+    run(*dialog, [](FileDialogPage& page) {
+        page.enterName(QStringLiteral("*.dat"));
+        EXPECT_TRUE(page.isOpen());
+        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.dat)"), QStringLiteral("All (*)")}));
+        EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.dat)"));
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat")}));
+
+        page.typeName(QStringLiteral("*.csv"));
+        page.click(QDialogButtonBox::Save);
+        EXPECT_TRUE(page.isOpen());
+        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.csv)"), QStringLiteral("All (*)")}));
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("d.csv")}));
+    });
+}
+
+TEST_F(QExtendedFileDialogWildcard, saveModeEditsALaterTypeAsWell)
+{
+    const Dialog dialog = saveDialog("Text (*.txt);;All (*)");
+
+    run(*dialog, [](FileDialogPage& page) {
+        page.pickTypeWithKeys(1);
+        page.enterName(QStringLiteral("*.dat"));
+        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.txt)"), QStringLiteral("All (*.dat)")}));
+        EXPECT_EQ(page.currentType(), QStringLiteral("All (*.dat)"));
+        EXPECT_EQ(page.name(), QStringLiteral("*.dat"));
+    });
+}
