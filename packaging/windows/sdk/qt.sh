@@ -37,8 +37,10 @@ make_qt_widgets() { make_qt sub-widgets; }
 make_qt_test() { make_qt sub-testlib; }
 make_qt_plugins() { make_qt sub-plugins; }
 
+# Qt's CMake files ask for qmake, though nobody calls it.
 install_qt() {
     make_qt first
     make_qt install
     make -C "$work/qt-build" install_mkspecs
+    install -m 755 "$work/qt-build/bin/qmake" "$sdk/bin/qmake"
 }
