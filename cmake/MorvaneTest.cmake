@@ -21,3 +21,25 @@ function(morvane_add_test name)
         set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT QT_QPA_PLATFORM=windows)
     endif()
 endfunction()
+
+# morvane_header_test(TARGET LIBRARIES... HEADERS path...)
+# Compiles each header, its path relative to the include root, on its own: once as Morvane's own code is compiled, and
+# once with Qt's keywords (`signals`, `slots`, `emit`) on, as many hosts have them. Building TARGET is the test.
+function(morvane_header_test target)
+    cmake_parse_arguments(arg "" "" "HEADERS" ${ARGN})
+    set(sources)
+    foreach(header IN LISTS arg_HEADERS)
+        string(MAKE_C_IDENTIFIER ${header} name)
+        set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}/${name}.cpp)
+        set(keyword_source ${CMAKE_CURRENT_BINARY_DIR}/${target}/${name}_keywords.cpp)
+        file(CONFIGURE OUTPUT ${source} CONTENT "#include \"@header@\"\n#include \"@header@\"\n" @ONLY)
+        file(CONFIGURE OUTPUT ${keyword_source}
+            CONTENT "#undef QT_NO_KEYWORDS\n#include \"@header@\"\n#include <QObject>\n#ifndef emit\n#error No keywords\n#endif\n"
+            @ONLY)
+        list(APPEND sources ${source} ${keyword_source})
+    endforeach()
+    add_library(${target} OBJECT ${sources})
+    morvane_own_code(${target})
+    set_target_properties(${target} PROPERTIES AUTOMOC OFF)
+    target_link_libraries(${target} PRIVATE ${arg_UNPARSED_ARGUMENTS})
+endfunction()

@@ -29,13 +29,7 @@ bool waitUntil(const std::function<bool()>& condition)
     return QTest::qWaitFor(condition, timeLimitMs);
 }
 
-FileDialogPage::FileDialogPage(QFileDialog& dialog) : m_dialog(dialog)
-{
-    // Shown again after a message box, it is not made active by platforms without a window manager; keys would then be
-    // taken for shortcuts.
-    dialog.activateWindow();
-    EXPECT_TRUE(waitUntil([&] { return dialog.isActiveWindow(); }));
-}
+FileDialogPage::FileDialogPage(QFileDialog& dialog) : m_dialog(dialog) {}
 
 bool FileDialogPage::isOpen() const
 {
@@ -54,6 +48,11 @@ QString FileDialogPage::name() const
 
 void FileDialogPage::typeName(const QString& text) const
 {
+    // Shown again after a message box, the dialog is not made active by platforms without a window manager; Delete
+    // would then be taken for the dialog's shortcut.
+    if (m_dialog.isVisible() && !m_dialog.isActiveWindow()) {
+        QApplication::setActiveWindow(&m_dialog);
+    }
     nameEdit().setFocus();
     QTest::keyClick(&nameEdit(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&nameEdit(), Qt::Key_Delete);

@@ -9,11 +9,18 @@
 
 namespace morvane::test {
 
+namespace {
+
+constexpr int pollIntervalMs = 5;
+
+} // namespace
+
 ModalScript::ModalScript(int timeLimitMs)
 {
     connect(&m_poll, &QTimer::timeout, this, [this] { poll(); });
     connect(&m_watchdog, &QTimer::timeout, this, [this] { giveUp(); });
-    m_poll.start(5);
+    m_poll.setSingleShot(true);
+    m_poll.start(pollIntervalMs);
     m_watchdog.start(timeLimitMs);
 }
 
@@ -26,6 +33,8 @@ ModalScript::~ModalScript()
 
 void ModalScript::poll()
 {
+    // Armed again before the step, since a timer does not fire within its own slot, where a step may open another loop.
+    m_poll.start(pollIntervalMs);
     QWidget* const modal = QApplication::activeModalWidget();
     if (m_gaveUp || m_steps.empty() || !modal || !modal->isVisible() || modal == m_current) {
         return;

@@ -1,18 +1,28 @@
 #include "host/ApplicationSettings.h"
 
+#include "host/SettingsDocument.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QMessageLogger>
-#include <QSettings>
+#include <QSaveFile>
 #include <QStandardPaths>
+#include <QThread>
 
 #include <map>
+#include <utility>
 
 namespace morvane {
 
 namespace {
 
 ApplicationSettings* replacementInstance = nullptr;
+
+const qint64 largestFile = 256 * 1024 * 1024;
+const int longestWaitMs = 10000;
 
 enum class FileState
 {
@@ -22,34 +32,37 @@ enum class FileState
     Unreadable
 };
 
-bool isIniLine(const QByteArray& line)
+struct Snapshot
 {
-    const QByteArray text = line.trimmed();
-    return text.isEmpty() || text.startsWith(';') || (text.startsWith('[') && text.endsWith(']')) || text.contains('=');
-}
+    FileState state;
+    SettingsDocument document;
+};
 
-// QSettings parses lazily, reports damage once for each process and writes over it; so the file is looked at here
-// first.
-FileState inspect(const QString& fileName)
+// QSettings would not do: it reads a line that was cut off as a shorter value, and its process-wide cache hands out,
+// and writes later, values that could not be written.
+Snapshot readFile(const QString& fileName)
 {
     const QFileInfo info(fileName);
     if (!info.exists()) {
-        return info.isSymLink() ? FileState::Unreadable : FileState::Missing;
+        return {info.isSymLink() ? FileState::Unreadable : FileState::Missing, {}};
     }
     QFile file(fileName);
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
-        return FileState::Unreadable;
+    // Opening a pipe or a device would wait for its other end.
+    if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly)) {
+        return {FileState::Unreadable, {}};
     }
     const QByteArray content = file.readAll();
-    if (content.size() != file.size() || content.contains('\0')) {
-        return FileState::Damaged;
+    std::optional<SettingsDocument> document = SettingsDocument::parse(content);
+    if (content.size() != file.size() || !document) {
+        return {FileState::Damaged, {}};
     }
-    for (const QByteArray& line : content.split('\n')) {
-        if (!isIniLine(line)) {
-            return FileState::Damaged;
-        }
-    }
-    return FileState::Intact;
+    return {FileState::Intact, std::move(*document)};
+}
+
+bool writeFile(const QString& fileName, const QByteArray& content)
+{
+    QSaveFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
 }
 
 bool moveAside(const QString& fileName)
@@ -62,22 +75,17 @@ bool moveAside(const QString& fileName)
     return QFile::rename(fileName, target);
 }
 
-/** A key that QSettings leaves alone: no separators, no empty name, nothing that differs in case only. */
-QString storedKey(const std::string& key)
+// QLockFile's own waiting backs off to seconds, which starves a process among busy ones.
+bool acquire(QLockFile& lock)
 {
-    static const char digits[] = "0123456789abcdef";
-    QString encoded = QStringLiteral("values/_");
-    for (const char c : key) {
-        if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '.') {
-            encoded += QLatin1Char(c);
-        } else {
-            const auto byte = static_cast<unsigned char>(c);
-            encoded += QLatin1Char('_');
-            encoded += QLatin1Char(digits[byte >> 4]);
-            encoded += QLatin1Char(digits[byte & 15]);
+    const QDeadlineTimer deadline(longestWaitMs);
+    while (!lock.tryLock(0)) {
+        if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired()) {
+            return false;
         }
+        QThread::msleep(2);
     }
-    return encoded;
+    return true;
 }
 
 } // namespace
@@ -94,30 +102,37 @@ struct ApplicationSettings::Impl
         }
     }
 
-    bool makeWritable()
+    bool holds(const std::string& key, const QByteArray& value) const
     {
-        switch (inspect(fileName)) {
-        case FileState::Missing:
-        case FileState::Intact:
-            return true;
-        case FileState::Damaged:
-            warnOnce("The settings file is damaged");
-            return moveAside(fileName);
-        case FileState::Unreadable:
-            break;
-        }
-        return false;
+        const Snapshot snapshot = readFile(fileName);
+        return snapshot.state == FileState::Intact && snapshot.document.value(key) == value;
     }
 
-    bool write(const QString& key, const QByteArray& value)
+    bool write(const std::string& key, const QByteArray& value)
     {
-        if (!makeWritable()) {
+        // A dialog that opens stores the geometry that it has just restored; that need not wait for the disk.
+        if (holds(key, value)) {
+            return true;
+        }
+        // The file behind a link is locked and replaced, whichever of its names is used.
+        const QString canonical = QFileInfo(fileName).canonicalFilePath();
+        const QString target = canonical.isEmpty() ? fileName : canonical;
+        QLockFile lock(target + QStringLiteral(".lock"));
+        if (!QDir().mkpath(QFileInfo(target).path()) || !acquire(lock)) {
             return false;
         }
-        QSettings file(fileName, QSettings::IniFormat);
-        file.setValue(key, value);
-        file.sync();
-        return file.status() == QSettings::NoError;
+        Snapshot snapshot = readFile(fileName);
+        if (snapshot.state == FileState::Unreadable) {
+            return false;
+        }
+        if (snapshot.state == FileState::Damaged) {
+            warnOnce("The settings file is damaged");
+            if (!moveAside(target)) {
+                return false;
+            }
+        }
+        snapshot.document.setValue(key, value);
+        return writeFile(target, snapshot.document.toByteArray());
     }
 
     const QString fileName;
@@ -159,26 +174,18 @@ QByteArray ApplicationSettings::getByteArrayValue(const std::string& key)
     if (unwritten != m_impl->unwritten.end()) {
         return unwritten->second;
     }
-    const FileState state = inspect(m_impl->fileName);
-    if (state == FileState::Missing) {
-        return QByteArray();
-    }
-    if (state != FileState::Intact) {
-        m_impl->warnOnce(
-            state == FileState::Damaged ? "The settings file is damaged" : "The settings file cannot be read");
-        return QByteArray();
-    }
-    const QVariant value = QSettings(m_impl->fileName, QSettings::IniFormat).value(storedKey(key));
-    if (value.isValid() && value.type() != QVariant::ByteArray) {
+    const Snapshot snapshot = readFile(m_impl->fileName);
+    if (snapshot.state == FileState::Damaged) {
         m_impl->warnOnce("The settings file is damaged");
-        return QByteArray();
+    } else if (snapshot.state == FileState::Unreadable) {
+        m_impl->warnOnce("The settings file cannot be read");
     }
-    return value.toByteArray();
+    return snapshot.document.value(key);
 }
 
 void ApplicationSettings::depositValue(const std::string& key, const QByteArray& value)
 {
-    if (m_impl->write(storedKey(key), value)) {
+    if (m_impl->write(key, value)) {
         m_impl->unwritten.erase(key);
         return;
     }

@@ -13,9 +13,9 @@ namespace morvane {
 /**
  * The host's store of small named values, such as the geometry of a dialog.
  *
- * This default implementation keeps them in one INI file through `QSettings`. Every write is on disk when
- * depositValue() returns, the file is replaced as a whole, and several processes may share it: none sees half a file,
- * and none loses what another stored under other keys.
+ * This default implementation keeps them in one INI file. Every write is on disk when depositValue() returns, the file
+ * is replaced as a whole, and several processes may share it: none sees half a file, and none loses what another stored
+ * under other keys.
  *
  * A host replaces the service for the whole process by a subclass and setInstance() (or InstanceOverride), or at link
  * time by a library of its own. GUI thread only.

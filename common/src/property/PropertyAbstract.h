@@ -22,7 +22,8 @@ namespace morvane {
  *
  * An observer may set the property again: the inner change is stored and announced before the outer announcement goes
  * on, and the observers that are still to be called for the outer one receive the outer value. Observers that need the
- * present value read value().
+ * present value read value(). An observer must not destroy the property: whoever calls setValue() holds a pointer to it
+ * until the call returns.
  *
  * GUI thread by convention; setValue() takes no lock.
  *

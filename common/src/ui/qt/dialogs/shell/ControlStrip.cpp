@@ -85,7 +85,7 @@ void ControlStrip::place(const Control& control, QAbstractButton& button)
     if (control.prominent && control.kind == Control::Kind::PushButton && button.parentWidget() == m_row &&
         m_buttonBox) {
         m_rowLayout->removeWidget(&button);
-        m_buttonBox->addButton(&button, QDialogButtonBox::ActionRole);
+        m_buttonBox->addButton(&button, QDialogButtonBox::HelpRole);
     } else if (!control.prominent && button.parentWidget() != m_row) {
         m_buttonBox->removeButton(&button);
         const int position = m_rowLayout->count();

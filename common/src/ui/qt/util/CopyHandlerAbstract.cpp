@@ -1,0 +1,27 @@
+#include "ui/qt/util/CopyHandlerAbstract.h"
+
+#include <QKeyEvent>
+
+namespace morvane::ui {
+
+CopyHandlerAbstract::CopyHandlerAbstract(QObject& watched) : QObject(&watched), m_watched(&watched)
+{
+    watched.installEventFilter(this);
+}
+
+CopyHandlerAbstract::~CopyHandlerAbstract()
+{
+    m_watched->removeEventFilter(this);
+}
+
+bool CopyHandlerAbstract::eventFilter(QObject* /*watched*/, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+        return false;
+    }
+    // Copying may delete this handler: nothing of it is used afterwards.
+    copyToClipboard();
+    return true;
+}
+
+} // namespace morvane::ui

@@ -1,0 +1,33 @@
+#include "ui/qt/util/DelayedWaitCursor.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace morvane::ui {
+
+namespace {
+
+constexpr qint64 patienceMs = 500;
+constexpr qint64 briskMs = 5;
+constexpr int longestStride = 256;
+
+} // namespace
+
+void DelayedWaitCursor::look()
+{
+    const qint64 nowMs = m_timer.elapsed();
+    if (m_cursor || nowMs >= patienceMs) {
+        if (!m_cursor) {
+            m_cursor.emplace(Qt::WaitCursor);
+        }
+        m_stepsToLook = std::numeric_limits<int>::max();
+        return;
+    }
+    // Reading the clock costs as much as a quick step, and slow steps must not make the cursor late.
+    const bool brisk = nowMs - m_lastLookMs < briskMs;
+    m_stride = brisk ? std::min(2 * m_stride, longestStride) : std::max(m_stride / 2, 1);
+    m_stepsToLook = m_stride;
+    m_lastLookMs = nowMs;
+}
+
+} // namespace morvane::ui

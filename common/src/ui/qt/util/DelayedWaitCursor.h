@@ -1,0 +1,40 @@
+#pragma once
+
+#include "ui/qt/util/OverrideCursor.h"
+
+#include <QElapsedTimer>
+
+#include <optional>
+
+namespace morvane::ui {
+
+/**
+ * Shows the wait cursor from the moment that the work has taken half a second until the object is destroyed.
+ *
+ * The work calls step() often; nothing happens between two calls. A call costs next to nothing.
+ */
+class DelayedWaitCursor
+{
+public:
+    DelayedWaitCursor() { m_timer.start(); }
+    DelayedWaitCursor(const DelayedWaitCursor&) = delete;
+    DelayedWaitCursor& operator=(const DelayedWaitCursor&) = delete;
+
+    void step()
+    {
+        if (--m_stepsToLook == 0) {
+            look();
+        }
+    }
+
+private:
+    void look();
+
+    QElapsedTimer m_timer;
+    qint64 m_lastLookMs = 0;
+    int m_stride = 1;
+    int m_stepsToLook = 1;
+    std::optional<OverrideCursor> m_cursor;
+};
+
+} // namespace morvane::ui

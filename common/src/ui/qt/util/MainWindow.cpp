@@ -1,0 +1,34 @@
+#include "ui/qt/util/MainWindow.h"
+
+#include <QApplication>
+#include <QMainWindow>
+
+namespace morvane::ui {
+
+namespace {
+
+QMainWindow* cachedMainWindow = nullptr;
+
+void searchMainWindow()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget* const widget : widgets) {
+        auto* const mainWindow = dynamic_cast<QMainWindow*>(widget);
+        if (mainWindow && widget->isWindow()) {
+            cachedMainWindow = mainWindow;
+            return;
+        }
+    }
+}
+
+} // namespace
+
+QMainWindow* findMainWindow(bool forceSearch)
+{
+    if (!cachedMainWindow || forceSearch) {
+        searchMainWindow();
+    }
+    return cachedMainWindow;
+}
+
+} // namespace morvane::ui

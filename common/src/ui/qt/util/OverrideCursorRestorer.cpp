@@ -1,0 +1,23 @@
+#include "ui/qt/util/OverrideCursorRestorer.h"
+
+#include <QGuiApplication>
+
+namespace morvane::ui {
+
+OverrideCursorRestorer::OverrideCursorRestorer()
+{
+    if (const QCursor* const active = QGuiApplication::overrideCursor()) {
+        m_cursor = *active;
+        m_wasActive = true;
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+OverrideCursorRestorer::~OverrideCursorRestorer()
+{
+    if (m_wasActive) {
+        QGuiApplication::setOverrideCursor(m_cursor);
+    }
+}
+
+} // namespace morvane::ui

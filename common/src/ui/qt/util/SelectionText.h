@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QItemSelection>
+#include <QString>
+
+class QAbstractItemModel;
+
+namespace morvane::ui {
+
+/**
+ * The display texts of the cells in @p selection by row and column, joined by tabs within a row and by line feeds
+ * between rows. Parts of the selection that belong to another model than @p model are ignored.
+ *
+ * Costs time for the selected cells alone, however many ranges they come in, and memory for the ranges, the text and
+ * one row. Shows a wait cursor when it takes long.
+ */
+QString selectionText(const QItemSelection& selection, const QAbstractItemModel& model);
+
+} // namespace morvane::ui

@@ -1,0 +1,53 @@
+// Select cells and press Ctrl+C: the field below shows what a spreadsheet program would paste.
+
+#include "ui/qt/util/TableCopyHandler.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+
+    QStandardItemModel readings(0, 3);
+    readings.setHorizontalHeaderLabels({"Sensor", "Quantity", "Reading"});
+    const QStringList sensors[] = {
+        {"T1", "Temperature", "21.5"}, {"T2", "Temperature", "22.1"}, {"P1", "Pressure", "1013.2"}};
+    for (const QStringList& sensor : sensors) {
+        QList<QStandardItem*> row;
+        for (const QString& text : sensor) {
+            row.append(new QStandardItem(text));
+        }
+        readings.appendRow(row);
+    }
+
+    QWidget window;
+    auto* const table = new QTableView;
+    table->setModel(&readings);
+
+    // This one line gives the table the copy shortcut. The handler belongs to the table.
+    auto* const handler = new morvane::ui::TableCopyHandler(*table);
+
+    // Copying is a slot, so that buttons and menu actions can do it too.
+    auto* const button = new QPushButton("&Copy");
+    QObject::connect(button, &QPushButton::clicked, handler, &morvane::ui::TableCopyHandler::copyToClipboard);
+
+    auto* const copied = new QPlainTextEdit;
+    copied->setReadOnly(true);
+    QClipboard* const clipboard = QApplication::clipboard();
+    QObject::connect(clipboard, &QClipboard::dataChanged, copied, [=] { copied->setPlainText(clipboard->text()); });
+
+    auto* const layout = new QVBoxLayout(&window);
+    layout->addWidget(table);
+    layout->addWidget(button);
+    layout->addWidget(copied);
+    window.setWindowTitle("Copying a table");
+    window.resize(420, 400);
+    window.show();
+    return application.exec();
+}

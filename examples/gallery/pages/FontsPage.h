@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Page.h"
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+
+namespace gallery {
+
+/** Registers the font files of a folder and shows the fonts that came with them. */
+class FontsPage : public Page
+{
+    Q_OBJECT
+
+public:
+    FontsPage();
+
+    std::vector<TourStep> tourSteps(const TourWorkspace& workspace) override;
+
+private:
+    void registerFonts();
+    int previewNewFonts();
+
+    QLineEdit* m_folder;
+    QPushButton* m_register;
+    QLabel* m_result;
+    QListWidget* m_fonts;
+    int m_nextFont = 0; // Qt's number of the next application font
+};
+
+} // namespace gallery

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "ui/qt/dialogs/shell/ComPtr.h"
+#include "ui/qt/dialogs/shell/Shell.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace morvane::test {
+
+/** The user in front of one open dialog. */
+class ShellUser
+{
+public:
+    virtual ~ShellUser() = default;
+    virtual void pressAccept() = 0;
+    virtual void pressCancel() = 0;
+    virtual void typeName(const QString& name) = 0;
+    /** Picks from the list of types; counted from 1. */
+    virtual void pickType(unsigned position) = 0;
+    virtual void enterFolder(const QString& folder) = 0;
+    virtual void clickButton(DWORD control, const QString& label) = 0;
+    virtual void toggleCheck(DWORD control, const QString& label) = 0;
+    virtual void pickAcceptItem(DWORD control, DWORD item, const QString& label) = 0;
+    /** Presses accept and answers the question whether a file may be replaced. */
+    virtual void pressAcceptAndAnswer(bool replace) = 0;
+};
+
+/** One implementation of the Shell and the way to play its user; all that differs between them is here. */
+class ShellDriver
+{
+public:
+    virtual ~ShellDriver() = default;
+    virtual ui::Shell& shell() = 0;
+    /** Runs the dialog while @p play acts on it, once it is open. */
+    virtual HRESULT show(IFileDialog& dialog, const std::function<void(ShellUser&)>& play) = 0;
+    /** Objects and strings that are still alive, where that can be told; otherwise 0. */
+    virtual int leaks() const { return 0; }
+};
+
+using ShellDriverFactory = std::unique_ptr<ShellDriver> (*)();
+
+std::unique_ptr<ShellDriver> makeWidgetShellDriver();
+std::unique_ptr<ShellDriver> makeRecordingShellDriver();
+
+} // namespace morvane::test

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "fakes/RecordingShell.h"
+
+namespace morvane::test {
+
+/** The custom controls of a RecordingDialog; shares its identity and reference count. */
+class RecordingControls final : public IFileDialogCustomize
+{
+public:
+    RecordingControls(RecordingShell& shell, IFileDialog& dialog);
+    virtual ~RecordingControls();
+
+    /** Flips a check button; its new state. */
+    bool toggle(DWORD control);
+    void pick(DWORD control, DWORD item);
+    void forgetPick();
+    /** The state bits of a control or an item, without a trace in the record; -1 when it is not there. */
+    int state(DWORD control) const;
+    int itemState(DWORD control, DWORD item) const;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
+    ULONG STDMETHODCALLTYPE AddRef() override;
+    ULONG STDMETHODCALLTYPE Release() override;
+    HRESULT STDMETHODCALLTYPE EnableOpenDropDown(DWORD control) override;
+    HRESULT STDMETHODCALLTYPE AddMenu(DWORD control, LPCWSTR label) override;
+    HRESULT STDMETHODCALLTYPE AddPushButton(DWORD control, LPCWSTR label) override;
+    HRESULT STDMETHODCALLTYPE AddComboBox(DWORD control) override;
+    HRESULT STDMETHODCALLTYPE AddRadioButtonList(DWORD control) override;
+    HRESULT STDMETHODCALLTYPE AddCheckButton(DWORD control, LPCWSTR label, BOOL checked) override;
+    HRESULT STDMETHODCALLTYPE AddEditBox(DWORD control, LPCWSTR text) override;
+    HRESULT STDMETHODCALLTYPE AddSeparator(DWORD control) override;
+    HRESULT STDMETHODCALLTYPE AddText(DWORD control, LPCWSTR text) override;
+    HRESULT STDMETHODCALLTYPE SetControlLabel(DWORD control, LPCWSTR label) override;
+    HRESULT STDMETHODCALLTYPE GetControlState(DWORD control, CDCONTROLSTATEF* state) override;
+    HRESULT STDMETHODCALLTYPE SetControlState(DWORD control, CDCONTROLSTATEF state) override;
+    HRESULT STDMETHODCALLTYPE GetEditBoxText(DWORD control, WCHAR** text) override;
+    HRESULT STDMETHODCALLTYPE SetEditBoxText(DWORD control, LPCWSTR text) override;
+    HRESULT STDMETHODCALLTYPE GetCheckButtonState(DWORD control, BOOL* checked) override;
+    HRESULT STDMETHODCALLTYPE SetCheckButtonState(DWORD control, BOOL checked) override;
+    HRESULT STDMETHODCALLTYPE AddControlItem(DWORD control, DWORD item, LPCWSTR label) override;
+    HRESULT STDMETHODCALLTYPE RemoveControlItem(DWORD control, DWORD item) override;
+    HRESULT STDMETHODCALLTYPE RemoveAllControlItems(DWORD control) override;
+    HRESULT STDMETHODCALLTYPE GetControlItemState(DWORD control, DWORD item, CDCONTROLSTATEF* state) override;
+    HRESULT STDMETHODCALLTYPE SetControlItemState(DWORD control, DWORD item, CDCONTROLSTATEF state) override;
+    HRESULT STDMETHODCALLTYPE GetSelectedControlItem(DWORD control, DWORD* item) override;
+    HRESULT STDMETHODCALLTYPE SetSelectedControlItem(DWORD control, DWORD item) override;
+    HRESULT STDMETHODCALLTYPE StartVisualGroup(DWORD control, LPCWSTR label) override;
+    HRESULT STDMETHODCALLTYPE EndVisualGroup() override;
+    HRESULT STDMETHODCALLTYPE MakeProminent(DWORD control) override;
+    HRESULT STDMETHODCALLTYPE SetControlItemText(DWORD control, DWORD item, LPCWSTR label) override;
+
+private:
+    struct Recorded
+    {
+        CDCONTROLSTATEF state = CDCS_ENABLEDVISIBLE;
+        bool checkButton = false;
+        bool dropDown = false;
+        bool checked = false;
+        std::vector<std::pair<DWORD, CDCONTROLSTATEF>> items{};
+        std::optional<DWORD> picked{};
+    };
+
+    std::optional<HRESULT> record(const char* method, const std::string& arguments = std::string());
+    HRESULT add(DWORD id, const Recorded& control);
+    Recorded* find(DWORD id);
+    std::pair<DWORD, CDCONTROLSTATEF>* findItem(DWORD id, DWORD item);
+
+    RecordingShell& m_shell;
+    IFileDialog& m_dialog;
+    std::map<DWORD, Recorded> m_controls;
+};
+
+} // namespace morvane::test

@@ -1,0 +1,162 @@
+#include "fakes/RecordingItems.h"
+
+#include "ui/qt/dialogs/shell/ShellText.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace morvane::test {
+
+namespace {
+
+/** Counts references and live objects for an item or an array. */
+template <typename Interface>
+class RecordingObject : public Interface
+{
+public:
+    RecordingObject(RecordingShell& shell, const char* name) : m_shell(shell), m_name(name) { shell.objectMade(); }
+    virtual ~RecordingObject() { m_shell.objectGone(); }
+    RecordingObject(const RecordingObject&) = delete;
+    RecordingObject& operator=(const RecordingObject&) = delete;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
+    {
+        const auto failure = record("QueryInterface", nameOfIid(riid));
+        const bool known = riid == IID_IUnknown || riid == ui::iidOf<Interface>();
+        *object = known && !failure ? this : nullptr;
+        if (*object) {
+            AddRef();
+        }
+        return failure ? *failure : known ? S_OK : E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE Release() override
+    {
+        const ULONG left = --m_references;
+        if (left == 0) {
+            delete this;
+        }
+        return left;
+    }
+
+protected:
+    std::optional<HRESULT> record(const char* method, const std::string& arguments)
+    {
+        return m_shell.record(std::string(m_name) + "::" + method, arguments);
+    }
+
+    RecordingShell& m_shell;
+
+private:
+    const char* const m_name;
+    ULONG m_references = 1;
+};
+
+class RecordingItem final : public RecordingObject<IShellItem>
+{
+public:
+    RecordingItem(RecordingShell& shell, const QString& path) : RecordingObject(shell, "IShellItem"), m_path(path) {}
+
+    const QString& path() const { return m_path; }
+
+    HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetParent(IShellItem** parent) override
+    {
+        const auto failure = record("GetParent", "");
+        *parent = failure ? nullptr : makeRecordingItem(m_shell, QFileInfo(m_path).path()).detach();
+        return failure.value_or(S_OK);
+    }
+    HRESULT STDMETHODCALLTYPE GetDisplayName(SIGDN form, LPWSTR* name) override
+    {
+        const bool wholePath = form == SIGDN_FILESYSPATH || form == SIGDN_DESKTOPABSOLUTEPARSING;
+        const auto failure = record("GetDisplayName", wholePath ? "SIGDN_FILESYSPATH" : "other");
+        *name = nullptr;
+        const QString text = wholePath ? QDir::toNativeSeparators(m_path) : QFileInfo(m_path).fileName();
+        return failure ? *failure : m_shell.copyString(text, name);
+    }
+    HRESULT STDMETHODCALLTYPE GetAttributes(SFGAOF, SFGAOF*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Compare(IShellItem* other, SICHINTF, int* order) override
+    {
+        *order = QString::compare(m_path, pathOf(m_shell, other));
+        return *order == 0 ? S_OK : S_FALSE;
+    }
+
+private:
+    const QString m_path;
+};
+
+class RecordingArray final : public RecordingObject<IShellItemArray>
+{
+public:
+    RecordingArray(RecordingShell& shell, const QStringList& paths)
+        : RecordingObject(shell, "IShellItemArray"), m_paths(paths)
+    {
+    }
+
+    HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetPropertyStore(GETPROPERTYSTOREFLAGS, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetPropertyDescriptionList(REFPROPERTYKEY, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetAttributes(SIATTRIBFLAGS, SFGAOF, SFGAOF*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetCount(DWORD* count) override
+    {
+        const auto failure = record("GetCount", "");
+        if (!failure) {
+            *count = static_cast<DWORD>(m_paths.size());
+        }
+        return failure.value_or(S_OK);
+    }
+    HRESULT STDMETHODCALLTYPE GetItemAt(DWORD index, IShellItem** item) override
+    {
+        const auto failure = record("GetItemAt", std::to_string(index));
+        const bool inside = index < static_cast<DWORD>(m_paths.size());
+        *item = nullptr;
+        if (!failure && inside) {
+            *item = makeRecordingItem(m_shell, m_paths.at(static_cast<int>(index))).detach();
+        }
+        return failure ? *failure : inside ? S_OK : E_FAIL;
+    }
+    HRESULT STDMETHODCALLTYPE EnumItems(IEnumShellItems**) override { return E_NOTIMPL; }
+
+private:
+    const QStringList m_paths;
+};
+
+} // namespace
+
+ui::ComPtr<IShellItem> makeRecordingItem(RecordingShell& shell, const QString& path)
+{
+    return ui::ComPtr<IShellItem>(new RecordingItem(shell, path));
+}
+
+ui::ComPtr<IShellItemArray> makeRecordingArray(RecordingShell& shell, const QStringList& paths)
+{
+    return ui::ComPtr<IShellItemArray>(new RecordingArray(shell, paths));
+}
+
+QString pathOf(RecordingShell&, IShellItem* item)
+{
+    const auto* const recording = dynamic_cast<RecordingItem*>(item);
+    return recording ? recording->path() : QString();
+}
+
+std::string nameOfIid(REFIID iid)
+{
+    const std::pair<const IID*, const char*> names[] = {{&IID_IUnknown, "IUnknown"}, {&IID_IShellItem, "IShellItem"},
+        {&IID_IShellItemArray, "IShellItemArray"}, {&IID_IModalWindow, "IModalWindow"},
+        {&IID_IFileDialog, "IFileDialog"}, {&IID_IFileOpenDialog, "IFileOpenDialog"},
+        {&IID_IFileSaveDialog, "IFileSaveDialog"}, {&IID_IFileDialogCustomize, "IFileDialogCustomize"},
+        {&IID_IFileDialogEvents, "IFileDialogEvents"}, {&IID_IFileDialogControlEvents, "IFileDialogControlEvents"}};
+    for (const auto& [known, name] : names) {
+        if (*known == iid) {
+            return name;
+        }
+    }
+    return "unknown interface";
+}
+
+std::string quoted(LPCWSTR text)
+{
+    return text ? '"' + ui::toUtf8(text) + '"' : std::string("null");
+}
+
+} // namespace morvane::test

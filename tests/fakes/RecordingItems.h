@@ -1,0 +1,17 @@
+#pragma once
+
+#include "fakes/RecordingShell.h"
+
+namespace morvane::test {
+
+/** An item, or array of items, of a RecordingShell, with one reference. Paths are absolute, with Qt's separators. */
+ui::ComPtr<IShellItem> makeRecordingItem(RecordingShell& shell, const QString& path);
+ui::ComPtr<IShellItemArray> makeRecordingArray(RecordingShell& shell, const QStringList& paths);
+
+/** The path of an item of any Shell, read without leaving a trace in the record. */
+QString pathOf(RecordingShell& shell, IShellItem* item);
+
+std::string nameOfIid(REFIID iid);
+std::string quoted(LPCWSTR text);
+
+} // namespace morvane::test

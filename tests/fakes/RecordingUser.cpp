@@ -1,0 +1,132 @@
+#include "fakes/RecordingDialog.h"
+#include "fakes/RecordingItems.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace morvane::test {
+
+HRESULT RecordingDialog::fire(const std::function<HRESULT(IFileDialogEvents&)>& call)
+{
+    std::vector<DWORD> cookies;
+    for (const auto& entry : m_sinks) {
+        cookies.push_back(entry.first);
+    }
+    for (const DWORD cookie : cookies) {
+        const auto found = m_sinks.find(cookie);
+        if (found == m_sinks.end()) {
+            continue;
+        }
+        const auto sink = ui::ComPtr<IFileDialogEvents>::share(found->second.get());
+        const HRESULT result = call(*sink);
+        if (result != S_OK && result != E_NOTIMPL) {
+            return result;
+        }
+    }
+    return S_OK;
+}
+
+HRESULT RecordingDialog::fireControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call)
+{
+    return fire([&call](IFileDialogEvents& sink) {
+        ui::ComPtr<IFileDialogControlEvents> controls;
+        if (FAILED(sink.QueryInterface(IID_IFileDialogControlEvents, controls.putVoid()))) {
+            controls.detach();
+            return S_OK;
+        }
+        return call(*controls);
+    });
+}
+
+void RecordingDialog::userAccepts()
+{
+    const QStringList paths = chosenPaths();
+    if (m_outcome || paths.isEmpty()) {
+        return;
+    }
+    const bool mustExist = (m_options & FOS_FILEMUSTEXIST) != 0 && m_shell.script.results.isEmpty();
+    if (mustExist && !QFileInfo::exists(paths.first())) {
+        return;
+    }
+    if (m_saving && (m_options & FOS_OVERWRITEPROMPT) && QFileInfo::exists(paths.first()) &&
+        !mayReplace(paths.first())) {
+        return;
+    }
+    m_results = paths;
+    const HRESULT answer = fire([this](IFileDialogEvents& sink) { return sink.OnFileOk(this); });
+    if (answer != S_OK || m_outcome) {
+        m_results.clear();
+        return;
+    }
+    finish(S_OK);
+}
+
+bool RecordingDialog::mayReplace(const QString& path)
+{
+    const auto item = makeRecordingItem(m_shell, path);
+    FDE_OVERWRITE_RESPONSE response = FDEOR_DEFAULT;
+    fire([&](IFileDialogEvents& sink) {
+        const HRESULT result = sink.OnOverwrite(this, item.get(), &response);
+        response = result == S_OK ? response : FDEOR_DEFAULT;
+        return result == S_OK && response != FDEOR_DEFAULT ? S_FALSE : S_OK;
+    });
+    return response == FDEOR_ACCEPT || (response == FDEOR_DEFAULT && m_replaces);
+}
+
+void RecordingDialog::userCancels()
+{
+    finish(HRESULT_FROM_WIN32(ERROR_CANCELLED));
+}
+
+void RecordingDialog::userPicksType(UINT index)
+{
+    if (index != m_typeIndex) {
+        m_typeIndex = index;
+        fire([this](IFileDialogEvents& sink) { return sink.OnTypeChange(this); });
+    }
+}
+
+void RecordingDialog::userEntersFolder(const QString& folder)
+{
+    const auto item = makeRecordingItem(m_shell, folder);
+    if (fire([&](IFileDialogEvents& sink) { return sink.OnFolderChanging(this, item.get()); }) == S_OK) {
+        m_folder = folder;
+        fire([this](IFileDialogEvents& sink) { return sink.OnFolderChange(this); });
+    }
+}
+
+void RecordingDialog::userSelects(const QString& path)
+{
+    m_selected = path;
+    fire([this](IFileDialogEvents& sink) { return sink.OnSelectionChange(this); });
+}
+
+void RecordingDialog::userClicks(DWORD control)
+{
+    fireControls([&](IFileDialogControlEvents& sink) { return sink.OnButtonClicked(&m_controls, control); });
+}
+
+void RecordingDialog::userToggles(DWORD control)
+{
+    const BOOL checked = m_controls.toggle(control) ? TRUE : FALSE;
+    fireControls(
+        [&](IFileDialogControlEvents& sink) { return sink.OnCheckButtonToggled(&m_controls, control, checked); });
+}
+
+void RecordingDialog::userPicksItem(DWORD control, DWORD item)
+{
+    m_controls.pick(control, item);
+    fireControls([&](IFileDialogControlEvents& sink) { return sink.OnItemSelected(&m_controls, control, item); });
+    userAccepts();
+}
+
+QStringList RecordingDialog::chosenPaths() const
+{
+    if (!m_shell.script.results.isEmpty()) {
+        return m_shell.script.results;
+    }
+    const QString name = fileName();
+    return name.isEmpty() ? QStringList() : QStringList(QDir(folder()).absoluteFilePath(name));
+}
+
+} // namespace morvane::test

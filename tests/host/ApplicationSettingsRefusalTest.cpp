@@ -1,0 +1,202 @@
+// Files that cannot be read or written, in the ways that only exist on Unix.
+
+#include "host/SettingsFixture.h"
+#include "support/MessageLog.h"
+
+#include <QDir>
+#include <QProcess>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using morvane::ApplicationSettings;
+using morvane::test::MessageLog;
+
+namespace {
+
+class ApplicationSettingsRefusalTest : public morvane::test::SettingsFixture
+{
+protected:
+    /** Neither a value nor a place for one; what is stored stays in memory, after one warning. */
+    void expectRefused(const QString& file)
+    {
+        MessageLog log;
+        ApplicationSettings settings(file);
+        EXPECT_TRUE(settings.getByteArrayValue("key").isEmpty());
+        settings.depositValue("key", "value");
+        settings.depositValue("key", "newer");
+        settings.depositValue("other", "value");
+        EXPECT_EQ(settings.getByteArrayValue("key"), "newer");
+        EXPECT_EQ(settings.getByteArrayValue("other"), "value");
+        EXPECT_EQ(log.texts(QtWarningMsg).size(), 1);
+        EXPECT_EQ(log.entries().size(), 1U);
+        EXPECT_TRUE(ApplicationSettings(file).getByteArrayValue("key").isEmpty()) << "another object sees it";
+    }
+
+    static mode_t typeOf(const QString& name)
+    {
+        struct stat status = {};
+        return ::lstat(QFile::encodeName(name).constData(), &status) == 0 ? status.st_mode & S_IFMT : 0;
+    }
+
+    QByteArray native() const { return QFile::encodeName(m_file); }
+};
+
+int changeAttributes(const QString& change, const QString& file)
+{
+    return QProcess::execute(QStringLiteral("chattr"), {change, file});
+}
+
+/** Lets the file be removed again however the test ends. */
+class ImmutableFile
+{
+public:
+    explicit ImmutableFile(const QString& file) : m_file(file), m_set(changeAttributes(QStringLiteral("+i"), file) == 0)
+    {
+    }
+    ~ImmutableFile() { release(); }
+    ImmutableFile(const ImmutableFile&) = delete;
+    ImmutableFile& operator=(const ImmutableFile&) = delete;
+
+    bool isSet() const { return m_set; }
+    void release()
+    {
+        if (m_set) {
+            changeAttributes(QStringLiteral("-i"), m_file);
+            m_set = false;
+        }
+    }
+
+private:
+    QString m_file;
+    bool m_set;
+};
+
+} // namespace
+
+TEST_F(ApplicationSettingsRefusalTest, leavesADirectoryOfThatNameAlone)
+{
+    QDir(m_directory.path()).mkpath(m_file + QStringLiteral("/inner"));
+    expectRefused(m_file);
+    EXPECT_TRUE(QDir(m_file + QStringLiteral("/inner")).exists());
+}
+
+TEST_F(ApplicationSettingsRefusalTest, doesNotWaitForTheOtherEndOfAPipe)
+{
+    ASSERT_EQ(::mkfifo(native().constData(), 0600), 0);
+    expectRefused(m_file);
+    EXPECT_EQ(typeOf(m_file), static_cast<mode_t>(S_IFIFO));
+}
+
+TEST_F(ApplicationSettingsRefusalTest, leavesADanglingLinkAlone)
+{
+    ASSERT_EQ(::symlink("missing", native().constData()), 0);
+    expectRefused(m_file);
+    EXPECT_EQ(typeOf(m_file), static_cast<mode_t>(S_IFLNK));
+    EXPECT_FALSE(QFile::exists(m_directory.filePath(QStringLiteral("missing"))));
+}
+
+TEST_F(ApplicationSettingsRefusalTest, leavesALinkToItselfAlone)
+{
+    ASSERT_EQ(::symlink("settings.ini", native().constData()), 0);
+    expectRefused(m_file);
+    EXPECT_EQ(typeOf(m_file), static_cast<mode_t>(S_IFLNK));
+}
+
+TEST_F(ApplicationSettingsRefusalTest, refusesANameBelowAFile)
+{
+    write(m_file, "not a directory");
+    expectRefused(m_file + QStringLiteral("/settings.ini"));
+    EXPECT_EQ(read(m_file), "not a directory");
+}
+
+TEST_F(ApplicationSettingsRefusalTest, refusesFilesOfTheKernel)
+{
+    for (const char* const name : {"/proc/version", "/proc/morvane.ini", "/proc/self/mem", "/dev/null", "/dev/full"}) {
+        SCOPED_TRACE(name);
+        expectRefused(QString::fromLatin1(name));
+    }
+}
+
+TEST_F(ApplicationSettingsRefusalTest, refusesANameThatIsTooLong)
+{
+    expectRefused(m_directory.filePath(QString(300, QLatin1Char('x'))));
+}
+
+TEST_F(ApplicationSettingsRefusalTest, doesNotReadAHugeFile)
+{
+    QFile file(m_file);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(Q_INT64_C(20) << 30)); // takes no space on the disk
+    file.close();
+    expectRefused(m_file);
+    EXPECT_EQ(QFileInfo(m_file).size(), Q_INT64_C(20) << 30);
+}
+
+TEST_F(ApplicationSettingsRefusalTest, keepsALinkToTheFileInPlace)
+{
+    const QString real = m_directory.filePath(QStringLiteral("real.ini"));
+    ApplicationSettings(real).depositValue("old", "value");
+    ASSERT_EQ(::symlink("real.ini", native().constData()), 0);
+    ApplicationSettings settings(m_file);
+    settings.depositValue("new", "value");
+    EXPECT_EQ(settings.getByteArrayValue("old"), "value");
+    EXPECT_EQ(typeOf(m_file), static_cast<mode_t>(S_IFLNK));
+    EXPECT_EQ(ApplicationSettings(real).getByteArrayValue("new"), "value");
+}
+
+TEST_F(ApplicationSettingsRefusalTest, keepsInMemoryWhatAnImmutableFileDoesNotTake)
+{
+    ApplicationSettings(m_file).depositValue("key", "old");
+    const QByteArray before = read(m_file);
+    ImmutableFile immutable(m_file);
+    if (!immutable.isSet()) {
+        GTEST_SKIP() << "chattr +i does not work here (file system or privileges)";
+    }
+    MessageLog log;
+    ApplicationSettings settings(m_file);
+    EXPECT_EQ(settings.getByteArrayValue("key"), "old");
+    settings.depositValue("key", "new");
+    settings.depositValue("key", "newer");
+    EXPECT_EQ(settings.getByteArrayValue("key"), "newer");
+    EXPECT_EQ(onDisk("key"), "old") << "another object must see what the file holds";
+    EXPECT_EQ(log.texts(QtWarningMsg),
+        QStringList(QStringLiteral("Warning: The settings file cannot be written: ") + m_file));
+    EXPECT_EQ(read(m_file), before);
+
+    immutable.release();
+    ApplicationSettings(m_file).depositValue("other", "value");
+    EXPECT_EQ(onDisk("key"), "old") << "a value that was refused must not come up later";
+    settings.depositValue("key", "last");
+    EXPECT_EQ(onDisk("key"), "last");
+    EXPECT_EQ(settings.getByteArrayValue("key"), "last");
+}
+
+TEST_F(ApplicationSettingsRefusalTest, leavesADamagedFileThatCannotBeMovedAsItIs)
+{
+    write(m_file, "damaged");
+    const ImmutableFile immutable(m_file);
+    if (!immutable.isSet()) {
+        GTEST_SKIP() << "chattr +i does not work here (file system or privileges)";
+    }
+    expectRefused(m_file);
+    EXPECT_EQ(read(m_file), "damaged");
+}
+
+TEST_F(ApplicationSettingsRefusalTest, keepsInMemoryWhatAnotherUsersFileDoesNotTake)
+{
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only root can act as another user";
+    }
+    ApplicationSettings(m_file).depositValue("key", "old");
+    const QByteArray before = read(m_file);
+    ASSERT_EQ(::chmod(QFile::encodeName(m_directory.path()).constData(), 0755), 0);
+    ASSERT_EQ(::chmod(native().constData(), 0644), 0);
+    QProcess worker;
+    worker.start(QStringLiteral(SETTINGS_WORKER), {QStringLiteral("store-unprivileged"), m_file});
+    ASSERT_TRUE(worker.waitForFinished());
+    ASSERT_EQ(worker.exitCode(), 0) << worker.readAllStandardError().constData();
+    EXPECT_EQ(worker.readAllStandardOutput(), "newer old\n");
+    EXPECT_EQ(worker.readAllStandardError().count("Warning: The settings file cannot be written"), 1);
+    EXPECT_EQ(read(m_file), before);
+}

@@ -1,0 +1,150 @@
+#include "ui/qt/dialogs/shell/Shell.h"
+
+#include "ui/qt/dialogs/shell/ComPtr.h"
+#include "ui/qt/dialogs/shell/WidgetShell.h"
+
+#include <gtest/gtest.h>
+
+#include <type_traits>
+
+namespace {
+
+using morvane::ui::ComPtr;
+using morvane::ui::Shell;
+using morvane::ui::ShellOverride;
+using morvane::ui::WidgetShell;
+
+static_assert(
+    !std::is_copy_constructible_v<ComPtr<IUnknown>> && std::is_nothrow_move_constructible_v<ComPtr<IUnknown>>);
+
+class Counted final : public IUnknown
+{
+public:
+    virtual ~Counted() = default;
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
+    {
+        *object = riid == IID_IUnknown ? this : reinterpret_cast<Counted*>(0x10); // rubbish beside the failure
+        if (riid != IID_IUnknown) {
+            return E_NOINTERFACE;
+        }
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+    ULONG STDMETHODCALLTYPE Release() override { return --references; }
+
+    ULONG references = 1;
+};
+
+TEST(ShellInstance, isTheSameObjectEachTime)
+{
+    EXPECT_EQ(&Shell::instance(), &Shell::instance());
+}
+
+TEST(ShellInstance, isReplacedWhileAGuardLives)
+{
+    Shell& original = Shell::instance();
+    WidgetShell first;
+    {
+        const ShellOverride outer(first);
+        EXPECT_EQ(&Shell::instance(), &first);
+        WidgetShell second;
+        {
+            const ShellOverride inner(second);
+            EXPECT_EQ(&Shell::instance(), &second);
+        }
+        EXPECT_EQ(&Shell::instance(), &first);
+    }
+    EXPECT_EQ(&Shell::instance(), &original);
+}
+
+TEST(ComPointer, adoptsAndReleasesOneReference)
+{
+    Counted object;
+    {
+        const ComPtr<IUnknown> pointer(&object);
+        EXPECT_EQ(object.references, 1u);
+    }
+    EXPECT_EQ(object.references, 0u);
+}
+
+TEST(ComPointer, addsAReferenceOnlyWhenItShares)
+{
+    Counted object;
+    {
+        auto shared = ComPtr<IUnknown>::share(&object);
+        EXPECT_EQ(object.references, 2u);
+        const auto moved = std::move(shared);
+        EXPECT_EQ(object.references, 2u);
+        EXPECT_FALSE(shared); // NOLINT: what is left behind is the point
+    }
+    EXPECT_EQ(object.references, 1u);
+}
+
+TEST(ComPointer, putReleasesWhatWasHeld)
+{
+    Counted object;
+    ComPtr<IUnknown> pointer(&object);
+    EXPECT_EQ(*pointer.put(), nullptr);
+    EXPECT_EQ(object.references, 0u);
+}
+
+TEST(ComPointer, aFailedQueryGivesNothingWhateverItWrote)
+{
+    Counted object;
+    const ComPtr<IUnknown> pointer(&object);
+    EXPECT_FALSE(pointer.query<IShellItem>());
+    EXPECT_EQ(pointer.query<IUnknown>().get(), &object);
+    EXPECT_EQ(object.references, 1u);
+}
+
+TEST(ComPointer, anEmptyPointerAnswersNoQuery)
+{
+    EXPECT_FALSE(ComPtr<IUnknown>().query<IShellItem>());
+}
+
+struct TwoInterfaces final : IFileDialogEvents, IFileDialogControlEvents
+{
+    virtual ~TwoInterfaces() = default;
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOTIMPL; }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+    ULONG STDMETHODCALLTYPE Release() override { return --references; }
+    HRESULT STDMETHODCALLTYPE OnFileOk(IFileDialog*) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnFolderChanging(IFileDialog*, IShellItem*) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnFolderChange(IFileDialog*) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnSelectionChange(IFileDialog*) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnShareViolation(IFileDialog*, IShellItem*, FDE_SHAREVIOLATION_RESPONSE*) override
+    {
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE OnTypeChange(IFileDialog*) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnOverwrite(IFileDialog*, IShellItem*, FDE_OVERWRITE_RESPONSE*) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnItemSelected(IFileDialogCustomize*, DWORD, DWORD) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnButtonClicked(IFileDialogCustomize*, DWORD) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnCheckButtonToggled(IFileDialogCustomize*, DWORD, BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnControlActivating(IFileDialogCustomize*, DWORD) override { return S_OK; }
+
+    ULONG references = 1;
+};
+
+TEST(TableSearch, findsEachInterfaceAndAnswersForIUnknownWithTheFirst)
+{
+    TwoInterfaces object;
+    const QITAB table[] = {morvane::ui::interfaceRow<IFileDialogEvents, TwoInterfaces>(),
+        morvane::ui::interfaceRow<IFileDialogControlEvents, TwoInterfaces>(), {}};
+    const std::pair<const IID*, void*> expected[] = {{&IID_IFileDialogEvents, static_cast<IFileDialogEvents*>(&object)},
+        {&IID_IFileDialogControlEvents, static_cast<IFileDialogControlEvents*>(&object)},
+        {&IID_IUnknown, static_cast<IFileDialogEvents*>(&object)}};
+    WidgetShell shell;
+    for (const auto& [iid, address] : expected) {
+        void* found = nullptr;
+        EXPECT_EQ(shell.qiSearch(&object, table, *iid, &found), S_OK);
+        EXPECT_EQ(found, address);
+    }
+    EXPECT_EQ(object.references, 4u);
+    void* nothing = &object;
+    EXPECT_EQ(shell.qiSearch(&object, table, IID_IShellItem, &nothing), E_NOINTERFACE);
+    EXPECT_EQ(nothing, nullptr);
+}
+
+} // namespace

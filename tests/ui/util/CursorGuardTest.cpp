@@ -1,0 +1,130 @@
+#include "ui/qt/util/OverrideCursor.h"
+#include "ui/qt/util/OverrideCursorRestorer.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QPixmap>
+
+#include <optional>
+#include <type_traits>
+
+namespace {
+
+using morvane::ui::OverrideCursor;
+using morvane::ui::OverrideCursorRestorer;
+
+static_assert(!std::is_copy_constructible_v<OverrideCursor> && !std::is_copy_assignable_v<OverrideCursor>);
+static_assert(!std::is_copy_constructible_v<OverrideCursorRestorer>);
+static_assert(!std::is_copy_assignable_v<OverrideCursorRestorer>);
+static_assert(!std::is_convertible_v<Qt::CursorShape, OverrideCursor>);
+
+/** The shape of the active override cursor, -1 without one. */
+int activeShape()
+{
+    const QCursor* const cursor = QGuiApplication::overrideCursor();
+    return cursor ? cursor->shape() : -1;
+}
+
+TEST(OverrideCursorTest, showsItsShapeUntilItEnds)
+{
+    {
+        const OverrideCursor wait(Qt::WaitCursor);
+        EXPECT_EQ(activeShape(), Qt::WaitCursor);
+    }
+    EXPECT_EQ(activeShape(), -1);
+}
+
+TEST(OverrideCursorTest, nestedGuardsRestoreInTwoSteps)
+{
+    std::optional<OverrideCursor> outer(Qt::WaitCursor);
+    std::optional<OverrideCursor> inner(Qt::CrossCursor);
+    EXPECT_EQ(activeShape(), Qt::CrossCursor);
+    inner.reset();
+    EXPECT_EQ(activeShape(), Qt::WaitCursor);
+    outer.reset();
+    EXPECT_EQ(activeShape(), -1);
+}
+
+TEST(OverrideCursorTest, endsWithAnException)
+{
+    EXPECT_THROW(
+        {
+            const OverrideCursor wait(Qt::WaitCursor);
+            throw 1;
+        },
+        int);
+    EXPECT_EQ(activeShape(), -1);
+}
+
+TEST(OverrideCursorRestorerTest, showsTheNormalCursorUntilItEnds)
+{
+    const OverrideCursor wait(Qt::WaitCursor);
+    {
+        const OverrideCursorRestorer pointer;
+        EXPECT_EQ(activeShape(), -1);
+    }
+    EXPECT_EQ(activeShape(), Qt::WaitCursor);
+}
+
+TEST(OverrideCursorRestorerTest, takesOffOneCursorOnly)
+{
+    const OverrideCursor wait(Qt::WaitCursor);
+    {
+        const OverrideCursor cross(Qt::CrossCursor);
+        {
+            const OverrideCursorRestorer pointer;
+            EXPECT_EQ(activeShape(), Qt::WaitCursor);
+        }
+        EXPECT_EQ(activeShape(), Qt::CrossCursor);
+    }
+    EXPECT_EQ(activeShape(), Qt::WaitCursor);
+}
+
+TEST(OverrideCursorRestorerTest, nestedRestorersGoDownStepByStep)
+{
+    const OverrideCursor wait(Qt::WaitCursor);
+    const OverrideCursor cross(Qt::CrossCursor);
+    {
+        const OverrideCursorRestorer once;
+        const OverrideCursorRestorer twice;
+        EXPECT_EQ(activeShape(), -1);
+    }
+    EXPECT_EQ(activeShape(), Qt::CrossCursor);
+}
+
+TEST(OverrideCursorRestorerTest, bringsBackAPictureCursor)
+{
+    QPixmap picture(16, 16);
+    picture.fill(Qt::red);
+    const QCursor original(picture, 3, 5);
+    QGuiApplication::setOverrideCursor(original);
+    {
+        const OverrideCursorRestorer pointer;
+    }
+    ASSERT_EQ(activeShape(), Qt::BitmapCursor);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->hotSpot(), QPoint(3, 5));
+    QGuiApplication::restoreOverrideCursor();
+}
+
+TEST(OverrideCursorRestorerTest, withoutAnActiveCursorDoesNothing)
+{
+    {
+        const OverrideCursorRestorer pointer;
+        EXPECT_EQ(activeShape(), -1);
+    }
+    EXPECT_EQ(activeShape(), -1);
+}
+
+TEST(OverrideCursorRestorerTest, withoutAnActiveCursorLeavesOneThatCameLaterAlone)
+{
+    {
+        const OverrideCursorRestorer pointer;
+        QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    }
+    EXPECT_EQ(activeShape(), Qt::BusyCursor);
+    QGuiApplication::restoreOverrideCursor();
+    EXPECT_EQ(activeShape(), -1);
+}
+
+} // namespace

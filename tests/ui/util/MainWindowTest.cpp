@@ -1,0 +1,88 @@
+#include "ui/qt/util/MainWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QMainWindow>
+#include <QVBoxLayout>
+
+#include <memory>
+
+namespace {
+
+using morvane::ui::findMainWindow;
+
+TEST(FindMainWindowTest, withoutAMainWindowReturnsNull)
+{
+    if (findMainWindow(false)) {
+        GTEST_SKIP() << "an earlier test of this process has found one";
+    }
+    const QWidget plain;
+    const QDialog dialog;
+    EXPECT_EQ(findMainWindow(false), nullptr);
+    EXPECT_EQ(findMainWindow(true), nullptr);
+}
+
+TEST(FindMainWindowTest, looksOnUntilThereIsOne)
+{
+    if (findMainWindow(false)) {
+        GTEST_SKIP() << "an earlier test of this process has found one";
+    }
+    QMainWindow window;
+    EXPECT_EQ(findMainWindow(false), &window);
+}
+
+TEST(FindMainWindowTest, findsAHiddenMainWindowAmongOtherWidgets)
+{
+    const QWidget plain;
+    const QDialog dialog;
+    QMainWindow window;
+    EXPECT_EQ(findMainWindow(true), &window);
+}
+
+TEST(FindMainWindowTest, passesOverAMainWindowInsideAnother)
+{
+    QWidget frame;
+    auto* const inner = new QMainWindow(&frame);
+    inner->setWindowFlags(Qt::Widget);
+    ASSERT_FALSE(inner->isWindow());
+    QMainWindow window;
+    EXPECT_EQ(findMainWindow(true), &window);
+}
+
+TEST(FindMainWindowTest, takesTheFirstOfSeveralInTheOrderOfQt)
+{
+    QMainWindow windows[5];
+    QMainWindow* first = nullptr;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget* const widget : widgets) {
+        first = first ? first : qobject_cast<QMainWindow*>(widget);
+    }
+    EXPECT_EQ(findMainWindow(true), first);
+    EXPECT_TRUE(std::any_of(std::begin(windows), std::end(windows), [first](auto& w) { return &w == first; }));
+}
+
+TEST(FindMainWindowTest, remembersTheWindowEvenAfterItIsGone)
+{
+    auto window = std::make_unique<QMainWindow>();
+    const QMainWindow* const found = findMainWindow(true);
+    ASSERT_EQ(found, window.get());
+    QMainWindow second;
+    window.reset();
+    EXPECT_EQ(findMainWindow(false), found);
+    EXPECT_EQ(findMainWindow(true), &second);
+    EXPECT_EQ(findMainWindow(false), &second);
+}
+
+TEST(FindMainWindowTest, aSearchThatFindsNothingKeepsTheOldWindow)
+{
+    auto window = std::make_unique<QMainWindow>();
+    const QMainWindow* const found = findMainWindow(true);
+    ASSERT_EQ(found, window.get());
+    window.reset();
+    EXPECT_EQ(findMainWindow(true), found);
+    EXPECT_EQ(findMainWindow(false), found);
+}
+
+} // namespace
