@@ -103,16 +103,20 @@ TEST_F(NativeDialogResult, overwritingGoesWithoutQuestionWhenSwitchedOff)
 
 TEST_F(NativeDialogResult, folderThatTheUserEntersReachesTheDirectory)
 {
-    makeFolder(QStringLiteral(u"下 \U0001F4C1"));
+    const QString folder = QStringLiteral(u"下 \U0001F4C1");
+    makeFolder(folder);
+    makeFile(folder + QStringLiteral("/one.dat"));
+    makeFile(folder + QStringLiteral("/two.dat"));
     const auto dialog = makeDialog(QFileDialog::AcceptOpen);
     EXPECT_EQ(dialog->directory(), QDir(directory()));
-    run(*dialog, [&dialog](NativeDialog& shown) {
-        const QDir before = dialog->directory();
+    const auto result = run(*dialog, [](NativeDialog& shown) {
+        EXPECT_TRUE(waitUntil([&shown] { return shown.listedFiles() == 1; }));
         shown.accept(L"下 \U0001F4C1");
-        EXPECT_TRUE(waitUntil([&shown] { return shown.name().empty(); }));
+        EXPECT_TRUE(waitUntil([&shown] { return shown.listedFiles() == 2; }));
         shown.cancel();
     });
-    EXPECT_EQ(dialog->directory().path(), QDir(path(QStringLiteral(u"下 \U0001F4C1"))).path());
+    EXPECT_EQ(result, QDialog::Rejected);
+    EXPECT_EQ(dialog->directory().path(), QDir(path(folder)).path());
 }
 
 TEST_F(NativeDialogResult, secondRunKeepsTypeAndControls)

@@ -10,7 +10,7 @@ using NativeDialogSetup = NativeDialogTest;
 TEST_F(NativeDialogSetup, titleFolderAndFileNameArrive)
 {
     ExtendedWinFileDialog dialog(
-        m_window, u8"保存 \U0001F4BE", directory().toStdString(), "Any (*)", "", QFileDialog::AcceptSave, false);
+        m_window, u8"保存 \U0001F4BE", directory().toStdString(), "", "", QFileDialog::AcceptSave, false);
     dialog.selectFile(QStringLiteral("elsewhere/first name.dat"));
     const auto result = run(dialog, [](NativeDialog& shown) {
         EXPECT_EQ(shown.title(), L"保存 \U0001F4BE");

@@ -50,11 +50,11 @@ TEST_F(NativeDialogType, textOfTheLastParenthesesIsTheExtension)
 
 TEST_F(NativeDialogType, onlyTheLastExtensionIsReplaced)
 {
-    const auto dialog = makeDialog(QFileDialog::AcceptSave, "Archive (*.gz);;Release v1.dat (*)");
+    const auto dialog = makeDialog(QFileDialog::AcceptSave, "All (*);;Images (*.png *.jpg)");
     run(*dialog, [](NativeDialog& shown) {
         shown.setName(L"\U0001F4E6.tar.gz");
         shown.chooseType(1);
-        EXPECT_EQ(shown.name(), L"\U0001F4E6.tar");
+        EXPECT_EQ(shown.name(), L"\U0001F4E6.tar.png *.jpg");
         shown.cancel();
     });
 }
