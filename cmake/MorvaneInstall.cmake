@@ -7,6 +7,12 @@ install(TARGETS morvane-host morvane-property morvane-ui EXPORT MorvaneTargets
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
 install(EXPORT MorvaneTargets NAMESPACE Morvane:: DESTINATION ${package_dir} COMPONENT Development)
 
+get_property(uses_qxt GLOBAL PROPERTY MORVANE_USES_QXT)
+set(MORVANE_PACKAGE_NEEDS_QXT FALSE)
+if(uses_qxt)
+    set(MORVANE_PACKAGE_NEEDS_QXT TRUE)
+    install(FILES ${CMAKE_CURRENT_LIST_DIR}/FindQxt.cmake DESTINATION ${package_dir} COMPONENT Development)
+endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/MorvaneConfig.cmake.in
     ${PROJECT_BINARY_DIR}/MorvaneConfig.cmake INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/MorvaneConfigVersion.cmake COMPATIBILITY SameMajorVersion)

@@ -7,6 +7,9 @@ option(MORVANE_SANITIZE "Build with the address and undefined-behaviour sanitize
 option(MORVANE_INSTALL "Provide the install rules" ${PROJECT_IS_TOP_LEVEL})
 set(MORVANE_HOST_LIBRARY "" CACHE STRING
     "CMake target or library file that implements the host services in place of libmorvane-host")
+set(MORVANE_WITH_CTK AUTO CACHE STRING "ctkCompleter from CTK: AUTO (where found), ON (required) or OFF (the stand-in)")
+set(MORVANE_WITH_QXT AUTO CACHE STRING "QxtLabel from Qxt: AUTO (where found), ON (required) or OFF (the stand-in)")
+set_property(CACHE MORVANE_WITH_CTK MORVANE_WITH_QXT PROPERTY STRINGS AUTO ON OFF)
 
 include(GNUInstallDirs)
 

@@ -1,0 +1,282 @@
+// The filtering combo box and its completer beside Qt's own, and the elided label beside the label that it rests on.
+#include "support/Ratio.h"
+
+#include "ui/qt/controls/ComboBoxAutoFilter.h"
+#include "ui/qt/controls/ElidedTextLabel.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QStringListModel>
+
+#include <array>
+#include <random>
+
+namespace {
+
+/** Names as a measurement archive has them: place, quantity, run. Each is another one. */
+QStringList realisticNames(int count)
+{
+    static const std::array<const char*, 12> places = {"bearing", "shaft", "gearbox", "inlet", "outlet", "housing",
+        "spindle", "coolant", "exhaust", "stator", "rotor", "foundation"};
+    static const std::array<const char*, 8> quantities = {
+        "temperature", "pressure", "vibration", "speed", "torque", "humidity", "current", "displacement"};
+    std::mt19937 engine(5);
+    QStringList names;
+    names.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        names.append(QStringLiteral("%1-%2_%3_%4.dat")
+                         .arg(QLatin1String(places[engine() % places.size()]))
+                         .arg(engine() % 40)
+                         .arg(QLatin1String(quantities[engine() % quantities.size()]))
+                         .arg(i, 7, 10, QLatin1Char('0')));
+    }
+    return names;
+}
+
+QStringListModel& namesModel(int count)
+{
+    static QStringListModel small(realisticNames(100000));
+    if (count == 100000) {
+        return small;
+    }
+    static QStringListModel large(realisticNames(count));
+    return large;
+}
+
+void settle()
+{
+    QCoreApplication::processEvents();
+}
+
+/** A shown combo box with popup completion of what the entries contain. */
+template <typename Box>
+struct Field
+{
+    explicit Field(QStringListModel& model)
+    {
+        box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        setUp(box, model);
+        box.resize(300, 30);
+        box.show();
+        box.activateWindow();
+        box.setFocus();
+        settle();
+    }
+
+    static void setUp(morvane::ui::ComboBoxAutoFilter& own, QStringListModel& model)
+    {
+        own.setListModel(
+            &model, true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
+    }
+
+    static void setUp(QComboBox& stock, QStringListModel& model)
+    {
+        stock.setModel(&model);
+        stock.setEditable(true);
+        stock.setInsertPolicy(QComboBox::NoInsert);
+        auto* const completer = new QCompleter(&model, &stock);
+        completer->setFilterMode(Qt::MatchContains);
+        completer->setCaseSensitivity(Qt::CaseInsensitive);
+        completer->popup()->setTextElideMode(Qt::ElideRight);
+        stock.setCompleter(completer);
+    }
+
+    void key(int code, const QString& text)
+    {
+        QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, text);
+        QCoreApplication::sendEvent(box.lineEdit(), &press);
+        benchmark::DoNotOptimize(box.completer()->completionModel()->rowCount());
+    }
+
+    /** Back to an empty line, nothing offered, and nothing remembered of earlier prefixes. */
+    void forget()
+    {
+        box.completer()->popup()->hide();
+        box.lineEdit()->clear();
+        box.completer()->setCaseSensitivity(Qt::CaseSensitive);
+        box.completer()->setCaseSensitivity(Qt::CaseInsensitive);
+        box.completer()->setCompletionPrefix(QString());
+        settle();
+    }
+
+    Box box{nullptr};
+};
+
+template <typename Box>
+Field<Box>& field(int count)
+{
+    // Never deleted: they would outlive the application object.
+    static auto* const small = new Field<Box>(namesModel(100000));
+    if (count == 100000) {
+        return *small;
+    }
+    static auto* const large = new Field<Box>(namesModel(count));
+    return *large;
+}
+
+template <typename Box>
+void firstKey(benchmark::State& state, int count)
+{
+    Field<Box>& own = field<Box>(count);
+    for (auto _ : state) {
+        state.PauseTiming();
+        own.forget();
+        state.ResumeTiming();
+        own.key(Qt::Key_P, QStringLiteral("p"));
+    }
+    own.forget();
+}
+
+template <typename Box>
+void nextKey(benchmark::State& state)
+{
+    Field<Box>& own = field<Box>(100000);
+    for (auto _ : state) {
+        state.PauseTiming();
+        own.forget();
+        own.key(Qt::Key_P, QStringLiteral("p"));
+        state.ResumeTiming();
+        own.key(Qt::Key_R, QStringLiteral("r"));
+    }
+    own.forget();
+}
+
+/** The line is emptied by hand, and the whole list is asked for again. */
+template <typename Box>
+void clearing(benchmark::State& state)
+{
+    Field<Box>& own = field<Box>(100000);
+    for (auto _ : state) {
+        state.PauseTiming();
+        own.forget();
+        own.key(Qt::Key_P, QStringLiteral("p"));
+        state.ResumeTiming();
+        own.key(Qt::Key_Backspace, QString());
+        own.box.completer()->setCompletionPrefix(QString());
+        benchmark::DoNotOptimize(own.box.completer()->completionModel()->rowCount());
+    }
+    own.forget();
+}
+
+using Own = morvane::ui::ComboBoxAutoFilter;
+
+void comboFirstKey(benchmark::State& state)
+{
+    firstKey<Own>(state, 100000);
+}
+
+void stockFirstKey(benchmark::State& state)
+{
+    firstKey<QComboBox>(state, 100000);
+}
+
+void comboFirstKeyOfMillion(benchmark::State& state)
+{
+    firstKey<Own>(state, 1000000);
+}
+
+void stockFirstKeyOfMillion(benchmark::State& state)
+{
+    firstKey<QComboBox>(state, 1000000);
+}
+
+void comboNextKey(benchmark::State& state)
+{
+    nextKey<Own>(state);
+}
+
+void stockNextKey(benchmark::State& state)
+{
+    nextKey<QComboBox>(state);
+}
+
+void comboClear(benchmark::State& state)
+{
+    clearing<Own>(state);
+}
+
+void stockClear(benchmark::State& state)
+{
+    clearing<QComboBox>(state);
+}
+
+/** A combo box whose line holds the last of 100,000 entries. */
+Own& boxAtTheEnd()
+{
+    static Own* const box = [] {
+        auto* const made = new Own(nullptr);
+        made->setListModel(&namesModel(100000), true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight,
+            Qt::MatchContains);
+        made->setCurrentIndex(made->count() - 1);
+        return made;
+    }();
+    return *box;
+}
+
+void comboValidate(benchmark::State& state)
+{
+    Own& box = boxAtTheEnd();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(box.validateEntry());
+    }
+}
+
+void stockFindText(benchmark::State& state)
+{
+    const Own& box = boxAtTheEnd();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(box.findText(box.lineEdit()->text(), Qt::MatchContains));
+    }
+}
+
+/** Paints a label that has room for a part of a long path. */
+template <typename Label>
+void paint(benchmark::State& state)
+{
+    Label label;
+    label.setAlignment(Qt::AlignLeft);
+    label.setElideMode(Qt::ElideLeft);
+    label.setText(QStringLiteral("/srv/measurements/2024/campaign-17/bearing-12/pressure_0004711.dat"));
+    label.resize(label.sizeHint().width() / 2, label.sizeHint().height());
+    QPixmap target(label.size());
+    for (auto _ : state) {
+        label.render(&target);
+    }
+}
+
+void elidedLabelPaint(benchmark::State& state)
+{
+    paint<ElidedTextLabel>(state);
+}
+
+void plainLabelPaint(benchmark::State& state)
+{
+    paint<QxtLabel>(state);
+}
+
+MORVANE_BENCHMARK(comboFirstKey)->Iterations(1)->Repetitions(31);
+MORVANE_BENCHMARK(stockFirstKey)->Iterations(1)->Repetitions(31);
+MORVANE_BENCHMARK(comboNextKey)->Iterations(1)->Repetitions(31);
+MORVANE_BENCHMARK(stockNextKey)->Iterations(1)->Repetitions(31);
+MORVANE_BENCHMARK(comboClear)->Iterations(1)->Repetitions(31);
+MORVANE_BENCHMARK(stockClear)->Iterations(1)->Repetitions(31);
+MORVANE_BENCHMARK(comboFirstKeyOfMillion)->Iterations(1)->Repetitions(7);
+MORVANE_BENCHMARK(stockFirstKeyOfMillion)->Iterations(1)->Repetitions(7);
+MORVANE_BENCHMARK(comboValidate);
+MORVANE_BENCHMARK(stockFindText);
+MORVANE_BENCHMARK(elidedLabelPaint);
+MORVANE_BENCHMARK(plainLabelPaint);
+
+MORVANE_RATIO(completer_first_key, comboFirstKey, stockFirstKey, 1.1);
+MORVANE_RATIO(completer_next_key, comboNextKey, stockNextKey, 1.1);
+MORVANE_RATIO(completer_clear, comboClear, stockClear, 1.1);
+MORVANE_RATIO(completer_first_key_1m, comboFirstKeyOfMillion, stockFirstKeyOfMillion, 1.1);
+MORVANE_RATIO(combo_find, comboValidate, stockFindText, 1.0);
+MORVANE_RATIO(label_paint, elidedLabelPaint, plainLabelPaint, 1.3);
+
+} // namespace

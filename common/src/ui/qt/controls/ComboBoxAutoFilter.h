@@ -1,0 +1,146 @@
+#pragma once
+
+#include "ui/qt/MorvaneUiExport.h"
+
+#include <QComboBox>
+#include <QCompleter>
+
+class ctkCompleter;
+
+namespace morvane::ui {
+
+/**
+ * An editable combo box that narrows its entries to those that contain what is typed, and that finishes itself: when an
+ * entry is picked, or the editing is ended or cancelled with a key, it closes its own widget and announces the outcome.
+ * Good as an editor that lives for one edit, in a table cell for instance, and as a field of a form.
+ *
+ * | where                   | key                | outcome                                                           |
+ * |-------------------------|--------------------|-------------------------------------------------------------------|
+ * | line, completer's popup | Return, Enter, Tab | the first entry with the line's text: selectionComplete()         |
+ * | line, completer's popup | Escape             | the current entry stays: editingCanceled()                        |
+ * | line                    | Shift+Tab, or losing the focus otherwise | nothing: text and entry stay as they are    |
+ * | completer's popup       | Up, Down           | marks an entry and leaves the line alone                          |
+ * | popup list              | Up, Down           | the entry becomes current                                         |
+ * | popup list              | Return, Enter, an entry pressed and released | as Return in the line: selectionComplete()
+ * | | popup list              | Escape             | back to the entry before the edit: editingCanceled() |
+ *
+ * Each of these announces once. A slot on either signal may delete the combo box. In an item view the delegate sees Tab
+ * first; let its setModelData() call validateEntry().
+ *
+ * Set it up with setListModel(), or with setList() and then setCompleterAttributes(). Until then nothing is filtered,
+ * and there is no line to finish in.
+ *
+ * @code
+ * auto* const box = new morvane::ui::ComboBoxAutoFilter(&form);
+ * box->setList({"Bar", "Car", "Dog"});
+ * box->setCompleterAttributes(
+ *     true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
+ * QObject::connect(box, &morvane::ui::ComboBoxAutoFilter::selectionComplete, [box] { use(box->currentText()); });
+ * @endcode
+ *
+ * "The entry before the edit" is the current one when the list was first opened or an entry first activated in the life
+ * of the combo box, for all edits: make a new one for each edit where that matters.
+ *
+ * GUI thread only.
+ */
+class MORVANE_UI_EXPORT ComboBoxAutoFilter : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    /** @param parent owner; null for a window of its own that the caller deletes */
+    explicit ComboBoxAutoFilter(QWidget* parent);
+    ~ComboBoxAutoFilter() override;
+
+    /** Appends entries. Filtering is another step, setCompleterAttributes(). */
+    void setList(const QStringList& items);
+
+    /**
+     * Takes the entries from a model, as QComboBox::setModel() does, and sets the filtering up over it as
+     * setCompleterAttributes() does.
+     *
+     * @param model not null; stays the caller's and may be shared, unless the combo box is its parent
+     */
+    void setListModel(QAbstractItemModel* model, bool editable, QCompleter::CompletionMode mode, Qt::CaseSensitivity cs,
+        Qt::TextElideMode elide, Qt::MatchFlag match);
+
+    /**
+     * Sets the filtering up over the current model, with a new line, which takes over the current text, and a new
+     * completer. Can be called again.
+     *
+     * @param editable handed to setEditable(); the line comes either way, and so the combo box can be edited either way
+     * @param mode     how the completer offers the entries that fit
+     * @param cs       whether the completer heeds case; ending the editing never does
+     * @param elide    how the completer's popup shortens long entries; without effect where the mode has no popup
+     * @param match    without effect: the entries that fit are always those that contain the text
+     */
+    void setCompleterAttributes(bool editable, QCompleter::CompletionMode mode, Qt::CaseSensitivity cs,
+        Qt::TextElideMode elide, Qt::MatchFlag match);
+
+    /**
+     * Makes the first entry current that contains the line's text, whatever its case; of an empty text that is the
+     * first entry of all. So a picked "Car" gives way to a "Scar" above it.
+     *
+     * @return false, with everything left alone, when no entry contains the text or there is no line; true otherwise,
+     * and always, with everything left alone, once Escape has been pressed in the combo box
+     */
+    bool validateEntry();
+
+    /**
+     * Makes the first entry current whose text is exactly this one, with case. Then, found or not, selects as many
+     * characters at the start of the line as the text has.
+     */
+    void setSelectedText(const QString& text);
+
+    /** Makes the first entry current whose Qt::UserRole data equals the value; without one, nothing happens. */
+    void setFromValue(const QVariant& value);
+
+    /** Opens the popup list, at the first entry that contains the line's text when there is one. */
+    void showPopup() override;
+
+Q_SIGNALS:
+    /** An entry was picked or the editing ended, and the widget has closed itself. currentIndex() is the outcome. */
+    void selectionComplete();
+    /** The editing was cancelled, and the widget has closed itself. */
+    void editingCanceled();
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private Q_SLOTS:
+    void onItemClicked(const QModelIndex& index);
+    void onEditingFinished();
+    void onEditingCanceled();
+    void onCurrentIndexChanged(const QModelIndex& index);
+    void onItemActivated(int index);
+
+private:
+    enum class Announcement
+    {
+        AtOnce,
+        Held,
+        Due
+    };
+
+    void keyPressEvent(QKeyEvent* event) override;
+    void finishEditing();
+
+    void init(bool editable, QCompleter::CompletionMode mode, Qt::CaseSensitivity cs, Qt::TextElideMode elide,
+        Qt::MatchFlag match);
+    int findLineText() const;
+    void closeSelf();
+    bool filterListKey(QKeyEvent& event);
+    bool filterListRelease(QObject& viewport, QEvent& event);
+    bool filterCompleterKey(QObject& popup, QKeyEvent& event);
+    void moveCompleterMark(QObject& popup, QKeyEvent& event);
+
+    bool m_itemClicked = false;
+    bool m_escapePressed = false;
+    int m_indexBeforeEdit = -1;
+    ctkCompleter* m_completer = nullptr;
+    Announcement m_announcement = Announcement::AtOnce;
+    bool m_isResending = false;
+};
+
+} // namespace morvane::ui

@@ -1,0 +1,24 @@
+#include "ui/qt/controls/ElidedTextLabel.h"
+
+#include "ui/qt/controls/ElidedTextUtil.h"
+
+ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLabel(parent, flags)
+{
+    setAlignment(Qt::AlignLeft);
+    setElideMode(Qt::ElideLeft);
+    // The tool tip for the text before would look like one that the host has set.
+    connect(this, &QxtLabel::textChanged, this, [this, before = text()](const QString& now) mutable {
+        if (!before.isEmpty() && toolTip() == before) {
+            setToolTip(QString());
+        }
+        before = now;
+    });
+}
+
+ElidedTextLabel::~ElidedTextLabel() = default;
+
+void ElidedTextLabel::paintEvent(QPaintEvent* event)
+{
+    QxtLabel::paintEvent(event);
+    ElidedTextUtil().updateToolTip(this, contentsRect().width(), text(), text());
+}

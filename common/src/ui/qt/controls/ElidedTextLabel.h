@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ui/qt/MorvaneUiExport.h"
+
+#include <QxtLabel>
+
+/**
+ * A one-line label for texts whose end matters, such as paths: what does not fit is cut off at the start and stands in
+ * the tool tip, which is there only while the text is cut.
+ *
+ * The text starts at the leading edge. The tool tip follows text, size and font with the next paint. A tool tip that
+ * the host sets to another text stays whatever the width; an empty one gives the tool tip back to the label.
+ *
+ * Text and alignment are QxtLabel's: setText(), setAlignment(), setElideMode().
+ */
+class MORVANE_UI_EXPORT ElidedTextLabel : public QxtLabel
+{
+    Q_OBJECT
+
+public:
+    /** @param parent owner; null for a window of its own that the caller deletes */
+    explicit ElidedTextLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
+    ~ElidedTextLabel() override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};

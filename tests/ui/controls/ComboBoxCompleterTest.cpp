@@ -1,0 +1,177 @@
+#include "ComboBoxForm.h"
+
+using morvane::test::pressKey;
+using morvane::test::type;
+
+namespace {
+
+class ComboBoxCompleter : public morvane::test::ComboBoxForm
+{
+protected:
+    void typeInto(const QString& text)
+    {
+        box->lineEdit()->clear();
+        type(text);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return completerPopup()->isVisible(); }));
+    }
+
+    QStringList offered() const
+    {
+        QStringList result;
+        const QAbstractItemModel* const model = box->completer()->completionModel();
+        for (int row = 0; row < model->rowCount(); ++row) {
+            result.append(model->index(row, 0).data().toString());
+        }
+        return result;
+    }
+};
+
+} // namespace
+
+TEST_F(ComboBoxCompleter, typingNarrowsTheListToTheEntriesThatContainTheText)
+{
+    setUp({"Bar", "Car", "Dog"});
+    typeInto("ar");
+    EXPECT_EQ(offered(), QStringList({"Bar", "Car"}));
+    EXPECT_EQ(box->completer()->property("modelFiltering").toInt(), 1);
+    type("x");
+    EXPECT_EQ(offered(), QStringList());
+}
+
+TEST_F(ComboBoxCompleter, theListHeedsCaseWhereItIsToldTo)
+{
+    setUp({"Bar", "CAR", "Dog"}, Qt::CaseSensitive);
+    typeInto("ar");
+    EXPECT_EQ(offered(), QStringList({"Bar"}));
+}
+
+TEST_F(ComboBoxCompleter, endingTheEditingNeverHeedsCase)
+{
+    setUp({"Dog", "CAR", "car"}, Qt::CaseSensitive);
+    typeInto("car");
+    EXPECT_EQ(offered(), QStringList({"car"}));
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), 1);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxCompleter, typingMarksTheFirstEntryAndLeavesTheLineAlone)
+{
+    setUp({"Dog", "Bar", "Car"});
+    typeInto("ar");
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Bar");
+    EXPECT_TRUE(completerPopup()->selectionModel()->isSelected(completerPopup()->currentIndex()));
+    EXPECT_EQ(box->lineEdit()->text(), "ar");
+}
+
+TEST_F(ComboBoxCompleter, theCompletersCurrentRowIsMarkedWithTheNextKey)
+{
+    setUp({"Dog", "Bar", "Car"});
+    typeInto("ar");
+    box->completer()->setCurrentRow(1);
+    pressKey(Qt::Key_Shift);
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Car");
+    EXPECT_EQ(box->lineEdit()->text(), "ar");
+}
+
+TEST_F(ComboBoxCompleter, movingThroughTheListMarksEntriesAndLeavesTheLineAlone)
+{
+    setUp({"Dog", "Bar", "Car", "Scar"});
+    typeInto("ar");
+    pressKey(Qt::Key_Down);
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Car");
+    EXPECT_EQ(box->lineEdit()->text(), "ar");
+    pressKey(Qt::Key_Down);
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Scar");
+    pressKey(Qt::Key_Up);
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Car");
+    pressKey(Qt::Key_PageDown);
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Scar");
+    EXPECT_EQ(box->lineEdit()->text(), "ar");
+    expectOutcome(0, 0);
+}
+
+TEST_F(ComboBoxCompleter, returnTakesTheTextAndNotTheMark)
+{
+    setUp({"Dog", "Bar", "Car"});
+    QSignalSpy activated(box.data(), SIGNAL(activated(int)));
+    typeInto("ar");
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Bar");
+    EXPECT_FALSE(completerPopup()->isVisible());
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_LE(activated.count(), 1);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxCompleter, tabEndsTheEditingFromTheList)
+{
+    setUp({"Dog", "Bar", "Car"});
+    typeInto("ca");
+    pressKey(Qt::Key_Tab);
+    EXPECT_EQ(box->currentText(), "Car");
+    EXPECT_FALSE(completerPopup()->isVisible());
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxCompleter, escapeCancelsFromTheList)
+{
+    setUp({"Dog", "Bar", "Car"});
+    typeInto("ca");
+    pressKey(Qt::Key_Escape);
+    EXPECT_EQ(box->currentIndex(), 0);
+    EXPECT_FALSE(completerPopup()->isVisible());
+    EXPECT_FALSE(box->isVisible());
+    expectOutcome(0, 1);
+}
+
+TEST_F(ComboBoxCompleter, anEntryClickedInTheListIsWrittenAndTheEditingGoesOn)
+{
+    setUp({"Dog", "Bar", "Car"});
+    typeInto("ar");
+    const QModelIndex car = box->completer()->completionModel()->index(1, 0);
+    QTest::mouseClick(completerPopup()->viewport(), Qt::LeftButton, {}, completerPopup()->visualRect(car).center());
+    EXPECT_EQ(box->lineEdit()->text(), "Car");
+    EXPECT_EQ(box->currentIndex(), 2);
+    EXPECT_TRUE(box->isVisible());
+    expectOutcome(0, 0);
+}
+
+TEST_F(ComboBoxCompleter, aReturnThatTheLineSeesFirstClosesTheListToo)
+{
+    setUp({"Dog", "Bar", "Car"});
+    typeInto("ca");
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    EXPECT_FALSE(completerPopup()->isVisible());
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxCompleter, inlineCompletionHasNoListAndEndsTheSame)
+{
+    setUp({"Dog", "Bar", "Car"}, Qt::CaseInsensitive, QCompleter::InlineCompletion);
+    box->lineEdit()->clear();
+    type("ca");
+    EXPECT_EQ(box->completer()->popup(), nullptr);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Car");
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxCompleter, unfilteredCompletionOffersEveryEntry)
+{
+    setUp({"Dog", "Bar", "Car"}, Qt::CaseInsensitive, QCompleter::UnfilteredPopupCompletion);
+    typeInto("ca");
+    EXPECT_EQ(offered().size(), 3);
+    EXPECT_EQ(box->lineEdit()->text(), "ca");
+}
+
+TEST_F(ComboBoxCompleter, theListShortensItsEntriesAsToldAndFindsWildcardsAsText)
+{
+    setUp({"Dog", "a*b", "a[b", "ab"});
+    EXPECT_EQ(completerPopup()->textElideMode(), Qt::ElideRight);
+    typeInto("*");
+    EXPECT_EQ(offered(), QStringList({"a*b"}));
+    typeInto("[");
+    EXPECT_EQ(offered(), QStringList({"a[b"}));
+}

@@ -1,0 +1,219 @@
+#include "ComboBoxForm.h"
+
+#include <QListView>
+
+using morvane::test::pressKey;
+
+namespace {
+
+class ComboBoxList : public morvane::test::ComboBoxForm
+{
+};
+
+} // namespace
+
+TEST_F(ComboBoxList, opensAtTheFirstEntryThatContainsTheText)
+{
+    setUp({"Dog", "Bar", "Car"});
+    box->lineEdit()->setText("ca");
+    openList();
+    EXPECT_EQ(box->currentIndex(), 2);
+    EXPECT_EQ(box->view()->currentIndex().row(), 2);
+}
+
+TEST_F(ComboBoxList, opensWithTheEntryAsItWasWhenNoneContainsTheText)
+{
+    setUp({"Dog", "Bar", "Car"});
+    box->setCurrentIndex(1);
+    box->lineEdit()->setText("zzz");
+    openList();
+    EXPECT_EQ(box->currentIndex(), 1);
+}
+
+TEST_F(ComboBoxList, altDownOpensIt)
+{
+    setUp({"Dog", "Bar", "Car"});
+    pressKey(Qt::Key_Down, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return box->view()->isVisible(); }));
+}
+
+TEST_F(ComboBoxList, pickingWithTheMouseAnnouncesOnce)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    clickEntry(2);
+    EXPECT_EQ(complete.count(), 1);
+    EXPECT_EQ(box->currentText(), "Car");
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_FALSE(box->view()->isVisible());
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxList, theOutcomeOfTheMouseIsThereWhenItIsAnnounced)
+{
+    setUp({"Dog", "Bar", "Car"});
+    QString announced;
+    bool wasVisible = true;
+    QObject::connect(box, &morvane::ui::ComboBoxAutoFilter::selectionComplete, [&] {
+        announced = box->currentText();
+        wasVisible = box->isVisible();
+    });
+    openList();
+    clickEntry(1);
+    EXPECT_EQ(announced, "Bar");
+    EXPECT_FALSE(wasVisible);
+}
+
+TEST_F(ComboBoxList, aPickedEntryGivesWayToAnEarlierOneThatContainsIt)
+{
+    setUp({"Scar", "Bar", "Car"});
+    openList();
+    clickEntry(2);
+    EXPECT_EQ(box->currentText(), "Scar");
+}
+
+TEST_F(ComboBoxList, ofEqualEntriesTheFirstIsPicked)
+{
+    setUp({"Dog", "Car", "Car"});
+    openList();
+    clickEntry(2);
+    EXPECT_EQ(box->currentIndex(), 1);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxList, downAndReturnAnnounceOnce)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    pressKey(Qt::Key_Down);
+    EXPECT_EQ(box->currentText(), "Bar");
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Bar");
+    EXPECT_FALSE(box->isVisible());
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxList, returnTakesTheEntryThatAnotherKeyMovedTo)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    pressKey(Qt::Key_End);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Car");
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxList, aReturnThatReachesTheComboBoxAnnouncesOnceToo)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    pressKey(Qt::Key_Down);
+    QKeyEvent shortcut(QEvent::ShortcutOverride, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(box->view(), &shortcut);
+    ASSERT_FALSE(box->view()->isVisible());
+    expectOutcome(0, 0);
+    activate();
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Bar");
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxList, upAndDownMakeEntriesCurrent)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Down);
+    EXPECT_EQ(box->currentIndex(), 2);
+    EXPECT_EQ(box->lineEdit()->text(), "Car");
+    pressKey(Qt::Key_Up);
+    EXPECT_EQ(box->currentIndex(), 1);
+    expectOutcome(0, 0);
+}
+
+TEST_F(ComboBoxList, escapeRestoresTheEntryBeforeTheEdit)
+{
+    setUp({"Dog", "Bar", "Car"});
+    box->setCurrentIndex(1);
+    openList();
+    pressKey(Qt::Key_Down);
+    ASSERT_EQ(box->currentIndex(), 2);
+    pressKey(Qt::Key_Escape);
+    EXPECT_EQ(box->currentIndex(), 1);
+    EXPECT_FALSE(box->view()->isVisible());
+    EXPECT_FALSE(box->isVisible());
+    expectOutcome(0, 1);
+}
+
+TEST_F(ComboBoxList, escapeInTheListLeavesTheTextToBeValidated)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    pressKey(Qt::Key_Escape);
+    box->lineEdit()->setText("no such thing");
+    EXPECT_FALSE(box->validateEntry());
+}
+
+TEST_F(ComboBoxList, theEntryBeforeTheEditIsThatOfTheFirstOpening)
+{
+    setUp({"Dog", "Bar", "Car"});
+    box->setCurrentIndex(1);
+    openList();
+    pressKey(Qt::Key_Return);
+    show();
+    box->setCurrentIndex(2);
+    openList();
+    pressKey(Qt::Key_Escape);
+    EXPECT_EQ(box->currentIndex(), 1);
+    expectOutcome(1, 1);
+}
+
+TEST_F(ComboBoxList, theEntryBeforeTheEditIsTheOneThatTheOpeningMadeCurrent)
+{
+    setUp({"Dog", "Bar", "Car"});
+    box->lineEdit()->setText("car");
+    openList();
+    pressKey(Qt::Key_Up);
+    pressKey(Qt::Key_Escape);
+    EXPECT_EQ(box->currentText(), "Car");
+}
+
+TEST_F(ComboBoxList, anActivationBeforeTheFirstOpeningCountsAsTheEntryBeforeTheEdit)
+{
+    setUp({"Dog", "Bar", "Car"});
+    pressKey(Qt::Key_Down);
+    ASSERT_EQ(box->currentIndex(), 1);
+    expectOutcome(0, 0);
+    box->setCurrentIndex(2);
+    openList();
+    pressKey(Qt::Key_Escape);
+    EXPECT_EQ(box->currentIndex(), 1);
+}
+
+TEST_F(ComboBoxList, anEntryPressedButNotReleasedPicksNothing)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    QAbstractItemView* const list = box->view();
+    QTest::mousePress(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 0)).center());
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Car");
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxList, itsRowsHaveOneHeight)
+{
+    setUp({"Dog"});
+    EXPECT_TRUE(qobject_cast<QListView*>(box->view())->uniformItemSizes());
+    EXPECT_EQ(box->insertPolicy(), QComboBox::NoInsert);
+}
+
+TEST_F(ComboBoxList, aMouseReleaseBesideTheEntriesPicksNothing)
+{
+    setUp({"Dog", "Bar"});
+    openList();
+    QTest::mouseRelease(box->view()->viewport(), Qt::LeftButton, {}, QPoint(-500, -500));
+    expectOutcome(0, 0);
+    EXPECT_TRUE(box->isVisible());
+}

@@ -1,0 +1,280 @@
+#include "ComboBoxForm.h"
+
+#include <QElapsedTimer>
+#include <QStandardItemModel>
+#include <QStringListModel>
+
+#include <memory>
+
+using morvane::test::pressKey;
+using morvane::test::type;
+
+namespace {
+
+/** Many entries without the memory for them. */
+class NumberModel : public QAbstractListModel
+{
+public:
+    explicit NumberModel(int rows) : m_rows(rows) {}
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : m_rows; }
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        return role == Qt::DisplayRole || role == Qt::EditRole ? QString("entry %1").arg(index.row()) : QVariant();
+    }
+
+private:
+    int m_rows;
+};
+
+class ComboBoxModel : public morvane::test::ComboBoxForm
+{
+protected:
+    void setUpModel(QAbstractItemModel* model)
+    {
+        box->setListModel(
+            model, true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideMiddle, Qt::MatchContains);
+        show();
+    }
+};
+
+} // namespace
+
+TEST_F(ComboBoxModel, setListAppendsAndDoesNotSetUpTheFiltering)
+{
+    box->setList({"a", "b"});
+    box->setList({"c"});
+    EXPECT_EQ(box->count(), 3);
+    EXPECT_FALSE(box->isEditable());
+    EXPECT_EQ(box->completer(), nullptr);
+}
+
+TEST_F(ComboBoxModel, settingUpTwiceMakesANewLineAndCompleterAndEndsTheEditingOnce)
+{
+    setUp({"Dog", "Bar", "Car"});
+    const QPointer<QLineEdit> line = box->lineEdit();
+    const QPointer<QCompleter> completer = box->completer();
+    box->setCurrentIndex(2);
+    box->setCompleterAttributes(
+        true, QCompleter::PopupCompletion, Qt::CaseSensitive, Qt::ElideLeft, Qt::MatchStartsWith);
+
+    EXPECT_FALSE(line);
+    ASSERT_TRUE(completer);
+    EXPECT_EQ(completer->parent(), box);
+    EXPECT_NE(box->completer(), completer);
+    EXPECT_EQ(box->lineEdit()->text(), "Car");
+    EXPECT_EQ(completerPopup()->textElideMode(), Qt::ElideLeft);
+
+    box->lineEdit()->clear();
+    type("a");
+    EXPECT_TRUE(completerPopup()->isVisible());
+    EXPECT_FALSE(completer->popup()->isVisible());
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Bar");
+    expectOutcome(1, 0);
+
+    delete box;
+    EXPECT_FALSE(completer);
+}
+
+TEST_F(ComboBoxModel, theBoxCanBeEditedEvenWhereItIsToldNot)
+{
+    box->setList({"Dog", "Bar"});
+    box->setCompleterAttributes(
+        false, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
+    show();
+    EXPECT_TRUE(box->isEditable());
+    box->lineEdit()->clear();
+    type("ba");
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Bar");
+}
+
+TEST_F(ComboBoxModel, twoBoxesShareAModelThatOutlivesThem)
+{
+    QStringListModel model({"Dog", "Bar"});
+    auto second = std::make_unique<morvane::ui::ComboBoxAutoFilter>(nullptr);
+    second->setListModel(
+        &model, true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideMiddle, Qt::MatchContains);
+    setUpModel(&model);
+    second->lineEdit()->setText("ba");
+    EXPECT_TRUE(second->validateEntry());
+    EXPECT_EQ(second->currentIndex(), 1);
+    EXPECT_EQ(box->currentIndex(), 0);
+    second.reset();
+    model.setStringList({"Egg", "Car"});
+    box->lineEdit()->setText("ca");
+    EXPECT_TRUE(box->validateEntry());
+    delete box;
+    EXPECT_EQ(model.rowCount(), 2);
+}
+
+TEST_F(ComboBoxModel, aModelThatDiesLeavesAnEmptyBox)
+{
+    auto model = std::make_unique<QStringListModel>(QStringList({"Dog", "Bar"}));
+    setUpModel(model.get());
+    model.reset();
+    box->lineEdit()->clear();
+    type("ba");
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), -1);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, aResetWhileTheCompleterIsOpenLeavesTheNewEntriesToFilter)
+{
+    QStringListModel model({"Dog", "Bar", "Car"});
+    setUpModel(&model);
+    box->lineEdit()->clear();
+    type("ar");
+    model.setStringList({"Egg", "Jar"});
+    // A combo box goes to the first entry of its new model, and its text with it.
+    EXPECT_EQ(box->lineEdit()->text(), "Egg");
+    box->lineEdit()->clear();
+    type("ar");
+    ASSERT_EQ(box->completer()->completionModel()->rowCount(), 1);
+    EXPECT_EQ(box->completer()->completionModel()->index(0, 0).data().toString(), "Jar");
+}
+
+TEST_F(ComboBoxModel, aResetAfterTypingEndsWithTheNewEntries)
+{
+    QStringListModel model({"Dog", "Bar", "Car"});
+    setUpModel(&model);
+    box->lineEdit()->setText("ar");
+    model.setStringList({"Egg", "Jar"});
+    box->lineEdit()->setText("ar");
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Jar");
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, rowsRemovedWhileTheListIsOpenAreGoneFromIt)
+{
+    QStringListModel model({"Dog", "Bar", "Car", "Egg"});
+    setUpModel(&model);
+    box->setCurrentIndex(3);
+    openList();
+    model.removeRows(2, 2);
+    pressKey(Qt::Key_Up);
+    EXPECT_EQ(box->count(), 2);
+    pressKey(Qt::Key_Escape);
+    // The entry before the edit is one of those that are gone.
+    EXPECT_EQ(box->currentIndex(), -1);
+    EXPECT_EQ(box->currentText(), "");
+    expectOutcome(0, 1);
+}
+
+TEST_F(ComboBoxModel, allRowsRemovedWhileTheListIsOpenEndTheEditingWithNothing)
+{
+    QStringListModel model({"Dog", "Bar"});
+    setUpModel(&model);
+    openList();
+    model.removeRows(0, 2);
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), -1);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, anEmptyModelHasNoListAndEndsWithNothing)
+{
+    setUp({});
+    box->showPopup();
+    EXPECT_FALSE(box->view()->isVisible());
+    type("a");
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), -1);
+    expectOutcome(1, 0);
+    EXPECT_FALSE(box->validateEntry());
+}
+
+TEST_F(ComboBoxModel, aMillionRowsAreFilteredAndEnded)
+{
+    NumberModel model(1000000);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setUpModel(&model);
+    box->lineEdit()->clear();
+    type("99999");
+    EXPECT_EQ(box->completer()->completionCount(), 19);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), 99999);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, aMillionRowsOpenInTheList)
+{
+    NumberModel model(1000000);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setUpModel(&model);
+    box->lineEdit()->setText("entry 999999");
+    openList();
+    EXPECT_EQ(box->currentIndex(), 999999);
+    pressKey(Qt::Key_Up);
+    pressKey(Qt::Key_Return);
+    // "entry 99999" comes first and does not contain the picked text.
+    EXPECT_EQ(box->currentIndex(), 999998);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, entriesWithLineFeedsAreFoundByTheirText)
+{
+    setUp({"one", "two\nlines", "two lines"});
+    openList();
+    pressKey(Qt::Key_Down);
+    EXPECT_EQ(box->currentIndex(), 1);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), 1);
+    box->setSelectedText("two\nlines");
+    EXPECT_EQ(box->lineEdit()->selectedText().size(), 9);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, setSelectedTextFindsTheExactTextAndSelectsItsLength)
+{
+    setUp({"Dog", "Bar", "Car"});
+    box->setSelectedText("Car");
+    EXPECT_EQ(box->currentIndex(), 2);
+    EXPECT_EQ(box->lineEdit()->selectedText(), "Car");
+
+    box->setCurrentIndex(1);
+    box->setSelectedText("car");
+    EXPECT_EQ(box->currentIndex(), 1);
+    EXPECT_EQ(box->lineEdit()->selectedText(), "Bar");
+
+    box->setSelectedText("Do");
+    EXPECT_EQ(box->currentIndex(), 1);
+    EXPECT_EQ(box->lineEdit()->selectedText(), "Ba");
+
+    box->setSelectedText("");
+    EXPECT_EQ(box->lineEdit()->selectedText(), "");
+    box->setSelectedText("longer than the line");
+    EXPECT_EQ(box->lineEdit()->selectedText(), "Bar");
+}
+
+TEST_F(ComboBoxModel, setFromValueFindsTheEntryByItsData)
+{
+    box->addItem("Dog", 7);
+    box->addItem("Bar", "x");
+    box->addItem("Car", "X");
+    setUp({});
+    box->setFromValue("X");
+    EXPECT_EQ(box->currentIndex(), 2);
+    box->setFromValue(8);
+    EXPECT_EQ(box->currentIndex(), 2);
+
+    QSignalSpy changes(box.data(), SIGNAL(currentIndexChanged(int)));
+    box->setFromValue("X");
+    EXPECT_EQ(changes.count(), 0);
+    box->setFromValue(7);
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(box->currentIndex(), 0);
+}
+
+TEST_F(ComboBoxModel, setFromValueKeepsTheTypedTextOfTheEntryThatIsCurrent)
+{
+    box->addItem("Dog", 7);
+    setUp({});
+    box->lineEdit()->setText("typed");
+    box->setFromValue(7);
+    EXPECT_EQ(box->lineEdit()->text(), "typed");
+}

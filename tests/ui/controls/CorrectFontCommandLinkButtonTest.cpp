@@ -1,0 +1,90 @@
+#include "ui/qt/controls/CorrectFontCommandLinkButton.h"
+
+#include <gtest/gtest.h>
+
+#include <QScrollArea>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace {
+
+/** QCommandLinkButton hides its size hints. */
+QSize preferred(const QWidget& button)
+{
+    return button.sizeHint();
+}
+
+class CommandLink : public ::testing::Test
+{
+protected:
+    CommandLink()
+    {
+        button->setText("Start the measurement with the settings of the last run");
+        window.setLayout(new QVBoxLayout);
+        window.layout()->addWidget(button);
+    }
+
+    void show()
+    {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+
+    QWidget window;
+    morvane::ui::CorrectFontCommandLinkButton* button = new morvane::ui::CorrectFontCommandLinkButton;
+};
+
+const QString longDescription("Every channel is zeroed, the old file is kept beside the new one, and the run starts "
+                              "as soon as the temperature is stable for five minutes.");
+
+} // namespace
+
+TEST_F(CommandLink, isNeverSmallerThanItPrefers)
+{
+    EXPECT_EQ(button->minimumSizeHint(), preferred(*button));
+    button->setDescription(longDescription);
+    EXPECT_EQ(button->minimumSizeHint(), preferred(*button));
+    button->setText("");
+    EXPECT_EQ(button->minimumSizeHint(), preferred(*button));
+}
+
+TEST_F(CommandLink, keepsItsPreferredSizeWhereTheLayoutOverflows)
+{
+    button->setDescription(longDescription);
+    QScrollArea area;
+    area.setWidgetResizable(true);
+    area.setWidget(&window);
+    area.resize(60, 30);
+    area.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&area));
+    EXPECT_GE(button->width(), preferred(*button).width());
+    EXPECT_GE(button->height(), preferred(*button).height());
+    EXPECT_GT(button->width(), area.viewport()->width());
+    area.takeWidget();
+}
+
+TEST_F(CommandLink, aPlainOneCanBeSqueezed)
+{
+    const QCommandLinkButton plain("Start", longDescription);
+    EXPECT_LT(static_cast<const QWidget&>(plain).minimumSizeHint().height(), preferred(plain).height());
+}
+
+TEST_F(CommandLink, makesItsWindowWideEnough)
+{
+    show();
+    window.resize(1, 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window.width() >= preferred(*button).width(); }));
+}
+
+TEST_F(CommandLink, growsWithItsFont)
+{
+    show();
+    const QSize before = button->minimumSizeHint();
+    QFont font = button->font();
+    font.setPointSize(font.pointSize() * 3);
+    button->setFont(font);
+    button->setText(button->text() + "!");
+    EXPECT_EQ(button->minimumSizeHint(), preferred(*button));
+    EXPECT_GE(button->minimumSizeHint().width(), before.width());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return button->width() >= preferred(*button).width(); }));
+}
