@@ -223,23 +223,6 @@ TEST_F(ExtendedWinFileDialogControls, aRejectedValueLeavesTheRunAsAnException)
     EXPECT_EQ(m_shell.calls().back(), "IFileDialog::Unadvise(1)");
 }
 
-TEST_F(ExtendedWinFileDialogControls, aRejectedFilterIndexLeavesTheOperationAsAnException)
-{
-    class RejectTwo : public ValidatorInterface<int>
-    {
-    public:
-        ValidationResult validate(const int& v) const override
-        {
-            return v == 2 ? ValidationResult("two") : ValidationResult();
-        }
-    };
-    const auto dialog = openDialog("A (*.a);;B (*.b)");
-    dialog->currentFilterIndex()->setValidator(boost::make_shared<RejectTwo>());
-    EXPECT_THROW(dialog->selectNameFilter(QStringLiteral("B (*.b)")), InvalidPropertyValueException);
-    EXPECT_THROW(run(*dialog, [](RecordingDialog& user) { user.userPicksType(2); }), InvalidPropertyValueException);
-    EXPECT_EQ(dialog->currentFilterIndex()->value(), 1);
-}
-
 TEST_F(ExtendedWinFileDialogControls, aCheckBoxWithoutPropertyIsHarmless)
 {
     const auto dialog = openDialog();

@@ -1,5 +1,9 @@
 #include "ExtendedWinFileDialogTest.h"
 
+#include "host/InvalidPropertyValueException.h"
+
+#include <boost/make_shared.hpp>
+
 namespace morvane::test {
 
 namespace {
@@ -160,6 +164,23 @@ TEST_F(ExtendedWinFileDialogTypeChange, givesTheFirstNameTheExtensionOfItsType)
     const auto dialog = saveDialog("Data (*.dat);;All (*)");
     dialog->selectFile(QStringLiteral("out.txt"));
     run(*dialog, [](RecordingDialog& user) { EXPECT_EQ(user.fileName(), QStringLiteral("out.dat")); });
+}
+
+TEST_F(ExtendedWinFileDialogTypeChange, aRejectedFilterIndexLeavesTheOperationAsAnException)
+{
+    class RejectTwo : public ValidatorInterface<int>
+    {
+    public:
+        ValidationResult validate(const int& v) const override
+        {
+            return v == 2 ? ValidationResult("two") : ValidationResult();
+        }
+    };
+    const auto dialog = openDialog("A (*.a);;B (*.b)");
+    dialog->currentFilterIndex()->setValidator(boost::make_shared<RejectTwo>());
+    EXPECT_THROW(dialog->selectNameFilter(QStringLiteral("B (*.b)")), InvalidPropertyValueException);
+    EXPECT_THROW(run(*dialog, [](RecordingDialog& user) { user.userPicksType(2); }), InvalidPropertyValueException);
+    EXPECT_EQ(dialog->currentFilterIndex()->value(), 1);
 }
 
 } // namespace
