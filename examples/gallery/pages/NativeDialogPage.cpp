@@ -172,7 +172,11 @@ void NativeDialogPage::showOutcome(ExtendedWinFileDialog& dialog)
     const int option = dialog.selectedAcceptMenuOption();
     m_option->setText(option == View ? tr("view") : option == Edit ? tr("edit") : tr("no option (%1)").arg(option));
     Q_EMIT reported(tr("Accepted with the option %1").arg(option));
-    for (const QString& line : m_chosen->showFiles(dialog.selectedFiles())) {
+    const QStringList files = dialog.selectedFiles();
+    if (files.isEmpty()) {
+        Q_EMIT reported(tr("No file is selected: the dialog was closed by the host, not by the accept button"));
+    }
+    for (const QString& line : m_chosen->showFiles(files)) {
         Q_EMIT reported(line);
     }
 }

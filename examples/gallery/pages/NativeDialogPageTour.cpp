@@ -131,9 +131,10 @@ std::vector<TourStep> NativeDialogPage::controlStateSteps()
     steps.push_back({QStringLiteral("name-typed"),
         [] { tour::type(OpenFileDialog().name(), QStringLiteral("run-001.dat")); },
         [] { return expect(OpenFileDialog().name().text() == QStringLiteral("run-001.dat"), "the name is another"); }});
+    // Nothing was accepted by the user, so there is no file.
     steps.push_back(chosenStep(
-        QStringLiteral("accepted-by-button"), [] { clickControl(QStringLiteral("Accept Now")); },
-        QStringLiteral("run-001.dat"), QStringLiteral("view")));
+        QStringLiteral("accepted-by-button"), [] { clickControl(QStringLiteral("Accept Now")); }, QString(),
+        QStringLiteral("view")));
     return steps;
 }
 
