@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QSignalBlocker>
 
@@ -15,6 +16,7 @@ namespace gallery {
 
 FileDialogForm::FileDialogForm(Parts parts, const QString& startFile, const QString& helpTopic)
     : m_rows(new QFormLayout(this)),
+      m_options(new QHBoxLayout),
       m_native(new QCheckBox(tr("Nati&ve instead of Qt's"), this)),
       m_filters(new QLineEdit(tr("Measurements (*.dat *.csv);;Text (*.txt);;All files (*)"), this)),
       m_type(new QComboBox(this)),
@@ -31,7 +33,13 @@ FileDialogForm::FileDialogForm(Parts parts, const QString& startFile, const QStr
             m_rows->addRow(label, field);
         }
     };
-    addRow(parts.testFlag(NativeSwitch), tr("Dialog:"), m_native);
+    m_options->addStretch(1);
+    m_native->hide();
+    if (parts.testFlag(NativeSwitch)) {
+        addOption(m_native);
+        m_native->show();
+    }
+    m_rows->addRow(tr("Dialog:"), m_options);
     addRow(parts.testFlag(Filters), tr("Name &filters:"), m_filters);
     addRow(parts.testFlag(Filters), tr("Start t&ype:"), m_type);
     addRow(true, tr("S&tart folder:"), m_folder);
@@ -45,6 +53,13 @@ FileDialogForm::FileDialogForm(Parts parts, const QString& startFile, const QStr
     connect(m_filters, &QLineEdit::textChanged, this, [this] { listTypes(); });
     showSwitch();
     listTypes();
+}
+
+void FileDialogForm::addOption(QWidget* field)
+{
+    const int end = m_options->count() - 1;
+    m_options->insertWidget(end, field);
+    m_options->insertSpacing(end + 1, 12);
 }
 
 bool FileDialogForm::isUsable() const

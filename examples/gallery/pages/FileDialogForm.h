@@ -10,6 +10,7 @@
 class QCheckBox;
 class QComboBox;
 class QFormLayout;
+class QHBoxLayout;
 class QLineEdit;
 
 namespace gallery {
@@ -34,6 +35,8 @@ public:
     FileDialogForm(Parts parts, const QString& startFile, const QString& helpTopic);
 
     QFormLayout& rows() { return *m_rows; }
+    /** Adds a field to the row of the native switch. */
+    void addOption(QWidget* field);
 
     /** Whether the start folder can be used; a note says why not. */
     bool isUsable() const;
@@ -67,6 +70,7 @@ private:
     void listTypes();
 
     QFormLayout* m_rows;
+    QHBoxLayout* m_options;
     QCheckBox* m_native;
     QLineEdit* m_filters;
     QComboBox* m_type;

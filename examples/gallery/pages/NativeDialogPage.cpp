@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -35,7 +36,7 @@ NativeDialogPage::NativeDialogPage()
       m_preview(boost::make_shared<morvane::Property<bool>>(true)),
       m_form(new FileDialogForm(
           FileDialogForm::Filters | FileDialogForm::StartFile, QString(), QStringLiteral("native-dialog"))),
-      m_openMode(new QRadioButton(tr("Open &one file"))),
+      m_openMode(new QRadioButton(tr("&Open"))),
       m_saveMode(new QRadioButton(tr("&Save"))),
       m_withOptions(new QCheckBox(tr("&Menu on the accept button"))),
       m_run(new QPushButton(tr("Sho&w Dialog…"))),
@@ -63,14 +64,12 @@ NativeDialogPage::NativeDialogPage()
 void NativeDialogPage::addOptions()
 {
     m_openMode->setChecked(true);
+    // With one pattern a type: when saving, the name gets the extension of its type.
+    m_form->filtersField().setText(tr("Measurements (*.dat);;Text (*.txt);;All files (*)"));
     m_withOptions->setChecked(true);
-    auto* const modes = new QHBoxLayout;
-    modes->addWidget(m_openMode);
-    modes->addSpacing(12);
-    modes->addWidget(m_saveMode);
-    modes->addStretch(1);
-    m_form->rows().addRow(tr("Choose:"), modes);
-    m_form->rows().addRow(tr("Options:"), m_withOptions);
+    for (QWidget* const option : std::initializer_list<QWidget*>{m_openMode, m_saveMode, m_withOptions}) {
+        m_form->addOption(option);
+    }
 }
 
 QWidget* NativeDialogPage::makeLiveGroup()
@@ -173,7 +172,11 @@ void NativeDialogPage::showOutcome(ExtendedWinFileDialog& dialog)
     const int option = dialog.selectedAcceptMenuOption();
     m_option->setText(option == View ? tr("view") : option == Edit ? tr("edit") : tr("no option (%1)").arg(option));
     Q_EMIT reported(tr("Accepted with the option %1").arg(option));
-    for (const QString& line : m_chosen->showFiles(dialog.selectedFiles())) {
+    const QStringList files = dialog.selectedFiles();
+    if (files.isEmpty()) {
+        Q_EMIT reported(tr("No file is selected: the dialog was closed by the host, not by the accept button"));
+    }
+    for (const QString& line : m_chosen->showFiles(files)) {
         Q_EMIT reported(line);
     }
 }

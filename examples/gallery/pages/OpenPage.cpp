@@ -3,7 +3,6 @@
 #include "pages/FileDialogForm.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
 
 namespace gallery {
 
@@ -17,7 +16,7 @@ OpenPage::OpenPage()
               QString(), QStringLiteral("open-files"))),
       m_several(new QCheckBox(tr("&Several files")))
 {
-    form().rows().addRow(tr("Choose:"), m_several);
+    form().addOption(m_several);
     addLaunchButton();
 }
 

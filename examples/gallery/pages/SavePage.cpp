@@ -4,7 +4,7 @@
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
+#include <QLineEdit>
 
 namespace gallery {
 
@@ -19,7 +19,9 @@ SavePage::SavePage()
       m_ask(new QCheckBox(tr("As&k before a file is replaced")))
 {
     m_ask->setChecked(true);
-    form().rows().addRow(tr("Question:"), m_ask);
+    // With one pattern a type: the native dialog gives the name the extension of its type.
+    form().filtersField().setText(tr("Measurements (*.dat);;Text (*.txt);;All files (*)"));
+    form().addOption(m_ask);
     addLaunchButton();
 }
 

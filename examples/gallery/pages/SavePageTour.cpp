@@ -15,8 +15,8 @@ using tour::OpenFileDialog;
 
 namespace {
 
-const QString measurements = QStringLiteral("archive run-001.dat run-002.dat run-003.dat summary.csv");
-const QString firstType = QStringLiteral("Chosen as type 0, Measurements (*.dat *.csv):");
+const QString measurements = QStringLiteral("archive run-001.dat run-002.dat run-003.dat");
+const QString firstType = QStringLiteral("Chosen as type 0, Measurements (*.dat):");
 
 } // namespace
 
@@ -60,7 +60,7 @@ std::vector<TourStep> SavePage::dialogSteps(const TourWorkspace& workspace, bool
 
 std::vector<TourStep> SavePage::questionSteps(const TourWorkspace& workspace)
 {
-    const auto replace = [] { tour::enterName(QStringLiteral("summary.csv")); };
+    const auto replace = [] { tour::enterName(QStringLiteral("run-001.dat")); };
     const auto asked = [] {
         return expect(tour::modal<QMessageBox>() != nullptr, "nobody asks whether the file may be replaced");
     };
@@ -72,12 +72,12 @@ std::vector<TourStep> SavePage::questionSteps(const TourWorkspace& workspace)
     steps.push_back({QStringLiteral("replace-again"), replace, asked});
     steps.push_back(chosenStep(
         QStringLiteral("replace-yes"), [] { tour::click(*tour::modal<QMessageBox>()->button(QMessageBox::Yes)); },
-        shownOf(workspace, {QStringLiteral("summary.csv")}), firstType));
+        shownOf(workspace, {QStringLiteral("run-001.dat")}), firstType));
     steps.push_back({QStringLiteral("ask-no-more"), [this] { tour::click(*m_ask); },
         [this] { return expect(!m_ask->isChecked(), "the option is still set"); }});
     steps.push_back(openStep(QStringLiteral("dialog-without-question"), measurements));
     steps.push_back(chosenStep(
-        QStringLiteral("replaced-unasked"), replace, shownOf(workspace, {QStringLiteral("summary.csv")}), firstType));
+        QStringLiteral("replaced-unasked"), replace, shownOf(workspace, {QStringLiteral("run-001.dat")}), firstType));
     steps.push_back({QStringLiteral("ask-again"), [this] { tour::click(*m_ask); },
         [this] { return expect(m_ask->isChecked(), "the option is not set"); }});
     return steps;
