@@ -3,6 +3,7 @@
 #include "pages/ChosenFilesTable.h"
 #include "pages/FileDialogForm.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
+#include "ui/qt/dialogs/LaunchFileDialog.h"
 
 #include <QDir>
 #include <QHBoxLayout>
