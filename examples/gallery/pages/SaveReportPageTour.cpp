@@ -16,7 +16,6 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTest>
 
 #include <memory>
 
@@ -203,10 +202,7 @@ std::vector<TourStep> SaveReportPage::wordingSteps(const TourWorkspace& workspac
     const QString path = workspace.folder().path(QStringLiteral("archive/report.txt"));
     // Looks like markup, and must show as it stands.
     const QString question = QStringLiteral("Shall <b>%1</b> go?");
-    const auto toggleWording = [this] {
-        QTest::mouseClick(m_wording, Qt::LeftButton, Qt::NoModifier,
-            QPoint(m_wording->fontMetrics().height() / 2 + 4, m_wording->fontMetrics().height() / 2));
-    };
+    const auto toggleWording = [this] { tour::press(*m_wording, Qt::Key_Space); };
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("own-wording"), toggleWording, [this] {
                          return expect(
