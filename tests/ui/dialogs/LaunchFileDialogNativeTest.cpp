@@ -2,6 +2,7 @@
 #include "fakes/RecordingDialog.h"
 #include "fakes/RecordingShell.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
+#include "ui/qt/dialogs/LaunchFileDialog.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -7,6 +7,7 @@
 
 #include "host/InstanceOverride.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
+#include "ui/qt/dialogs/LaunchFileDialog.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
