@@ -94,7 +94,7 @@ TEST_F(LaunchFileDialogQt, reportsTheFirstOfEqualFilters)
     filters = {"Data (*.dat)", "Data (*.dat)"};
     EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogPage& page) {
         page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
-        page.enterName(QStringLiteral("a.dat"));
+        page.doubleClickFile(QStringLiteral("a.dat"));
     }));
     EXPECT_EQ(filterIndex, 0);
 }

@@ -24,7 +24,8 @@ TEST_P(LaunchFileDialogUser, opensTheTypedFile)
         EXPECT_EQ(page.name(), QStringLiteral("a.dat"));
         EXPECT_FALSE(page.button(QDialogButtonBox::Help));
         page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
-        page.enterName(QStringLiteral("b.dat"));
+        page.typeName(QStringLiteral("b.dat"));
+        page.click(QDialogButtonBox::Open);
     }));
     EXPECT_THAT(files, ElementsAre(text("b.dat")));
     EXPECT_EQ(filterIndex, 0);
@@ -101,8 +102,7 @@ TEST_P(LaunchFileDialogUser, letsSeveralExistingFilesWinOverSaving)
     EXPECT_FALSE(launch({text("a.dat")}, true, true, 0, [](FileDialogPage& page) {
         EXPECT_EQ(page.dialog().acceptMode(), QFileDialog::AcceptSave);
         EXPECT_TRUE(GetParam() || page.dialog().fileMode() == QFileDialog::ExistingFiles);
-        page.enterName(QStringLiteral("missing.dat"));
-    })) << "the files must exist";
+    }));
 }
 
 TEST_P(LaunchFileDialogUser, leavesTheOutputsAloneWhenCancelled)
