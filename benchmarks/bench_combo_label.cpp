@@ -261,10 +261,10 @@ void plainLabelPaint(benchmark::State& state)
 
 MORVANE_BENCHMARK(comboFirstKey)->Iterations(1)->Repetitions(31);
 MORVANE_BENCHMARK(stockFirstKey)->Iterations(1)->Repetitions(31);
-MORVANE_BENCHMARK(comboNextKey)->Iterations(1)->Repetitions(31);
-MORVANE_BENCHMARK(stockNextKey)->Iterations(1)->Repetitions(31);
-MORVANE_BENCHMARK(comboClear)->Iterations(1)->Repetitions(31);
-MORVANE_BENCHMARK(stockClear)->Iterations(1)->Repetitions(31);
+MORVANE_BENCHMARK(comboNextKey)->Iterations(1)->Repetitions(61);
+MORVANE_BENCHMARK(stockNextKey)->Iterations(1)->Repetitions(61);
+MORVANE_BENCHMARK(comboClear)->Iterations(1)->Repetitions(61);
+MORVANE_BENCHMARK(stockClear)->Iterations(1)->Repetitions(61);
 MORVANE_BENCHMARK(comboFirstKeyOfMillion)->Iterations(1)->Repetitions(7);
 MORVANE_BENCHMARK(stockFirstKeyOfMillion)->Iterations(1)->Repetitions(7);
 MORVANE_BENCHMARK(comboValidate);
