@@ -1,14 +1,25 @@
-# morvane_add_test(NAME SOURCES... [LIBRARIES ...] [TIMEOUT seconds])
+# morvane_add_test(NAME SOURCES... [LIBRARIES ...] [TIMEOUT seconds] [SEPARATE])
 # A test program of GoogleTest cases; CTest runs each case in a process of its own, as NAME/Suite.case.
+#
+# Cross-built programs run in an emulator, where each start of a process costs much more: there CTest runs the whole
+# program as the one test NAME, on the target's own window system, unless SEPARATE asks for a process a case.
 function(morvane_add_test name)
-    cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "SEPARATE" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 60)
     endif()
     add_executable(${name} ${arg_SOURCES})
     morvane_own_code(${name})
     target_link_libraries(${name} PRIVATE morvane-test-support ${arg_LIBRARIES})
-    gtest_discover_tests(${name} TEST_PREFIX ${name}/ DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT ${arg_TIMEOUT})
+    if(NOT CMAKE_CROSSCOMPILING)
+        gtest_discover_tests(${name} TEST_PREFIX ${name}/ DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT ${arg_TIMEOUT})
+    elseif(arg_SEPARATE)
+        gtest_discover_tests(${name} TEST_PREFIX ${name}/ DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
+            PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT QT_QPA_PLATFORM=windows)
+    else()
+        add_test(NAME ${name} COMMAND ${name})
+        set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT QT_QPA_PLATFORM=windows)
+    endif()
 endfunction()
 
 # morvane_header_test(TARGET LIBRARIES... HEADERS path...)

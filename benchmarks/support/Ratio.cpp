@@ -61,19 +61,19 @@ bool report(const std::vector<std::pair<std::string, double>>& times)
             continue; // left out by a filter on the command line
         }
         const double value = own / peer;
-        std::printf("%-32s %14.1f %14.1f %8.3f ", ratio.name.c_str(), own, peer, value);
+        std::printf("%-32s %14.1f %14.1f %8.3g ", ratio.name.c_str(), own, peer, value);
         if (ratio.limit <= 0) {
             std::printf("%8s\n", "-");
             continue;
         }
         const bool within = value <= ratio.limit;
-        std::printf("%8.2f%s\n", ratio.limit, within ? "" : "  exceeded");
+        std::printf("%8.3g%s\n", ratio.limit, within ? "" : "  exceeded");
         allWithin = allWithin && within;
         lines.emplace_back(ratio.name, value);
     }
     std::printf("\n");
     for (const auto& [name, value] : lines) {
-        std::printf("ratio %s %.3f\n", name.c_str(), value);
+        std::printf("ratio %s %.3g\n", name.c_str(), value);
     }
     return allWithin;
 }

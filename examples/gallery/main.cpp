@@ -87,6 +87,8 @@ int runTour(const CommandLine& options)
         return refuse(QStringLiteral("cannot write to the directory \"%1\"").arg(options.tourDirectory));
     }
     QApplication::setCursorFlashTime(0); // pictures do not depend on the moment
+    QCoreApplication::setAttribute(
+        Qt::AA_DontUseNativeDialogs); // a desktop's own dialog takes no events from a program
     const TourWorkspace workspace;
     if (!workspace.isUsable()) {
         return refuse(QStringLiteral("cannot write to the temporary directory \"%1\"").arg(QDir::tempPath()));

@@ -6,7 +6,7 @@ namespace morvane::test {
 
 void ShellContract::SetUp()
 {
-    driver = GetParam()();
+    driver = GetParam().make();
     sink = std::make_unique<LoggingSink>(shell());
     ASSERT_TRUE(folder.isValid());
     for (const char* const name : {"a.txt", "b.txt", "c.dat"}) {
@@ -132,7 +132,14 @@ void ShellContract::makeFile(const QString& name)
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
 }
 
-INSTANTIATE_TEST_SUITE_P(Widgets, ShellContract, ::testing::Values(&makeWidgetShellDriver));
-INSTANTIATE_TEST_SUITE_P(Recording, ShellContract, ::testing::Values(&makeRecordingShellDriver));
+void PrintTo(const NamedShellDriver& driver, std::ostream* out)
+{
+    *out << driver.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Shells, ShellContract,
+    ::testing::Values(
+        NamedShellDriver{"widgets", &makeWidgetShellDriver}, NamedShellDriver{"recording", &makeRecordingShellDriver}),
+    [](const auto& tested) { return std::string(tested.param.name); });
 
 } // namespace morvane::test

@@ -12,7 +12,7 @@
 namespace morvane::test {
 
 /** A Shell, a folder with files, and the calls of the interfaces in a form that tests can read. */
-class ShellContract : public ::testing::TestWithParam<ShellDriverFactory>
+class ShellContract : public ::testing::TestWithParam<NamedShellDriver>
 {
 protected:
     void SetUp() override;

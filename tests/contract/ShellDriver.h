@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <iosfwd>
 #include <memory>
 
 namespace morvane::test {
@@ -40,7 +41,14 @@ public:
     virtual int leaks() const { return 0; }
 };
 
-using ShellDriverFactory = std::unique_ptr<ShellDriver> (*)();
+/** What the tests are run with. */
+struct NamedShellDriver
+{
+    const char* name; ///< ends the names of the tests
+    std::unique_ptr<ShellDriver> (*make)();
+};
+
+void PrintTo(const NamedShellDriver& driver, std::ostream* out);
 
 std::unique_ptr<ShellDriver> makeWidgetShellDriver();
 std::unique_ptr<ShellDriver> makeRecordingShellDriver();

@@ -2,23 +2,19 @@
 
 #include "host/ApplicationSettings.h"
 #include "InlineNote.h"
-#include "PaddedItemDelegate.h"
+#include "pages/ChosenFilesTable.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 
 #include <QCheckBox>
-#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace gallery {
@@ -56,14 +52,13 @@ OpenFilesPage::OpenFilesPage()
       m_height(makeSideField(440)),
       m_open(new QPushButton(tr("&Open…"))),
       m_forget(new QPushButton(tr("For&get Geometry"))),
-      m_chosen(new QTableWidget)
+      m_chosen(new ChosenFilesTable)
 {
     m_oneFile->setChecked(true);
     m_withHelp->setChecked(true);
     m_validate->setChecked(true);
     body().addLayout(makeOptions());
     body().addLayout(makeButtons());
-    prepareTable();
     body().addWidget(m_chosen, 1);
     connectOptions();
     checkOptions();
@@ -125,28 +120,6 @@ QLayout* OpenFilesPage::makeButtons()
     row->addWidget(m_forget);
     row->addStretch(1);
     return row;
-}
-
-void OpenFilesPage::prepareTable()
-{
-    m_chosen->setAccessibleName(tr("Chosen files"));
-    m_chosen->setColumnCount(ColumnCount);
-    m_chosen->setHorizontalHeaderLabels({tr("Name"), tr("Size"), tr("Modified"), tr("Folder")});
-    m_chosen->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_chosen->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_chosen->horizontalHeader()->setStretchLastSection(true);
-    m_chosen->horizontalHeader()->setMinimumSectionSize(14 * m_chosen->fontMetrics().averageCharWidth());
-    m_chosen->horizontalHeader()->setHighlightSections(false);
-    m_chosen->verticalHeader()->hide();
-    m_chosen->setItemDelegate(new PaddedItemDelegate(4, m_chosen));
-    m_chosen->setTextElideMode(Qt::ElideMiddle);
-    m_chosen->setWordWrap(false);
-    m_chosen->setShowGrid(false);
-    m_chosen->setAlternatingRowColors(true);
-    m_chosen->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_chosen->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_chosen->setTabKeyNavigation(false);
-    m_chosen->setMinimumHeight(5 * m_chosen->verticalHeader()->defaultSectionSize());
 }
 
 void OpenFilesPage::connectOptions()
@@ -217,23 +190,8 @@ void OpenFilesPage::watch(QFileDialog& dialog)
 
 void OpenFilesPage::showChosen(const QStringList& files)
 {
-    const QLocale locale;
-    m_chosen->setRowCount(0);
-    for (const QString& file : files) {
-        const QFileInfo info(file);
-        const int row = m_chosen->rowCount();
-        const QString size = info.isDir()    ? tr("folder")
-                             : info.exists() ? locale.formattedDataSize(info.size())
-                                             : tr("does not exist");
-        m_chosen->insertRow(row);
-        m_chosen->setItem(row, Name, new QTableWidgetItem(info.fileName()));
-        m_chosen->setItem(row, Size, new QTableWidgetItem(size));
-        m_chosen->setItem(
-            row, Modified, new QTableWidgetItem(locale.toString(info.lastModified(), QLocale::ShortFormat)));
-        m_chosen->setItem(row, Folder, new QTableWidgetItem(QDir::toNativeSeparators(info.absolutePath())));
-        m_chosen->item(row, Size)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        m_chosen->item(row, Name)->setToolTip(QDir::toNativeSeparators(file));
-        Q_EMIT reported(tr("Chosen: %1 (%2)").arg(QDir::toNativeSeparators(file), size));
+    for (const QString& line : m_chosen->showFiles(files)) {
+        Q_EMIT reported(line);
     }
 }
 

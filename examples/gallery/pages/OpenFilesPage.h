@@ -10,10 +10,10 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QSpinBox;
-class QTableWidget;
 
 namespace gallery {
 
+class ChosenFilesTable;
 class InlineNote;
 
 /** Runs QExtendedFileDialog with the options that are set here, and lists what was chosen. */
@@ -27,21 +27,11 @@ public:
     std::vector<TourStep> tourSteps(const TourWorkspace& workspace) override;
 
 private:
-    enum Column
-    {
-        Name,
-        Size,
-        Modified,
-        Folder,
-        ColumnCount
-    };
-
     QFormLayout* makeOptions();
     QLayout* makeModeRow();
     QLayout* makeHelpRow();
     QLayout* makeSizeRow();
     QLayout* makeButtons();
-    void prepareTable();
     void connectOptions();
 
     QFileDialog::FileMode fileMode() const;
@@ -59,7 +49,6 @@ private:
     std::vector<TourStep> validationSteps(const TourWorkspace& workspace);
     std::vector<TourStep> geometrySteps(const TourWorkspace& workspace);
     TourStep openStep(const QString& name);
-    QString namesInTable() const;
 
     QRadioButton* m_oneFile;
     QRadioButton* m_severalFiles;
@@ -74,7 +63,7 @@ private:
     QSpinBox* m_height;
     QPushButton* m_open;
     QPushButton* m_forget;
-    QTableWidget* m_chosen;
+    ChosenFilesTable* m_chosen;
 };
 
 } // namespace gallery

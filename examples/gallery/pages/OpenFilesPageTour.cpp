@@ -1,93 +1,30 @@
 #include "InlineNote.h"
+#include "pages/ChosenFilesTable.h"
 #include "pages/OpenFilesPage.h"
+#include "tour/OpenFileDialog.h"
 #include "tour/TourUser.h"
 #include "tour/TourWorkspace.h"
-#include "ui/qt/dialogs/QExtendedFileDialog.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QTableWidget>
-#include <QTreeView>
-
-#include <iterator>
 
 namespace gallery {
 
+using tour::cancelStep;
 using tour::expect;
+using tour::expectListed;
+using tour::OpenFileDialog;
 
 namespace {
 
-/** The file dialog that is open now, by the parts that a user sees. */
-struct OpenDialog
-{
-    QExtendedFileDialog* dialog = tour::modal<QExtendedFileDialog>();
-
-    explicit operator bool() const { return dialog != nullptr; }
-    QLineEdit& name() const { return *dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")); }
-    QComboBox& filter() const { return *dialog->findChild<QComboBox*>(QStringLiteral("fileTypeCombo")); }
-    QPushButton& button(QDialogButtonBox::StandardButton which) const
-    {
-        return *dialog->findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->button(which);
-    }
-    QAbstractItemView& view() const
-    {
-        auto* const list = dialog->findChild<QListView*>(QStringLiteral("listView"));
-        auto* const tree = dialog->findChild<QTreeView*>(QStringLiteral("treeView"));
-        return list->isVisible() ? static_cast<QAbstractItemView&>(*list) : *tree;
-    }
-
-    QModelIndex find(const QString& fileName) const
-    {
-        const QModelIndex root = view().rootIndex();
-        for (int row = 0; row < root.model()->rowCount(root); ++row) {
-            const QModelIndex index = root.model()->index(row, 0, root);
-            if (index.data().toString() == fileName && !view().visualRect(index).isEmpty()) {
-                return index;
-            }
-        }
-        return QModelIndex();
-    }
-
-    QString names() const
-    {
-        QStringList names;
-        const QModelIndex root = view().rootIndex();
-        for (int row = 0; root.isValid() && row < root.model()->rowCount(root); ++row) {
-            names.append(root.model()->index(row, 0, root).data().toString());
-        }
-        return names.join(QLatin1Char(' '));
-    }
-};
-
-QString expectListed(const QString& names)
-{
-    const OpenDialog open;
-    if (!open) {
-        return QStringLiteral("the dialog is not open");
-    }
-    return expect(open.names() == names, QStringLiteral("the dialog lists \"%1\"").arg(open.names()));
-}
-
 const QString allMeasurements = QStringLiteral("archive run-001.dat run-002.dat run-003.dat summary.csv");
-
-TourStep cancelStep(const QString& name)
-{
-    return {name, [] { tour::press(OpenDialog().name(), Qt::Key_Escape); },
-        [] { return expect(!QApplication::activeModalWidget(), "the dialog is still open"); }};
-}
-
-void append(std::vector<TourStep>& steps, std::vector<TourStep> more)
-{
-    std::move(more.begin(), more.end(), std::back_inserter(steps));
-}
 
 } // namespace
 
@@ -105,15 +42,6 @@ std::vector<TourStep> OpenFilesPage::tourSteps(const TourWorkspace& workspace)
 TourStep OpenFilesPage::openStep(const QString& name)
 {
     return {name, [this] { tour::click(*m_open); }, [] { return expectListed(allMeasurements); }};
-}
-
-QString OpenFilesPage::namesInTable() const
-{
-    QStringList names;
-    for (int row = 0; row < m_chosen->rowCount(); ++row) {
-        names.append(m_chosen->item(row, Name)->text() + QLatin1Char('=') + m_chosen->item(row, Size)->text());
-    }
-    return names.join(QLatin1Char(' '));
 }
 
 std::vector<TourStep> OpenFilesPage::optionSteps(const TourWorkspace& workspace)
@@ -137,7 +65,7 @@ std::vector<TourStep> OpenFilesPage::oneFileSteps(const TourWorkspace& workspace
 {
     std::vector<TourStep> steps;
     steps.push_back(openStep(QStringLiteral("dialog-for-one-file")));
-    steps.push_back({QStringLiteral("help-button"), [] { tour::click(OpenDialog().button(QDialogButtonBox::Help)); },
+    steps.push_back({QStringLiteral("help-button"), [] { tour::click(OpenFileDialog().helpButton()); },
         [&workspace] {
             const QFileInfo page(workspace.openedPage());
             return expect(page.isFile() && page.fileName() == QStringLiteral("open-files.html"),
@@ -145,30 +73,29 @@ std::vector<TourStep> OpenFilesPage::oneFileSteps(const TourWorkspace& workspace
         }});
     steps.push_back({QStringLiteral("wildcard"),
         [] {
-            tour::type(OpenDialog().name(), QStringLiteral("*2*"));
-            tour::press(OpenDialog().name(), Qt::Key_Return);
+            tour::type(OpenFileDialog().name(), QStringLiteral("*2*"));
+            tour::press(OpenFileDialog().name(), Qt::Key_Return);
         },
         [] {
             const QString complaint = expectListed(QStringLiteral("archive run-002.dat"));
             return complaint.isEmpty()
-                       ? expect(OpenDialog().filter().currentText() == QStringLiteral("Measurements (*2*)"),
+                       ? expect(OpenFileDialog().type().currentText() == QStringLiteral("Measurements (*2*)"),
                              "the name filter does not show the wildcard")
                        : complaint;
         }});
     steps.push_back({QStringLiteral("pick-one-file"),
-        [] { tour::clickItem(OpenDialog().view(), OpenDialog().find(QStringLiteral("run-002.dat"))); },
+        [] { tour::clickItem(OpenFileDialog().view(), OpenFileDialog().find(QStringLiteral("run-002.dat"))); },
         [] {
-            return expect(OpenDialog() && OpenDialog().name().text() == QStringLiteral("run-002.dat"),
+            return expect(OpenFileDialog() && OpenFileDialog().name().text() == QStringLiteral("run-002.dat"),
                 "the name field does not follow");
         }});
-    steps.push_back(
-        {QStringLiteral("one-file-chosen"), [] { tour::click(OpenDialog().button(QDialogButtonBox::Open)); },
-            [this, &workspace] {
-                const qint64 size = QFileInfo(workspace.folder().path(QStringLiteral("run-002.dat"))).size();
-                const QString expected = QStringLiteral("run-002.dat=") + QLocale().formattedDataSize(size);
-                return expect(!QApplication::activeModalWidget() && namesInTable() == expected,
-                    QStringLiteral("the table holds \"%1\"").arg(namesInTable()));
-            }});
+    steps.push_back({QStringLiteral("one-file-chosen"), [] { tour::click(OpenFileDialog().acceptButton()); },
+        [this, &workspace] {
+            const qint64 size = QFileInfo(workspace.folder().path(QStringLiteral("run-002.dat"))).size();
+            const QString expected = QStringLiteral("run-002.dat=") + QLocale().formattedDataSize(size);
+            return expect(!QApplication::activeModalWidget() && m_chosen->content() == expected,
+                QStringLiteral("the table holds \"%1\"").arg(m_chosen->content()));
+        }});
     return steps;
 }
 
@@ -180,21 +107,20 @@ std::vector<TourStep> OpenFilesPage::severalFilesSteps(const TourWorkspace&)
     steps.push_back(openStep(QStringLiteral("dialog-for-several-files")));
     steps.push_back({QStringLiteral("pick-several-files"),
         [] {
-            const OpenDialog open;
+            const OpenFileDialog open;
             tour::clickItem(open.view(), open.find(QStringLiteral("run-001.dat")));
             tour::clickItem(open.view(), open.find(QStringLiteral("run-003.dat")), Qt::ControlModifier);
             tour::clickItem(open.view(), open.find(QStringLiteral("summary.csv")), Qt::ControlModifier);
         },
         [] {
-            return expect(OpenDialog() && OpenDialog().name().text().count(QLatin1Char('"')) == 6,
+            return expect(OpenFileDialog() && OpenFileDialog().name().text().count(QLatin1Char('"')) == 6,
                 "the name field does not hold three names");
         }});
-    steps.push_back(
-        {QStringLiteral("several-files-chosen"), [] { tour::click(OpenDialog().button(QDialogButtonBox::Open)); },
-            [this] {
-                return expect(m_chosen->rowCount() == 3 && !QApplication::activeModalWidget(),
-                    QStringLiteral("the table holds \"%1\"").arg(namesInTable()));
-            }});
+    steps.push_back({QStringLiteral("several-files-chosen"), [] { tour::click(OpenFileDialog().acceptButton()); },
+        [this] {
+            return expect(m_chosen->rowCount() == 3 && !QApplication::activeModalWidget(),
+                QStringLiteral("the table holds \"%1\"").arg(m_chosen->content()));
+        }});
     return steps;
 }
 
@@ -206,15 +132,15 @@ std::vector<TourStep> OpenFilesPage::folderSteps(const TourWorkspace&)
     steps.push_back({QStringLiteral("dialog-for-a-folder"), [this] { tour::click(*m_open); },
         [] { return expectListed(QStringLiteral("archive")); }});
     steps.push_back({QStringLiteral("pick-folder"),
-        [] { tour::clickItem(OpenDialog().view(), OpenDialog().find(QStringLiteral("archive"))); },
+        [] { tour::clickItem(OpenFileDialog().view(), OpenFileDialog().find(QStringLiteral("archive"))); },
         [] {
-            return expect(OpenDialog() && OpenDialog().name().text() == QStringLiteral("archive"),
+            return expect(OpenFileDialog() && OpenFileDialog().name().text() == QStringLiteral("archive"),
                 "the name field does not follow");
         }});
-    steps.push_back({QStringLiteral("folder-chosen"), [] { tour::press(OpenDialog().name(), Qt::Key_Return); },
+    steps.push_back({QStringLiteral("folder-chosen"), [] { tour::press(OpenFileDialog().name(), Qt::Key_Return); },
         [this] {
-            return expect(!QApplication::activeModalWidget() && namesInTable() == QStringLiteral("archive=folder"),
-                QStringLiteral("the table holds \"%1\"").arg(namesInTable()));
+            return expect(!QApplication::activeModalWidget() && m_chosen->content() == QStringLiteral("archive=folder"),
+                QStringLiteral("the table holds \"%1\"").arg(m_chosen->content()));
         }});
     return steps;
 }
@@ -222,8 +148,8 @@ std::vector<TourStep> OpenFilesPage::folderSteps(const TourWorkspace&)
 std::vector<TourStep> OpenFilesPage::validationSteps(const TourWorkspace&)
 {
     const auto typeMissingName = [] {
-        tour::type(OpenDialog().name(), QStringLiteral("absent.dat"));
-        tour::press(OpenDialog().name(), Qt::Key_Return);
+        tour::type(OpenFileDialog().name(), QStringLiteral("absent.dat"));
+        tour::press(OpenFileDialog().name(), Qt::Key_Return);
     };
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("choose-one-file"), [this] { tour::click(*m_oneFile); },
@@ -233,15 +159,15 @@ std::vector<TourStep> OpenFilesPage::validationSteps(const TourWorkspace&)
         [] { return expect(tour::modal<QMessageBox>() != nullptr, "no message tells that the file is missing"); }});
     steps.push_back(
         {QStringLiteral("back-in-dialog"), [] { tour::press(*QApplication::activeModalWidget(), Qt::Key_Return); },
-            [] { return expect(bool(OpenDialog()), "the dialog is not back"); }});
+            [] { return expect(bool(OpenFileDialog()), "the dialog is not back"); }});
     steps.push_back(cancelStep(QStringLiteral("cancelled")));
     steps.push_back({QStringLiteral("validation-off"), [this] { tour::click(*m_validate); },
         [this] { return expect(!m_validate->isChecked(), "the option is still set"); }});
     steps.push_back(openStep(QStringLiteral("dialog-without-validation")));
     steps.push_back({QStringLiteral("missing-file-chosen"), typeMissingName, [this] {
                          return expect(!QApplication::activeModalWidget() &&
-                                           namesInTable() == QStringLiteral("absent.dat=does not exist"),
-                             QStringLiteral("the table holds \"%1\"").arg(namesInTable()));
+                                           m_chosen->content() == QStringLiteral("absent.dat=does not exist"),
+                             QStringLiteral("the table holds \"%1\"").arg(m_chosen->content()));
                      }});
     return steps;
 }
@@ -251,14 +177,14 @@ std::vector<TourStep> OpenFilesPage::geometrySteps(const TourWorkspace&)
     // Small enough for any screen that is worth a picture.
     static const QSize picked(640, 380);
     const auto sizeIs = [](const QSize& size) {
-        const OpenDialog open;
+        const OpenFileDialog open;
         return expect(open && open.dialog->size() == size,
             QStringLiteral("the dialog is %1 px wide").arg(open ? open.dialog->width() : 0));
     };
     std::vector<TourStep> steps;
     steps.push_back(openStep(QStringLiteral("dialog-to-resize")));
     steps.push_back(
-        {QStringLiteral("resized"), [] { OpenDialog().dialog->resize(picked); }, [=] { return sizeIs(picked); }});
+        {QStringLiteral("resized"), [] { OpenFileDialog().dialog->resize(picked); }, [=] { return sizeIs(picked); }});
     steps.push_back(cancelStep(QStringLiteral("resized-cancelled")));
     steps.push_back({QStringLiteral("size-kept"), [this] { tour::click(*m_open); }, [=] { return sizeIs(picked); }});
     steps.push_back(cancelStep(QStringLiteral("size-kept-cancelled")));

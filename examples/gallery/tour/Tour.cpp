@@ -134,7 +134,7 @@ void Tour::finish(int exitCode)
 
 QString Tour::fileName() const
 {
-    return QStringLiteral("%1-%2.png").arg(m_next + 1, 2, 10, QLatin1Char('0')).arg(m_steps[m_next].name);
+    return QStringLiteral("%1-%2.png").arg(m_next + 1, 3, 10, QLatin1Char('0')).arg(m_steps[m_next].name);
 }
 
 void Tour::say(const QString& line)

@@ -28,7 +28,8 @@ std::vector<QWidget*> visibleWindows(QWidget& mainWindow)
 {
     std::vector<QWidget*> windows;
     for (QWidget* const window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window != &mainWindow && window->windowType() != Qt::Desktop) {
+        const bool onScreen = window->isVisible() && !window->testAttribute(Qt::WA_DontShowOnScreen);
+        if (onScreen && window != &mainWindow && window->windowType() != Qt::Desktop) {
             windows.push_back(window);
         }
     }

@@ -3,6 +3,8 @@
 #include <QString>
 
 #include <functional>
+#include <iterator>
+#include <vector>
 
 namespace gallery {
 
@@ -16,5 +18,19 @@ struct TourStep
     /** What is not yet as expected, or an empty text. Asked again and again until it is empty or the time is up. */
     std::function<QString()> check;
 };
+
+inline void append(std::vector<TourStep>& steps, std::vector<TourStep> more)
+{
+    std::move(more.begin(), more.end(), std::back_inserter(steps));
+}
+
+/** The same steps for one of two kinds of dialog, told apart by their names. */
+inline std::vector<TourStep> namedAfterKind(std::vector<TourStep> steps, bool native)
+{
+    for (TourStep& step : steps) {
+        step.name.prepend(native ? QStringLiteral("native-") : QStringLiteral("qt-"));
+    }
+    return steps;
+}
 
 } // namespace gallery

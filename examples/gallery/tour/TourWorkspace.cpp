@@ -25,6 +25,7 @@ TourWorkspace::~TourWorkspace()
 void TourWorkspace::openUrl(const QUrl& url)
 {
     m_openedPage = url.toLocalFile();
+    ++m_openedPages;
 }
 
 } // namespace gallery

@@ -29,6 +29,8 @@ public:
     const TourFolder& folder() const { return m_folder; }
     /** The file that a Help button opened last; empty when none did. */
     QString openedPage() const { return m_openedPage; }
+    /** How often a Help button opened one. */
+    int openedPages() const { return m_openedPages; }
 
 public Q_SLOTS:
     void openUrl(const QUrl& url);
@@ -38,6 +40,7 @@ private:
     TourFolder m_folder;
     bool m_usable = false;
     QString m_openedPage;
+    int m_openedPages = 0;
     std::unique_ptr<morvane::ApplicationSettings> m_settings;
     std::unique_ptr<morvane::InstanceOverride<morvane::ApplicationSettings>> m_override;
 };

@@ -4,6 +4,7 @@
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
+#include "ui/qt/dialogs/shell/WidgetShell.h"
 
 #include <gtest/gtest.h>
 
@@ -87,6 +88,9 @@ protected:
             m_parent.data(), "Save data", directory(), "report", writers, selected, "");
     }
 
+    // The steps of these tests are those of a person before Qt's widgets, on every platform.
+    morvane::ui::WidgetShell m_shell{morvane::ui::WidgetShell::Appearance::AlwaysWidgets};
+    morvane::ui::ShellOverride m_override{m_shell};
     QTemporaryDir m_directory;
     QPointer<QWidget> m_parent;
 };

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ui/qt/dialogs/LaunchFileDialog.h"
 #include "ui/qt/MorvaneUiExport.h"
 
 #include <QDir>
@@ -14,6 +13,9 @@
 class ExtendedWinFileDialog;
 class QExtendedFileDialog;
 class QWidget;
+namespace morvane::ui {
+struct ParentlessFileDialog;
+}
 
 /**
  * The file dialog that a host holds: the native one (ExtendedWinFileDialog) or the one made of Qt's widgets
@@ -72,8 +74,7 @@ public:
     void setShowDirectoriesOnly(bool on);
 
 private:
-    friend bool morvane::ui::LaunchFileDialog(std::vector<std::string>&, int&, const std::string&,
-        const std::vector<std::string>&, const std::vector<std::string>&, bool, bool, int);
+    friend struct morvane::ui::ParentlessFileDialog;
 
     // For callers that may have no parent.
     ExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,

@@ -29,8 +29,10 @@ class QWidget;
  * keeps folder, typed name and file type.
  *
  * All `std::string` arguments are UTF-8. A name filter is a description, one blank, and blank-separated patterns in
- * parentheses, `Images (*.png *.jpg)`; several are joined by `;;`. In a save dialog, choosing another file type gives
- * the typed name the extension of that type, or none when its pattern is not of the form `*.extension`.
+ * parentheses, `Images (*.png *.jpg)`; several are joined by `;;`. In a save dialog, opening it and choosing another
+ * file type give the typed name the extension of the chosen type, or none when its first pattern is not of the form
+ * `*.extension`. Give each type of a save dialog one pattern: of several, everything after the first `*.` becomes the
+ * extension, as in `image.png *.jpg`.
  *
  * @code
  * ExtendedWinFileDialog dialog(window, "Save", "", "Data (*.dat);;All (*)", "", QFileDialog::AcceptSave, true);

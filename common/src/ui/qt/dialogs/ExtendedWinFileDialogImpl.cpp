@@ -104,7 +104,8 @@ void ExtendedWinFileDialog::Impl::showHelp()
 
 QString ExtendedWinFileDialog::Impl::currentNameFilter() const
 {
-    return m_nameFilters.value(m_currentFilterIndex->value() - 1);
+    const int index = m_currentFilterIndex->value();
+    return index >= 1 ? m_nameFilters.value(index - 1) : QString();
 }
 
 void ExtendedWinFileDialog::Impl::close()
@@ -125,7 +126,7 @@ QStringList ExtendedWinFileDialog::Impl::selectedFiles()
     if ((options & FOS_ALLOWMULTISELECT) == 0) {
         ComPtr<IShellItem> item;
         if (SUCCEEDED(m_dialog->GetResult(item.put())) && item) {
-            files.append(pathOf(*item));
+            appendPath(files, *item);
         }
         return files;
     }
@@ -140,7 +141,7 @@ QStringList ExtendedWinFileDialog::Impl::selectedFiles()
         ComPtr<IShellItem> item;
         items->GetItemAt(i, item.put());
         if (item) {
-            files.append(pathOf(*item));
+            appendPath(files, *item);
         }
     }
     return files;
@@ -231,23 +232,20 @@ void ExtendedWinFileDialog::Impl::typeChanged(IFileDialog& dialog)
     if (m_acceptMode != QFileDialog::AcceptSave) {
         return;
     }
-    const int position = m_currentFilterIndex->value() - 1;
-    if (position < 0 || position >= m_nameFilters.size()) {
-        return;
-    }
-    replaceTypedExtension(dialog, extensionOfNameFilter(m_nameFilters[position].toStdString()));
+    replaceTypedExtension(dialog);
 }
 
-void ExtendedWinFileDialog::Impl::replaceTypedExtension(IFileDialog& dialog, const std::string& extension)
+void ExtendedWinFileDialog::Impl::replaceTypedExtension(IFileDialog& dialog)
 {
     LPWSTR text = nullptr;
     const HRESULT result = dialog.GetFileName(&text);
     const QString name = takeText(text);
-    if (FAILED(result) || name.isEmpty()) {
+    const int index = m_currentFilterIndex->value();
+    if (FAILED(result) || name.isEmpty() || index < 1 || index > m_nameFilters.size()) {
         return;
     }
     boost::filesystem::path path = pathFromUtf8(name.toStdString());
-    path.replace_extension(pathFromUtf8(extension));
+    path.replace_extension(pathFromUtf8(extensionOfNameFilter(m_nameFilters[index - 1].toStdString())));
     dialog.SetFileName(shellText(pathToGenericUtf8(path)).c_str());
 }
 
@@ -279,6 +277,14 @@ QString ExtendedWinFileDialog::Impl::takeText(LPWSTR text)
     const QString result = morvane::ui::toQString(text);
     m_shell.coTaskMemFree(text);
     return result;
+}
+
+void ExtendedWinFileDialog::Impl::appendPath(QStringList& files, IShellItem& item)
+{
+    const QString path = pathOf(item);
+    if (!path.isEmpty()) { // not told, or of something that is no file
+        files.append(path);
+    }
 }
 
 QString ExtendedWinFileDialog::Impl::pathOf(IShellItem& item)

@@ -71,7 +71,8 @@ struct ExtendedWinFileDialog::Impl
     static morvane::ui::ShellString shellText(const std::string& utf8);
     QString takeText(LPWSTR text);
     QString pathOf(IShellItem& item);
-    void replaceTypedExtension(IFileDialog& dialog, const std::string& extension);
+    void appendPath(QStringList& files, IShellItem& item);
+    void replaceTypedExtension(IFileDialog& dialog);
 
     morvane::ui::Shell& m_shell;
     morvane::ui::ComPtr<IFileDialog> m_dialog;

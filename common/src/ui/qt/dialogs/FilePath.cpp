@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <type_traits>
 
 namespace {
@@ -30,6 +31,8 @@ std::string utf8FromNative(const Text& native)
     }
 }
 
+constexpr bool slashIsNative = boost::filesystem::path::preferred_separator == '/';
+
 } // namespace
 
 boost::filesystem::path pathFromUtf8(const std::string& utf8)
@@ -45,4 +48,12 @@ std::string pathToUtf8(const boost::filesystem::path& path)
 std::string pathToGenericUtf8(const boost::filesystem::path& path)
 {
     return utf8FromNative(path.generic_path().native());
+}
+
+std::string withForwardSlashes(std::string utf8)
+{
+    if (!slashIsNative) {
+        std::replace(utf8.begin(), utf8.end(), '\\', '/');
+    }
+    return utf8;
 }

@@ -16,3 +16,6 @@ std::string pathToUtf8(const boost::filesystem::path& path);
 
 /** The name of @p path in UTF-8, with forward slashes. */
 std::string pathToGenericUtf8(const boost::filesystem::path& path);
+
+/** The name with forward slashes where the platform has other separators. */
+std::string withForwardSlashes(std::string utf8);

@@ -10,6 +10,17 @@
 
 namespace morvane::ui {
 
+// ExtendedFileDialog's friend. Befriending the exported function itself makes MinGW's compiler warn in every program
+// that includes both headers.
+struct ParentlessFileDialog
+{
+    static ExtendedFileDialog make(
+        QWidget* parent, const std::string& caption, const std::string& filter, QFileDialog::AcceptMode acceptMode)
+    {
+        return ExtendedFileDialog(parent, caption, std::string(), filter, std::string(), acceptMode);
+    }
+};
+
 namespace {
 
 QString fromUtf8(const std::string& text)
@@ -66,8 +77,8 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
     if (nameFilters.empty()) {
         return false;
     }
-    ExtendedFileDialog dialog(QApplication::activeWindow(), caption, std::string(), joinedFilters(nameFilters),
-        std::string(), saveMode ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    ExtendedFileDialog dialog = ParentlessFileDialog::make(QApplication::activeWindow(), caption,
+        joinedFilters(nameFilters), saveMode ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(fileMode(saveMode, allowMultiple));
 
     // A save dialog whose first filter takes every name chooses its filter before it is given a name, which would

@@ -15,7 +15,7 @@ struct Enclosed
 Enclosed findEnclosed(std::string_view filter, std::string_view opening)
 {
     // A dot in the expressions matches no line break, so a text that has one matches as a whole never.
-    if (filter.find_first_of("\n\r") != std::string_view::npos) {
+    if (filter.find('\n') != std::string_view::npos || filter.find('\r') != std::string_view::npos) {
         return {};
     }
     const std::size_t closing = filter.rfind(')');
@@ -48,10 +48,9 @@ QString withoutBlanksAround(const QString& text)
 FileTypeText splitNameFilter(std::string_view filter)
 {
     const Enclosed patterns = findEnclosed(filter, " (");
-    FileTypeText result{"File of Type", std::string(filter)};
-    if (patterns.found) {
-        result = {std::string(filter.substr(0, patterns.openingAt)), std::string(patterns.text)};
-    }
+    FileTypeText result;
+    result.description = patterns.found ? filter.substr(0, patterns.openingAt) : "File of Type";
+    result.patterns = patterns.found ? patterns.text : filter;
     std::replace(result.patterns.begin(), result.patterns.end(), ' ', ';');
     return result;
 }

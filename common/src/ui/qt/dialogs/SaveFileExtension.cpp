@@ -2,26 +2,28 @@
 
 #include "ui/qt/dialogs/FilePath.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace {
 
+bool isNoise(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r') || c == '(' || c == ')' || c == '*';
+}
+
 std::string extensionOf(std::string_view nameFilter)
 {
     const std::size_t dot = nameFilter.rfind('.');
-    std::string extension;
-    for (const char c : nameFilter.substr(dot == std::string_view::npos ? 0 : dot)) {
-        if (std::string_view(" \t\n\v\f\r()*").find(c) == std::string_view::npos) {
-            extension += c;
-        }
-    }
+    std::string extension(nameFilter.substr(dot == std::string_view::npos ? 0 : dot));
+    extension.erase(std::remove_if(extension.begin(), extension.end(), isNoise), extension.end());
     return extension;
 }
 
-bool wantsExtension(const std::string& filename)
+bool wantsExtension(std::string_view filename)
 {
     const std::size_t dot = filename.rfind('.');
-    return dot == std::string::npos || dot + 1 == filename.size();
+    return dot == std::string_view::npos || dot + 1 == filename.size();
 }
 
 } // namespace
@@ -32,7 +34,10 @@ std::string applyFilterExtension(const std::string& filename, const std::string&
     if (extension.empty() || !wantsExtension(filename)) {
         return filename;
     }
-    boost::filesystem::path path = pathFromUtf8(filename);
-    path.replace_extension(pathFromUtf8(extension));
-    return pathToGenericUtf8(path);
+    if (!filename.empty() && filename.back() == '.') {
+        boost::filesystem::path path = pathFromUtf8(filename);
+        return pathToGenericUtf8(path.replace_extension(pathFromUtf8(extension)));
+    }
+    // Without a dot there is nothing to replace, and no need to take the path apart.
+    return withForwardSlashes(filename + (extension.front() == '.' ? "" : ".") + extension);
 }

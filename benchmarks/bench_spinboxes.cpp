@@ -1,0 +1,260 @@
+#include "LiteralDigitSearch.h"
+#include "LiteralNumberReading.h"
+#include "support/Ratio.h"
+#include "ui/qt/controls/DigitSearch.h"
+#include "ui/qt/controls/QScientificSpinBox.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <limits>
+#include <random>
+#include <vector>
+
+namespace {
+
+using morvane::test::literalDigitSearch;
+using morvane::test::literalReading;
+using morvane::ui::findDigitsInRange;
+using morvane::ui::NumberRules;
+using morvane::ui::QScientificSpinBox;
+
+constexpr qint64 lowest = std::numeric_limits<qint64>::min();
+constexpr qint64 highest = std::numeric_limits<qint64>::max();
+constexpr double largest = std::numeric_limits<double>::max();
+
+/** The shortest of a few times of `action`, in nanoseconds. */
+template <typename Action>
+double timeOf(int tries, Action action)
+{
+    qint64 shortest = highest;
+    for (int i = 0; i < tries; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        action();
+        shortest = std::min(shortest, timer.nsecsElapsed());
+    }
+    return static_cast<double>(shortest);
+}
+
+template <typename Case, typename Action>
+Case slowestOf(const std::vector<Case>& cases, int tries, Action action)
+{
+    double worst = -1;
+    Case slowest = cases.front();
+    for (const Case& each : cases) {
+        const double time = timeOf(tries, [&] { action(each); });
+        if (time > worst) {
+            worst = time;
+            slowest = each;
+        }
+    }
+    return slowest;
+}
+
+struct Search
+{
+    qint64 number;
+    qint64 minimum;
+    qint64 maximum;
+};
+
+std::vector<Search> hardSearches(int count)
+{
+    std::vector<Search> searches = {{lowest, lowest + 1, highest}, {highest, lowest, highest - 1},
+        {5555555555555555555, lowest, 5555555555555555554}, {11, lowest, 10}, {-11, -10, highest}};
+    std::mt19937_64 random(3);
+    while (static_cast<int>(searches.size()) < count) {
+        const auto number = static_cast<qint64>(random() >> random() % 40);
+        const auto a = static_cast<qint64>(random() >> random() % 60);
+        const auto b = static_cast<qint64>(random() >> random() % 60);
+        if (number < std::min(a, b) || number > std::max(a, b)) {
+            searches.push_back({number, std::min(a, b), std::max(a, b)});
+        }
+    }
+    return searches;
+}
+
+void digitSearchWorst(benchmark::State& state)
+{
+    static const Search worst = slowestOf(hardSearches(20000), 50,
+        [](const Search& s) { benchmark::DoNotOptimize(findDigitsInRange(s.number, s.minimum, s.maximum)); });
+    Search search = worst;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(search);
+        benchmark::DoNotOptimize(findDigitsInRange(search.number, search.minimum, search.maximum));
+    }
+}
+MORVANE_BENCHMARK(digitSearchWorst);
+
+void literalDigitSearchWorst(benchmark::State& state)
+{
+    static const Search worst = slowestOf(hardSearches(60), 2,
+        [](const Search& s) { benchmark::DoNotOptimize(literalDigitSearch(s.number, s.minimum, s.maximum)); });
+    Search search = worst;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(search);
+        benchmark::DoNotOptimize(literalDigitSearch(search.number, search.minimum, search.maximum));
+    }
+}
+MORVANE_BENCHMARK(literalDigitSearchWorst);
+
+/** A text as it stands after a keystroke, in a spin box of that range. */
+struct Keystroke
+{
+    QString text;
+    double minimum = 0;
+    double maximum = 0;
+    int decimals = 8;
+};
+
+std::vector<Keystroke> keystrokes()
+{
+    const std::array<const char*, 10> texts = {"-1.2345E-07", "123456789.123456789", "-987654321012.5", "1,234,567.25",
+        "-12,34,56", "0.000000000000001", "-.999999999999", "111111111111111111.1", "77777777",
+        "1.7976931348623157E+308"};
+    const std::array<double, 11> limits = {
+        -largest, -9.2e18, -1234567890123.5, -1e6 - 0.5, -2, 0, 0.001, 2.5, 400000.25, 98765432101234.5, 9.2e18};
+    std::vector<Keystroke> all;
+    for (const char* const text : texts) {
+        for (int length = 1; text[length - 1] != 0; ++length) {
+            for (size_t i = 0; i < limits.size(); ++i) {
+                for (size_t j = i + 1; j < limits.size(); ++j) {
+                    for (const int decimals : {8, 12}) {
+                        all.push_back({QString::fromLatin1(text, length), limits[i], limits[j], decimals});
+                    }
+                }
+            }
+        }
+    }
+    return all;
+}
+
+/** Validates what was typed, and then another text, so that the answer is not remembered. */
+void validate(const QScientificSpinBox& spin, const Keystroke& key)
+{
+    static const QString plus = QStringLiteral("+");
+    for (QString text : {key.text, plus}) {
+        int pos = text.size();
+        benchmark::DoNotOptimize(spin.validate(text, pos));
+    }
+}
+
+void prepare(QScientificSpinBox& spin, const Keystroke& key)
+{
+    spin.setRange(key.minimum, key.maximum);
+    spin.setDecimals(key.decimals);
+}
+
+void validateWorst(benchmark::State& state)
+{
+    static QScientificSpinBox spin;
+    static const Keystroke worst = [] {
+        Keystroke slowest;
+        double longest = -1;
+        for (const Keystroke& key : keystrokes()) {
+            prepare(spin, key);
+            const double time = timeOf(8, [&] { validate(spin, key); });
+            if (time > longest) {
+                longest = time;
+                slowest = key;
+            }
+        }
+        return slowest;
+    }();
+    prepare(spin, worst);
+    for (auto _ : state) {
+        validate(spin, worst);
+    }
+    state.SetLabel(worst.text.toStdString());
+}
+MORVANE_BENCHMARK(validateWorst);
+
+void readWithTheLoop(const Keystroke& key)
+{
+    const NumberRules rules{key.minimum, key.maximum, key.decimals, '.', ',', {}, {}, {}};
+    int pos = key.text.size();
+    benchmark::DoNotOptimize(literalReading(key.text, pos, rules, literalDigitSearch));
+}
+
+void validateWorstWithTheLoop(benchmark::State& state)
+{
+    // Each costs milliseconds, so a part of them has to do.
+    static const Keystroke worst = [] {
+        std::vector<Keystroke> all = keystrokes();
+        std::shuffle(all.begin(), all.end(), std::mt19937(5));
+        all.resize(800);
+        return slowestOf(all, 1, readWithTheLoop);
+    }();
+    for (auto _ : state) {
+        readWithTheLoop(worst);
+    }
+    state.SetLabel(worst.text.toStdString());
+}
+MORVANE_BENCHMARK(validateWorstWithTheLoop);
+
+/** Validates a text as it grows key by key; no text follows itself, so that no answer is remembered. */
+template <typename SpinBox>
+void typeKeyByKey(benchmark::State& state, const SpinBox& spin, const QString& whole)
+{
+    std::vector<QString> texts;
+    for (int length = 1; length <= whole.size(); ++length) {
+        texts.push_back(whole.left(length));
+    }
+    for (auto _ : state) {
+        for (QString& text : texts) {
+            int pos = text.size();
+            benchmark::DoNotOptimize(spin.validate(text, pos));
+        }
+    }
+}
+
+void validateTypical(benchmark::State& state)
+{
+    typeKeyByKey(state, QScientificSpinBox(), QStringLiteral("-1.2345E-07"));
+}
+MORVANE_BENCHMARK(validateTypical);
+
+void validateTypicalByQt(benchmark::State& state)
+{
+    QDoubleSpinBox spin;
+    spin.setDecimals(12);
+    spin.setRange(-1e6, 1e6);
+    typeKeyByKey(state, spin, QStringLiteral("-1.23456789"));
+}
+MORVANE_BENCHMARK(validateTypicalByQt);
+
+const std::array<double, 8> constants = {
+    299792458, 6.62607015e-34, -1.602176634e-19, 8.8541878128e-12, 9.80665, 100, 6.02214076e23, 0.000015};
+
+void text(benchmark::State& state)
+{
+    const QScientificSpinBox spin;
+    for (auto _ : state) {
+        for (const double constant : constants) {
+            benchmark::DoNotOptimize(spin.textFromValue(constant));
+        }
+    }
+}
+MORVANE_BENCHMARK(text);
+
+void textBySnprintf(benchmark::State& state)
+{
+    char buffer[1077];
+    for (auto _ : state) {
+        for (const double constant : constants) {
+            benchmark::DoNotOptimize(std::snprintf(buffer, sizeof buffer, "%.*G", 8, constant));
+            benchmark::ClobberMemory();
+        }
+    }
+}
+MORVANE_BENCHMARK(textBySnprintf);
+
+MORVANE_RATIO(spin_digit_search_worst, digitSearchWorst, literalDigitSearchWorst, 0.001);
+MORVANE_RATIO(spin_validate_worst, validateWorst, validateWorstWithTheLoop, 0.01);
+MORVANE_RATIO(spin_validate_typical, validateTypical, validateTypicalByQt, 1.0);
+MORVANE_RATIO(spin_text, text, textBySnprintf, 1.5);
+
+} // namespace

@@ -1,0 +1,34 @@
+# Cross-building for 64-bit Windows with MinGW-w64. MORVANE_WINDOWS_SDK (cache or environment variable) is a prefix
+# that holds Qt, Boost and GoogleTest for that target; packaging/windows/make-sdk makes one.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+
+# The variant with C++ threads, where the machine offers two.
+set(mingw_triplet x86_64-w64-mingw32)
+find_program(MINGW_CXX NAMES ${mingw_triplet}-g++-posix ${mingw_triplet}-g++)
+find_program(MINGW_CC NAMES ${mingw_triplet}-gcc-posix ${mingw_triplet}-gcc)
+mark_as_advanced(MINGW_CXX MINGW_CC)
+set(CMAKE_CXX_COMPILER ${MINGW_CXX})
+set(CMAKE_C_COMPILER ${MINGW_CC})
+set(CMAKE_RC_COMPILER ${mingw_triplet}-windres)
+
+if(NOT MORVANE_WINDOWS_SDK)
+    set(MORVANE_WINDOWS_SDK "$ENV{MORVANE_WINDOWS_SDK}")
+endif()
+set(MORVANE_WINDOWS_SDK "${MORVANE_WINDOWS_SDK}" CACHE PATH "Qt, Boost and GoogleTest for the Windows target")
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES MORVANE_WINDOWS_SDK)
+if(NOT EXISTS "${MORVANE_WINDOWS_SDK}/bin")
+    message(FATAL_ERROR "MORVANE_WINDOWS_SDK is not the directory of an SDK: '${MORVANE_WINDOWS_SDK}'")
+endif()
+
+# Nothing of the building machine is found by chance; what the person names in CMAKE_PREFIX_PATH is.
+set(CMAKE_FIND_ROOT_PATH ${MORVANE_WINDOWS_SDK} ${CMAKE_PREFIX_PATH})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+set(Boost_USE_STATIC_LIBS ON)
+
+set(CMAKE_CROSSCOMPILING_EMULATOR
+    ${CMAKE_CURRENT_LIST_DIR}/../../packaging/windows/run-wine
+    --home ${CMAKE_BINARY_DIR}/wine --sdk ${MORVANE_WINDOWS_SDK} --)

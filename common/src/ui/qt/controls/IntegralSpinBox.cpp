@@ -1,0 +1,43 @@
+#include "ui/qt/controls/IntegralSpinBox.h"
+
+#include "ui/qt/controls/StepSignals.h"
+
+namespace morvane::ui {
+
+class IntegralSpinBoxPrivate
+{
+public:
+    QSpinBox* m_spinBox;
+    boost::signals2::signal<void()>* m_increment;
+    boost::signals2::signal<void()>* m_decrement;
+
+    void stepBy(int steps);
+};
+
+void IntegralSpinBoxPrivate::stepBy(int steps)
+{
+    if (handStepToHost(steps, *m_increment, *m_decrement)) {
+        return;
+    }
+    const auto change = static_cast<unsigned>(m_spinBox->singleStep()) * static_cast<unsigned>(steps);
+    m_spinBox->setValue(static_cast<int>(static_cast<unsigned>(m_spinBox->value()) + change));
+}
+
+IntegralSpinBox::IntegralSpinBox(QWidget* parent)
+    : QSpinBox(parent), m_private(new IntegralSpinBoxPrivate{this, &signalIncrement, &signalDecrement})
+{
+    setKeyboardTracking(false);
+}
+
+IntegralSpinBox::~IntegralSpinBox() = default;
+
+void IntegralSpinBox::stepBy(int steps)
+{
+    m_private->stepBy(steps);
+}
+
+void IntegralSpinBox::signalIncrementConnected() const {}
+
+void IntegralSpinBox::signalDecrementConnected() const {}
+
+} // namespace morvane::ui

@@ -1,0 +1,40 @@
+// A value that checks what is put into it and tells whoever wants to know when it changed. No window is needed.
+
+#include "property/Property.h"
+
+#include <iostream>
+#include <string>
+
+// Decides what the property may hold.
+class VoltageValidator : public morvane::ValidatorInterface<double>
+{
+public:
+    morvane::ValidationResult validate(const double& volts) const override
+    {
+        if (volts >= 0.0 && volts <= 400.0) {
+            return morvane::ValidationResult(); // fine
+        }
+        return morvane::ValidationResult(std::to_string(volts) + " V is not between 0 and 400 V");
+    }
+};
+
+int main()
+{
+    // Several parts of a program hold the same property, each by a shared pointer.
+    const auto voltage = boost::make_shared<morvane::Property<double>>(230.0);
+    voltage->setValidator(boost::make_shared<VoltageValidator>());
+
+    // While the scoped connection lives, each change calls the function, after the new value is stored.
+    boost::signals2::scoped_connection observer =
+        voltage->signalValueChanged.connect([](const double& volts) { std::cout << "now " << volts << " V\n"; });
+
+    voltage->setValue(235.0); // announced
+    voltage->setValue(235.0); // no change, so nobody is told
+
+    try {
+        voltage->setValue(1000.0);
+    } catch (const morvane::InvalidPropertyValueException& exception) {
+        std::cout << "rejected: " << exception.what() << '\n';
+    }
+    std::cout << "still " << voltage->value() << " V\n";
+}

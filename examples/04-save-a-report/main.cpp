@@ -1,0 +1,55 @@
+// Saving done right with one object: the name that comes back has the extension of the chosen type, may be overwritten,
+// and was proved writable.
+
+#include "ui/qt/dialogs/SaveFileDialog.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+// One way of writing the report for each name filter, in the same order.
+const std::vector<std::string> writerFilters = {"Text (*.txt)", "Table (*.csv)"};
+
+QByteArray report(int writer)
+{
+    return writer == 1 ? "sensor,reading\nT1,21.5\nP1,1013.2\n" : "T1 reads 21.5\nP1 reads 1013.2\n";
+}
+
+void save(QWidget& window)
+{
+    const int firstWriter = 0;
+    const std::string helpTopic; // none: no Help button
+    SaveFileDialog dialog(&window, "Save report", "", "report", writerFilters, firstWriter, helpTopic);
+
+    // Asks before something is replaced, and for another place when one cannot be written to.
+    if (!dialog.launch()) {
+        return;
+    }
+    QFile file(QString::fromStdString(dialog.selectedFilename()));
+    const QByteArray content = report(dialog.selectedWriter());
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush()) {
+        QMessageBox::warning(&window, "Save report", file.errorString()); // a disk may be full by now
+        return;
+    }
+    QMessageBox::information(&window, "Save report", "Written: " + file.fileName());
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QWidget window;
+    auto* const button = new QPushButton("&Save report…");
+    QObject::connect(button, &QPushButton::clicked, &window, [&window] { save(window); });
+    auto* const layout = new QVBoxLayout(&window);
+    layout->addWidget(button);
+    window.setWindowTitle("Saving a report");
+    window.resize(320, 90);
+    window.show();
+    return application.exec();
+}

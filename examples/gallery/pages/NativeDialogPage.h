@@ -1,0 +1,65 @@
+#pragma once
+
+#include "Page.h"
+#include "property/Property.h"
+
+class ExtendedWinFileDialog;
+class QCheckBox;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+
+namespace gallery {
+
+class ChosenFilesTable;
+class FileDialogForm;
+
+/** Runs ExtendedWinFileDialog with controls of the host, and shows live what they do. */
+class NativeDialogPage : public Page
+{
+    Q_OBJECT
+
+public:
+    NativeDialogPage();
+
+    std::vector<TourStep> tourSteps(const TourWorkspace& workspace) override;
+
+private:
+    using Flag = boost::shared_ptr<morvane::PropertyAbstract<bool>>;
+
+    void addOptions();
+    QWidget* makeLiveGroup();
+    void bind(const Flag& flag, QCheckBox& box);
+
+    void runDialog();
+    void addControls(ExtendedWinFileDialog& dialog);
+    /** @return stands for the option that a read-only file cannot have; null without options */
+    QWidget* addAcceptOptions(ExtendedWinFileDialog& dialog);
+    void showType(int index);
+    void showOutcome(ExtendedWinFileDialog& dialog);
+
+    TourStep openStep(const QString& name);
+    TourStep chosenStep(
+        const QString& name, const std::function<void()>& action, const QString& files, const QString& option);
+    std::vector<TourStep> optionSteps(const TourWorkspace& workspace);
+    std::vector<TourStep> checkBoxSteps(const TourWorkspace& workspace);
+    std::vector<TourStep> controlStateSteps();
+    std::vector<TourStep> acceptOptionSteps();
+    std::vector<TourStep> saveSteps();
+
+    Flag m_readOnly;
+    Flag m_preview;
+
+    FileDialogForm* m_form;
+    QRadioButton* m_openMode;
+    QRadioButton* m_saveMode;
+    QCheckBox* m_withOptions;
+    QPushButton* m_run;
+    QCheckBox* m_readOnlyField;
+    QCheckBox* m_previewField;
+    QLabel* m_type;
+    QLabel* m_option;
+    ChosenFilesTable* m_chosen;
+};
+
+} // namespace gallery

@@ -1,0 +1,194 @@
+#include "pages/ChosenFilesTable.h"
+#include "pages/FileDialogForm.h"
+#include "pages/NativeDialogPage.h"
+#include "tour/OpenFileDialog.h"
+#include "tour/TourWorkspace.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace gallery {
+
+using tour::expect;
+using tour::OpenFileDialog;
+
+namespace {
+
+const QString measurements = QStringLiteral("archive run-001.dat run-002.dat run-003.dat");
+
+void clickControl(const QString& text)
+{
+    tour::click(*OpenFileDialog().control(text));
+}
+
+/** Whether the dialog shows the control called Preview, and whether it can be used. */
+QString expectPreview(bool visible, bool enabled)
+{
+    const OpenFileDialog open;
+    const QAbstractButton* const box = open ? open.control(QStringLiteral("Preview")) : nullptr;
+    return expect(box && box->isVisible() == visible && box->isEnabled() == enabled,
+        "the check box is not in the state asked for");
+}
+
+QMenu* openMenu()
+{
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+TourStep menuStep(const QString& name)
+{
+    // The menu has a loop of its own, in which the next step runs.
+    return {name, [] { tour::click(OpenFileDialog().acceptMenuArrow()); },
+        [] { return expect(openMenu() && openMenu()->actions().size() == 2, "the menu is not open"); }};
+}
+
+} // namespace
+
+std::vector<TourStep> NativeDialogPage::tourSteps(const TourWorkspace& workspace)
+{
+    std::vector<TourStep> steps = optionSteps(workspace);
+    if (tour::canDriveNativeDialog()) {
+        append(steps, checkBoxSteps(workspace));
+        append(steps, controlStateSteps());
+        append(steps, acceptOptionSteps());
+        append(steps, saveSteps());
+    }
+    return steps;
+}
+
+TourStep NativeDialogPage::openStep(const QString& name)
+{
+    return {name, [this] { tour::click(*m_run); }, [] { return tour::expectListed(measurements); }};
+}
+
+TourStep NativeDialogPage::chosenStep(
+    const QString& name, const std::function<void()>& action, const QString& files, const QString& option)
+{
+    return {name, action, [this, files, option] {
+                const QString complaint = tour::expectClosed();
+                return complaint.isEmpty()
+                           ? expect(
+                                 m_chosen->content().startsWith(files + QLatin1Char('=')) && m_option->text() == option,
+                                 QStringLiteral("the page shows \"%1\", %2").arg(m_chosen->content(), m_option->text()))
+                           : complaint;
+            }};
+}
+
+std::vector<TourStep> NativeDialogPage::optionSteps(const TourWorkspace& workspace)
+{
+    const QString folder = workspace.folder().path();
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("start-folder"), [=] { tour::type(m_form->folderField(), folder); },
+        [=] { return expect(m_form->startFolder() == folder.toStdString(), "the folder is not taken"); }});
+    steps.push_back({QStringLiteral("check-box-on-page"), [this] { tour::click(*m_previewField); },
+        [this] { return expect(!m_preview->value(), "the property does not follow"); }});
+    return steps;
+}
+
+std::vector<TourStep> NativeDialogPage::checkBoxSteps(const TourWorkspace& workspace)
+{
+    std::vector<TourStep> steps;
+    steps.push_back(openStep(QStringLiteral("dialog")));
+    steps.push_back(tour::helpStep(workspace, QStringLiteral("help"), QStringLiteral("native-dialog.html")));
+    steps.push_back({QStringLiteral("preview-on"), [] { clickControl(QStringLiteral("Preview")); },
+        [this] {
+            return expect(m_preview->value() && m_previewField->isChecked(), "the page does not show the new value");
+        }});
+    steps.push_back({QStringLiteral("read-only-on"), [] { clickControl(QStringLiteral("Read only")); },
+        [this] {
+            return expect(m_readOnly->value() && m_readOnlyField->isChecked(), "the page does not show the new value");
+        }});
+    steps.push_back({QStringLiteral("type-index-live"), [] { tour::pickNextType(); },
+        [this] {
+            return expect(m_type->text() == QStringLiteral("2, Text (*.txt)"),
+                QStringLiteral("the page shows \"%1\"").arg(m_type->text()));
+        }});
+    steps.push_back({QStringLiteral("type-index-back"), [] { tour::press(OpenFileDialog().type(), Qt::Key_Up); },
+        [this] {
+            return expect(m_type->text() == QStringLiteral("1, Measurements (*.dat)"),
+                QStringLiteral("the page shows \"%1\"").arg(m_type->text()));
+        }});
+    return steps;
+}
+
+std::vector<TourStep> NativeDialogPage::controlStateSteps()
+{
+    std::vector<TourStep> steps;
+    const auto add = [&steps](const char* name, const char* button, bool visible, bool enabled) {
+        steps.push_back({QString::fromLatin1(name), [=] { clickControl(QString::fromLatin1(button)); },
+            [=] { return expectPreview(visible, enabled); }});
+    };
+    add("preview-disabled", "Lock Preview", true, false);
+    add("preview-hidden", "Hide Preview", false, false);
+    add("preview-shown", "Hide Preview", true, false);
+    add("preview-enabled", "Lock Preview", true, true);
+    steps.push_back({QStringLiteral("name-typed"),
+        [] { tour::type(OpenFileDialog().name(), QStringLiteral("run-001.dat")); },
+        [] { return expect(OpenFileDialog().name().text() == QStringLiteral("run-001.dat"), "the name is another"); }});
+    // Nothing was accepted by the user, so there is no file.
+    steps.push_back(chosenStep(
+        QStringLiteral("accepted-by-button"), [] { clickControl(QStringLiteral("Accept Now")); }, QString(),
+        QStringLiteral("view")));
+    return steps;
+}
+
+std::vector<TourStep> NativeDialogPage::acceptOptionSteps()
+{
+    const auto editIs = [](bool enabled) {
+        return expect(openMenu() && openMenu()->actions().at(1)->isEnabled() == enabled,
+            "the option is not in the state asked for");
+    };
+    std::vector<TourStep> steps;
+    steps.push_back(openStep(QStringLiteral("dialog-with-options")));
+    steps.push_back(menuStep(QStringLiteral("menu-while-read-only")));
+    steps.push_back({QStringLiteral("edit-disabled"), [] {}, [=] { return editIs(false); }});
+    steps.push_back({QStringLiteral("menu-closed"), [] { tour::press(*openMenu(), Qt::Key_Escape); },
+        [] { return expect(!openMenu(), "the menu is open"); }});
+    steps.push_back({QStringLiteral("read-only-off"), [] { clickControl(QStringLiteral("Read only")); },
+        [this] { return expect(!m_readOnly->value(), "the property does not follow"); }});
+    steps.push_back(
+        {QStringLiteral("another-name"), [] { tour::type(OpenFileDialog().name(), QStringLiteral("run-002.dat")); },
+            [] { return expect(bool(OpenFileDialog()), "the dialog is not open"); }});
+    steps.push_back(menuStep(QStringLiteral("menu")));
+    steps.push_back({QStringLiteral("edit-enabled"), [] {}, [=] { return editIs(true); }});
+    steps.push_back(chosenStep(
+        QStringLiteral("accepted-to-edit"), [] { tour::clickAction(*openMenu(), *openMenu()->actions().at(1)); },
+        QStringLiteral("run-002.dat"), QStringLiteral("edit")));
+    return steps;
+}
+
+std::vector<TourStep> NativeDialogPage::saveSteps()
+{
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("save-mode"),
+        [this] {
+            tour::click(*m_saveMode);
+            tour::click(*m_withOptions);
+            tour::type(m_form->fileField(), QStringLiteral("result.dat"));
+        },
+        [this] {
+            return expect(m_saveMode->isChecked() && !m_withOptions->isChecked(), "the options are not as clicked");
+        }});
+    steps.push_back(openStep(QStringLiteral("save-dialog")));
+    steps.push_back({QStringLiteral("extension-follows-type"), [] { tour::pickNextType(); },
+        [this] {
+            const OpenFileDialog open;
+            return expect(open && open.name().text() == QStringLiteral("result.txt") &&
+                              m_type->text().startsWith(QStringLiteral("2,")),
+                QStringLiteral("the page shows \"%1\"").arg(m_type->text()));
+        }});
+    steps.push_back(chosenStep(
+        QStringLiteral("save-accepted"), [] { tour::click(OpenFileDialog().acceptButton()); },
+        QStringLiteral("result.txt"), QStringLiteral("no option (255)")));
+    steps.push_back(openStep(QStringLiteral("save-dialog-again")));
+    steps.push_back(tour::cancelStep(QStringLiteral("save-cancelled")));
+    return steps;
+}
+
+} // namespace gallery

@@ -1,0 +1,28 @@
+#include "pages/OpenPage.h"
+
+#include "pages/FileDialogForm.h"
+
+#include <QCheckBox>
+
+namespace gallery {
+
+OpenPage::OpenPage()
+    : FacadePage({QStringLiteral("open"), tr("Open"),
+                     tr("One dialog for the host, two kinds of it: the switch decides between the platform's own and "
+                        "the one made of Qt's widgets."),
+                     tr("&Open…"), tr("Open")},
+          QFileDialog::AcceptOpen,
+          new FileDialogForm(FileDialogForm::NativeSwitch | FileDialogForm::Filters | FileDialogForm::StartFile,
+              QString(), QStringLiteral("open-files"))),
+      m_several(new QCheckBox(tr("&Several files")))
+{
+    form().addOption(m_several);
+    addLaunchButton();
+}
+
+QFileDialog::FileMode OpenPage::fileMode() const
+{
+    return m_several->isChecked() ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile;
+}
+
+} // namespace gallery

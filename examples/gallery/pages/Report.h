@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <string>
+#include <vector>
+
+namespace gallery {
+
+/** A short report of readings, and the ways to write it. */
+struct Report
+{
+    struct Reading
+    {
+        QString sensor;
+        QString quantity;
+        QString value;
+    };
+
+    QString title;
+    std::vector<Reading> readings;
+
+    /** Readings of a small plant. */
+    static Report example(const QString& title);
+
+    QByteArray toText() const;
+    QByteArray toCsv() const;
+    QByteArray toHtml() const;
+};
+
+/** One way of writing a report. */
+struct ReportWriter
+{
+    QString name;
+    std::string filter; ///< name filter of its files
+    QByteArray (Report::*write)() const;
+};
+
+/** Text, CSV and HTML. */
+const std::vector<ReportWriter>& reportWriters();
+
+} // namespace gallery

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "pages/FacadePage.h"
+
+class QCheckBox;
+
+namespace gallery {
+
+/** Asks for a name to save to with ExtendedFileDialog and with LaunchFileDialog(). Writes nothing. */
+class SavePage : public FacadePage
+{
+    Q_OBJECT
+
+public:
+    SavePage();
+
+    std::vector<TourStep> tourSteps(const TourWorkspace& workspace) override;
+
+protected:
+    QFileDialog::FileMode fileMode() const override { return QFileDialog::AnyFile; }
+    void configure(ExtendedFileDialog& dialog) override;
+
+private:
+    std::vector<TourStep> dialogSteps(const TourWorkspace& workspace, bool native);
+    std::vector<TourStep> questionSteps(const TourWorkspace& workspace);
+    std::vector<TourStep> oneCallSteps();
+
+    QCheckBox* m_ask;
+};
+
+} // namespace gallery

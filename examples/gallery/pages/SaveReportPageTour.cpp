@@ -1,0 +1,230 @@
+#include "pages/FileDialogForm.h"
+#include "pages/Report.h"
+#include "pages/SaveReportPage.h"
+#include "tour/OpenFileDialog.h"
+#include "tour/TourWorkspace.h"
+#include "ui/qt/dialogs/ExtendedFileDialog.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include <memory>
+
+namespace gallery {
+
+using tour::expect;
+using tour::OpenFileDialog;
+
+namespace {
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString expectQuestion(const QString& part)
+{
+    const auto* const box = tour::modal<QMessageBox>();
+    return expect(
+        box && box->text().contains(part), QStringLiteral("the question is \"%1\"").arg(box ? box->text() : QString()));
+}
+
+QString expectDialog()
+{
+    return expect(bool(OpenFileDialog()), "the dialog is not open");
+}
+
+void answer(QMessageBox::StandardButton button)
+{
+    tour::click(*tour::modal<QMessageBox>()->button(button));
+}
+
+/** Outside of what the tour may write, and on every system nothing that can be written. */
+QString refusedName()
+{
+    return QStringLiteral("/proc/report.txt");
+}
+
+} // namespace
+
+std::vector<TourStep> SaveReportPage::tourSteps(const TourWorkspace& workspace)
+{
+    const QString folder = workspace.folder().path(QStringLiteral("archive"));
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("start-folder"), [=] { tour::type(m_form->folderField(), folder); },
+        [this] { return expect(m_form->note().isEmpty() && m_save->isEnabled(), "the folder is not accepted"); }});
+    append(steps, dialogSteps(workspace, false));
+    if (tour::canDriveNativeDialog()) {
+        append(steps, dialogSteps(workspace, true));
+    }
+    return steps;
+}
+
+std::vector<TourStep> SaveReportPage::dialogSteps(const TourWorkspace& workspace, bool native)
+{
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("switch"),
+        [this, native] {
+            if (m_form->nativeField().isChecked() != native) {
+                tour::click(m_form->nativeField());
+            }
+        },
+        [native] {
+            return expect(ExtendedFileDialog::useNativeFileDialog() == native, "the switch stands as it stood");
+        }});
+    // What the first kind of dialog has saved must not be there for the second.
+    steps.push_back({QStringLiteral("no-reports-yet"),
+        [&workspace] {
+            QDir folder(workspace.folder().path(QStringLiteral("archive")));
+            for (const QString& name : folder.entryList({QStringLiteral("report*")}, QDir::Files)) {
+                folder.remove(name);
+            }
+        },
+        [] { return QString(); }});
+    append(steps, newFileSteps(workspace));
+    append(steps, replaceSteps(workspace));
+    append(steps, refusedSteps(workspace));
+    append(steps, wordingSteps(workspace));
+    return namedAfterKind(std::move(steps), native);
+}
+
+TourStep SaveReportPage::saveStep(const QString& name)
+{
+    return {name, [this] { tour::click(*m_save); }, expectDialog};
+}
+
+TourStep SaveReportPage::writtenStep(
+    const QString& name, const std::function<void()>& action, const QString& path, int writer)
+{
+    return {
+        name, action, [=] {
+            const ReportWriter& chosen = reportWriters().at(static_cast<size_t>(writer));
+            const QByteArray content = (Report::example(m_reportTitle->text()).*chosen.write)();
+            const QString complaint = tour::expectClosed();
+            return complaint.isEmpty()
+                       ? expect(contentOf(path) == content && m_file->text() == QDir::toNativeSeparators(path) &&
+                                    m_writer->text().startsWith(chosen.name) &&
+                                    m_content->toPlainText().toUtf8() == content,
+                             QStringLiteral("the page shows \"%1\" by \"%2\"").arg(m_file->text(), m_writer->text()))
+                       : complaint;
+        }};
+}
+
+std::vector<TourStep> SaveReportPage::newFileSteps(const TourWorkspace& workspace)
+{
+    const TourFolder& folder = workspace.folder();
+    std::vector<TourStep> steps;
+    steps.push_back(saveStep(QStringLiteral("dialog")));
+    steps.push_back(tour::helpStep(workspace, QStringLiteral("help"), QStringLiteral("save-files.html")));
+    // Neither the start file nor what is typed has an extension: the chosen type gives it.
+    steps.push_back(writtenStep(
+        QStringLiteral("text-written"), [] { tour::click(OpenFileDialog().acceptButton()); },
+        folder.path(QStringLiteral("archive/report.txt")), 0));
+    steps.push_back(saveStep(QStringLiteral("dialog-for-csv")));
+    steps.push_back({QStringLiteral("choose-csv"), [] { tour::pickNextType(); },
+        [] { return expect(OpenFileDialog().type().currentIndex() == 1, "the type is another"); }});
+    steps.push_back(writtenStep(
+        QStringLiteral("csv-written"), [] { tour::enterName(QStringLiteral("report-a")); },
+        folder.path(QStringLiteral("archive/report-a.csv")), 1));
+    steps.push_back(saveStep(QStringLiteral("dialog-for-html")));
+    steps.push_back({QStringLiteral("choose-html"),
+        [] {
+            tour::pickNextType();
+            tour::pickNextType();
+        },
+        [] { return expect(OpenFileDialog().type().currentIndex() == 2, "the type is another"); }});
+    steps.push_back(writtenStep(
+        QStringLiteral("html-written"), [] { tour::enterName(QStringLiteral("report-b")); },
+        folder.path(QStringLiteral("archive/report-b.html")), 2));
+    return steps;
+}
+
+std::vector<TourStep> SaveReportPage::replaceSteps(const TourWorkspace& workspace)
+{
+    const QString path = workspace.folder().path(QStringLiteral("archive/report.txt"));
+    const auto before = std::make_shared<QByteArray>();
+    const auto enter = [] { tour::enterName(QStringLiteral("report.txt")); };
+    const auto asked = [path] { return expectQuestion(path + QStringLiteral(" already exists.")); };
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("another-title"),
+        [=] {
+            *before = contentOf(path);
+            tour::type(*m_reportTitle, m_reportTitle->text() + QStringLiteral(" again"));
+        },
+        [=] { return expect(!before->isEmpty(), "there is no report to replace"); }});
+    steps.push_back(saveStep(QStringLiteral("dialog-to-replace")));
+    steps.push_back({QStringLiteral("replace"), enter, asked});
+    steps.push_back({QStringLiteral("replace-no"), [] { answer(QMessageBox::No); },
+        [=] {
+            const QString complaint = expectDialog();
+            return complaint.isEmpty() ? expect(contentOf(path) == *before, "the file has changed") : complaint;
+        }});
+    steps.push_back({QStringLiteral("replace-again"), enter, asked});
+    steps.push_back(writtenStep(
+        QStringLiteral("replaced"), [] { answer(QMessageBox::Yes); }, path, 0));
+    return steps;
+}
+
+std::vector<TourStep> SaveReportPage::refusedSteps(const TourWorkspace& workspace)
+{
+    const auto enter = [] { tour::enterName(refusedName()); };
+    const auto asked = [] { return expectQuestion(QStringLiteral("Unable to save file ") + refusedName()); };
+    std::vector<TourStep> steps;
+    steps.push_back(saveStep(QStringLiteral("dialog-for-refused-place")));
+    steps.push_back({QStringLiteral("place-refuses"), enter, asked});
+    steps.push_back({QStringLiteral("another-place"), [] { answer(QMessageBox::Yes); }, expectDialog});
+    steps.push_back(writtenStep(
+        QStringLiteral("written-elsewhere"),
+        [=, &workspace] { tour::enterName(workspace.folder().path(QStringLiteral("archive/report-c.txt"))); },
+        workspace.folder().path(QStringLiteral("archive/report-c.txt")), 0));
+    steps.push_back(saveStep(QStringLiteral("dialog-to-give-up")));
+    steps.push_back({QStringLiteral("place-refuses-again"), enter, asked});
+    steps.push_back({QStringLiteral("given-up"), [] { answer(QMessageBox::No); },
+        [this] {
+            const QString complaint = tour::expectClosed();
+            return complaint.isEmpty() ? expect(m_file->text() == tr("nothing: given up"), m_file->text()) : complaint;
+        }});
+    return steps;
+}
+
+std::vector<TourStep> SaveReportPage::wordingSteps(const TourWorkspace& workspace)
+{
+    const QString path = workspace.folder().path(QStringLiteral("archive/report.txt"));
+    // Looks like markup, and must show as it stands.
+    const QString question = QStringLiteral("Shall <b>%1</b> go?");
+    const auto toggleWording = [this] { tour::press(*m_wording, Qt::Key_Space); };
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("own-wording"), toggleWording, [this] {
+                         return expect(
+                             m_wording->isChecked() && m_replaceQuestion->isEnabled(), "the texts are not editable");
+                     }});
+    steps.push_back({QStringLiteral("own-question"), [=] { tour::type(*m_replaceQuestion, question); },
+        [=] { return expect(m_replaceQuestion->text() == question, "the text is another"); }});
+    steps.push_back(saveStep(QStringLiteral("dialog-with-own-wording")));
+    steps.push_back({QStringLiteral("own-replace-question"), [] { tour::enterName(QStringLiteral("report.txt")); },
+        [] { return expectQuestion(QStringLiteral("Shall <b>report.txt</b> go?")); }});
+    steps.push_back(writtenStep(
+        QStringLiteral("own-replaced"), [] { answer(QMessageBox::Yes); }, path, 0));
+    steps.push_back(saveStep(QStringLiteral("dialog-with-own-refusal")));
+    steps.push_back({QStringLiteral("own-refused-question"), [] { tour::enterName(refusedName()); },
+        [] { return expectQuestion(QStringLiteral("Nobody may write report.txt there.")); }});
+    steps.push_back({QStringLiteral("own-refused-escape"),
+        [] { tour::press(*QApplication::activeModalWidget(), Qt::Key_Escape); }, [] { return tour::expectClosed(); }});
+    steps.push_back({QStringLiteral("default-wording"), toggleWording, [this] {
+                         return expect(
+                             !m_wording->isChecked() && !m_replaceQuestion->isEnabled(), "the texts are editable");
+                     }});
+    return steps;
+}
+
+} // namespace gallery

@@ -1,0 +1,145 @@
+#include "pages/ScientificSpinBoxPage.h"
+
+#include "ui/qt/controls/QScientificSpinBox.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace gallery {
+
+namespace {
+
+constexpr int initialDigits = 8;
+constexpr double lowestPressure = 1000;
+constexpr double highestPressure = 20000;
+
+int fieldWidth(const QWidget& field)
+{
+    return 28 * field.fontMetrics().averageCharWidth();
+}
+
+QString describe(QValidator::State state)
+{
+    switch (state) {
+    case QValidator::Acceptable:
+        return ScientificSpinBoxPage::tr("Acceptable");
+    case QValidator::Intermediate:
+        return ScientificSpinBoxPage::tr("Intermediate, go on typing");
+    default:
+        return ScientificSpinBoxPage::tr("Invalid");
+    }
+}
+
+} // namespace
+
+ScientificSpinBoxPage::ScientificSpinBoxPage()
+    : Page(QStringLiteral("scientific"), tr("Scientific spin box"),
+          tr("Type a number such as 1.5E-07; it counts once you press Return or leave the field. The arrow keys, the "
+             "wheel and the buttons step by what the program wants a step to be.")),
+      m_decades(new QCheckBox(tr("Step by one &decade"))),
+      m_digits(new QSpinBox),
+      m_pressure(new SpinBox),
+      m_pressureLine(m_pressure->findChild<QLineEdit*>()),
+      m_state(new QLabel),
+      m_value(new QLabel)
+{
+    body().addWidget(makeConstantsGroup());
+    body().addWidget(makeValidationGroup());
+    body().addStretch(1);
+
+    connect(m_decades, &QCheckBox::toggled, this, [this](bool decades) { stepByDecades(decades); });
+    connect(m_digits, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int digits) { showDigits(digits); });
+    connect(m_pressureLine, &QLineEdit::textChanged, this, [this] { showValidation(); });
+    connect(m_pressure, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] { showValidation(); });
+    m_decades->setChecked(true);
+    showValidation();
+}
+
+QWidget* ScientificSpinBoxPage::makeConstantsGroup()
+{
+    m_digits->setRange(1, 12);
+    m_digits->setMinimumWidth(fieldWidth(*m_digits));
+    m_digits->setValue(initialDigits);
+
+    auto* const group = new QGroupBox(tr("Physical constants"));
+    auto* const form = new QFormLayout(group);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    m_constants = {addConstant(*form, tr("&Elementary charge:"), 1.602176634e-19, QStringLiteral(" C")),
+        addConstant(*form, tr("&Planck constant:"), 6.62607015e-34, QStringLiteral(" J s")),
+        addConstant(*form, tr("&Avogadro constant:"), 6.02214076e23, QStringLiteral(" /mol")),
+        addConstant(*form, tr("Speed of &light:"), 299792458, QStringLiteral(" m/s"))};
+    form->addRow(tr("Significant di&gits:"), m_digits);
+    form->addRow(QString(), m_decades);
+    return group;
+}
+
+QWidget* ScientificSpinBoxPage::makeValidationGroup()
+{
+    m_pressure->setRange(lowestPressure, highestPressure);
+    m_pressure->setMinimumWidth(fieldWidth(*m_pressure));
+
+    auto* const group =
+        new QGroupBox(tr("Validation of a number from %1 to %2").arg(lowestPressure).arg(highestPressure));
+    auto* const form = new QFormLayout(group);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    form->addRow(tr("P&ressure:"), m_pressure);
+    form->addRow(tr("The text is:"), m_state);
+    form->addRow(tr("The value is:"), m_value);
+    return group;
+}
+
+ScientificSpinBoxPage::SpinBox* ScientificSpinBoxPage::addConstant(
+    QFormLayout& form, const QString& label, double value, const QString& unit)
+{
+    auto* const field = new SpinBox;
+    field->setSuffix(unit);
+    field->setValue(value);
+    field->setMinimumWidth(fieldWidth(*field));
+    form.addRow(label, field);
+    connect(field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [=](double changed) {
+        Q_EMIT reported(
+            tr("%1 changed to %2").arg(QString(label).remove('&').chopped(1), field->textFromValue(changed)));
+    });
+    return field;
+}
+
+void ScientificSpinBoxPage::stepByDecades(bool decades)
+{
+    m_decadeSteps.clear();
+    if (!decades) {
+        Q_EMIT reported(tr("A step adds 1"));
+        return;
+    }
+    for (SpinBox* const field : m_constants) {
+        const auto multiply = [field](double factor) {
+            field->setValue(field->value() * factor);
+            field->selectAll();
+        };
+        m_decadeSteps.emplace_back(field->signalIncrement.connect([multiply] { multiply(10); }));
+        m_decadeSteps.emplace_back(field->signalDecrement.connect([multiply] { multiply(0.1); }));
+    }
+    Q_EMIT reported(tr("A step multiplies by 10"));
+}
+
+void ScientificSpinBoxPage::showDigits(int digits)
+{
+    for (SpinBox* const field : m_constants) {
+        field->setDecimals(digits);
+    }
+}
+
+void ScientificSpinBoxPage::showValidation()
+{
+    QString text = m_pressureLine->text();
+    int cursor = m_pressureLine->cursorPosition();
+    m_state->setText(describe(m_pressure->validate(text, cursor)));
+    m_value->setText(m_pressure->textFromValue(m_pressure->value()));
+}
+
+} // namespace gallery

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Page.h"
+
+#include <boost/signals2/connection.hpp>
+
+#include <vector>
+
+class QCheckBox;
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QSpinBox;
+
+namespace morvane::ui {
+class QScientificSpinBox;
+}
+
+namespace gallery {
+
+/** Physical constants edited in scientific notation, and what validation says while a number is typed. */
+class ScientificSpinBoxPage : public Page
+{
+    Q_OBJECT
+
+public:
+    ScientificSpinBoxPage();
+
+    std::vector<TourStep> tourSteps(const TourWorkspace& workspace) override;
+
+private:
+    using SpinBox = morvane::ui::QScientificSpinBox;
+
+    QWidget* makeConstantsGroup();
+    QWidget* makeValidationGroup();
+    SpinBox* addConstant(QFormLayout& form, const QString& label, double value, const QString& unit);
+    void stepByDecades(bool decades);
+    void showDigits(int digits);
+    void showValidation();
+
+    std::vector<SpinBox*> m_constants;
+    std::vector<boost::signals2::scoped_connection> m_decadeSteps;
+    QCheckBox* m_decades;
+    QSpinBox* m_digits;
+    SpinBox* m_pressure;
+    QLineEdit* m_pressureLine;
+    QLabel* m_state;
+    QLabel* m_value;
+};
+
+} // namespace gallery

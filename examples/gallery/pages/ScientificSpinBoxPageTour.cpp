@@ -1,0 +1,71 @@
+#include "pages/ScientificSpinBoxPage.h"
+#include "tour/TourUser.h"
+#include "ui/qt/controls/QScientificSpinBox.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
+
+#include <cmath>
+
+namespace gallery {
+
+using tour::expect;
+
+std::vector<TourStep> ScientificSpinBoxPage::tourSteps(const TourWorkspace&)
+{
+    SpinBox* const charge = m_constants.front();
+    SpinBox* const light = m_constants.back();
+    auto* const chargeLine = charge->findChild<QLineEdit*>();
+    auto* const digitsLine = m_digits->findChild<QLineEdit*>();
+    const auto shows = [](SpinBox* field, double value, const char* text) {
+        // A decade up and down may cost the last bit.
+        return expect(std::abs(field->value() / value - 1) < 1e-14 && field->text() == QString::fromLatin1(text),
+            QStringLiteral("the field shows \"%1\"").arg(field->text()));
+    };
+    const auto stateIs = [this](const char* state) {
+        return expect(m_state->text() == QString::fromLatin1(state),
+            QStringLiteral("the text \"%1\" is %2").arg(m_pressureLine->text(), m_state->text()));
+    };
+
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("type-constant"),
+        [=] {
+            tour::type(*chargeLine, QStringLiteral("1.5E-07"));
+            tour::press(*charge, Qt::Key_Return);
+        },
+        [=] { return shows(charge, 1.5e-7, "1.5E-07 C"); }});
+    steps.push_back({QStringLiteral("decade-up"), [=] { tour::press(*charge, Qt::Key_Up); },
+        [=] { return shows(charge, 1.5e-6, "1.5E-06 C"); }});
+    steps.push_back({QStringLiteral("fewer-digits"),
+        [=] {
+            tour::type(*digitsLine, QStringLiteral("3"));
+            tour::press(*m_digits, Qt::Key_Return);
+        },
+        [=] { return shows(light, 299792458, "3E+08 m/s"); }});
+    steps.push_back({QStringLiteral("step-by-one"),
+        [=] {
+            tour::click(*m_decades);
+            tour::click(*chargeLine);
+            tour::press(*charge, Qt::Key_Up);
+        },
+        [=] { return shows(charge, 1.0000015, "1 C"); }});
+    steps.push_back({QStringLiteral("not-yet-valid"), [this] { tour::type(*m_pressureLine, QStringLiteral("15")); },
+        [=] { return stateIs("Intermediate, go on typing"); }});
+    steps.push_back({QStringLiteral("invalid"), [this] { tour::type(*m_pressureLine, QStringLiteral("99999")); },
+        [=] { return stateIs("Invalid"); }});
+    steps.push_back({QStringLiteral("acceptable"),
+        [this] {
+            tour::type(*m_pressureLine, QStringLiteral("1.5E4"));
+            tour::press(*m_pressure, Qt::Key_Return);
+        },
+        [=] {
+            const QString complaint = stateIs("Acceptable");
+            return complaint.isEmpty() ? expect(m_value->text() == QStringLiteral("15000"), m_value->text())
+                                       : complaint;
+        }});
+    return steps;
+}
+
+} // namespace gallery

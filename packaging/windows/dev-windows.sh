@@ -1,0 +1,63 @@
+# The command "./dev windows": cross-build for Windows and run the tests there, under Wine. Sourced by ./dev, whose
+# functions it uses: need, step, die, build, run_tests.
+
+windows_run_packages='wine wine64 xvfb'
+
+windows_usage() {
+    cat <<'TEXT'
+usage: ./dev windows [--sdk DIR] [ARGUMENTS]
+
+  --sdk DIR  use this SDK (Qt, Boost.Filesystem and GoogleTest for MinGW-w64) instead of making one
+  ARGUMENTS  go to ctest (-R NAME, ...)
+
+Making the SDK takes about 15 minutes, once. Exit status 77: skipped, since the source packages for it cannot be reached.
+TEXT
+}
+
+# windows_sdk DIR: prints the SDK's directory; makes it when DIR is empty.
+windows_sdk() {
+    if [ -n "$1" ]; then
+        [ -d "$1/lib/cmake/Qt5Widgets" ] || die "not an SDK for Windows: $1"
+        (cd "$1" && pwd)
+        return
+    fi
+    packaging/windows/make-sdk
+}
+
+# The SDK is part of the configuration: another one starts afresh.
+windows_configure() {
+    if [ -f build/windows/CMakeCache.txt ] &&
+        ! grep -qxF "MORVANE_WINDOWS_SDK:PATH=$1" build/windows/CMakeCache.txt; then
+        step 'another SDK: build/windows starts afresh'
+        packaging/windows/run-wine --home build/windows/wine --stop
+        rm -rf build/windows
+    fi
+    export MORVANE_WINDOWS_SDK="$1"
+}
+
+cmd_windows() {
+    given=''
+    case ${1:-} in
+    --help | -h)
+        windows_usage
+        return
+        ;;
+    --sdk)
+        [ $# -ge 2 ] || die '--sdk wants a directory'
+        given=$2
+        shift 2
+        ;;
+    esac
+    # shellcheck disable=SC2046,SC2086 # the lists are to be split
+    need $(packaging/windows/make-sdk --packages) $windows_run_packages
+    [ -n "$given" ] || step 'making the SDK for Windows, once (about 15 minutes)'
+    status=0
+    sdk=$(windows_sdk "$given") || status=$?
+    [ "$status" = 0 ] || exit "$status"
+    windows_configure "$sdk"
+    build windows
+    status=0
+    run_tests windows "$@" || status=$?
+    packaging/windows/run-wine --home build/windows/wine --stop
+    return "$status"
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ui/qt/controls/ScientificNumberText.h"
+
+#include <functional>
+#include <optional>
+
+namespace morvane::test {
+
+using DigitSearch = std::function<std::optional<qint64>(qint64 number, qint64 minimum, qint64 maximum)>;
+
+/** The reading of a number step by step, as written down by hand: what interpretNumber() has to agree with. */
+ui::NumberInterpretation literalReading(
+    const QString& input, int& pos, const ui::NumberRules& rules, const DigitSearch& search);
+
+/** The same for mayGrowIntoRange(). */
+bool literalIntermediateValue(const QString& str, const ui::NumberRules& rules, const DigitSearch& search);
+
+} // namespace morvane::test

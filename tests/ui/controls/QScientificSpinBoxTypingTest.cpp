@@ -1,0 +1,345 @@
+#include "SpinBoxFixture.h"
+
+#include <QClipboard>
+#include <QLocale>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <clocale>
+#include <cstdio>
+#include <string>
+
+namespace {
+
+using morvane::test::ScientificSpinBox;
+using Window = morvane::test::SpinBoxWindow<ScientificSpinBox>;
+
+/** The process under another locale, for the time of a test. */
+class UserLocale
+{
+public:
+    explicit UserLocale(const char* name) { QLocale::setDefault(QLocale(QLatin1String(name))); }
+    ~UserLocale() { QLocale::setDefault(QLocale::c()); }
+    UserLocale(const UserLocale&) = delete;
+    UserLocale& operator=(const UserLocale&) = delete;
+};
+
+/** A German C library, for the time of a test: the installed locale, or else one that is compiled for it. */
+class CLibraryLocale
+{
+public:
+    CLibraryLocale()
+    {
+        for (const char* const name : {"de_DE.UTF-8", "de_DE.utf8", "German_Germany.1252"}) {
+            if (std::setlocale(LC_NUMERIC, name)) {
+                return;
+            }
+        }
+        QProcess::execute("localedef", {"-i", "de_DE", "-f", "UTF-8", m_directory.filePath("de_DE.UTF-8")});
+        qputenv("LOCPATH", m_directory.path().toUtf8());
+        std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
+    }
+    ~CLibraryLocale()
+    {
+        std::setlocale(LC_NUMERIC, m_before.c_str());
+        qunsetenv("LOCPATH");
+    }
+    CLibraryLocale(const CLibraryLocale&) = delete;
+    CLibraryLocale& operator=(const CLibraryLocale&) = delete;
+
+private:
+    const std::string m_before = std::setlocale(LC_NUMERIC, nullptr);
+    const QTemporaryDir m_directory;
+};
+
+class QScientificSpinBoxLocale : public ::testing::TestWithParam<const char*>
+{
+};
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Users, QScientificSpinBoxLocale,
+    ::testing::Values("en_US", "de_DE", "de_CH", "fr_FR", "ar_EG", "hi_IN", "fa_IR", "C"),
+    [](const auto& locale) { return std::string(locale.param); });
+
+TEST_P(QScientificSpinBoxLocale, takesAScientificNumberKeyByKey)
+{
+    const UserLocale user(GetParam());
+    Window window;
+    const QString number = QStringLiteral("1.5E-07");
+    window.spin.selectAll();
+    for (int typed = 1; typed <= number.size(); ++typed) {
+        QTest::keyClick(&window.spin, number.at(typed - 1).toLatin1());
+        ASSERT_EQ(window.shown(), number.left(typed));
+    }
+    EXPECT_EQ(window.spin.value(), 0) << "not committed yet";
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 1.5e-07);
+    EXPECT_EQ(window.shown(), number);
+}
+
+TEST_P(QScientificSpinBoxLocale, textValueAndValidationAgree)
+{
+    const UserLocale user(GetParam());
+    Window window;
+    window.spin.setValue(-1234.5);
+    EXPECT_EQ(window.shown(), "-1234.5");
+    QString text = window.spin.textFromValue(-1234.5);
+    int pos = text.size();
+    EXPECT_EQ(window.spin.validate(text, pos), QValidator::Acceptable);
+    EXPECT_EQ(window.spin.valueFromText(text), -1234.5);
+    EXPECT_TRUE(window.spin.lineEdit()->hasAcceptableInput());
+}
+
+TEST_P(QScientificSpinBoxLocale, aNumberOutsideTheRangeIsNotRepairedIntoAnotherOne)
+{
+    const UserLocale user(GetParam());
+    Window window;
+    window.spin.setRange(2, 20);
+    window.spin.setValue(3);
+    window.type("1.5");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 3);
+    EXPECT_EQ(window.shown(), "3");
+}
+
+TEST_P(QScientificSpinBoxLocale, groupsOfDigitsAreCommaSeparated)
+{
+    const UserLocale user(GetParam());
+    Window window;
+    window.type("1,234.5");
+    EXPECT_EQ(window.shown(), "1,234.5");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 1234.5);
+}
+
+TEST(QScientificSpinBoxTyping, theLocaleOfTheCLibraryDoesNotMatter)
+{
+    const CLibraryLocale german;
+    char written[8];
+    std::snprintf(written, sizeof written, "%.1f", 1.5);
+    if (std::string(written) != "1,5") {
+        GTEST_SKIP() << "no locale with a decimal comma can be had here";
+    }
+    Window window;
+    window.type("1.5E-07");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 1.5e-07);
+    EXPECT_EQ(window.shown(), "1.5E-07");
+}
+
+TEST(QScientificSpinBoxTyping, keysThatNoNumberHasAreRefused)
+{
+    Window window;
+    window.type("1x.5y");
+    EXPECT_EQ(window.shown(), "1.5");
+    window.type(QStringLiteral("1..5"));
+    EXPECT_EQ(window.shown(), "1.5");
+}
+
+TEST(QScientificSpinBoxTyping, valueCountsFromReturnOn)
+{
+    Window window;
+    QSignalSpy changes(&window.spin, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
+    window.type("12");
+    EXPECT_EQ(changes.count(), 0);
+    window.commit();
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(window.spin.value(), 12);
+}
+
+TEST(QScientificSpinBoxTyping, valueCountsFromLossOfFocusOn)
+{
+    Window window;
+    window.type("2.5E3");
+    QTest::keyClick(&window.spin, Qt::Key_Tab);
+    ASSERT_TRUE(window.other.hasFocus());
+    EXPECT_EQ(window.spin.value(), 2500);
+    EXPECT_EQ(window.shown(), "2500");
+}
+
+TEST(QScientificSpinBoxTyping, valueBeyondTheRangeGoesBackToTheLastOne)
+{
+    Window window;
+    window.spin.setRange(0, 10);
+    window.spin.setValue(4);
+    window.type("11");
+    EXPECT_EQ(window.shown(), "11");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 4);
+    EXPECT_EQ(window.shown(), "4");
+}
+
+TEST(QScientificSpinBoxTyping, correctionToTheNearestValueGoesToTheEndThatStandsForUnacceptableText)
+{
+    Window window;
+    window.spin.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
+    window.spin.setRange(2, 10);
+    window.spin.setValue(4);
+    window.type("99");
+    window.commit();
+    EXPECT_GE(window.spin.value(), 2);
+    EXPECT_LE(window.spin.value(), 10);
+}
+
+TEST(QScientificSpinBoxTyping, unfinishedExponentGoesBackToTheLastValue)
+{
+    Window window;
+    window.spin.setValue(7);
+    window.type("1.5E-");
+    EXPECT_EQ(window.shown(), "1.5E-");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 7);
+    EXPECT_EQ(window.shown(), "7");
+}
+
+TEST(QScientificSpinBoxTyping, committingRoundsToTheDigitsShown)
+{
+    Window window;
+    window.spin.setValue(1.23456789012);
+    EXPECT_EQ(window.spin.value(), 1.23456789012);
+    EXPECT_EQ(window.shown(), "1.2345679");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 1.2345679);
+}
+
+TEST(QScientificSpinBoxTyping, typedDigitsBeyondTheShownOnesCountUntilTheNextCommit)
+{
+    Window window;
+    window.type("6.02214076E+23");
+    QTest::keyClick(&window.spin, Qt::Key_Tab);
+    EXPECT_EQ(window.shown(), "6.0221408E+23");
+    EXPECT_EQ(window.spin.value(), 6.02214076e23);
+    window.spin.setFocus();
+    QTest::keyClick(&window.spin, Qt::Key_Tab);
+    EXPECT_EQ(window.spin.value(), 6.02214076e23) << "nothing was typed";
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 6.0221408e23);
+}
+
+TEST(QScientificSpinBoxTyping, deletedTextGoesBackToTheLastValue)
+{
+    Window window;
+    window.spin.setValue(5);
+    window.spin.selectAll();
+    QTest::keyClick(&window.spin, Qt::Key_Delete);
+    EXPECT_EQ(window.shown(), "");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 5);
+    EXPECT_EQ(window.shown(), "5");
+}
+
+TEST(QScientificSpinBoxTyping, clearingByProgramLeavesTheValueUntilSomethingIsTyped)
+{
+    Window window;
+    window.spin.setValue(5);
+    window.spin.clear();
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 5);
+    EXPECT_EQ(window.shown(), "");
+    QTest::keyClicks(&window.spin, "6");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 6);
+}
+
+TEST(QScientificSpinBoxTyping, undoTakesTypedKeysBack)
+{
+    Window window;
+    window.spin.setValue(5);
+    window.type("1");
+    QTest::keyClick(&window.spin, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(window.shown(), "5");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 5);
+}
+
+TEST(QScientificSpinBoxTyping, aNumberMayBePasted)
+{
+    Window window;
+    QApplication::clipboard()->setText("6.02214076e23");
+    window.spin.selectAll();
+    QTest::keyClick(&window.spin, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(window.shown(), "6.02214076e23");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 6.02214076e23);
+}
+
+TEST(QScientificSpinBoxTyping, pastedNonsenseIsRefused)
+{
+    Window window;
+    for (const QString& text : {QString("nonsense"), QString(100000, 'x'), QString(QChar(0xd800)), QString("1\n2"),
+             QString("\u0661\u0662"), QString("1.5.5")}) {
+        window.spin.setValue(3);
+        QApplication::clipboard()->setText(text);
+        window.spin.selectAll();
+        QTest::keyClick(&window.spin, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(window.shown(), "3");
+        window.commit();
+        EXPECT_EQ(window.spin.value(), 3);
+    }
+}
+
+TEST(QScientificSpinBoxTyping, typingBetweenPrefixAndSuffix)
+{
+    Window window;
+    window.spin.setPrefix("E = ");
+    window.spin.setSuffix(" J");
+    window.spin.setValue(1);
+    EXPECT_EQ(window.shown(), "E = 1 J");
+    window.type("1.5E-07");
+    EXPECT_EQ(window.shown(), "E = 1.5E-07 J");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 1.5e-07);
+    EXPECT_EQ(window.spin.cleanText(), "1.5E-07");
+}
+
+TEST(QScientificSpinBoxTyping, aDoubledPointBetweenPrefixAndSuffixCountsOnce)
+{
+    Window window;
+    window.spin.setSuffix(" J");
+    window.type("1..5");
+    EXPECT_EQ(window.shown(), "1..5 J") << "stays as typed";
+    window.spin.lineEdit()->setCursorPosition(2);
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 1.5);
+}
+
+TEST(QScientificSpinBoxTyping, specialValueTextStandsForTheMinimum)
+{
+    Window window;
+    window.spin.setRange(0, 10);
+    window.spin.setSpecialValueText("auto");
+    window.spin.setValue(0);
+    EXPECT_EQ(window.shown(), "auto");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 0);
+    EXPECT_EQ(window.shown(), "auto");
+    window.type("4");
+    window.commit();
+    EXPECT_EQ(window.shown(), "4");
+    window.type("0");
+    window.commit();
+    EXPECT_EQ(window.shown(), "auto");
+}
+
+TEST(QScientificSpinBoxTyping, readOnlyTakesNoKeysAndNoSteps)
+{
+    Window window;
+    window.spin.setReadOnly(true);
+    window.type("5");
+    QTest::keyClick(&window.spin, Qt::Key_Up);
+    window.turnWheel(120);
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 0);
+    EXPECT_EQ(window.shown(), "0");
+}
+
+TEST(QScientificSpinBoxTyping, withKeyboardTrackingEveryAcceptableKeyCounts)
+{
+    Window window;
+    window.spin.setKeyboardTracking(true);
+    window.type("1.5E-07");
+    EXPECT_EQ(window.spin.value(), 1.5e-07);
+    EXPECT_EQ(window.shown(), "1.5E-07");
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "ui/qt/controls/IntegralSpinBox.h"
+#include "ui/qt/controls/QScientificSpinBox.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionSpinBox>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <QWidget>
+
+namespace morvane::test {
+
+/** Opens up what the host does not see. */
+template <typename Base>
+class Opened : public Base
+{
+public:
+    using Base::Base;
+    using Base::keyPressEvent;
+    using Base::lineEdit;
+};
+
+using ScientificSpinBox = Opened<ui::QScientificSpinBox>;
+using IntegerSpinBox = Opened<ui::IntegralSpinBox>;
+
+/** A window with a spin box that has the focus, and another widget that can take it. */
+template <typename SpinBox>
+struct SpinBoxWindow
+{
+    SpinBoxWindow() : spin(*new SpinBox(&window)), other(*new QLineEdit(&window))
+    {
+        auto* const layout = new QVBoxLayout(&window);
+        layout->addWidget(&spin);
+        layout->addWidget(&other);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        spin.setFocus();
+    }
+
+    QString shown() const { return spin.lineEdit()->text(); }
+
+    /** Types over what stands in the spin box. */
+    void type(const QString& text)
+    {
+        spin.selectAll();
+        QTest::keyClicks(&spin, text);
+    }
+
+    void commit() { QTest::keyClick(&spin, Qt::Key_Return); }
+
+    /** Turns the wheel over the spin box; 120 are a notch up. */
+    void turnWheel(int angle)
+    {
+        const QPointF centre(spin.rect().center());
+        QWheelEvent event(centre, spin.mapToGlobal(centre.toPoint()), QPoint(), QPoint(0, angle), Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&spin, &event);
+    }
+
+    /** Clicks on the button up, or down, of the spin box. */
+    void clickButton(QStyle::SubControl button)
+    {
+        QStyleOptionSpinBox option;
+        option.initFrom(&spin);
+        option.subControls = QStyle::SC_All;
+        option.buttonSymbols = spin.buttonSymbols();
+        option.frame = spin.hasFrame();
+        const QRect rect = spin.style()->subControlRect(QStyle::CC_SpinBox, &option, button, &spin);
+        QTest::mouseClick(&spin, Qt::LeftButton, Qt::NoModifier, rect.center());
+    }
+
+    QWidget window;
+    SpinBox& spin;
+    QLineEdit& other;
+};
+
+} // namespace morvane::test

@@ -1,0 +1,297 @@
+#include "SpinBoxFixture.h"
+
+#include <QKeyEvent>
+
+#include <limits>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+using morvane::test::IntegerSpinBox;
+using morvane::test::ScientificSpinBox;
+using morvane::test::SpinBoxWindow;
+
+/** What both spin boxes have in common. */
+template <typename SpinBox>
+class SpinBoxSteps : public ::testing::Test
+{
+protected:
+    SpinBoxSteps()
+    {
+        spin.setRange(0, 99);
+        spin.setSingleStep(5);
+        spin.setValue(10);
+    }
+
+    void countSteps()
+    {
+        spin.signalIncrement.connect([this] { ++ups; });
+        spin.signalDecrement.connect([this] { ++downs; });
+    }
+
+    void holdKey(Qt::Key key)
+    {
+        for (const bool repeated : {false, true}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), repeated);
+            QApplication::sendEvent(&spin, &press);
+        }
+    }
+
+    void releaseKey(Qt::Key key)
+    {
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier);
+        QApplication::sendEvent(&spin, &release);
+    }
+
+    SpinBoxWindow<SpinBox> window;
+    SpinBox& spin = window.spin;
+    int ups = 0;
+    int downs = 0;
+};
+
+using SpinBoxes = ::testing::Types<ScientificSpinBox, IntegerSpinBox>;
+
+} // namespace
+
+TYPED_TEST_SUITE(SpinBoxSteps, SpinBoxes, );
+
+TYPED_TEST(SpinBoxSteps, keyboardTrackingIsOff)
+{
+    EXPECT_FALSE(this->spin.keyboardTracking());
+}
+
+TYPED_TEST(SpinBoxSteps, arrowKeysChangeTheValueByTheSingleStep)
+{
+    QTest::keyClick(&this->spin, Qt::Key_Up);
+    EXPECT_EQ(this->spin.value(), 15);
+    QTest::keyClick(&this->spin, Qt::Key_Down);
+    QTest::keyClick(&this->spin, Qt::Key_Down);
+    EXPECT_EQ(this->spin.value(), 5);
+    EXPECT_EQ(this->window.shown(), "5");
+}
+
+TYPED_TEST(SpinBoxSteps, pageKeysChangeTheValueByTenSteps)
+{
+    QTest::keyClick(&this->spin, Qt::Key_PageUp);
+    EXPECT_EQ(this->spin.value(), 60);
+    QTest::keyClick(&this->spin, Qt::Key_PageUp);
+    EXPECT_EQ(this->spin.value(), 99) << "the end of the range";
+    QTest::keyClick(&this->spin, Qt::Key_PageDown);
+    EXPECT_EQ(this->spin.value(), 49);
+}
+
+TYPED_TEST(SpinBoxSteps, wheelChangesTheValue)
+{
+    this->window.turnWheel(120);
+    EXPECT_EQ(this->spin.value(), 15);
+    this->window.turnWheel(-240);
+    EXPECT_EQ(this->spin.value(), 5);
+}
+
+TYPED_TEST(SpinBoxSteps, buttonsChangeTheValue)
+{
+    this->window.clickButton(QStyle::SC_SpinBoxUp);
+    EXPECT_EQ(this->spin.value(), 15);
+    this->window.clickButton(QStyle::SC_SpinBoxDown);
+    EXPECT_EQ(this->spin.value(), 10);
+}
+
+TYPED_TEST(SpinBoxSteps, heldKeyStepsUntilItIsReleased)
+{
+    this->spin.setSingleStep(1);
+    this->holdKey(Qt::Key_Up);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return this->spin.value() >= 14; }));
+    this->releaseKey(Qt::Key_Up);
+    const auto reached = this->spin.value();
+    QTest::keyClick(&this->spin, Qt::Key_Down);
+    EXPECT_EQ(this->spin.value(), reached - 1);
+}
+
+TYPED_TEST(SpinBoxSteps, heldKeyFiresUntilItIsReleased)
+{
+    this->countSteps();
+    this->holdKey(Qt::Key_Down);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return this->downs >= 4; }));
+    this->releaseKey(Qt::Key_Down);
+    EXPECT_EQ(this->spin.value(), 10);
+    EXPECT_EQ(this->ups, 0);
+}
+
+TYPED_TEST(SpinBoxSteps, stepsEndAtTheRange)
+{
+    this->spin.stepBy(100);
+    EXPECT_EQ(this->spin.value(), 99);
+    this->spin.stepBy(-100);
+    EXPECT_EQ(this->spin.value(), 0);
+    this->spin.setValue(0);
+    this->spin.setSingleStep(2);
+    this->spin.stepBy(-3);
+    EXPECT_EQ(this->spin.value(), 0);
+}
+
+TYPED_TEST(SpinBoxSteps, stepByNothingSetsTheSameValue)
+{
+    this->spin.stepBy(0);
+    EXPECT_EQ(this->spin.value(), 10);
+}
+
+TYPED_TEST(SpinBoxSteps, theHostTakesOverEveryKindOfStep)
+{
+    this->countSteps();
+    QTest::keyClick(&this->spin, Qt::Key_Up);
+    QTest::keyClick(&this->spin, Qt::Key_PageUp);
+    this->window.turnWheel(240);
+    this->window.clickButton(QStyle::SC_SpinBoxUp);
+    this->spin.stepUp();
+    this->spin.stepBy(1000);
+    EXPECT_EQ(this->ups, 6);
+    EXPECT_EQ(this->downs, 0);
+    QTest::keyClick(&this->spin, Qt::Key_Down);
+    QTest::keyClick(&this->spin, Qt::Key_PageDown);
+    this->window.turnWheel(-120);
+    this->window.clickButton(QStyle::SC_SpinBoxDown);
+    this->spin.stepDown();
+    this->spin.stepBy(std::numeric_limits<int>::min());
+    EXPECT_EQ(this->ups, 6);
+    EXPECT_EQ(this->downs, 6);
+    EXPECT_EQ(this->spin.value(), 10);
+}
+
+TYPED_TEST(SpinBoxSteps, theHostMayTakeOverOneDirectionOnly)
+{
+    this->spin.signalIncrement.connect([this] { ++this->ups; });
+    this->spin.stepBy(-1);
+    EXPECT_EQ(this->spin.value(), 5);
+    this->spin.stepBy(1);
+    EXPECT_EQ(this->spin.value(), 5);
+    EXPECT_EQ(this->ups, 1);
+}
+
+TYPED_TEST(SpinBoxSteps, stepByNothingIsAStepDown)
+{
+    this->countSteps();
+    this->spin.stepBy(0);
+    EXPECT_EQ(this->downs, 1);
+    EXPECT_EQ(this->ups, 0);
+    this->window.turnWheel(15);
+    EXPECT_EQ(this->downs, 2) << "less than a notch";
+}
+
+TYPED_TEST(SpinBoxSteps, noStepIsTakenOverAtTheEndOfTheRange)
+{
+    this->countSteps();
+    this->spin.setValue(99);
+    QTest::keyClick(&this->spin, Qt::Key_Up);
+    this->window.turnWheel(120);
+    this->window.clickButton(QStyle::SC_SpinBoxUp);
+    EXPECT_EQ(this->ups, 0);
+}
+
+TYPED_TEST(SpinBoxSteps, readOnlySpinBoxFiresNothing)
+{
+    this->countSteps();
+    this->spin.setReadOnly(true);
+    QTest::keyClick(&this->spin, Qt::Key_Up);
+    this->window.turnWheel(-120);
+    EXPECT_EQ(this->ups + this->downs, 0);
+}
+
+TYPED_TEST(SpinBoxSteps, slotMayChangeValueAndRange)
+{
+    this->spin.signalIncrement.connect([this] {
+        this->spin.setRange(0, 1000);
+        this->spin.setValue(this->spin.value() * 10);
+    });
+    QTest::keyClick(&this->spin, Qt::Key_Up);
+    EXPECT_EQ(this->spin.value(), 100);
+    this->window.clickButton(QStyle::SC_SpinBoxUp);
+    EXPECT_EQ(this->spin.value(), 1000);
+}
+
+TYPED_TEST(SpinBoxSteps, slotThatDisconnectsItselfGivesTheStepBack)
+{
+    boost::signals2::connection connection;
+    connection = this->spin.signalIncrement.connect([&] {
+        ++this->ups;
+        connection.disconnect();
+    });
+    QTest::keyClick(&this->spin, Qt::Key_Up);
+    EXPECT_EQ(this->spin.value(), 10);
+    QTest::keyClick(&this->spin, Qt::Key_Up);
+    EXPECT_EQ(this->spin.value(), 15);
+    EXPECT_EQ(this->ups, 1);
+}
+
+TYPED_TEST(SpinBoxSteps, slotOfADeadObjectTakesNothingOver)
+{
+    auto host = std::make_shared<int>(0);
+    boost::signals2::signal<void()>::slot_type slot([this] { ++this->ups; });
+    this->spin.signalIncrement.connect(slot.track_foreign(host));
+    this->spin.stepBy(1);
+    EXPECT_EQ(this->ups, 1);
+    host.reset();
+    this->spin.stepBy(1);
+    EXPECT_EQ(this->ups, 1);
+    EXPECT_EQ(this->spin.value(), 15);
+}
+
+TYPED_TEST(SpinBoxSteps, exceptionOfASlotReachesTheCaller)
+{
+    const boost::signals2::connection connection =
+        this->spin.signalIncrement.connect([] { throw std::runtime_error("no more"); });
+    EXPECT_THROW(this->spin.stepBy(1), std::runtime_error);
+    // Not through QApplication: Qt delivers events without regard to exceptions, and leaks.
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
+    EXPECT_THROW(this->spin.keyPressEvent(&press), std::runtime_error);
+    EXPECT_EQ(this->spin.value(), 10);
+    EXPECT_EQ(this->window.shown(), "10");
+    connection.disconnect();
+    this->spin.stepBy(1);
+    EXPECT_EQ(this->spin.value(), 15);
+}
+
+TYPED_TEST(SpinBoxSteps, destructionDisconnectsEverySlot)
+{
+    boost::signals2::connection up;
+    boost::signals2::connection down;
+    {
+        TypeParam shortLived(nullptr);
+        up = shortLived.signalIncrement.connect([] {});
+        down = shortLived.signalDecrement.connect([] {});
+        EXPECT_TRUE(up.connected());
+    }
+    EXPECT_FALSE(up.connected());
+    EXPECT_FALSE(down.connected());
+}
+
+TYPED_TEST(SpinBoxSteps, slotsOfStepsDownAreDestroyedBeforeThoseUp)
+{
+    std::string order;
+    const auto noteEnd = [&order](const char* what) {
+        return std::shared_ptr<void>(nullptr, [&order, what](void*) { order += what; });
+    };
+    {
+        TypeParam shortLived(nullptr);
+        shortLived.signalIncrement.connect([end = noteEnd("up ")] {});
+        shortLived.signalDecrement.connect([end = noteEnd("down ")] {});
+    }
+    EXPECT_EQ(order, "down up ");
+}
+
+TYPED_TEST(SpinBoxSteps, uncommittedTextIsGivenUpByAStep)
+{
+    this->window.type("50");
+    QTest::keyClick(&this->spin, Qt::Key_Up);
+    EXPECT_EQ(this->spin.value(), 15);
+    EXPECT_EQ(this->window.shown(), "15");
+}
+
+TYPED_TEST(SpinBoxSteps, stepTypeAndAccelerationMakeNoDifference)
+{
+    this->spin.setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
+    this->spin.setAccelerated(true);
+    QTest::keyClick(&this->spin, Qt::Key_Up);
+    EXPECT_EQ(this->spin.value(), 15);
+}

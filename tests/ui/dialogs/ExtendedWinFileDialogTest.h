@@ -1,0 +1,72 @@
+#pragma once
+
+#include "fakes/RecordingDialog.h"
+#include "fakes/RecordingShell.h"
+#include "support/QtPrinters.h"
+#include "support/RecordingHelpLauncher.h"
+
+#include "host/InstanceOverride.h"
+#include "ui/qt/dialogs/ExtendedWinFileDialog.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+namespace morvane::test {
+
+/** A Shell that writes down what it is asked, a parent, a folder, and checks at the end that nothing was left behind.
+ */
+class ExtendedWinFileDialogTest : public ::testing::Test
+{
+protected:
+    using Dialog = std::unique_ptr<ExtendedWinFileDialog>;
+    using Play = std::function<void(RecordingDialog&)>;
+    using Calls = std::vector<std::string>;
+
+    /** What a dialog is made of, but for the parent. */
+    struct Arguments
+    {
+        std::string caption = "Measurement";
+        std::string directory{};
+        std::string filter{};
+        std::string helpTopic{};
+        bool saving = false;
+        bool acceptMenu = false;
+    };
+
+    ExtendedWinFileDialogTest();
+    void TearDown() override;
+
+    Dialog make(const Arguments& arguments);
+    Dialog openDialog(const std::string& filter = "");
+    Dialog saveDialog(const std::string& filter = "");
+    Dialog menuDialog();
+
+    /** Runs the dialog while @p play acts on it; cancels when that has not ended the run. */
+    QDialog::DialogCode run(ExtendedWinFileDialog& dialog, const Play& play = {});
+    /** The calls that @p action makes. */
+    Calls callsOf(const std::function<void()>& action);
+    RecordingDialog& shown() { return *m_shell.dialog(); }
+
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    std::string folder() const { return m_folder.path().toStdString(); }
+    void makeFile(const QString& name) const;
+
+    RecordingShell m_shell;
+    RecordingHelpLauncher m_help;
+    std::unique_ptr<QWidget> m_parent = std::make_unique<QWidget>();
+    /** Every apartment is left once more than it was joined, where joining failed. */
+    int m_expectedApartments = 0;
+
+private:
+    ui::ShellOverride m_shellOverride{m_shell};
+    InstanceOverride<HelpLauncher> m_helpOverride{m_help};
+    QTemporaryDir m_folder;
+};
+
+} // namespace morvane::test

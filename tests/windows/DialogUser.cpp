@@ -1,0 +1,62 @@
+#include "windows/DialogUser.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+namespace morvane::test {
+
+namespace {
+
+constexpr int secondsToAppear = 30;
+constexpr int secondsToEnd = 10;
+
+bool hasEnded(const NativeDialog& dialog)
+{
+    return waitUntil([&dialog] { return !dialog.isOpen(); }, secondsToEnd);
+}
+
+/** Answers what is open on top of the dialog, then cancels it. */
+void putAway(const NativeDialog& dialog)
+{
+    if (dialog.hasQuestion()) {
+        dialog.answer(IDNO);
+        dialog.answer(IDOK);
+        dialog.answer(IDCANCEL);
+        waitUntil([&dialog] { return !dialog.hasQuestion(); }, 2);
+    }
+    dialog.cancel();
+    if (!hasEnded(dialog)) {
+        std::fprintf(stderr, "the dialog cannot be closed\n");
+        std::fflush(nullptr);
+        std::_Exit(3);
+    }
+}
+
+void use(const DialogUser::Script& script)
+{
+    const HWND window = NativeDialog::waitForWindow(secondsToAppear);
+    if (!window) {
+        ADD_FAILURE() << "no dialog appeared";
+        return;
+    }
+    NativeDialog dialog(window);
+    script(dialog);
+    if (!hasEnded(dialog)) {
+        ADD_FAILURE() << "the dialog was still open at the end of the script";
+        putAway(dialog);
+    }
+}
+
+} // namespace
+
+DialogUser::DialogUser(Script script) : m_thread([script = std::move(script)] { use(script); }) {}
+
+DialogUser::~DialogUser()
+{
+    m_thread.join();
+}
+
+} // namespace morvane::test

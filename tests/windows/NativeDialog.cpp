@@ -1,0 +1,279 @@
+#include "windows/NativeDialog.h"
+
+#include <commctrl.h>
+
+#include <chrono>
+#include <thread>
+
+namespace morvane::test {
+
+namespace {
+
+constexpr UINT answerMilliseconds = 10'000;
+constexpr int firstCustomControl = 8192;
+const wchar_t* const dialogClass = L"#32770";
+const wchar_t* const menuClass = L"#32768";
+
+/** Sends a message without waiting for ever when the other thread hangs. */
+LRESULT send(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0)
+{
+    DWORD_PTR result = 0;
+    SendMessageTimeoutW(window, message, wparam, lparam, SMTO_NORMAL, answerMilliseconds, &result);
+    return static_cast<LRESULT>(result);
+}
+
+std::wstring windowText(HWND window)
+{
+    std::wstring text(static_cast<std::size_t>(send(window, WM_GETTEXTLENGTH)) + 1, L'\0');
+    const LRESULT length = send(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<std::size_t>(length));
+    return text;
+}
+
+bool hasClass(HWND window, const wchar_t* name)
+{
+    wchar_t buffer[64] = {};
+    GetClassNameW(window, buffer, 64);
+    return std::wstring(buffer) == name;
+}
+
+bool isOurs(HWND window)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process == GetCurrentProcessId();
+}
+
+struct ChildSearch
+{
+    int id;
+    HWND found;
+};
+
+BOOL CALLBACK matchChild(HWND window, LPARAM argument)
+{
+    auto& search = *reinterpret_cast<ChildSearch*>(argument);
+    // A custom control stands in a frame with the same id.
+    if (GetDlgCtrlID(window) != search.id || hasClass(window, L"FloatNotifySink")) {
+        return TRUE;
+    }
+    search.found = window;
+    return FALSE;
+}
+
+HWND findChild(HWND parent, int id)
+{
+    // The list of files has controls of its own, with ids that repeat those of the dialog.
+    if (const HWND direct = GetDlgItem(parent, id)) {
+        return direct;
+    }
+    ChildSearch search{id, nullptr};
+    EnumChildWindows(parent, matchChild, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+BOOL CALLBACK matchList(HWND window, LPARAM argument)
+{
+    if (!hasClass(window, WC_LISTVIEWW)) {
+        return TRUE;
+    }
+    *reinterpret_cast<HWND*>(argument) = window;
+    return FALSE;
+}
+
+BOOL CALLBACK matchFileDialog(HWND window, LPARAM argument)
+{
+    const bool matches = isOurs(window) && hasClass(window, dialogClass) && IsWindowVisible(window) &&
+                         findChild(window, NativeDialog::Name) != nullptr;
+    if (!matches) {
+        return TRUE;
+    }
+    *reinterpret_cast<HWND*>(argument) = window;
+    return FALSE;
+}
+
+} // namespace
+
+bool waitUntil(const std::function<bool()>& condition, int seconds)
+{
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end) {
+            return false;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return true;
+}
+
+int NativeDialog::customControl(int index)
+{
+    return firstCustomControl + index;
+}
+
+HWND NativeDialog::waitForWindow(int seconds)
+{
+    HWND window = nullptr;
+    waitUntil(
+        [&window] {
+            EnumWindows(matchFileDialog, reinterpret_cast<LPARAM>(&window));
+            return window != nullptr;
+        },
+        seconds);
+    return window;
+}
+
+NativeDialog::NativeDialog(HWND window) : m_window(window) {}
+
+HWND NativeDialog::window() const
+{
+    return m_window;
+}
+
+bool NativeDialog::isOpen() const
+{
+    return IsWindow(m_window) && IsWindowVisible(m_window);
+}
+
+std::wstring NativeDialog::title() const
+{
+    return windowText(m_window);
+}
+
+std::wstring NativeDialog::name() const
+{
+    return text(Name);
+}
+
+void NativeDialog::setName(const std::wstring& name) const
+{
+    send(find(Name), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+}
+
+void NativeDialog::accept() const
+{
+    press(Accept);
+}
+
+void NativeDialog::accept(const std::wstring& name) const
+{
+    setName(name);
+    accept();
+}
+
+void NativeDialog::cancel() const
+{
+    press(Cancel);
+}
+
+std::vector<std::wstring> NativeDialog::types() const
+{
+    const HWND combo = find(Types);
+    const LRESULT count = send(combo, CB_GETCOUNT);
+    std::vector<std::wstring> result;
+    for (WPARAM i = 0; i < static_cast<WPARAM>(count); ++i) {
+        std::wstring text(static_cast<std::size_t>(send(combo, CB_GETLBTEXTLEN, i)) + 1, L'\0');
+        const LRESULT length = send(combo, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text.data()));
+        text.resize(static_cast<std::size_t>(length));
+        result.push_back(text);
+    }
+    return result;
+}
+
+int NativeDialog::typeIndex() const
+{
+    return static_cast<int>(send(find(Types), CB_GETCURSEL));
+}
+
+void NativeDialog::chooseType(int index) const
+{
+    const HWND combo = find(Types);
+    send(combo, CB_SETCURSEL, static_cast<WPARAM>(index));
+    send(GetParent(combo), WM_COMMAND, MAKEWPARAM(Types, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+}
+
+int NativeDialog::listedFiles() const
+{
+    HWND list = nullptr;
+    EnumChildWindows(m_window, matchList, reinterpret_cast<LPARAM>(&list));
+    return static_cast<int>(send(list, LVM_GETITEMCOUNT));
+}
+
+bool NativeDialog::exists(int control) const
+{
+    return find(control) != nullptr;
+}
+
+std::wstring NativeDialog::text(int control) const
+{
+    return windowText(find(control));
+}
+
+void NativeDialog::press(int control) const
+{
+    // Posted: what the button does may last, a message box for instance.
+    PostMessageW(find(control), BM_CLICK, 0, 0);
+}
+
+bool NativeDialog::isChecked(int control) const
+{
+    return send(find(control), BM_GETCHECK) == BST_CHECKED;
+}
+
+bool NativeDialog::isEnabled(int control) const
+{
+    const HWND window = find(control);
+    return window && IsWindowEnabled(window);
+}
+
+bool NativeDialog::isVisible(int control) const
+{
+    const HWND window = find(control);
+    return window && IsWindowVisible(window);
+}
+
+bool NativeDialog::chooseAcceptOption(int index) const
+{
+    press(AcceptArrow);
+    HWND menu = nullptr;
+    const bool opened = waitUntil([&menu] {
+        menu = FindWindowW(menuClass, nullptr);
+        return menu && isOurs(menu) && IsWindowVisible(menu);
+    });
+    if (!opened) {
+        return false;
+    }
+    for (int i = 0; i <= index; ++i) {
+        PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
+    }
+    PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
+    return true;
+}
+
+bool NativeDialog::waitForQuestion(int seconds) const
+{
+    return waitUntil([this] { return hasQuestion(); }, seconds);
+}
+
+bool NativeDialog::hasQuestion() const
+{
+    return question() != nullptr;
+}
+
+void NativeDialog::answer(int button) const
+{
+    PostMessageW(findChild(question(), button), BM_CLICK, 0, 0);
+}
+
+HWND NativeDialog::find(int control) const
+{
+    return findChild(m_window, control);
+}
+
+HWND NativeDialog::question() const
+{
+    const HWND popup = GetLastActivePopup(m_window);
+    return popup != m_window && popup && hasClass(popup, dialogClass) && IsWindowVisible(popup) ? popup : nullptr;
+}
+
+} // namespace morvane::test

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace morvane::test {
+
+/** Asks again and again until @p condition holds. False when it did not within @p seconds. */
+bool waitUntil(const std::function<bool()>& condition, int seconds = 10);
+
+/**
+ * A common item dialog as somebody outside sees it: windows, their texts and states, and messages to them. Meant for
+ * another thread than the one that the dialog runs on. A dialog that has ended answers with nothing.
+ */
+class NativeDialog
+{
+public:
+    /** Ids of the controls that every such dialog has. */
+    enum Control
+    {
+        Accept = IDOK,
+        Cancel = IDCANCEL,
+        AcceptArrow = 1024,
+        Types = 1136,
+        Name = 1152
+    };
+
+    /** The id of the control that was added as the @p index th, counted from 0. */
+    static int customControl(int index);
+
+    /** The dialog of this process that has a name field and is ready for input; waits for it. Null when none comes. */
+    static HWND waitForWindow(int seconds);
+
+    explicit NativeDialog(HWND window);
+
+    HWND window() const;
+    bool isOpen() const;
+    std::wstring title() const;
+
+    std::wstring name() const;
+    void setName(const std::wstring& name) const;
+    /** Presses the accept button. */
+    void accept() const;
+    /** Types the name, then presses the accept button. A folder's name makes the dialog enter it. */
+    void accept(const std::wstring& name) const;
+    void cancel() const;
+
+    std::vector<std::wstring> types() const;
+    /** Counted from 0; -1 for none. */
+    int typeIndex() const;
+    void chooseType(int index) const;
+
+    /** How many files and folders the list shows; it is filled a moment after the dialog or a folder opens. */
+    int listedFiles() const;
+
+    bool exists(int control) const;
+    std::wstring text(int control) const;
+    void press(int control) const;
+    bool isChecked(int control) const;
+    bool isEnabled(int control) const;
+    bool isVisible(int control) const;
+
+    /** Opens the menu of the accept button and takes the entry @p index, counted from 0. False when no menu opens. */
+    bool chooseAcceptOption(int index) const;
+
+    /** Waits for a message box of the dialog, such as the overwrite question. */
+    bool waitForQuestion(int seconds = 10) const;
+    bool hasQuestion() const;
+    /** Presses IDYES, IDNO, IDOK, ... in the message box. */
+    void answer(int button) const;
+
+private:
+    HWND find(int control) const;
+    HWND question() const;
+
+    HWND m_window;
+};
+
+} // namespace morvane::test
