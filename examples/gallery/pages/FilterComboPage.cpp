@@ -7,8 +7,8 @@
 #include <QDirIterator>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLibraryInfo>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStringListModel>
 #include <QTableWidget>
@@ -22,16 +22,21 @@ namespace {
 
 constexpr int mostNames = 20000;
 
-/** Names of files below the directory that Qt was installed to; there are always some. */
-QStringList fileNamesOfTheMachine()
+void appendFileNames(QStringList& names, const QString& place)
 {
-    QStringList names;
-    QDirIterator walk(
-        QLibraryInfo::location(QLibraryInfo::PrefixPath), QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
+    QDirIterator walk(place, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
     while (walk.hasNext() && names.size() < mostNames) {
         walk.next();
         names.append(walk.fileName());
     }
+}
+
+/** Names below the place that Qt was installed to, and of the rest of the machine where that is not enough. */
+QStringList fileNamesOfTheMachine()
+{
+    QStringList names;
+    appendFileNames(names, QLibraryInfo::location(QLibraryInfo::PrefixPath));
+    appendFileNames(names, QDir::rootPath());
     names.sort();
     return names;
 }
@@ -41,7 +46,7 @@ QStringList fileNamesOfTheMachine()
 FilterComboPage::FilterComboPage()
     : Page(QStringLiteral("filter-combo"), tr("Filtering combo box"),
           tr("Type a part of a file name and pick from what is left. Return, Tab and Escape end the editing and close "
-             "the field; double-click a cell to edit it in the same way.")),
+             "the field; double-click a cell to edit it the same way.")),
       m_names(new QStringListModel(this)),
       m_fieldRow(new QHBoxLayout),
       m_again(new QPushButton(tr("&Edit Again"))),

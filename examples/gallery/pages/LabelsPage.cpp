@@ -17,8 +17,7 @@ namespace gallery {
 LabelsPage::LabelsPage()
     : Page(QStringLiteral("labels"), tr("Labels and links"),
           tr("Drag the handle: the label cuts its path at the start, and only then the whole of it is the tool tip. "
-             "The "
-             "button below has too little room, and keeps its size.")),
+             "The button below has too little room, and keeps its size.")),
       m_path(new QLineEdit(QDir::toNativeSeparators(QCoreApplication::applicationFilePath()))),
       m_label(new ElidedTextLabel),
       m_splitter(new QSplitter(Qt::Horizontal)),
