@@ -77,13 +77,14 @@ void FilterComboPage::addField()
     m_field->setAccessibleName(tr("File name"));
     // Measuring every name for the width of the field would take longer than reading them.
     m_field->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_field->setMinimumContentsLength(40);
+    m_field->setMinimumContentsLength(28);
     m_field->setListModel(
         m_names, true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideMiddle, Qt::MatchContains);
     connect(m_field, &ComboBoxAutoFilter::selectionComplete, this,
         [this] { Q_EMIT reported(tr("selectionComplete: %1").arg(m_field->currentText())); });
     connect(m_field, &ComboBoxAutoFilter::editingCanceled, this, [this] { Q_EMIT reported(tr("editingCanceled")); });
     m_fieldRow->insertWidget(0, m_field);
+    m_field->show();
     m_field->setFocus();
     m_field->lineEdit()->selectAll();
 }
@@ -94,6 +95,7 @@ void FilterComboPage::prepareTable()
     m_table->setHorizontalHeaderLabels({tr("Channel"), tr("File")});
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() * 2);
     m_table->setTabKeyNavigation(false);
     for (int row = 0; row < m_table->rowCount(); ++row) {

@@ -17,7 +17,7 @@ std::vector<TourStep> LabelsPage::tourSteps(const TourWorkspace& workspace)
     steps.push_back({QStringLiteral("narrow"),
         [this, &workspace] {
             tour::type(*m_path, workspace.folder().path(QStringLiteral("archive/of/the/last/campaign/run-001.dat")));
-            m_splitter->setSizes({120, m_splitter->width() - 120});
+            m_splitter->setSizes({m_splitter->width() / 2, m_splitter->width() / 2});
         },
         [this] { return expect(m_label->toolTip() == m_path->text(), "the cut path is not the tool tip"); }});
     steps.push_back({QStringLiteral("wide"),

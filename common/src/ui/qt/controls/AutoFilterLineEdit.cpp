@@ -36,6 +36,11 @@ const CompleterConnections& completerConnections()
     return connections;
 }
 
+bool isMarked(const QAbstractItemView& popup, const QModelIndex& entry)
+{
+    return popup.currentIndex() == entry && popup.selectionModel()->isSelected(entry);
+}
+
 } // namespace
 
 AutoFilterLineEdit::CompleterDetached::CompleterDetached(QLineEdit& line, QCompleter& completer)
@@ -100,9 +105,13 @@ void AutoFilterLineEdit::markCurrentCompletion()
     if (!completer || !completer->model() || completer->model()->rowCount() == 0) {
         return;
     }
+    QAbstractItemView* const popup = completer->popup();
+    const QModelIndex current = completer->currentIndex();
+    if (popup && isMarked(*popup, current)) {
+        return;
+    }
     const CompleterDetached detached(*this, *completer);
-    if (QAbstractItemView* const popup = completer->popup()) {
-        const QModelIndex current = completer->currentIndex();
+    if (popup) {
         popup->selectionModel()->select(current, QItemSelectionModel::Select);
         popup->setCurrentIndex(current);
     }
