@@ -1,9 +1,11 @@
 #include "ui/qt/controls/ElidedTextLabel.h"
 
 #include "ui/qt/controls/ElidedTextUtil.h"
+#include "ui/qt/util/GuiThread.h"
 
 ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLabel(parent, flags)
 {
+    morvane::ui::expectGuiThread("ElidedTextLabel");
     setAlignment(Qt::AlignLeft);
     setElideMode(Qt::ElideLeft);
     // The tool tip for the text before would look like one that the host has set.
