@@ -1,0 +1,5 @@
+#pragma once
+
+#include "ui/qt/controls/CorrectFontCommandLinkButton.h"
+
+using CommandLinkForDesigner = morvane::ui::CorrectFontCommandLinkButton;
