@@ -25,7 +25,7 @@ WidgetDescription comboBox()
     widget.toolTip = QStringLiteral("Filtering combo box");
     widget.whatsThis = QStringLiteral("A combo box that offers the entries that contain what is typed, and that closes "
                                       "itself when an entry is picked or the editing is cancelled.");
-    widget.size = QSize(160, 26);
+    widget.size = QSize(160, 32);
     widget.properties = QStringLiteral("<property name=\"filtering\"><bool>true</bool></property>");
     widget.create = create<morvane::ui::ComboBoxAutoFilter>;
     return widget;
@@ -41,7 +41,7 @@ WidgetDescription scientificSpinBox()
     widget.toolTip = QStringLiteral("Scientific spin box");
     widget.whatsThis = QStringLiteral("A spin box for numbers such as 1.5E-07. Set its range, step and value as text: "
                                       "minimumText, maximumText, singleStepText, valueText.");
-    widget.size = QSize(140, 26);
+    widget.size = QSize(200, 32);
     widget.create = create<morvane::ui::QScientificSpinBox>;
     return widget;
 }
@@ -56,7 +56,7 @@ WidgetDescription integralSpinBox()
     widget.toolTip = QStringLiteral("Integer spin box with steps of your own");
     widget.whatsThis = QStringLiteral("A spin box for whole numbers. Slots connected to signalIncrement and "
                                       "signalDecrement take the place of its steps.");
-    widget.size = QSize(90, 26);
+    widget.size = QSize(100, 32);
     widget.create = create<morvane::ui::IntegralSpinBox>;
     return widget;
 }
@@ -71,7 +71,7 @@ WidgetDescription elidedLabel()
     widget.toolTip = QStringLiteral("Elided label");
     widget.whatsThis = QStringLiteral("A label for paths and other texts whose end matters. What does not fit is cut "
                                       "off at the start, and the tool tip has the whole.");
-    widget.size = QSize(140, 20);
+    widget.size = QSize(160, 24);
     widget.properties = QStringLiteral("<property name=\"text\"><string>A text whose end matters</string></property>");
     widget.specifications =
         QStringLiteral("<stringpropertyspecification name=\"text\" notr=\"false\" type=\"singleline\"/>");
@@ -91,7 +91,7 @@ WidgetDescription commandLinkButton()
     widget.size = QSize(220, 60);
     widget.properties = QStringLiteral("<property name=\"text\"><string>Command link</string></property>"
                                        "<property name=\"description\"><string>What it does</string></property>");
-    widget.create = create<CommandLinkForDesigner>;
+    widget.create = create<morvane::ui::CommandLinkForDesigner>;
     return widget;
 }
 

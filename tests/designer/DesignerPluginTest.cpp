@@ -112,7 +112,7 @@ TEST_F(LoadedForm, hasACommandLinkThatKeepsItsSize)
     ASSERT_TRUE(start);
     EXPECT_EQ(start->text(), "S&tart");
     EXPECT_EQ(start->description(), "Measures with these settings.");
-    EXPECT_EQ(start->minimumSizeHint(), start->sizeHint());
+    EXPECT_EQ(start->minimumSizeHint(), static_cast<QWidget*>(start)->sizeHint());
 }
 
 std::string lastPart(const ::testing::TestParamInfo<int>& info)

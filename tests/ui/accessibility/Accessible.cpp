@@ -59,6 +59,13 @@ QAccessible::Role roleOf(QWidget* widget)
 
 QString nameOf(QWidget* widget)
 {
+    // Combo boxes tell their text as name where assistive software looks for the label by itself.
+    if (QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(widget)) {
+        const auto labels = accessible->relations(QAccessible::Label);
+        if (!labels.isEmpty()) {
+            return labels.first().first->text(QAccessible::Name);
+        }
+    }
     return textOf(widget, QAccessible::Name);
 }
 

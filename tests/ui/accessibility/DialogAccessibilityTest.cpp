@@ -1,7 +1,9 @@
 #include "Accessible.h"
 #include "property/Property.h"
+#include "support/FileDialogPage.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"
+#include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
@@ -17,6 +19,7 @@
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -167,9 +170,9 @@ TEST_F(DialogAccessibility, controlsOfTheHostWorkByKeys)
         QTest::keyClick(box, Qt::Key_Space);
         EXPECT_TRUE(compress->value());
         QTest::keyClick(&window, Qt::Key_P, Qt::AltModifier);
-        EXPECT_FALSE(compress->value());
+        EXPECT_TRUE(waitUntil([this] { return !compress->value(); }));
         QTest::keyClick(&window, Qt::Key_L, Qt::AltModifier);
-        EXPECT_EQ(clicks, 1);
+        EXPECT_TRUE(waitUntil([this] { return clicks == 1; }));
     });
 }
 
@@ -291,7 +294,7 @@ TEST_P(SaveQuestions, canBeReadOnADarkPalette)
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialog, SaveQuestions, ::testing::Values(true, false),
-    [](const ::testing::TestParamInfo<bool>& info) { return info.param ? "native" : "qt"; });
+    [](const ::testing::TestParamInfo<bool>& dialog) { return dialog.param ? "native" : "qt"; });
 
 } // namespace
 

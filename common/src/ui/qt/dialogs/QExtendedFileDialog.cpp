@@ -198,6 +198,8 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
 
     m_fileTypeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
     m_fileNameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    // Qt goes from the name to the buttons and leaves the types out.
+    setTabOrder(m_fileNameEdit, m_fileTypeCombo);
     const auto* const view = findChild<QListView*>(QStringLiteral("listView"));
     const auto* const model = qobject_cast<QFileSystemModel*>(view->model());
     connect(model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));

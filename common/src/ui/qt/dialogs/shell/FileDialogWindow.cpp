@@ -91,6 +91,8 @@ void FileDialogWindow::setTexts(const QString& title, const QString& acceptLabel
 
 void FileDialogWindow::setUpWidgets()
 {
+    // Qt goes from the name to the buttons and leaves the types out.
+    setTabOrder(m_nameEdit, m_typeCombo);
     if (m_settings.allowsSeveral) {
         for (const char* const name : {"listView", "treeView"}) {
             if (auto* const view = findChild<QAbstractItemView*>(QLatin1String(name))) {
