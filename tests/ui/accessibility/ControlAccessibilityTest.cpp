@@ -50,7 +50,7 @@ protected:
         window.show();
         window.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-        box->setFocus(Qt::TabFocusReason);
+        box->setFocus();
     }
 
     QWidget window;
@@ -130,6 +130,9 @@ TEST_F(Controls, areReachedWithTheKeysOfTheirLabels)
 TEST_F(Controls, workByKeysAlone)
 {
     show();
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Tab);
+    ASSERT_EQ(window.focusWidget(), box);
     QTest::keyClicks(box, "eth");
     QTest::keyClick(box, Qt::Key_Return);
     EXPECT_EQ(box->currentText(), "Ethanol");

@@ -46,6 +46,12 @@ QAbstractButton* buttonNamed(const QWidget& window, const QString& name)
     return nullptr;
 }
 
+void activate(QWidget& window)
+{
+    window.activateWindow();
+    ASSERT_TRUE(waitUntil([&window] { return QApplication::activeWindow() == &window; }));
+}
+
 std::ptrdiff_t positionIn(const std::vector<QWidget*>& walk, const QWidget* widget)
 {
     return std::find(walk.begin(), walk.end(), widget) - walk.begin();
@@ -68,7 +74,7 @@ protected:
         dialog.addAcceptButtonOption("Save and close", 2);
         ModalScript user;
         user.on<QFileDialog>([&look](QFileDialog& window) {
-            ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+            activate(window);
             look(window);
             if (window.isVisible()) {
                 window.reject();
@@ -85,7 +91,7 @@ protected:
             owner, "Open", folder.path().toStdString(), "Data (*.dat)", "opening", QFileDialog::AcceptOpen);
         ModalScript user;
         user.on<QFileDialog>([&look](QFileDialog& window) {
-            ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+            activate(window);
             look(window);
             window.reject();
         });

@@ -32,6 +32,12 @@ public:
     ArrowCursor& operator=(const ArrowCursor&) = delete;
 };
 
+/** The button box stands before the list of types in the order of Tab, and would pass the focus past it to a button. */
+void letTabReachTheTypes(const QFileDialog& dialog)
+{
+    dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->setFocusProxy(nullptr);
+}
+
 QString fromUtf8(const std::string& text)
 {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
@@ -97,6 +103,7 @@ void QExtendedFileDialog::show()
     restoreSizeAndPosition();
     restoreFilters();
     addSidebarUrls();
+    letTabReachTheTypes(*this);
     QWidget::show();
     saveSizeAndPosition();
 }
@@ -106,6 +113,7 @@ int QExtendedFileDialog::exec()
     restoreSizeAndPosition();
     restoreFilters();
     addSidebarUrls();
+    letTabReachTheTypes(*this);
     const ArrowCursor arrow;
     const QPointer<QExtendedFileDialog> self(this);
     const int result = QDialog::exec();
@@ -198,8 +206,6 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
 
     m_fileTypeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
     m_fileNameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    // Qt goes from the name to the buttons and leaves the types out.
-    setTabOrder(m_fileNameEdit, m_fileTypeCombo);
     const auto* const view = findChild<QListView*>(QStringLiteral("listView"));
     const auto* const model = qobject_cast<QFileSystemModel*>(view->model());
     connect(model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));

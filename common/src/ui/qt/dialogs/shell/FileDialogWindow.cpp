@@ -91,8 +91,6 @@ void FileDialogWindow::setTexts(const QString& title, const QString& acceptLabel
 
 void FileDialogWindow::setUpWidgets()
 {
-    // Qt goes from the name to the buttons and leaves the types out.
-    setTabOrder(m_nameEdit, m_typeCombo);
     if (m_settings.allowsSeveral) {
         for (const char* const name : {"listView", "treeView"}) {
             if (auto* const view = findChild<QAbstractItemView*>(QLatin1String(name))) {
@@ -170,6 +168,10 @@ void FileDialogWindow::watchWidgets()
 
 void FileDialogWindow::run()
 {
+    if (auto* const buttons = findChild<QDialogButtonBox*>()) {
+        // It stands before the list of types in the order of Tab, and would pass the focus past it to a button.
+        buttons->setFocusProxy(nullptr);
+    }
     const QPointer<FileDialogWindow> self(this);
     do {
         m_again = false;
