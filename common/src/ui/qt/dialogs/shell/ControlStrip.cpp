@@ -55,6 +55,10 @@ void ControlStrip::update(const std::vector<Control>& controls)
         anyInRow = anyInRow || (control.isVisible() && button->parentWidget() == m_row);
     }
     m_row->setVisible(anyInRow);
+    // The button box strings its buttons together anew for each one that is added.
+    if (m_acceptMenu) {
+        QWidget::setTabOrder(m_acceptMenu->parentWidget(), m_acceptMenu);
+    }
 }
 
 QAbstractButton* ControlStrip::buttonFor(const Control& control)

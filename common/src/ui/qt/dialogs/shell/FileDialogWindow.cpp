@@ -168,6 +168,10 @@ void FileDialogWindow::watchWidgets()
 
 void FileDialogWindow::run()
 {
+    if (auto* const buttons = findChild<QDialogButtonBox*>()) {
+        // It stands before the list of types in the order of Tab, and would pass the focus past it to a button.
+        buttons->setFocusProxy(nullptr);
+    }
     const QPointer<FileDialogWindow> self(this);
     do {
         m_again = false;
