@@ -71,7 +71,10 @@ public:
 
     /** Puts the last component of @p file into the name field; the folder part is dropped. */
     void selectFile(const QString& file);
-    /** The chosen paths in the platform's form, after an accepted exec(). Otherwise whatever the platform reports. */
+    /**
+     * The chosen paths in the platform's form, after an exec() that the user accepted; none when close() ended it.
+     * Otherwise whatever the platform reports.
+     */
     QStringList selectedFiles();
 
     /** What is asked for; initially `AnyFile`. `Directory` picks a folder; `DirectoryOnly` counts as `AnyFile`. */
@@ -137,7 +140,11 @@ public:
     /** The widget given to the constructor; null once it was destroyed. */
     QWidget* parent();
 
-    /** Ends a running dialog as accepted; for actions. Does nothing when no dialog is open. */
+    /**
+     * Ends a running dialog; for actions and observers. exec() then returns `Accepted`, but nothing was chosen:
+     * whatever is selected or typed, selectedFiles() is empty. directory(), currentFilterIndex() and
+     * selectedAcceptMenuOption() tell how the dialog was left. Does nothing when no dialog is open.
+     */
     void close();
 
 private:

@@ -212,6 +212,13 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
     const auto* const model = qobject_cast<QFileSystemModel*>(view->model());
     connect(model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));
     connect(model, SIGNAL(rootPathChanged(const QString&)), this, SLOT(onRootPathChanged(const QString&)));
+    // For an empty name Qt's completion selects the open folder itself, out of sight, and a selected row wins over what
+    // is typed then: accepting would enter the folder and clear the name.
+    connect(m_fileNameEdit, &QLineEdit::textChanged, view, [view](const QString& text) {
+        if (text.isEmpty()) {
+            view->selectionModel()->clearSelection();
+        }
+    });
 }
 
 void QExtendedFileDialog::setHelpAction()

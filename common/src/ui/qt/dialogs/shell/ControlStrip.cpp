@@ -70,7 +70,8 @@ QAbstractButton* ControlStrip::buttonFor(const Control& control)
     const DWORD id = control.id;
     if (control.kind == Control::Kind::CheckButton) {
         button = new QCheckBox(m_row);
-        connect(button, &QAbstractButton::toggled, this, [this, id](bool checked) { m_actions.toggled(id, checked); });
+        // Not toggled(): Qt goes on with the button after that, and the owner of the dialog may be gone by then.
+        connect(button, &QAbstractButton::clicked, this, [this, id](bool checked) { m_actions.toggled(id, checked); });
     } else {
         auto* const pushButton = new QPushButton(m_row);
         pushButton->setAutoDefault(false);
