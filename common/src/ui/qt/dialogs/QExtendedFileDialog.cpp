@@ -123,7 +123,7 @@ void QExtendedFileDialog::accept()
         if (m_performSelectedFileValidation) {
             QFileDialog::accept();
         } else {
-            QDialog::accept();
+            QDialog::accept(); // past the checks of QFileDialog. NOLINT(bugprone-parent-virtual-call)
         }
         return;
     }
@@ -159,6 +159,7 @@ void QExtendedFileDialog::restoreFilters()
     m_modifiedNameFilter.clear();
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the slot is known by this signature
 void QExtendedFileDialog::revertModifiedFilterAndSelect(QString filter)
 {
     if (m_modifiedNameFilter.isEmpty() || m_modifiedNameFilter == filter) {
