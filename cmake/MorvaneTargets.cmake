@@ -62,8 +62,14 @@ function(morvane_library)
     target_include_directories(${arg_NAME} PUBLIC
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/common/src> $<BUILD_INTERFACE:${generated}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/morvane>)
-    morvane_install_headers(${arg_PUBLIC_HEADERS})
+    morvane_public_headers(${arg_NAME} ${arg_PUBLIC_HEADERS})
     morvane_install_headers(BASE ${generated} ${arg_EXPORT_HEADER})
+endfunction()
+
+# Notes headers, relative to the include root, as public ones of TARGET: they are installed, and tested on their own.
+function(morvane_public_headers target)
+    set_property(TARGET ${target} APPEND PROPERTY MORVANE_PUBLIC_HEADERS ${ARGN})
+    morvane_install_headers(${ARGN})
 endfunction()
 
 # Installs headers under include/morvane, keeping their paths below BASE (the include root unless given).

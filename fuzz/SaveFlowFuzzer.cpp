@@ -79,6 +79,12 @@ public:
     {
     }
 
+    // The flow is fuzzed without a dialog.
+    void createDialog(const std::string&, const std::string&) override {}
+    void setNameFilters(const QStringList&) override {}
+    void selectNameFilter(const QString&) override {}
+    void finishDialog() override {}
+
     bool run() override
     {
         m_filter = fromUtf8(m_input.line());

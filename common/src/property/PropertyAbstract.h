@@ -28,6 +28,8 @@ namespace morvane {
  * GUI thread by convention; setValue() takes no lock.
  *
  * @tparam T copyable, comparable with `==`
+ *
+ * @snippet 24-property-over-a-source/main.cpp mirror
  */
 template <typename T>
 class PropertyAbstract : public PropertyItemInterface

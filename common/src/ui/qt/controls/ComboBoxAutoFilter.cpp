@@ -108,6 +108,25 @@ void ComboBoxAutoFilter::init(
     setInsertPolicy(QComboBox::NoInsert);
 }
 
+bool ComboBoxAutoFilter::isFiltering() const
+{
+    return m_completer != nullptr;
+}
+
+void ComboBoxAutoFilter::setFiltering(bool on)
+{
+    if (on == isFiltering()) {
+        return;
+    }
+    if (on) {
+        init(true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
+        return;
+    }
+    delete m_completer;
+    m_completer = nullptr;
+    setEditable(false);
+}
+
 bool ComboBoxAutoFilter::validateEntry()
 {
     if (m_escapePressed) {

@@ -34,6 +34,15 @@ bool existsInAnyForm(const std::string& name)
     return !error && type != boost::filesystem::status_error && type != boost::filesystem::file_not_found;
 }
 
+QStringList toNameFilters(const std::vector<std::string>& filters)
+{
+    QStringList result;
+    for (const std::string& filter : filters) {
+        result.append(QString::fromStdString(filter));
+    }
+    return result;
+}
+
 } // namespace
 
 SaveFileState::SaveFileState(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -50,6 +59,24 @@ SaveFileState::SaveFileState(QWidget* parent, const std::string& caption, const 
 }
 
 SaveFileState::~SaveFileState() = default;
+
+void SaveFileState::setUp(const std::string& filter, const std::string& helpTopic)
+{
+    createDialog(filter, helpTopic);
+    finishDialog();
+}
+
+void SaveFileState::setUp(
+    const std::vector<std::string>& writerFilters, int selectedWriterIndex, const std::string& helpTopic)
+{
+    createDialog(writerFilters.empty() ? std::string() : writerFilters.front(), helpTopic);
+    const QStringList filters = toNameFilters(writerFilters);
+    setNameFilters(filters);
+    if (selectedWriterIndex >= 0 && selectedWriterIndex < filters.size()) {
+        selectNameFilter(filters[selectedWriterIndex]);
+    }
+    finishDialog();
+}
 
 bool SaveFileState::launch()
 {
@@ -77,13 +104,4 @@ bool SaveFileState::launch()
         }
     }
     return false;
-}
-
-QStringList toNameFilters(const std::vector<std::string>& filters)
-{
-    QStringList result;
-    for (const std::string& filter : filters) {
-        result.append(QString::fromStdString(filter));
-    }
-    return result;
 }

@@ -9,10 +9,7 @@ namespace morvane::ui {
 /**
  * Copies the selection of a table view as tab-separated text, which spreadsheet programs paste as cells.
  *
- * @code
- * auto* const table = new QTableView(window);
- * new morvane::ui::TableCopyHandler(*table); // belongs to the table
- * @endcode
+ * @snippet 06-table-copy/main.cpp copy
  *
  * The text has one line for each row with a selected cell, rows in ascending order of the model; in a line, the display
  * texts of the row's selected cells in ascending column order, joined by one tab. Lines are joined by one line feed,
