@@ -67,9 +67,10 @@ void checkItem(const QString& name)
     require(QDir::isAbsolutePath(path), "a parsing name gives an absolute path");
     require(pathOfParsingName(path) == path || path.contains(QLatin1Char('\\')), "and is settled then");
     const auto item = makeShellItem(path);
-    if (path == wellFormed(path)) {
-        require(pathOfShellItem(item.get()) == path, "an item knows its path");
+    if (path != wellFormed(path)) {
+        return; // no name of a file either
     }
+    require(pathOfShellItem(item.get()) == path, "an item knows its path");
     ComPtr<IShellItem> parent;
     if (SUCCEEDED(item->GetParent(parent.put()))) {
         require(QDir::isAbsolutePath(pathOfShellItem(parent.get())), "a parent has a path");

@@ -21,7 +21,7 @@ namespace {
 
 ApplicationSettings* replacementInstance = nullptr;
 
-const qint64 largestFile = 256 * 1024 * 1024;
+const qint64 largestFile = qint64(256) * 1024 * 1024;
 const int longestWaitMs = 10000;
 
 enum class FileState

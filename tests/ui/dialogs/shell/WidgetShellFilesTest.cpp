@@ -99,6 +99,21 @@ TEST_F(WidgetShellRun, theDefaultExtensionCompletesNamesWithoutOne)
     }
 }
 
+#ifndef _WIN32
+TEST_F(WidgetShellRun, aNameMayBeginWithAColon)
+{
+    make(CLSID_FileSaveDialog);
+    dialog->SetFileName(text(":notes").c_str());
+    ASSERT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+    ComPtr<IShellItem> item;
+    ASSERT_EQ(dialog->GetResult(item.put()), S_OK);
+    LPWSTR name = nullptr;
+    item->GetDisplayName(SIGDN_FILESYSPATH, &name);
+    EXPECT_EQ(toQString(name), folder.filePath(QStringLiteral(":notes")));
+    shell.coTaskMemFree(name);
+}
+#endif
+
 TEST_F(WidgetShellRun, enterInTheNameFieldAccepts)
 {
     dialog->SetFileName(text("a.txt").c_str());

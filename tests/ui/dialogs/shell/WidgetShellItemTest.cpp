@@ -54,6 +54,13 @@ TEST_F(WidgetShellItem, hasEveryFormOfItsName)
     EXPECT_EQ(displayName(*item, static_cast<SIGDN>(12345)), QStringLiteral("failed"));
 }
 
+TEST_F(WidgetShellItem, isAFileAndNothingWithinTheProgram)
+{
+    ComPtr<IShellItem> item;
+    ASSERT_TRUE(QFile::exists(QStringLiteral(":/qt-project.org")));
+    EXPECT_TRUE(FAILED(make(QStringLiteral(":/qt-project.org"), item)));
+}
+
 TEST_F(WidgetShellItem, knowsFoldersFromFiles)
 {
     makeFile(QStringLiteral("file"));

@@ -92,6 +92,7 @@ QDialog::DialogCode ExtendedWinFileDialog::Impl::exec()
     const FlagGuard running(m_running);
     const AdvisedHandler<ExtendedWinFileDialogEventHandler> handler(*this, *m_dialog);
     configureOnce();
+    // Qt has the handle as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
     const auto owner = m_parent ? reinterpret_cast<HWND>(m_parent->winId()) : HWND();
     const HRESULT result = m_dialog->Show(owner);
     if (m_useAcceptMenu) {

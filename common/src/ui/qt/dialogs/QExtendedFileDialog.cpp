@@ -131,7 +131,7 @@ void QExtendedFileDialog::accept()
         if (m_performSelectedFileValidation) {
             QFileDialog::accept();
         } else {
-            QDialog::accept();
+            QDialog::accept(); // past the checks of QFileDialog. NOLINT(bugprone-parent-virtual-call)
         }
         return;
     }
@@ -167,6 +167,7 @@ void QExtendedFileDialog::restoreFilters()
     m_modifiedNameFilter.clear();
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the slot is known by this signature
 void QExtendedFileDialog::revertModifiedFilterAndSelect(QString filter)
 {
     if (m_modifiedNameFilter.isEmpty() || m_modifiedNameFilter == filter) {

@@ -27,7 +27,8 @@ public:
     ComPtr(ComPtr&& other) noexcept : m_object(other.detach()) {}
     ComPtr& operator=(ComPtr&& other) noexcept
     {
-        ComPtr(std::move(other)).swap(*this);
+        ComPtr taken(std::move(other));
+        taken.swap(*this);
         return *this;
     }
     ComPtr(const ComPtr&) = delete;

@@ -12,7 +12,9 @@ QString absolutePath(QString name, const QString& folder)
     if (name == QLatin1String("~") || name.startsWith(QLatin1String("~/"))) {
         name.replace(0, 1, QDir::homePath());
     }
-    return QDir::cleanPath(QDir(folder).absoluteFilePath(name));
+    // Qt takes a colon in front for something within the program itself.
+    const bool ordinary = name.startsWith(QLatin1Char(':'));
+    return QDir::cleanPath(ordinary ? folder + QLatin1Char('/') + name : QDir(folder).absoluteFilePath(name));
 }
 
 QStringList quotedNames(const QString& text)

@@ -98,7 +98,7 @@ HRESULT WidgetShellItem::GetAttributes(SFGAOF mask, SFGAOF* attributes)
         return E_POINTER;
     }
     const QFileInfo info(m_path);
-    SFGAOF known = static_cast<SFGAOF>(SFGAO_FILESYSTEM);
+    auto known = static_cast<SFGAOF>(SFGAO_FILESYSTEM);
     known |= info.isDir() ? static_cast<SFGAOF>(SFGAO_FOLDER | SFGAO_FILESYSANCESTOR) : SFGAOF(SFGAO_STREAM);
     known |= info.isSymLink() ? SFGAOF(SFGAO_LINK) : 0;
     known |= info.isHidden() ? SFGAOF(SFGAO_HIDDEN) : 0;
@@ -229,6 +229,9 @@ QString pathOfParsingName(const QString& name)
     QString path = name;
     if (!path.startsWith(QLatin1Char('/')) || !QFileInfo::exists(path)) {
         path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    }
+    if (path.startsWith(QLatin1Char(':'))) { // something within the program itself, for Qt; a file, for the Shell
+        path.prepend(QDir::currentPath() + QLatin1Char('/'));
     }
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
