@@ -77,6 +77,8 @@ public:
      *
      * @throws InvalidPropertyValueException when the validator rejects @p v; then nothing is stored and no one is told.
      * @throws whatever an observer throws; then the new value is stored already.
+     * @throws std::bad_alloc when memory runs out: the old value stands and nobody was told, or the new one stands and
+     * not all observers may have been told.
      */
     void setValue(const T& v)
     {

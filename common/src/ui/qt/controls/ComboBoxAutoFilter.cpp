@@ -2,6 +2,7 @@
 
 #include "ui/qt/controls/AutoFilterItemView.h"
 #include "ui/qt/controls/AutoFilterLineEdit.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <ctkCompleter.h>
 
@@ -46,6 +47,7 @@ bool movesMark(const QKeyEvent& event)
 
 ComboBoxAutoFilter::ComboBoxAutoFilter(QWidget* parent) : QComboBox(parent)
 {
+    expectGuiThread("ComboBoxAutoFilter");
     auto* const list = new AutoFilterItemView;
     setView(list);
     // Filters installed later come first: these come before the ones of the popup that holds the list.

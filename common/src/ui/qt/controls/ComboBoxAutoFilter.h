@@ -14,15 +14,15 @@ namespace morvane::ui {
  * entry is picked, or the editing is ended or cancelled with a key, it closes its own widget and announces the outcome.
  * Good as an editor that lives for one edit, in a table cell for instance, and as a field of a form.
  *
- * | where                   | key                | outcome                                                           |
- * |-------------------------|--------------------|-------------------------------------------------------------------|
- * | line, completer's popup | Return, Enter, Tab | the first entry with the line's text: selectionComplete()         |
- * | line, completer's popup | Escape             | the current entry stays: editingCanceled()                        |
- * | line                    | Shift+Tab, or losing the focus otherwise | nothing: text and entry stay as they are    |
- * | completer's popup       | Up, Down           | marks an entry and leaves the line alone                          |
- * | popup list              | Up, Down           | the entry becomes current                                         |
- * | popup list              | Return, Enter, a click | as Return in the line: selectionComplete()                    |
- * | popup list              | Escape             | back to the entry before the edit: editingCanceled()              |
+ * | where                   | key                            | outcome                                               |
+ * |-------------------------|--------------------------------|-------------------------------------------------------|
+ * | line, completer's popup | Return, Enter, Tab             | selectionComplete(): first entry with the line's text |
+ * | line, completer's popup | Escape                         | editingCanceled(): the current entry stays            |
+ * | line                    | Shift+Tab, losing the focus    | none: text and entry stay as they are                 |
+ * | completer's popup       | Up, Down                       | none: marks an entry and leaves the line alone        |
+ * | popup list              | Up, Down                       | none: the entry becomes current                       |
+ * | popup list              | Return, Enter, a clicked entry | selectionComplete(), as Return in the line            |
+ * | popup list              | Escape                         | editingCanceled(): back to the entry before the edit  |
  *
  * Each of these announces once. A slot on either signal may delete the combo box. In an item view the delegate sees Tab
  * first; let its setModelData() call validateEntry().

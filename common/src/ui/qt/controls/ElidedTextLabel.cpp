@@ -2,12 +2,14 @@
 
 #include "ui/qt/controls/ElidedTextAccessible.h"
 #include "ui/qt/controls/ElidedTextUtil.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <QAccessible>
 
 ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLabel(parent, flags)
 {
     installElidedTextAccessible();
+    morvane::ui::expectGuiThread("ElidedTextLabel");
     setAlignment(Qt::AlignLeft);
     setElideMode(Qt::ElideLeft);
     // The tool tip for the text before would look like one that the host has set.

@@ -23,6 +23,9 @@ struct ParentlessFileDialog;
  *
  * @snippet 12-native-or-qt/main.cpp dialog
  *
+ * The parent may be destroyed at any time, also while exec() runs, which then returns QDialog::Rejected. The Qt dialog
+ * goes with it: from then on every operation does nothing and gives nothing.
+ *
  * Made for one use: construct, configure, run, read, destroy. Exceptions of the chosen dialog pass through. GUI thread
  * only.
  */

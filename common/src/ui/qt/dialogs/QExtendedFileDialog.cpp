@@ -2,6 +2,7 @@
 
 #include "host/ApplicationSettings.h"
 #include "host/HelpLauncher.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <QComboBox>
 #include <QCursor>
@@ -197,6 +198,7 @@ void QExtendedFileDialog::onRootPathChanged(const QString& path)
 
 void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
 {
+    morvane::ui::expectGuiThread("QExtendedFileDialog");
     setAcceptMode(acceptMode);
     setFileMode(acceptMode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     // Also what makes Qt build the child widgets that are looked up below.

@@ -4,6 +4,7 @@
 #include "ui/qt/dialogs/FilePath.h"
 #include "ui/qt/dialogs/SaveFileExtension.h"
 #include "ui/qt/dialogs/WriteAccessProbe.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <QMessageBox>
 
@@ -52,6 +53,7 @@ SaveFileState::~SaveFileState() = default;
 
 bool SaveFileState::launch()
 {
+    morvane::ui::expectGuiThread("SaveFileDialog");
     while (isAlive() && run() && isAlive()) {
         const QStringList files = selectedFiles();
         if (files.isEmpty()) {

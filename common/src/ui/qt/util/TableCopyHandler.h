@@ -37,6 +37,7 @@ public Q_SLOTS:
      * Replaces what is on the clipboard by the text of the current selection. With nothing selected, and also without a
      * model or a selection model, that is the empty text. A wait cursor shows while the text is being made if that
      * takes more than half a second; no events are processed meanwhile.
+     * @throws std::bad_alloc when memory runs out; while the text is being made, that leaves the clipboard as it was.
      */
     void copyToClipboard() override;
 

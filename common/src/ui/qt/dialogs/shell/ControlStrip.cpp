@@ -21,7 +21,6 @@ constexpr int controlsPerRow = 4;
 
 ControlStrip::ControlStrip(QFileDialog& dialog, ControlActions actions)
     : QObject(&dialog),
-      m_dialog(dialog),
       m_actions(std::move(actions)),
       m_buttonBox(dialog.findChild<QDialogButtonBox*>()),
       m_row(new QWidget(&dialog)),
