@@ -8,8 +8,8 @@
 
 ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLabel(parent, flags)
 {
-    installElidedTextAccessible();
     morvane::ui::expectGuiThread("ElidedTextLabel");
+    installElidedTextAccessible();
     setAlignment(Qt::AlignLeft);
     setElideMode(Qt::ElideLeft);
     // The tool tip for the text before would look like one that the host has set.
