@@ -22,7 +22,7 @@ WidgetDescription comboBox()
     widget.extends = QStringLiteral("QComboBox");
     widget.header = QStringLiteral("ui/qt/controls/ComboBoxAutoFilter.h");
     widget.icon = QStringLiteral("combobox");
-    widget.toolTip = QStringLiteral("Filtering combo box");
+    widget.toolTip = QStringLiteral("Filtering Combo Box");
     widget.whatsThis = QStringLiteral("A combo box that offers the entries that contain what is typed, and that closes "
                                       "itself when an entry is picked or the editing is cancelled.");
     widget.size = QSize(160, 32);
@@ -38,7 +38,7 @@ WidgetDescription scientificSpinBox()
     widget.extends = QStringLiteral("QDoubleSpinBox");
     widget.header = QStringLiteral("ui/qt/controls/QScientificSpinBox.h");
     widget.icon = QStringLiteral("scientificspinbox");
-    widget.toolTip = QStringLiteral("Scientific spin box");
+    widget.toolTip = QStringLiteral("Scientific Spin Box");
     widget.whatsThis = QStringLiteral("A spin box for numbers such as 1.5E-07. Set its range, step and value as text: "
                                       "minimumText, maximumText, singleStepText, valueText.");
     widget.size = QSize(200, 32);
@@ -53,7 +53,7 @@ WidgetDescription integralSpinBox()
     widget.extends = QStringLiteral("QSpinBox");
     widget.header = QStringLiteral("ui/qt/controls/IntegralSpinBox.h");
     widget.icon = QStringLiteral("integralspinbox");
-    widget.toolTip = QStringLiteral("Integer spin box with steps of your own");
+    widget.toolTip = QStringLiteral("Integer Spin Box");
     widget.whatsThis = QStringLiteral("A spin box for whole numbers. Slots connected to signalIncrement and "
                                       "signalDecrement take the place of its steps.");
     widget.size = QSize(100, 32);
@@ -68,7 +68,7 @@ WidgetDescription elidedLabel()
     widget.extends = QStringLiteral("QFrame");
     widget.header = QStringLiteral("ui/qt/controls/ElidedTextLabel.h");
     widget.icon = QStringLiteral("elidedlabel");
-    widget.toolTip = QStringLiteral("Elided label");
+    widget.toolTip = QStringLiteral("Elided Label");
     widget.whatsThis = QStringLiteral("A label for paths and other texts whose end matters. What does not fit is cut "
                                       "off at the start, and the tool tip has the whole.");
     widget.size = QSize(160, 24);
@@ -86,7 +86,7 @@ WidgetDescription commandLinkButton()
     widget.extends = QStringLiteral("QCommandLinkButton");
     widget.header = QStringLiteral("ui/qt/controls/CorrectFontCommandLinkButton.h");
     widget.icon = QStringLiteral("commandlink");
-    widget.toolTip = QStringLiteral("Command link that is never cut");
+    widget.toolTip = QStringLiteral("Command Link, Never Cut");
     widget.whatsThis = QStringLiteral("A command link that no layout squeezes below the size of its texts.");
     widget.size = QSize(220, 60);
     widget.properties = QStringLiteral("<property name=\"text\"><string>Command link</string></property>"

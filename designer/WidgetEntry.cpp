@@ -29,7 +29,7 @@ QIcon WidgetEntry::icon() const
 
 QString WidgetEntry::domXml() const
 {
-    static const QString form = QStringLiteral(R"(<ui language="c++">
+    static const QString form = QStringLiteral(R"(<ui language="c++" displayname="%9">
  <widget class="%1" name="%2">
   <property name="geometry">
    <rect><x>0</x><y>0</y><width>%3</width><height>%4</height></rect>
@@ -47,5 +47,6 @@ QString WidgetEntry::domXml() const
 )");
     const WidgetDescription& widget = m_description;
     return form.arg(widget.className, firstObjectName(widget.className), QString::number(widget.size.width()),
-        QString::number(widget.size.height()), widget.properties, widget.extends, widget.header, widget.specifications);
+        QString::number(widget.size.height()), widget.properties, widget.extends, widget.header, widget.specifications,
+        widget.toolTip);
 }
