@@ -33,7 +33,7 @@ SaveReportPage::SaveReportPage()
       m_replaceQuestion(new QLineEdit(tr("There is a report %1 already. Write over it?"))),
       m_refusedQuestion(new QLineEdit(tr("Nobody may write %1 there. Try another place?"))),
       m_file(new QLabel(tr("nothing was written yet"))),
-      m_writer(new QLabel),
+      m_writer(new QLabel(tr("nothing"))),
       m_content(new QPlainTextEdit)
 {
     m_form->rows().insertRow(0, tr("&Report:"), m_reportTitle);
@@ -97,7 +97,7 @@ void SaveReportPage::save()
     SaveFileDialog dialog(window(), "Save Report", m_form->startFolder(), m_form->startFile(), filters, 0,
         m_form->helpTopic(), makeHandler());
     if (!dialog.launch()) {
-        showNothingWritten(tr("nothing: given up"));
+        showNothingWritten(tr("given up"));
         return;
     }
     write(QString::fromStdString(dialog.selectedFilename()), dialog.selectedWriter());
@@ -111,7 +111,7 @@ void SaveReportPage::write(const QString& fileName, int writer)
     if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit()) {
         showWritten(fileName, tr("%1, writer %2").arg(chosen.name).arg(writer));
     } else {
-        showNothingWritten(tr("nothing: %1").arg(file.errorString()));
+        showNothingWritten(file.errorString());
     }
 }
 
@@ -127,10 +127,10 @@ void SaveReportPage::showWritten(const QString& fileName, const QString& writer)
 
 void SaveReportPage::showNothingWritten(const QString& reason)
 {
-    m_file->setText(reason);
-    m_writer->clear();
+    m_file->setText(tr("nothing was written: %1").arg(reason));
+    m_writer->setText(tr("nothing"));
     m_content->clear();
-    Q_EMIT reported(tr("Written: %1").arg(reason));
+    Q_EMIT reported(tr("Nothing was written: %1").arg(reason));
 }
 
 } // namespace gallery

@@ -192,7 +192,8 @@ std::vector<TourStep> SaveReportPage::refusedSteps(const TourWorkspace& workspac
     steps.push_back({QStringLiteral("given-up"), [] { answer(QMessageBox::No); },
         [this] {
             const QString complaint = tour::expectClosed();
-            return complaint.isEmpty() ? expect(m_file->text() == tr("nothing: given up"), m_file->text()) : complaint;
+            return complaint.isEmpty() ? expect(m_file->text() == tr("nothing was written: given up"), m_file->text())
+                                       : complaint;
         }});
     return steps;
 }
