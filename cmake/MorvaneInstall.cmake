@@ -18,3 +18,7 @@ configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/MorvaneConfig.cmake.in
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/MorvaneConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/MorvaneConfig.cmake ${PROJECT_BINARY_DIR}/MorvaneConfigVersion.cmake
         DESTINATION ${package_dir} COMPONENT Development)
+
+if(PROJECT_IS_TOP_LEVEL AND WIN32)
+    include(MorvaneWindowsPackage)
+endif()

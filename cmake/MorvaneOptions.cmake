@@ -4,6 +4,7 @@ option(MORVANE_BUILD_EXAMPLES "Build the gallery and the examples" ${PROJECT_IS_
 option(MORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(MORVANE_WARNINGS_AS_ERRORS "Treat warnings in Morvane's own sources as errors" OFF)
 option(MORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(MORVANE_BUILD_QUICKLY "Build faster: precompile headers, which hides missing includes; do not optimise tests" OFF)
 option(MORVANE_INSTALL "Provide the install rules" ${PROJECT_IS_TOP_LEVEL})
 set(MORVANE_HOST_LIBRARY "" CACHE STRING
     "CMake target or library file that implements the host services in place of libmorvane-host")

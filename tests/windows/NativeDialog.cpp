@@ -72,6 +72,40 @@ HWND findChild(HWND parent, int id)
     return search.found;
 }
 
+struct TextSearch
+{
+    const std::wstring& text;
+    HWND found;
+};
+
+BOOL CALLBACK matchText(HWND window, LPARAM argument)
+{
+    auto& search = *reinterpret_cast<TextSearch*>(argument);
+    if (!hasClass(window, WC_BUTTONW) || windowText(window) != search.text) {
+        return TRUE;
+    }
+    search.found = window;
+    return FALSE;
+}
+
+HWND waitForMenu()
+{
+    HWND menu = nullptr;
+    const bool opened = waitUntil([&menu] {
+        menu = FindWindowW(menuClass, nullptr);
+        return menu && isOurs(menu) && IsWindowVisible(menu);
+    });
+    return opened ? menu : nullptr;
+}
+
+bool takeEntry(HWND menu, int index)
+{
+    for (int i = 0; i <= index; ++i) {
+        PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
+    }
+    return PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0) != 0;
+}
+
 BOOL CALLBACK matchList(HWND window, LPARAM argument)
 {
     if (!hasClass(window, WC_LISTVIEWW)) {
@@ -215,6 +249,18 @@ void NativeDialog::press(int control) const
     PostMessageW(find(control), BM_CLICK, 0, 0);
 }
 
+void NativeDialog::click(int control) const
+{
+    SendMessageW(find(control), BM_CLICK, 0, 0);
+}
+
+int NativeDialog::controlWithText(const std::wstring& text) const
+{
+    TextSearch search{text, nullptr};
+    EnumChildWindows(m_window, matchText, reinterpret_cast<LPARAM>(&search));
+    return search.found ? GetDlgCtrlID(search.found) : 0;
+}
+
 bool NativeDialog::isChecked(int control) const
 {
     return send(find(control), BM_GETCHECK) == BST_CHECKED;
@@ -235,19 +281,22 @@ bool NativeDialog::isVisible(int control) const
 bool NativeDialog::chooseAcceptOption(int index) const
 {
     press(AcceptArrow);
-    HWND menu = nullptr;
-    const bool opened = waitUntil([&menu] {
-        menu = FindWindowW(menuClass, nullptr);
-        return menu && isOurs(menu) && IsWindowVisible(menu);
-    });
-    if (!opened) {
-        return false;
+    const HWND menu = waitForMenu();
+    return menu && takeEntry(menu, index);
+}
+
+bool NativeDialog::takeMenuEntry(const std::wstring& text)
+{
+    const HWND window = waitForMenu();
+    const auto menu = reinterpret_cast<HMENU>(send(window, MN_GETHMENU));
+    for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+        wchar_t entry[64] = {};
+        GetMenuStringW(menu, static_cast<UINT>(i), entry, 64, MF_BYPOSITION);
+        if (text == entry) {
+            return takeEntry(window, i);
+        }
     }
-    for (int i = 0; i <= index; ++i) {
-        PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
-    }
-    PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
-    return true;
+    return false;
 }
 
 bool NativeDialog::waitForQuestion(int seconds) const
