@@ -19,6 +19,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/MorvaneConfigVersion.cmak
 install(FILES ${PROJECT_BINARY_DIR}/MorvaneConfig.cmake ${PROJECT_BINARY_DIR}/MorvaneConfigVersion.cmake
         DESTINATION ${package_dir} COMPONENT Development)
 
+include(MorvaneSbom)
 if(PROJECT_IS_TOP_LEVEL AND WIN32)
     include(MorvaneWindowsPackage)
 endif()
