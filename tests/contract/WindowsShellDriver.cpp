@@ -2,6 +2,8 @@
 #include "contract/WindowsDifferences.h"
 #include "windows/NativeDialog.h"
 
+#include <QFileInfo>
+#include <QTest>
 #include <QTimer>
 
 #include <list>
@@ -29,6 +31,12 @@ public:
     void pressAccept() override { m_dialog.click(NativeDialog::Accept); }
     void pressCancel() override { m_dialog.click(NativeDialog::Cancel); }
     void typeName(const QString& name) override { m_dialog.setName(name.toStdWString()); }
+    void selectFile(const QString& file) override
+    {
+        const std::wstring name = QFileInfo(file).fileName().toStdWString();
+        // The list is filled a moment after the dialog opened.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return m_dialog.selectFile(name); }));
+    }
     void pickType(unsigned position) override { m_dialog.chooseType(static_cast<int>(position) - 1); }
     void enterFolder(const QString& folder) override
     {

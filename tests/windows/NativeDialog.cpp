@@ -233,6 +233,26 @@ int NativeDialog::listedFiles() const
     return static_cast<int>(send(list, LVM_GETITEMCOUNT));
 }
 
+bool NativeDialog::selectFile(const std::wstring& name) const
+{
+    HWND list = nullptr;
+    EnumChildWindows(m_window, matchList, reinterpret_cast<LPARAM>(&list));
+    for (int i = 0; i < listedFiles(); ++i) {
+        wchar_t text[260] = {};
+        LVITEMW item{};
+        item.pszText = text;
+        item.cchTextMax = 260;
+        SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+        if (name != text) {
+            continue;
+        }
+        item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+        item.state = item.stateMask;
+        return SendMessageW(list, LVM_SETITEMSTATE, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item)) != 0;
+    }
+    return false;
+}
+
 bool NativeDialog::exists(int control) const
 {
     return find(control) != nullptr;

@@ -57,6 +57,10 @@ public:
     /** How many files and folders the list shows; it is filled a moment after the dialog or a folder opens. */
     int listedFiles() const;
 
+    /** Selects the entry of the list as a click on it would. False when it is not listed. Only for the dialog's thread.
+     */
+    bool selectFile(const std::wstring& name) const;
+
     bool exists(int control) const;
     std::wstring text(int control) const;
     void press(int control) const;

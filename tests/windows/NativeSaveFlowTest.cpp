@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -61,19 +62,27 @@ protected:
         SaveFileDialog& flow, Scripts scripts, const std::vector<Qt::Key>& keys, QStringList* texts = nullptr)
     {
         const DialogUser user(std::move(scripts));
-        ModalScript answers(60000);
+        ModalScript answers;
         for (const Qt::Key key : keys) {
             answers.on<QMessageBox>([key, texts](QMessageBox& box) {
                 if (texts) {
                     texts->append(box.text());
                 }
-                EXPECT_EQ(box.windowTitle(), QStringLiteral("Save"));
-                QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box, key);
+                answer(box, key);
             });
         }
         const bool result = flow.launch();
         EXPECT_TRUE(answers.finished()) << "a question was not asked";
         return result;
+    }
+
+    static void answer(QMessageBox& box, Qt::Key key)
+    {
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Save"));
+        const QPointer<QMessageBox> open(&box);
+        QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box, key);
+        // The button goes down for a moment first, and the next question must not be taken for this one.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !open || !open->isVisible(); }));
     }
 
     static DialogUser::Script typing(const QString& name)
