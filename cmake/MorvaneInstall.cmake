@@ -20,3 +20,6 @@ install(FILES ${PROJECT_BINARY_DIR}/MorvaneConfig.cmake ${PROJECT_BINARY_DIR}/Mo
         DESTINATION ${package_dir} COMPONENT Development)
 
 include(MorvaneSbom)
+if(PROJECT_IS_TOP_LEVEL AND WIN32)
+    include(MorvaneWindowsPackage)
+endif()

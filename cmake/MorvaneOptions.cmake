@@ -10,6 +10,7 @@ set(MORVANE_BUILD_DESIGNER ${designer_default} CACHE STRING
     "The plugin for Qt Designer: AUTO (where Qt's files for plugins are found), ON (required) or OFF")
 option(MORVANE_WARNINGS_AS_ERRORS "Treat warnings in Morvane's own sources as errors" OFF)
 option(MORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(MORVANE_BUILD_QUICKLY "Build faster: precompile headers, which hides missing includes; do not optimise tests" OFF)
 option(MORVANE_COVERAGE "Build for measuring the coverage by the tests (g++)" OFF)
 option(MORVANE_BUILD_FUZZERS "Build the fuzzing harnesses with libFuzzer (clang)" OFF)
 option(MORVANE_INSTALL "Provide the install rules" ${PROJECT_IS_TOP_LEVEL})

@@ -44,6 +44,13 @@ function(morvane_own_code target)
         CXX_EXTENSIONS OFF AUTOMOC ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 endfunction()
 
+# morvane_precompile(TARGET header...): a build that is to save time compiles these once for the whole target.
+function(morvane_precompile target)
+    if(MORVANE_BUILD_QUICKLY)
+        target_precompile_headers(${target} PRIVATE ${ARGN})
+    endif()
+endfunction()
+
 # morvane_library(NAME morvane-ui EXPORT_NAME Ui EXPORT_HEADER ui/qt/MorvaneUiExport.h EXPORT_MACRO MORVANE_UI_EXPORT
 #                 PUBLIC_HEADERS ... SOURCES ...)
 # A versioned shared library with its export header; header paths are relative to the include root.

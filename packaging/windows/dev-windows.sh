@@ -1,5 +1,6 @@
-# The command "./dev windows": cross-build for Windows and run the tests there, under Wine. Sourced by ./dev, whose
-# functions it uses: need, step, die, build, run_tests.
+# shellcheck shell=sh
+# The command "./dev windows": cross-build for Windows and run the tests there, under Wine; and the ZIP for Windows of
+# "./dev package". Sourced by ./dev, whose functions it uses: need, step, die, build, run_tests.
 
 windows_run_packages='wine wine64 xvfb'
 
@@ -35,19 +36,13 @@ windows_configure() {
     export MORVANE_WINDOWS_SDK="$1"
 }
 
-cmd_windows() {
+# windows_build [--sdk DIR]: the SDK, the configuration and the build. Ends with status 77 when there can be no SDK.
+windows_build() {
     given=''
-    case ${1:-} in
-    --help | -h)
-        windows_usage
-        return
-        ;;
-    --sdk)
+    if [ "${1:-}" = --sdk ]; then
         [ $# -ge 2 ] || die '--sdk wants a directory'
         given=$2
-        shift 2
-        ;;
-    esac
+    fi
     # shellcheck disable=SC2046,SC2086 # the lists are to be split
     need $(packaging/windows/make-sdk --packages) $windows_run_packages
     [ -n "$given" ] || step 'making the SDK for Windows, once (about 15 minutes)'
@@ -56,8 +51,39 @@ cmd_windows() {
     [ "$status" = 0 ] || exit "$status"
     windows_configure "$sdk"
     build windows
+}
+
+cmd_windows() {
+    case ${1:-} in
+    --help | -h)
+        windows_usage
+        return
+        ;;
+    --sdk)
+        windows_build "$@"
+        shift 2
+        ;;
+    *) windows_build ;;
+    esac
     status=0
     run_tests windows "$@" || status=$?
     packaging/windows/run-wine --home build/windows/wine --stop
     return "$status"
+}
+
+# package_windows [--sdk DIR]: the ZIP, for "./dev package". Without the option the SDK of the last build serves.
+package_windows() {
+    used=''
+    [ ! -f build/windows/CMakeCache.txt ] || used=$(sed -n 's/^MORVANE_WINDOWS_SDK:PATH=//p' build/windows/CMakeCache.txt)
+    if [ $# -eq 0 ] && [ -n "$used" ]; then
+        set -- --sdk "$used"
+    fi
+    windows_build "$@"
+    step 'packing the ZIP for Windows'
+    cpack -G ZIP --config build/windows/CPackConfig.cmake -B build/windows/packages >build/windows/package.log 2>&1 || {
+        cat build/windows/package.log >&2
+        die 'cpack -G ZIP failed'
+    }
+    rm -rf build/windows/packages/_CPack_Packages
+    step "the ZIP is in $(pwd)/build/windows/packages"
 }

@@ -8,6 +8,7 @@
 #include <functional>
 #include <iosfwd>
 #include <memory>
+#include <string>
 
 namespace morvane::test {
 
@@ -39,6 +40,8 @@ public:
     virtual ui::Shell& shell() = 0;
     /** Runs the dialog while @p play acts on it, once it is open. */
     virtual HRESULT show(IFileDialog& dialog, const std::function<void(ShellUser&)>& play) = 0;
+    /** Why this implementation, not ours, cannot keep the contract of the test; null when it can. */
+    virtual const char* differenceIn(const std::string&) const { return nullptr; }
     /** Objects and strings that are still alive, where that can be told; otherwise 0. */
     virtual int leaks() const { return 0; }
 };
@@ -54,5 +57,6 @@ void PrintTo(const NamedShellDriver& driver, std::ostream* out);
 
 std::unique_ptr<ShellDriver> makeWidgetShellDriver();
 std::unique_ptr<ShellDriver> makeRecordingShellDriver();
+std::unique_ptr<ShellDriver> makeWindowsShellDriver();
 
 } // namespace morvane::test

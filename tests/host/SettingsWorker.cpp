@@ -3,6 +3,7 @@
 #include "host/ApplicationSettings.h"
 
 #include <QFile>
+#include <QLockFile>
 #include <QString>
 
 #include <cstdio>
@@ -57,6 +58,13 @@ int storeAndDie(const QString& file)
     std::_Exit(0);
 }
 
+/** Ends in the middle of a write, as far as the other processes can see. */
+int lockAndDie(const QString& file)
+{
+    QLockFile lock(file + QStringLiteral(".lock"));
+    std::_Exit(lock.lock() ? 0 : 1);
+}
+
 /** Tries to store as a user who may not, then reads back what the same and what another object sees. */
 int storeUnprivileged(const QString& file)
 {
@@ -88,6 +96,9 @@ int main(int argc, char** argv)
     }
     if (mode == "store-and-die") {
         return storeAndDie(file);
+    }
+    if (mode == "lock-and-die") {
+        return lockAndDie(file);
     }
     if (mode == "store-unprivileged") {
         return storeUnprivileged(file);

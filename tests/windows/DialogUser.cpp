@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
@@ -35,12 +36,13 @@ void putAway(const NativeDialog& dialog)
     }
 }
 
-void use(const DialogUser::Script& script)
+/** False when no dialog appeared. */
+bool use(const DialogUser::Script& script)
 {
     const HWND window = NativeDialog::waitForWindow(secondsToAppear);
     if (!window) {
         ADD_FAILURE() << "no dialog appeared";
-        return;
+        return false;
     }
     NativeDialog dialog(window);
     script(dialog);
@@ -48,11 +50,17 @@ void use(const DialogUser::Script& script)
         ADD_FAILURE() << "the dialog was still open at the end of the script";
         putAway(dialog);
     }
+    return true;
 }
 
 } // namespace
 
-DialogUser::DialogUser(Script script) : m_thread([script = std::move(script)] { use(script); }) {}
+DialogUser::DialogUser(Script script) : DialogUser(std::vector<Script>{std::move(script)}) {}
+
+DialogUser::DialogUser(std::vector<Script> scripts)
+    : m_thread([scripts = std::move(scripts)] { static_cast<void>(std::all_of(scripts.begin(), scripts.end(), use)); })
+{
+}
 
 DialogUser::~DialogUser()
 {

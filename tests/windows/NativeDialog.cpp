@@ -72,6 +72,40 @@ HWND findChild(HWND parent, int id)
     return search.found;
 }
 
+struct TextSearch
+{
+    const std::wstring& text;
+    HWND found;
+};
+
+BOOL CALLBACK matchText(HWND window, LPARAM argument)
+{
+    auto& search = *reinterpret_cast<TextSearch*>(argument);
+    if (!hasClass(window, WC_BUTTONW) || windowText(window) != search.text) {
+        return TRUE;
+    }
+    search.found = window;
+    return FALSE;
+}
+
+HWND waitForMenu()
+{
+    HWND menu = nullptr;
+    const bool opened = waitUntil([&menu] {
+        menu = FindWindowW(menuClass, nullptr);
+        return menu && isOurs(menu) && IsWindowVisible(menu);
+    });
+    return opened ? menu : nullptr;
+}
+
+bool takeEntry(HWND menu, int index)
+{
+    for (int i = 0; i <= index; ++i) {
+        PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
+    }
+    return PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0) != 0;
+}
+
 BOOL CALLBACK matchList(HWND window, LPARAM argument)
 {
     if (!hasClass(window, WC_LISTVIEWW)) {
@@ -199,6 +233,26 @@ int NativeDialog::listedFiles() const
     return static_cast<int>(send(list, LVM_GETITEMCOUNT));
 }
 
+bool NativeDialog::selectFile(const std::wstring& name) const
+{
+    HWND list = nullptr;
+    EnumChildWindows(m_window, matchList, reinterpret_cast<LPARAM>(&list));
+    for (int i = 0; i < listedFiles(); ++i) {
+        wchar_t text[260] = {};
+        LVITEMW item{};
+        item.pszText = text;
+        item.cchTextMax = 260;
+        SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+        if (name != text) {
+            continue;
+        }
+        item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+        item.state = item.stateMask;
+        return SendMessageW(list, LVM_SETITEMSTATE, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item)) != 0;
+    }
+    return false;
+}
+
 bool NativeDialog::exists(int control) const
 {
     return find(control) != nullptr;
@@ -213,6 +267,18 @@ void NativeDialog::press(int control) const
 {
     // Posted: what the button does may last, a message box for instance.
     PostMessageW(find(control), BM_CLICK, 0, 0);
+}
+
+void NativeDialog::click(int control) const
+{
+    SendMessageW(find(control), BM_CLICK, 0, 0);
+}
+
+int NativeDialog::controlWithText(const std::wstring& text) const
+{
+    TextSearch search{text, nullptr};
+    EnumChildWindows(m_window, matchText, reinterpret_cast<LPARAM>(&search));
+    return search.found ? GetDlgCtrlID(search.found) : 0;
 }
 
 bool NativeDialog::isChecked(int control) const
@@ -235,19 +301,22 @@ bool NativeDialog::isVisible(int control) const
 bool NativeDialog::chooseAcceptOption(int index) const
 {
     press(AcceptArrow);
-    HWND menu = nullptr;
-    const bool opened = waitUntil([&menu] {
-        menu = FindWindowW(menuClass, nullptr);
-        return menu && isOurs(menu) && IsWindowVisible(menu);
-    });
-    if (!opened) {
-        return false;
+    const HWND menu = waitForMenu();
+    return menu && takeEntry(menu, index);
+}
+
+bool NativeDialog::takeMenuEntry(const std::wstring& text)
+{
+    const HWND window = waitForMenu();
+    const auto menu = reinterpret_cast<HMENU>(send(window, MN_GETHMENU));
+    for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+        wchar_t entry[64] = {};
+        GetMenuStringW(menu, static_cast<UINT>(i), entry, 64, MF_BYPOSITION);
+        if (text == entry) {
+            return takeEntry(window, i);
+        }
     }
-    for (int i = 0; i <= index; ++i) {
-        PostMessageW(menu, WM_KEYDOWN, VK_DOWN, 0);
-    }
-    PostMessageW(menu, WM_KEYDOWN, VK_RETURN, 0);
-    return true;
+    return false;
 }
 
 bool NativeDialog::waitForQuestion(int seconds) const

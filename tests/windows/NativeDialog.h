@@ -13,7 +13,8 @@ bool waitUntil(const std::function<bool()>& condition, int seconds = 10);
 
 /**
  * A common item dialog as somebody outside sees it: windows, their texts and states, and messages to them. Meant for
- * another thread than the one that the dialog runs on. A dialog that has ended answers with nothing.
+ * another thread than the one that the dialog runs on, unless said otherwise. A dialog that has ended answers with
+ * nothing.
  */
 class NativeDialog
 {
@@ -56,15 +57,25 @@ public:
     /** How many files and folders the list shows; it is filled a moment after the dialog or a folder opens. */
     int listedFiles() const;
 
+    /** Selects the entry of the list as a click on it would. False when it is not listed. Only for the dialog's thread.
+     */
+    bool selectFile(const std::wstring& name) const;
+
     bool exists(int control) const;
     std::wstring text(int control) const;
     void press(int control) const;
+    /** Presses it and returns when all that follows is done. Only for the thread that the dialog runs on. */
+    void click(int control) const;
+    /** The id of the button or check box with this text; 0 when there is none. */
+    int controlWithText(const std::wstring& text) const;
     bool isChecked(int control) const;
     bool isEnabled(int control) const;
     bool isVisible(int control) const;
 
     /** Opens the menu of the accept button and takes the entry @p index, counted from 0. False when no menu opens. */
     bool chooseAcceptOption(int index) const;
+    /** Waits for a menu of this process and takes the entry with this text. False when there is none. */
+    static bool takeMenuEntry(const std::wstring& text);
 
     /** Waits for a message box of the dialog, such as the overwrite question. */
     bool waitForQuestion(int seconds = 10) const;

@@ -24,6 +24,16 @@ ApplicationSettings* replacementInstance = nullptr;
 const qint64 largestFile = qint64(256) * 1024 * 1024;
 const int longestWaitMs = 10000;
 
+// Windows does not replace a file while somebody has it open, nor open one while it is being replaced; for a moment it
+// may not even be listed.
+#ifdef Q_OS_WIN
+const int longestReplacingMs = 2000;
+const int longestVanishingMs = 10;
+#else
+const int longestReplacingMs = 0;
+const int longestVanishingMs = 0;
+#endif
+
 enum class FileState
 {
     Missing,
@@ -38,31 +48,62 @@ struct Snapshot
     SettingsDocument document;
 };
 
+/** Looks again and again, at least twice where the time is not zero. */
+template <typename Condition>
+bool waitFor(int longestMs, Condition condition)
+{
+    const QDeadlineTimer deadline(longestMs);
+    while (!condition()) {
+        if (deadline.hasExpired()) {
+            return false;
+        }
+        QThread::msleep(2);
+    }
+    return true;
+}
+
 // QSettings would not do: it reads a line that was cut off as a shorter value, and its process-wide cache hands out,
 // and writes later, values that could not be written.
 Snapshot readFile(const QString& fileName)
 {
+    waitFor(longestVanishingMs, [&] { return QFileInfo::exists(fileName); });
     const QFileInfo info(fileName);
     if (!info.exists()) {
         return {info.isSymLink() ? FileState::Unreadable : FileState::Missing, {}};
     }
     QFile file(fileName);
     // Opening a pipe or a device would wait for its other end.
-    if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly)) {
+    if (!info.isFile() || info.size() > largestFile ||
+        !waitFor(longestVanishingMs, [&] { return file.open(QIODevice::ReadOnly); })) {
         return {FileState::Unreadable, {}};
     }
     const QByteArray content = file.readAll();
+    const bool isComplete = content.size() == file.size();
+    file.close(); // not held for longer than needed: it may be about to be replaced
     std::optional<SettingsDocument> document = SettingsDocument::parse(content);
-    if (content.size() != file.size() || !document) {
+    if (!isComplete || !document) {
         return {FileState::Damaged, {}};
     }
     return {FileState::Intact, std::move(*document)};
 }
 
-bool writeFile(const QString& fileName, const QByteArray& content)
+/** Writes a new file and puts it in the place of the old one. */
+QFileDevice::FileError replaceFile(const QString& fileName, const QByteArray& content)
 {
     QSaveFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    const QFileDevice::FileError error = file.error() == QFileDevice::NoError ? QFileDevice::WriteError : file.error();
+    return isWritten ? QFileDevice::NoError : error;
+}
+
+bool writeFile(const QString& fileName, const QByteArray& content)
+{
+    QFileDevice::FileError error = QFileDevice::NoError;
+    waitFor(longestReplacingMs, [&] {
+        error = replaceFile(fileName, content);
+        return error != QFileDevice::RenameError;
+    });
+    return error == QFileDevice::NoError;
 }
 
 bool moveAside(const QString& fileName)

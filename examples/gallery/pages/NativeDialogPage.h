@@ -47,6 +47,9 @@ private:
     std::vector<TourStep> controlStateSteps();
     std::vector<TourStep> acceptOptionSteps();
     std::vector<TourStep> saveSteps();
+    TourStep systemOpenStep(const QString& name, int listed);
+    std::vector<TourStep> systemDialogSteps();
+    std::vector<TourStep> systemSaveSteps();
 
     Flag m_readOnly;
     Flag m_preview;

@@ -58,6 +58,9 @@ std::vector<TourStep> NativeDialogPage::tourSteps(const TourWorkspace& workspace
         append(steps, controlStateSteps());
         append(steps, acceptOptionSteps());
         append(steps, saveSteps());
+    } else {
+        append(steps, systemDialogSteps());
+        append(steps, systemSaveSteps());
     }
     return steps;
 }

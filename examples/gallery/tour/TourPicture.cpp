@@ -1,5 +1,7 @@
 #include "tour/TourPicture.h"
 
+#include "tour/SystemFileDialog.h"
+
 #include <QApplication>
 #include <QMap>
 #include <QPainter>
@@ -47,6 +49,9 @@ QPixmap grabScreen(const std::vector<QWidget*>& windows)
     QRect area;
     for (QWidget* const window : windows) {
         area |= window->frameGeometry();
+    }
+    if (const tour::SystemFileDialog dialog; dialog) {
+        area |= dialog.geometry();
     }
     area = (area & screen->geometry()).translated(-screen->geometry().topLeft());
     return screen->grabWindow(0, area.x(), area.y(), area.width(), area.height());

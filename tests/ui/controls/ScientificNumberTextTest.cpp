@@ -256,26 +256,31 @@ TEST(ScientificNumberText, integersAndLimitsBeyond64BitsCountAsZero)
     EXPECT_TRUE(mayGrowIntoRange("1E3", rulesFor(1e20, 2e20)));
 }
 
+/** What printf writes; ours keeps the sign of what is no number, which not every system's does. */
+QString printed(double value, int digits)
+{
+    char text[1077];
+    std::snprintf(text, sizeof text, "%.*G", digits, value);
+    const bool lacksSign = std::isnan(value) && std::signbit(value) && text[0] != '-';
+    return (lacksSign ? QStringLiteral("-") : QString()) + QLatin1String(text);
+}
+
 TEST(ScientificNumberText, isPrintfsTextForAMillionRandomDoubles)
 {
     Cases cases(45);
-    char expected[1077];
     for (int i = 0; i < 1000000; ++i) {
         const double value = i % 3 == 0 ? std::ldexp(cases.below(1 << 30), -cases.below(60)) : cases.anyDouble();
         const int digits = cases.below(16) - 3;
-        std::snprintf(expected, sizeof expected, "%.*G", digits, value);
-        ASSERT_EQ(scientificText(value, digits), QLatin1String(expected)) << "digits: " << digits;
+        ASSERT_EQ(scientificText(value, digits), printed(value, digits)) << "digits: " << digits;
     }
 }
 
 TEST(ScientificNumberText, isPrintfsTextForTheValuesAtTheEdges)
 {
-    char expected[1077];
     for (const double value : {0.0, -0.0, infinity, -infinity, std::nan(""), -std::nan(""), largest, -largest, 5e-324,
              0.5, 1.5, 2.5, 99999999.5, 999999995.0, 0.0001, 0.00009999}) {
         for (int digits = -3; digits <= 12; ++digits) {
-            std::snprintf(expected, sizeof expected, "%.*G", digits, value);
-            EXPECT_EQ(scientificText(value, digits), QLatin1String(expected)) << "digits: " << digits;
+            EXPECT_EQ(scientificText(value, digits), printed(value, digits)) << "digits: " << digits;
         }
     }
 }

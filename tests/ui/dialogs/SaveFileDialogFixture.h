@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/DiskNames.h"
 #include "support/FileDialogPage.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
@@ -62,6 +63,14 @@ protected:
 
     std::string directory() const { return m_directory.path().toStdString(); }
     std::string path(const std::string& name) const { return directory() + "/" + name; }
+
+    /** A name that the extension rule leaves alone is reported as the dialog has it: the native one in the platform's
+     * form. */
+    std::string unchanged(const std::string& name) const
+    {
+        return GetParam() ? QDir::toNativeSeparators(QString::fromStdString(path(name))).toStdString() : path(name);
+    }
+    QString refused(const QString& name) const { return morvane::test::refusedPath(m_directory.path(), name); }
 
     void makeFile(const std::string& name, const QByteArray& content = "old content") const
     {

@@ -24,7 +24,7 @@ TEST_P(SaveFlow, keepsATypedExtension)
     ModalScript user;
     user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "report.txt"); });
     EXPECT_TRUE(flow->launch());
-    EXPECT_EQ(flow->selectedFilename(), path("report.txt"));
+    EXPECT_EQ(flow->selectedFilename(), unchanged("report.txt"));
 }
 
 TEST_P(SaveFlow, takesNamesOutsideAsciiAndTheBasicPlane)
@@ -77,7 +77,7 @@ TEST_P(SaveFlow, takesEscapeForNo)
     user.on<QMessageBox>([](QMessageBox& box) { pressKey(box, Qt::Key_Escape); });
     user.on<QFileDialog>([](QFileDialog& dialog) { pressCancel(dialog); });
     EXPECT_FALSE(flow->launch());
-    EXPECT_EQ(flow->selectedFilename(), path("old.dat")) << "the name of the last pass";
+    EXPECT_EQ(flow->selectedFilename(), unchanged("old.dat")) << "the name of the last pass";
 }
 
 TEST_P(SaveFlow, returnsAnExistingNameOnYesWithoutTouchingTheFile)
@@ -88,7 +88,7 @@ TEST_P(SaveFlow, returnsAnExistingNameOnYesWithoutTouchingTheFile)
     user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "old.dat"); });
     user.on<QMessageBox>([](QMessageBox& box) { pressKey(box, Qt::Key_Y); });
     EXPECT_TRUE(flow->launch());
-    EXPECT_EQ(flow->selectedFilename(), path("old.dat"));
+    EXPECT_EQ(flow->selectedFilename(), unchanged("old.dat"));
     EXPECT_EQ(contentOf("old.dat"), "old content");
 }
 
@@ -97,12 +97,12 @@ TEST_P(SaveFlow, asksForAnotherPlaceUntilOneWorks)
     const auto flow = makeFlow();
     const auto refuse = [](const QString& name) { return [name](QFileDialog& dialog) { acceptName(dialog, name); }; };
     const auto tryAgain = [](QMessageBox& box) {
-        EXPECT_TRUE(box.text().startsWith("Unable to save file /proc/")) << box.text().toStdString();
+        EXPECT_TRUE(box.text().startsWith("Unable to save file ")) << box.text().toStdString();
         pressKey(box, Qt::Key_Y);
     };
     ModalScript user;
-    for (const char* const name : {"/proc/one", "/proc/two", "/proc/three"}) {
-        user.on<QFileDialog>(refuse(name)).on<QMessageBox>(tryAgain);
+    for (const char* const name : {"one", "two", "three"}) {
+        user.on<QFileDialog>(refuse(refused(name))).on<QMessageBox>(tryAgain);
     }
     user.on<QFileDialog>([&](QFileDialog& dialog) { acceptName(dialog, QString::fromStdString(path("four"))); });
     EXPECT_TRUE(flow->launch());
@@ -113,11 +113,12 @@ TEST_P(SaveFlow, givesUpWhenNoOtherPlaceIsWanted)
 {
     const auto flow = makeFlow();
     ModalScript user;
-    user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "/proc/one"); });
-    user.on<QMessageBox>([](QMessageBox& box) {
+    user.on<QFileDialog>([this](QFileDialog& dialog) { acceptName(dialog, refused("one")); });
+    user.on<QMessageBox>([this](QMessageBox& box) {
         EXPECT_EQ(box.text(),
-            "Unable to save file /proc/one.dat, check access permissions for the file and the parent directory. Do you "
-            "want to try again and choose a different location?");
+            "Unable to save file " + refused("one") +
+                ".dat, check access permissions for the file and the parent directory. Do you want to try again and "
+                "choose a different location?");
         EXPECT_EQ(box.windowTitle(), "Save data");
         pressKey(box, Qt::Key_Return); // No is the default here, too
     });
@@ -161,7 +162,7 @@ TEST_P(SaveFlow, startsWithTheGivenNameAndWriter)
     });
     EXPECT_TRUE(flow->launch());
     EXPECT_EQ(flow->selectedWriter(), 1);
-    EXPECT_EQ(flow->selectedFilename(), path("report.csv"));
+    EXPECT_EQ(flow->selectedFilename(), unchanged("report.csv"));
 }
 
 TEST_P(SaveFlow, reportsTheFirstOfEqualWriters)
@@ -241,8 +242,8 @@ TEST_P(SaveFlow, endsWhenTheParentIsDestroyedWhileAQuestionIsOpen)
     EXPECT_FALSE(flow->launch());
 
     m_parent = new QWidget;
-    const auto refused = makeFlow();
-    user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "/proc/one"); });
+    const auto again = makeFlow();
+    user.on<QFileDialog>([this](QFileDialog& dialog) { acceptName(dialog, refused("one")); });
     user.on<QMessageBox>([this](QMessageBox&) { delete m_parent; });
-    EXPECT_FALSE(refused->launch());
+    EXPECT_FALSE(again->launch());
 }

@@ -4,12 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <boost/filesystem/path.hpp>
+
 #include <random>
 #include <string>
 
 namespace {
 
 using morvane::test::applyExtensionByExpressions;
+
+constexpr bool slashIsNative = boost::filesystem::path::preferred_separator == '/';
 
 struct RuleCase
 {
@@ -52,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(Names, FilterExtension,
         RuleCase{"/d/report", "Set (*.[ch])", "/d/report.[ch]"}, RuleCase{"/d/report", "dat", "/d/report.dat"},
         RuleCase{"/d/report", "v1.2 data", "/d/report.2data"}, RuleCase{"report", "Data (*.dat)", "report.dat"},
         RuleCase{"", "Data (*.dat)", ".dat"}, RuleCase{"/d/", "Data (*.dat)", "/d/.dat"},
-        RuleCase{"/d\\e\\report", "Data (*.dat)", "/d\\e\\report.dat"},
+        RuleCase{"/d\\e\\report", "Data (*.dat)", slashIsNative ? "/d\\e\\report.dat" : "/d/e/report.dat"},
         RuleCase{"/d/\xE6\x97\xA5\xE6\x9C\xAC", "Data (*.\xC3\xA4)", "/d/\xE6\x97\xA5\xE6\x9C\xAC.\xC3\xA4"},
         RuleCase{"/d/\xF0\x9F\x98\x80.", "D\t(*.d\ta\nt)", "/d/\xF0\x9F\x98\x80.dat"}));
 

@@ -57,11 +57,12 @@ TEST_P(SaveFlow, asksTheHandlerInOrder)
     ModalScript user;
     user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "old"); });
     user.on<QMessageBox>([](QMessageBox& box) { pressKey(box, Qt::Key_Return); });
-    user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "/proc/one"); });
+    user.on<QFileDialog>([this](QFileDialog& dialog) { acceptName(dialog, refused("one")); });
     user.on<QMessageBox>([](QMessageBox& box) { pressKey(box, Qt::Key_Return); });
     EXPECT_FALSE(flow->launch());
-    EXPECT_EQ(script.calls, (std::vector<std::string>{"filenameToCheck " + path("old.dat"), "okToOverwriteMessage",
-                                "filenameToCheck /proc/one.dat", "unableToOverwriteMessage"}));
+    EXPECT_EQ(
+        script.calls, (std::vector<std::string>{"filenameToCheck " + path("old.dat"), "okToOverwriteMessage",
+                          "filenameToCheck " + refused("one").toStdString() + ".dat", "unableToOverwriteMessage"}));
 }
 
 TEST_P(SaveFlow, showsTheTextsOfAHandlerAsTheyStand)

@@ -101,11 +101,11 @@ TEST_P(SaveFlow, cancelsHalfWay)
         acceptName(dialog, "old");
     });
     user.on<QMessageBox>([](QMessageBox& box) { pressKey(box, Qt::Key_Return); });
-    user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "/proc/one"); });
+    user.on<QFileDialog>([this](QFileDialog& dialog) { acceptName(dialog, refused("one")); });
     user.on<QMessageBox>(answerYes);
     user.on<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_FALSE(flow->launch());
-    EXPECT_EQ(flow->selectedFilename(), "/proc/one.dat") << "the name of the last pass";
+    EXPECT_EQ(flow->selectedFilename(), refused("one").toStdString() + ".dat") << "the name of the last pass";
     EXPECT_EQ(flow->selectedWriter(), 1);
     EXPECT_EQ(contentOf("old.dat"), "old content");
 }
@@ -118,6 +118,6 @@ TEST_P(SaveFlow, passesOnWhatTheTextOfARefusalThrows)
     };
     const auto flow = makeFlow("Data files (*.dat)", std::make_unique<Throwing>());
     ModalScript user;
-    user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "/proc/one"); });
+    user.on<QFileDialog>([this](QFileDialog& dialog) { acceptName(dialog, refused("one")); });
     EXPECT_THROW(flow->launch(), std::runtime_error);
 }

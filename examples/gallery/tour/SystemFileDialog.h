@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QRect>
+#include <QString>
+
+namespace gallery::tour {
+
+/**
+ * The operating system's own file dialog while it is open: it has windows, but no widgets. Where the system has none,
+ * or Qt draws the dialog, it is never open.
+ */
+class SystemFileDialog
+{
+public:
+    SystemFileDialog();
+
+    explicit operator bool() const { return m_window != 0; }
+    /** On the screen, with its frame. */
+    QRect geometry() const;
+
+    QString name() const;
+    void setName(const QString& name) const;
+    /** Counted from 0, as a user would pick it. */
+    void pickType(int index) const;
+    int listedFiles() const;
+
+    /** Presses the button or check box with this text, and returns before anything follows. */
+    void click(const QString& text) const;
+    bool isVisible(const QString& text) const;
+    bool isEnabled(const QString& text) const;
+    bool isChecked(const QString& text) const;
+
+    void accept() const;
+    void cancel() const;
+
+private:
+    quintptr m_window; // 0 while none is open
+};
+
+} // namespace gallery::tour

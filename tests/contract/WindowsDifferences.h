@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace morvane::test {
+
+/** What the Shell of Wine does otherwise than the contract's test of this name expects; null when nothing is known. */
+const char* wineDifference(const std::string& test);
+
+} // namespace morvane::test

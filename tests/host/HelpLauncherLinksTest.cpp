@@ -1,0 +1,33 @@
+// Help pages behind symbolic links. Windows makes none without a privilege, and Qt makes shortcuts there.
+#include "host/HelpLauncherFixture.h"
+
+using morvane::test::HelpLauncherTest;
+
+TEST_F(HelpLauncherTest, opensAPageThroughALinkInsideTheDirectory)
+{
+    makePage(QStringLiteral("help/real.html"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("real.html"), m_directory.filePath(QStringLiteral("help/alias.html"))));
+    expectPage("alias", QStringLiteral("help/real.html"));
+}
+
+TEST_F(HelpLauncherTest, worksWithAHelpDirectoryThatIsALinkOrEndsInASlash)
+{
+    makePage(QStringLiteral("help/open.html"));
+    const QString link = m_directory.filePath(QStringLiteral("link"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("help"), link));
+    m_launcher.setHelpDirectory(link + QLatin1Char('/'));
+    EXPECT_EQ(m_launcher.helpDirectory(), link + QLatin1Char('/'));
+    expectPage("open", QStringLiteral("help/open.html"));
+}
+
+TEST_F(HelpLauncherTest, followsNoLinkOutOfTheHelpDirectory)
+{
+    makePage(QStringLiteral("secret.html"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("../secret.html"), m_directory.filePath(QStringLiteral("help/page.html"))));
+    ASSERT_TRUE(QFile::link(QStringLiteral(".."), m_directory.filePath(QStringLiteral("help/up"))));
+    ASSERT_TRUE(QFile::link(QStringLiteral("gone.html"), m_directory.filePath(QStringLiteral("help/dangling.html"))));
+    ASSERT_TRUE(QFile::link(QStringLiteral("loop.html"), m_directory.filePath(QStringLiteral("help/loop.html"))));
+    for (const char* const topic : {"page", "up/secret", "dangling", "loop"}) {
+        expectBoxOnly(topic);
+    }
+}

@@ -1,0 +1,56 @@
+// What only Windows has: files that are locked by being open, attributes, names that are not told apart by case.
+#include "windows/ExclusiveFile.h"
+
+#include "WriteAccessProbeFixture.h"
+#include <cstdio>
+
+using namespace morvane::test;
+
+namespace {
+
+using WriteAccessProbe = WriteAccessProbeTest;
+
+TEST_F(WriteAccessProbe, refusesAFileThatIsOpenWithoutSharing)
+{
+    const fs::path file = makeFile("\xE9\x96\x8B \xF0\x9F\x94\x92.dat");
+    {
+        const ExclusiveFile holder(file.native());
+        ASSERT_TRUE(holder.isOpen());
+        EXPECT_FALSE(checkWriteAccess(file));
+    }
+    expectAnswer(true, file);
+}
+
+TEST_F(WriteAccessProbe, refusesAReadOnlyFile)
+{
+    const fs::path file = makeFile("fixed.dat");
+    ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
+    if (std::FILE* const opened = _wfopen(file.c_str(), L"a+")) {
+        std::fclose(opened);
+        GTEST_SKIP() << "read-only files bind nobody here: Wine, run by root";
+    }
+    expectAnswer(false, file);
+    ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL));
+}
+
+TEST_F(WriteAccessProbe, takesANameThatDiffersInCaseForTheSameFile)
+{
+    makeFile("Report.dat");
+    expectAnswer(true, path("report.DAT"));
+}
+
+TEST_F(WriteAccessProbe, takesNamesWithEitherSeparator)
+{
+    fs::create_directory(path("folder"));
+    expectAnswer(true, path("folder/new.dat"));
+    expectAnswer(true, path("folder\\new.dat"));
+}
+
+TEST_F(WriteAccessProbe, refusesReservedCharacters)
+{
+    for (const char* const name : {"a?.dat", "a*.dat", "a<b>.dat", "a|b.dat", "a\"b.dat", "a\nb.dat"}) {
+        expectAnswer(false, path(name));
+    }
+}
+
+} // namespace
