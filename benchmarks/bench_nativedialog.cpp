@@ -1,7 +1,7 @@
 // What the native dialog adds to the Shell's own time: reading name filters, and telling the Shell about them.
 
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingShell.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingShell.h"
 #include "support/Ratio.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 #include "ui/qt/dialogs/NameFilterText.h"

@@ -50,18 +50,22 @@ function(morvane_library)
     morvane_install_headers(BASE ${generated} ${arg_EXPORT_HEADER})
 endfunction()
 
-# Installs headers under include/morvane, keeping their paths below BASE (the include root unless given).
+# Installs headers under include/morvane, keeping their paths below BASE (the include root unless given), with COMPONENT
+# (Development unless given).
 function(morvane_install_headers)
     if(NOT MORVANE_INSTALL)
         return()
     endif()
-    cmake_parse_arguments(arg "" "BASE" "" ${ARGN})
+    cmake_parse_arguments(arg "" "BASE;COMPONENT" "" ${ARGN})
+    if(NOT arg_COMPONENT)
+        set(arg_COMPONENT Development)
+    endif()
     if(NOT arg_BASE)
         set(arg_BASE ${PROJECT_SOURCE_DIR}/common/src)
     endif()
     foreach(header IN LISTS arg_UNPARSED_ARGUMENTS)
         cmake_path(GET header PARENT_PATH directory)
         install(FILES ${arg_BASE}/${header}
-                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/morvane/${directory} COMPONENT Development)
+                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/morvane/${directory} COMPONENT ${arg_COMPONENT})
     endforeach()
 endfunction()

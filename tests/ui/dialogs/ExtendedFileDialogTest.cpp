@@ -1,5 +1,5 @@
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingShell.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingShell.h"
 #include "support/FileDialogPage.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingShell.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingShell.h"
 #include "support/QtPrinters.h"
 #include "support/RecordingHelpLauncher.h"
 
