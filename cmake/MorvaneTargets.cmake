@@ -46,8 +46,16 @@ function(morvane_library)
     target_include_directories(${arg_NAME} PUBLIC
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/common/src> $<BUILD_INTERFACE:${generated}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/morvane>)
-    morvane_install_headers(${arg_PUBLIC_HEADERS})
+    morvane_public_headers(${arg_NAME} ${arg_PUBLIC_HEADERS})
     morvane_install_headers(BASE ${generated} ${arg_EXPORT_HEADER})
+endfunction()
+
+# morvane_public_headers(TARGET header... [COMPONENT name])
+# Notes headers, relative to the include root, as public ones of TARGET: they are installed, and tested on their own.
+function(morvane_public_headers target)
+    cmake_parse_arguments(arg "" "COMPONENT" "" ${ARGN})
+    set_property(TARGET ${target} APPEND PROPERTY MORVANE_PUBLIC_HEADERS ${arg_UNPARSED_ARGUMENTS})
+    morvane_install_headers(${ARGN})
 endfunction()
 
 # Installs headers under include/morvane, keeping their paths below BASE (the include root unless given), with COMPONENT

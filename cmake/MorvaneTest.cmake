@@ -22,13 +22,13 @@ function(morvane_add_test name)
     endif()
 endfunction()
 
-# morvane_header_test(TARGET LIBRARIES... HEADERS path...)
-# Compiles each header, its path relative to the include root, on its own: once as Morvane's own code is compiled, and
-# once with Qt's keywords (`signals`, `slots`, `emit`) on, as many hosts have them. Building TARGET is the test.
-function(morvane_header_test target)
-    cmake_parse_arguments(arg "" "" "HEADERS" ${ARGN})
+# morvane_header_test(TARGET LIBRARY)
+# Compiles each public header of LIBRARY on its own: once as Morvane's own code is compiled, and once with Qt's keywords
+# (`signals`, `slots`, `emit`) on, as many hosts have them. Building TARGET is the test.
+function(morvane_header_test target library)
+    get_target_property(headers ${library} MORVANE_PUBLIC_HEADERS)
     set(sources)
-    foreach(header IN LISTS arg_HEADERS)
+    foreach(header IN LISTS headers)
         string(MAKE_C_IDENTIFIER ${header} name)
         set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}/${name}.cpp)
         set(keyword_source ${CMAKE_CURRENT_BINARY_DIR}/${target}/${name}_keywords.cpp)
@@ -41,5 +41,5 @@ function(morvane_header_test target)
     add_library(${target} OBJECT ${sources})
     morvane_own_code(${target})
     set_target_properties(${target} PROPERTIES AUTOMOC OFF)
-    target_link_libraries(${target} PRIVATE ${arg_UNPARSED_ARGUMENTS})
+    target_link_libraries(${target} PRIVATE ${library})
 endfunction()
