@@ -1,10 +1,10 @@
-#include "testing/RecordingDialog.h"
-#include "testing/RecordingShell.h"
 #include "support/FileDialogPage.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"
 #include "support/RecordingHelpLauncher.h"
 #include "support/RecordingSettings.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingShell.h"
 
 #include "host/InstanceOverride.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
