@@ -37,8 +37,10 @@ function(morvane_library)
     add_library(${arg_NAME} SHARED ${arg_SOURCES} ${header_files})
     add_library(Morvane::${arg_EXPORT_NAME} ALIAS ${arg_NAME})
     morvane_own_code(${arg_NAME})
+    # The libraries find each other wherever they were installed or unpacked to.
     set_target_properties(${arg_NAME} PROPERTIES
-        EXPORT_NAME ${arg_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+        EXPORT_NAME ${arg_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+        INSTALL_RPATH "$ORIGIN")
 
     set(generated ${PROJECT_BINARY_DIR}/generated)
     generate_export_header(${arg_NAME}
