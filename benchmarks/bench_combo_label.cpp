@@ -40,12 +40,13 @@ QStringList realisticNames(int count)
 
 QStringListModel& namesModel(int count)
 {
-    static QStringListModel small(realisticNames(100000));
+    // Never deleted, as little as the boxes that show them.
+    static auto* const small = new QStringListModel(realisticNames(100000));
     if (count == 100000) {
-        return small;
+        return *small;
     }
-    static QStringListModel large(realisticNames(count));
-    return large;
+    static auto* const large = new QStringListModel(realisticNames(count));
+    return *large;
 }
 
 void settle()

@@ -25,6 +25,7 @@ install(FILES ${PROJECT_BINARY_DIR}/MorvaneConfig.cmake ${PROJECT_BINARY_DIR}/Mo
         DESTINATION ${package_dir} COMPONENT Development)
 
 include(MorvanePkgConfig)
+include(MorvaneSbom)
 if(PROJECT_IS_TOP_LEVEL AND NOT WIN32)
     include(MorvanePackages)
 endif()

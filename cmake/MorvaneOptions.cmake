@@ -3,17 +3,25 @@ option(MORVANE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(MORVANE_BUILD_EXAMPLES "Build the gallery and the examples" ${PROJECT_IS_TOP_LEVEL})
 option(MORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(MORVANE_BUILD_TESTING_LIBRARY "Build Morvane::Testing, for the tests of hosts" ${PROJECT_IS_TOP_LEVEL})
+set(designer_default OFF)
+if(PROJECT_IS_TOP_LEVEL)
+    set(designer_default AUTO)
+endif()
+set(MORVANE_BUILD_DESIGNER ${designer_default} CACHE STRING
+    "The plugin for Qt Designer: AUTO (where Qt's files for plugins are found), ON (required) or OFF")
 option(MORVANE_WARNINGS_AS_ERRORS "Treat warnings in Morvane's own sources as errors" OFF)
 option(MORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(MORVANE_COVERAGE "Build for measuring the coverage by the tests (g++)" OFF)
+option(MORVANE_BUILD_FUZZERS "Build the fuzzing harnesses with libFuzzer (clang)" OFF)
 option(MORVANE_INSTALL "Provide the install rules" ${PROJECT_IS_TOP_LEVEL})
 set(MORVANE_HOST_LIBRARY "" CACHE STRING
     "CMake target or library file that implements the host services in place of libmorvane-host")
 set(MORVANE_WITH_CTK AUTO CACHE STRING "ctkCompleter from CTK: AUTO (where found), ON (required) or OFF (the stand-in)")
 set(MORVANE_WITH_QXT AUTO CACHE STRING "QxtLabel from Qxt: AUTO (where found), ON (required) or OFF (the stand-in)")
-set_property(CACHE MORVANE_WITH_CTK MORVANE_WITH_QXT PROPERTY STRINGS AUTO ON OFF)
+set_property(CACHE MORVANE_BUILD_DESIGNER MORVANE_WITH_CTK MORVANE_WITH_QXT PROPERTY STRINGS AUTO ON OFF)
 
 # They are written with it.
-if(MORVANE_BUILD_TESTS OR MORVANE_BUILD_BENCHMARKS)
+if(MORVANE_BUILD_TESTS OR MORVANE_BUILD_BENCHMARKS OR MORVANE_BUILD_FUZZERS)
     set(MORVANE_BUILD_TESTING_LIBRARY ON)
 endif()
 

@@ -14,10 +14,26 @@ else()
         $<$<NOT:$<BOOL:${WIN32}>>:-Wnon-virtual-dtor>
         $<$<BOOL:${MORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
-if(MORVANE_SANITIZE)
-    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+if(MORVANE_SANITIZE OR MORVANE_BUILD_FUZZERS)
+    set(sanitizers -fsanitize=undefined,float-cast-overflow -fno-sanitize-recover=undefined,float-cast-overflow
+        -fno-omit-frame-pointer)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL Clang AND NOT MORVANE_BUILD_FUZZERS)
+        # Overflow of unsigned integers and conversions that lose something: only clang checks them.
+        list(APPEND sanitizers -fsanitize=integer,nullability -fno-sanitize-recover=integer,nullability
+            -fsanitize-ignorelist=${CMAKE_CURRENT_LIST_DIR}/sanitizer-ignorelist.txt)
+    else()
+        list(APPEND sanitizers -fsanitize=address)
+    endif()
+    if(MORVANE_BUILD_FUZZERS)
+        list(APPEND sanitizers -fsanitize=fuzzer-no-link)
+    endif()
     target_compile_options(morvane-build-flags INTERFACE ${sanitizers})
+    target_compile_definitions(morvane-build-flags INTERFACE _GLIBCXX_ASSERTIONS)
     target_link_options(morvane-build-flags INTERFACE ${sanitizers})
+endif()
+if(MORVANE_COVERAGE)
+    target_compile_options(morvane-build-flags INTERFACE --coverage -fprofile-update=atomic)
+    target_link_options(morvane-build-flags INTERFACE --coverage)
 endif()
 
 # Compiles TARGET the way all of Morvane's own code is compiled.

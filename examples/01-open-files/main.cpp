@@ -17,6 +17,7 @@ int main(int argc, char** argv)
     auto* const list = new QListWidget;
     auto* const type = new QLabel("Nothing was chosen yet.");
 
+    //! [launch]
     // Both keep their values between two calls: the next dialog starts where the last one ended.
     std::vector<std::string> files;
     int filter = 0;
@@ -37,6 +38,7 @@ int main(int argc, char** argv)
         }
         type->setText(filter < 0 ? QString() : QString::fromStdString(filters[static_cast<size_t>(filter)]));
     });
+    //! [launch]
 
     auto* const layout = new QVBoxLayout(&window);
     layout->addWidget(button);

@@ -20,6 +20,7 @@ int main(int argc, char** argv)
     const auto compress = boost::make_shared<morvane::Property<bool>>(true);
 
     QObject::connect(button, &QPushButton::clicked, &window, [&] {
+        //! [dialog]
         const bool useAcceptMenu = true;
         ExtendedWinFileDialog dialog(
             window, "Export", "", "Archive (*.zip);;Table (*.csv)", "", QFileDialog::AcceptSave, useAcceptMenu);
@@ -44,6 +45,7 @@ int main(int argc, char** argv)
         if (dialog.selectedAcceptMenuOption() == ExportAndClose) {
             window.close();
         }
+        //! [dialog]
     });
 
     auto* const layout = new QVBoxLayout(&window);

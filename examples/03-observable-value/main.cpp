@@ -5,6 +5,7 @@
 #include <iostream>
 #include <string>
 
+//! [validator]
 // Decides what the property may hold.
 class VoltageValidator : public morvane::ValidatorInterface<double>
 {
@@ -17,9 +18,11 @@ public:
         return morvane::ValidationResult(std::to_string(volts) + " V is not between 0 and 400 V");
     }
 };
+//! [validator]
 
 int main()
 {
+    //! [property]
     // Several parts of a program hold the same property, each by a shared pointer.
     const auto voltage = boost::make_shared<morvane::Property<double>>(230.0);
     voltage->setValidator(boost::make_shared<VoltageValidator>());
@@ -36,5 +39,6 @@ int main()
     } catch (const morvane::InvalidPropertyValueException& exception) {
         std::cout << "rejected: " << exception.what() << '\n';
     }
+    //! [property]
     std::cout << "still " << voltage->value() << " V\n";
 }

@@ -21,6 +21,7 @@ QByteArray report(int writer)
 
 void save(QWidget& window)
 {
+    //! [flow]
     const int firstWriter = 0;
     const std::string helpTopic; // none: no Help button
     SaveFileDialog dialog(&window, "Save report", "", "report", writerFilters, firstWriter, helpTopic);
@@ -35,6 +36,7 @@ void save(QWidget& window)
         QMessageBox::warning(&window, "Save report", file.errorString()); // a disk may be full by now
         return;
     }
+    //! [flow]
     QMessageBox::information(&window, "Save report", "Written: " + file.fileName());
 }
 

@@ -16,18 +16,22 @@ int main(int argc, char** argv)
     window.setWindowTitle("Scientific input");
     auto* const form = new QFormLayout(&window);
 
+    //! [number]
     // Type 2.5e-9 and press Return. The point is a point whatever language the computer speaks.
     auto* const capacitance = new QScientificSpinBox(&window);
     capacitance->setSuffix(" F");
     capacitance->setRange(1e-15, 1);
     capacitance->setDecimals(4); // significant digits, not places behind the point
     capacitance->setValue(4.7e-7);
+    //! [number]
     form->addRow("&Capacitance:", capacitance);
 
+    //! [steps]
     // A spin box steps by adding, which is of little use from 1E-15 to 1. With a slot connected to its signal, a step
     // leaves the value alone and calls the slot instead, and the slot does what a step should be.
     capacitance->signalIncrement.connect([capacitance] { capacitance->setValue(capacitance->value() * 10); });
     capacitance->signalDecrement.connect([capacitance] { capacitance->setValue(capacitance->value() / 10); });
+    //! [steps]
 
     // valueChanged comes when the input is complete: after Return, after leaving the field, after a step.
     auto* const time = new QLabel(&window);

@@ -30,12 +30,14 @@ int main(int argc, char** argv)
     auto* const table = new QTableView;
     table->setModel(&readings);
 
+    //! [copy]
     // This one line gives the table the copy shortcut. The handler belongs to the table.
     auto* const handler = new morvane::ui::TableCopyHandler(*table);
 
     // Copying is a slot, so that buttons and menu actions can do it too.
     auto* const button = new QPushButton("&Copy");
     QObject::connect(button, &QPushButton::clicked, handler, &morvane::ui::TableCopyHandler::copyToClipboard);
+    //! [copy]
 
     auto* const copied = new QPlainTextEdit;
     copied->setReadOnly(true);

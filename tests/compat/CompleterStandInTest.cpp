@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QComboBox>
+#include <QMetaEnum>
 #include <QPointer>
 #include <QStandardItemModel>
 #include <QStringListModel>
@@ -232,5 +232,7 @@ TEST_P(CompleterStandInRows, aHundredThousandRows)
 }
 
 INSTANTIATE_TEST_SUITE_P(Mode, CompleterStandInRows,
-    ::testing::Values(
-        ctkCompleter::FilterStartsWith, ctkCompleter::FilterContains, ctkCompleter::FilterWordStartsWith));
+    ::testing::Values(ctkCompleter::FilterStartsWith, ctkCompleter::FilterContains, ctkCompleter::FilterWordStartsWith),
+    [](const auto& mode) {
+        return std::string(QMetaEnum::fromType<ctkCompleter::ModelFiltering>().valueToKey(mode.param));
+    });

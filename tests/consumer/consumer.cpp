@@ -1,11 +1,36 @@
 // Uses one piece of each library with nothing but the installed headers, and with Qt's keywords switched on.
 #include "host/StringConversion.h"
 #include "property/Property.h"
+#include "ui/qt/controls/ComboBoxAutoFilter.h"
+#include "ui/qt/controls/ElidedTextLabel.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 
 #include <QApplication>
 
 #include <boost/make_shared.hpp>
+
+namespace {
+
+bool labelShowsWhatItCuts()
+{
+    ElidedTextLabel label;
+    label.setText("measurements/pressure.dat");
+    label.resize(label.sizeHint().width() / 2, label.sizeHint().height());
+    label.grab();
+    return label.toolTip() == label.text();
+}
+
+bool boxCompletesWithWhatItContains()
+{
+    morvane::ui::ComboBoxAutoFilter box(nullptr);
+    box.setList({"Bar", "Car", "Dog"});
+    box.setCompleterAttributes(
+        true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
+    box.completer()->setCompletionPrefix("ar");
+    return box.completer()->inherits("ctkCompleter") && box.completer()->completionCount() == 2;
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -20,5 +45,5 @@ int main(int argc, char** argv)
     QExtendedFileDialog dialog(window, "Open", "", "Data (*.dat);;All (*)", "", QFileDialog::AcceptOpen);
 
     const bool works = announced == 2 && dialog.nameFilters().size() == 2 && morvane::utf8ToWideString("x") == L"x";
-    return works ? 0 : 1;
+    return works && labelShowsWhatItCuts() && boxCompletesWithWhatItContains() ? 0 : 1;
 }

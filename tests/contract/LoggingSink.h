@@ -79,7 +79,10 @@ public:
     {
         return called("OnCheckButtonToggled", " " + std::to_string(control) + " " + std::to_string(checked));
     }
-    HRESULT STDMETHODCALLTYPE OnControlActivating(IFileDialogCustomize*, DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE OnControlActivating(IFileDialogCustomize*, DWORD control) override
+    {
+        return called("OnControlActivating", " " + std::to_string(control));
+    }
 
 private:
     HRESULT called(const std::string& name, const std::string& details = std::string())

@@ -18,6 +18,7 @@ public:
     void typeName(const QString& name) override { m_dialog.userTypesName(name); }
     void pickType(unsigned position) override { m_dialog.userPicksType(position); }
     void enterFolder(const QString& folder) override { m_dialog.userEntersFolder(folder); }
+    void selectFile(const QString& path) override { m_dialog.userSelects(path); }
     void clickButton(DWORD control, const QString&) override { m_dialog.userClicks(control); }
     void toggleCheck(DWORD control, const QString&) override { m_dialog.userToggles(control); }
     void pickAcceptItem(DWORD control, DWORD item, const QString&) override { m_dialog.userPicksItem(control, item); }

@@ -173,31 +173,6 @@ TEST_P(ShellContract, staysOpenWhenTheSinkRefusesTheChoice)
     EXPECT_EQ(result(), path(QStringLiteral("b.txt")));
 }
 
-TEST_P(ShellContract, closingFromACallbackEndsShowWithTheGivenResult)
-{
-    for (const HRESULT asked : {S_OK, E_ABORT, S_FALSE}) {
-        prepare();
-        setFileName(QStringLiteral("a.txt"));
-        sink->on["OnFileOk"] = [&] { return dialog->Close(asked); };
-        EXPECT_EQ(show([](ShellUser& user) { user.pressAccept(); }), asked);
-        EXPECT_EQ(result(), QStringLiteral("failed: 8000ffff"));
-        dialog->Unadvise(cookie);
-        cookie = 0;
-    }
-}
-
-TEST_P(ShellContract, closingWhileItOpensEndsShow)
-{
-    for (const char* const callback : {"OnFolderChanging", "OnFolderChange", "OnTypeChange"}) {
-        prepare();
-        sink->on.clear();
-        sink->on[callback] = [&] { return dialog->Close(E_ABORT); };
-        EXPECT_EQ(dialog->Show(nullptr), E_ABORT) << callback;
-        dialog->Unadvise(cookie);
-        cookie = 0;
-    }
-}
-
 TEST_P(ShellContract, refusesToBeShownWhileItIsShown)
 {
     prepare();

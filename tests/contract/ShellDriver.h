@@ -22,6 +22,8 @@ public:
     /** Picks from the list of types; counted from 1. */
     virtual void pickType(unsigned position) = 0;
     virtual void enterFolder(const QString& folder) = 0;
+    /** Clicks on a file in the list. */
+    virtual void selectFile(const QString& path) = 0;
     virtual void clickButton(DWORD control, const QString& label) = 0;
     virtual void toggleCheck(DWORD control, const QString& label) = 0;
     virtual void pickAcceptItem(DWORD control, DWORD item, const QString& label) = 0;

@@ -8,12 +8,15 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
+#include <QTreeView>
 
 namespace morvane::test {
 
@@ -84,6 +87,7 @@ void WidgetUser::pickType(unsigned position)
     ASSERT_LT(wanted, combo->count());
     while (combo->currentIndex() != wanted) {
         QTest::keyClick(combo, combo->currentIndex() < wanted ? Qt::Key_Down : Qt::Key_Up);
+        QCoreApplication::processEvents(); // what a user sees before going on
     }
 }
 
@@ -92,6 +96,25 @@ void WidgetUser::enterFolder(const QString& folder)
     typeName(folder);
     QTest::keyClick(nameEdit(), Qt::Key_Return);
     QCoreApplication::processEvents(); // what a user sees before going on
+}
+
+void WidgetUser::selectFile(const QString& path)
+{
+    clickFile(QFileInfo(path).fileName(), Qt::NoModifier);
+    QCoreApplication::processEvents(); // what a user sees before going on
+}
+
+void WidgetUser::clickFile(const QString& name, Qt::KeyboardModifiers modifiers)
+{
+    QAbstractItemView* view = m_window->findChild<QListView*>(QStringLiteral("listView"));
+    view = view->isVisible() ? view : m_window->findChild<QTreeView*>(QStringLiteral("treeView"));
+    view->setFocus();
+    const auto find = [&] {
+        return view->model()->match(view->model()->index(0, 0, view->rootIndex()), 0, name).value(0);
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !view->visualRect(find()).isEmpty(); })) << name.toStdString();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, view->visualRect(find()).center());
+    EXPECT_TRUE(view->selectionModel()->isSelected(find())) << name.toStdString();
 }
 
 void WidgetUser::clickButton(DWORD, const QString& label)

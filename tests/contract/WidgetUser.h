@@ -23,6 +23,7 @@ public:
     void typeName(const QString& name) override;
     void pickType(unsigned position) override;
     void enterFolder(const QString& folder) override;
+    void selectFile(const QString& path) override;
     void clickButton(DWORD control, const QString& label) override;
     void toggleCheck(DWORD control, const QString& label) override;
     void pickAcceptItem(DWORD control, DWORD item, const QString& label) override;
@@ -31,6 +32,8 @@ public:
     QAbstractButton* acceptButton() const;
     QLineEdit* nameEdit() const;
     QComboBox* typeCombo() const;
+    /** Clicks on a name in the list, once it is listed. */
+    void clickFile(const QString& name, Qt::KeyboardModifiers modifiers);
     /** The custom control with this label; null when it is not shown in the dialog. */
     QAbstractButton* control(const QString& label) const;
 

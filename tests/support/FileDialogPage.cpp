@@ -169,6 +169,7 @@ void FileDialogPage::pickTypeWithKeys(int row) const
     }
     QTest::keyClick(&list, Qt::Key_Return);
     EXPECT_TRUE(waitUntil([&] { return !list.isVisible(); }));
+    QCoreApplication::processEvents(); // what a user sees before going on
 }
 
 void FileDialogPage::pickTypeWithMouse(int row) const
@@ -182,6 +183,7 @@ void FileDialogPage::pickTypeWithMouse(int row) const
     moveMouse(*list.viewport(), place);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
     EXPECT_TRUE(waitUntil([&] { return !list.isVisible(); }));
+    QCoreApplication::processEvents(); // what a user sees before going on
 }
 
 } // namespace morvane::test

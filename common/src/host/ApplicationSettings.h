@@ -19,6 +19,8 @@ namespace morvane {
  *
  * A host replaces the service for the whole process by a subclass and setInstance() (or InstanceOverride), or at link
  * time by a library of its own. GUI thread only.
+ *
+ * @snippet 22-host-services/main.cpp settings
  */
 class MORVANE_HOST_EXPORT ApplicationSettings
 {

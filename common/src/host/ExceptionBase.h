@@ -7,14 +7,22 @@
 
 namespace morvane {
 
-/** Base of the exceptions that Morvane throws; each of them is a `std::exception` too. */
+/**
+ * Base of the exceptions that Morvane throws; each of them is a `std::exception` too.
+ *
+ * @snippet 25-reject-with-a-reason/main.cpp exception
+ * @snippet 25-reject-with-a-reason/main.cpp catch
+ */
 class MORVANE_HOST_EXPORT ExceptionBase : public std::exception
 {
 public:
     /** @param message UTF-8 text that what() returns; may be empty. */
     explicit ExceptionBase(std::string message);
+    ///@{
+    /** A copy is equal and independent. */
     ExceptionBase(const ExceptionBase& other);
     ExceptionBase& operator=(const ExceptionBase& other);
+    ///@}
     ~ExceptionBase() override;
 
     /** The message, UTF-8, valid as long as this object. A NUL inside the message ends it early. */

@@ -13,6 +13,8 @@ namespace morvane {
  *
  * A host replaces the service for the whole process by a subclass and setInstance() (or InstanceOverride), or at link
  * time by a library of its own. GUI thread only.
+ *
+ * @snippet 22-host-services/main.cpp help
  */
 class MORVANE_HOST_EXPORT HelpLauncher
 {
@@ -42,6 +44,7 @@ public:
 
     /** Where the default implementation looks for pages; empty (the initial value) means that there are none. */
     QString helpDirectory() const;
+    /** @param directory an existing directory; empty for none */
     void setHelpDirectory(const QString& directory);
 
 private:

@@ -10,6 +10,8 @@ namespace morvane {
  * What every property is, whatever the type of its value: something that announces that it changed.
  *
  * Properties are shared through `boost::shared_ptr` and are neither copied nor moved.
+ *
+ * @snippet 23-watch-any-property/main.cpp watch
  */
 class MORVANE_HOST_EXPORT PropertyItemInterface
 {

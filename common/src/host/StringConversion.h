@@ -11,6 +11,8 @@ namespace morvane {
  *
  * Invalid sequences become U+FFFD (replacement character), a byte order mark at the start is dropped, and NUL
  * characters are kept. Never throws but for lack of memory.
+ *
+ * @snippet 25-reject-with-a-reason/main.cpp wide
  */
 MORVANE_HOST_EXPORT std::wstring utf8ToWideString(const std::string& utf8);
 

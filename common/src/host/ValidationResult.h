@@ -6,7 +6,11 @@
 
 namespace morvane {
 
-/** What a validator says of one value: valid, or invalid with a reason. */
+/**
+ * What a validator says of one value: valid, or invalid with a reason.
+ *
+ * @snippet 25-reject-with-a-reason/main.cpp validator
+ */
 class MORVANE_HOST_EXPORT ValidationResult
 {
 public:
@@ -18,10 +22,14 @@ public:
      * same.
      */
     explicit ValidationResult(std::string errorString);
+    ///@{
+    /** A copy is equal and independent. */
     ValidationResult(const ValidationResult& other);
     ValidationResult& operator=(const ValidationResult& other);
+    ///@}
     virtual ~ValidationResult();
 
+    /** Whether the value may be stored. */
     bool isValid() const;
     /** The reason given to the constructor, UTF-8; empty for the valid result. */
     std::string errorString() const;

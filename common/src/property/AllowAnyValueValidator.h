@@ -4,7 +4,11 @@
 
 namespace morvane {
 
-/** Accepts every value; what a property starts with. */
+/**
+ * Accepts every value; what a property starts with.
+ *
+ * @snippet 24-property-over-a-source/main.cpp usage
+ */
 template <typename T>
 class AllowAnyValueValidator : public virtual ValidatorInterface<T>
 {

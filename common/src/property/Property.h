@@ -9,11 +9,7 @@ namespace morvane {
 /**
  * A property that holds its own value.
  *
- * @code
- * auto count = boost::make_shared<morvane::Property<int>>(3);
- * count->signalValueChanged.connect([](const int& n) { std::cout << n << '\n'; });
- * count->setValue(4);
- * @endcode
+ * @snippet 03-observable-value/main.cpp property
  */
 template <typename T>
 class Property : public PropertyAbstract<T>

@@ -28,6 +28,8 @@ namespace morvane {
  * GUI thread by convention; setValue() takes no lock.
  *
  * @tparam T copyable, comparable with `==`
+ *
+ * @snippet 24-property-over-a-source/main.cpp mirror
  */
 template <typename T>
 class PropertyAbstract : public PropertyItemInterface
@@ -75,6 +77,8 @@ public:
      *
      * @throws InvalidPropertyValueException when the validator rejects @p v; then nothing is stored and no one is told.
      * @throws whatever an observer throws; then the new value is stored already.
+     * @throws std::bad_alloc when memory runs out: the old value stands and nobody was told, or the new one stands and
+     * not all observers may have been told.
      */
     void setValue(const T& v)
     {

@@ -8,6 +8,8 @@ namespace morvane {
  * Decides which values a property accepts. Install one with PropertyAbstract::setValidator().
  *
  * One validator may serve several properties; it is shared by pointer.
+ *
+ * @snippet 03-observable-value/main.cpp validator
  */
 template <typename T>
 class ValidatorInterface

@@ -60,7 +60,7 @@ void RecordingDialog::userAccepts()
         return;
     }
     if (m_saving && (m_options & FOS_OVERWRITEPROMPT) && QFileInfo::exists(paths.first()) &&
-        !mayReplace(paths.first())) {
+        (!mayReplace(paths.first()) || m_outcome)) {
         return;
     }
     m_results = paths;

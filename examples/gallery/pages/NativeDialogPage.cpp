@@ -141,7 +141,7 @@ void NativeDialogPage::addControls(ExtendedWinFileDialog& dialog)
         preview->setVisible(preview->isHidden());
         Q_EMIT reported(preview->isHidden() ? tr("Preview is hidden") : tr("Preview is shown"));
     });
-    dialog.addCustomButton("Accept Now", [this, &dialog] {
+    dialog.addCustomButton("Close Now", [this, &dialog] {
         Q_EMIT reported(tr("The dialog is closed by a button of the host"));
         dialog.close();
     });
@@ -170,12 +170,11 @@ void NativeDialogPage::showType(int index)
 void NativeDialogPage::showOutcome(ExtendedWinFileDialog& dialog)
 {
     const int option = dialog.selectedAcceptMenuOption();
-    m_option->setText(option == View ? tr("view") : option == Edit ? tr("edit") : tr("no option (%1)").arg(option));
-    Q_EMIT reported(tr("Accepted with the option %1").arg(option));
+    const QString name = option == View ? tr("view") : option == Edit ? tr("edit") : tr("no option (%1)").arg(option);
     const QStringList files = dialog.selectedFiles();
-    if (files.isEmpty()) {
-        Q_EMIT reported(tr("No file is selected: the dialog was closed by the host, not by the accept button"));
-    }
+    // Only the user chooses files; close() ends the dialog without any.
+    m_option->setText(files.isEmpty() ? tr("%1, without a file: closed by a button of the host").arg(name) : name);
+    Q_EMIT reported(tr("Accepted to: %1").arg(m_option->text()));
     for (const QString& line : m_chosen->showFiles(files)) {
         Q_EMIT reported(line);
     }

@@ -39,8 +39,9 @@ private:
     void showOutcome(ExtendedWinFileDialog& dialog);
 
     TourStep openStep(const QString& name);
+    /** @param file the name that the page shows then; empty for none */
     TourStep chosenStep(
-        const QString& name, const std::function<void()>& action, const QString& files, const QString& option);
+        const QString& name, const std::function<void()>& action, const QString& file, const QString& option);
     std::vector<TourStep> optionSteps(const TourWorkspace& workspace);
     std::vector<TourStep> checkBoxSteps(const TourWorkspace& workspace);
     std::vector<TourStep> controlStateSteps();

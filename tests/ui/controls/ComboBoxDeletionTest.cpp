@@ -118,5 +118,48 @@ TEST_P(ComboBoxDeletion, onAPickWithTheMouseThroughTheWindow)
     QTest::mouseRelease(popup, Qt::LeftButton, {}, place);
 }
 
+TEST_P(ComboBoxDeletion, onKeysThatTheListItselfGets)
+{
+    openList();
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(box->view(), &press);
+}
+
 INSTANTIATE_TEST_SUITE_P(, ComboBoxDeletion, ::testing::Values(Disposal::Delete, Disposal::DeleteLater),
     [](const auto& disposal) { return disposal.param == Disposal::Delete ? "atOnce" : "later"; });
+
+namespace {
+
+class ComboBoxEnd : public morvane::test::ComboBoxForm
+{
+};
+
+} // namespace
+
+TEST_F(ComboBoxEnd, comesWhileTheListIsOpen)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    const QPointer<QWidget> list = box->view();
+    delete box;
+    EXPECT_FALSE(list);
+    EXPECT_EQ(complete.count() + cancel.count(), 0);
+}
+
+TEST_F(ComboBoxEnd, comesWhileTheCompleterIsOpen)
+{
+    setUp({"Dog", "Bar", "Car"});
+    box->lineEdit()->clear();
+    type("ar");
+    const QPointer<QWidget> popup = completerPopup();
+    ASSERT_TRUE(popup->isVisible());
+    delete box;
+    EXPECT_FALSE(popup);
+    EXPECT_EQ(complete.count() + cancel.count(), 0);
+}
+
+TEST_F(ComboBoxEnd, comesBeforeItWasSetUp)
+{
+    delete box;
+    EXPECT_EQ(complete.count() + cancel.count(), 0);
+}

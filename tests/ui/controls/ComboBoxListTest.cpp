@@ -1,6 +1,7 @@
 #include "ComboBoxForm.h"
 
 #include <QListView>
+#include <QMetaMethod>
 
 using morvane::test::pressKey;
 
@@ -216,4 +217,47 @@ TEST_F(ComboBoxList, aMouseReleaseBesideTheEntriesPicksNothing)
     QTest::mouseRelease(box->view()->viewport(), Qt::LeftButton, {}, QPoint(-500, -500));
     expectOutcome(0, 0);
     EXPECT_TRUE(box->isVisible());
+}
+
+TEST_F(ComboBoxList, returnIsHandledByTheListAfterTheOutcome)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    QStringList order;
+    QObject::connect(box, &morvane::ui::ComboBoxAutoFilter::selectionComplete, [&] { order.append("outcome"); });
+    QObject::connect(box->view(), &QAbstractItemView::activated, [&] { order.append("list"); });
+    QTest::keyClick(box->view(), Qt::Key_Down);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(box->view(), &press);
+    EXPECT_EQ(order, QStringList({"outcome", "list"}));
+}
+
+TEST_F(ComboBoxList, theSignalsOfTheListLeadToTheOutcomes)
+{
+    setUp({"Dog", "Bar", "Car"});
+    QMetaObject::invokeMethod(box->view(), "currentIndexChanged", Q_ARG(QModelIndex, box->model()->index(2, 0)));
+    EXPECT_EQ(box->currentIndex(), 2);
+    QMetaObject::invokeMethod(box->view(), "editingFinished");
+    expectOutcome(1, 0);
+    show();
+    QMetaObject::invokeMethod(box->view(), "editingCanceled");
+    EXPECT_EQ(box->currentIndex(), -1);
+    expectOutcome(1, 1);
+}
+
+TEST_F(ComboBoxList, signalsAndSlotsKeepNamesAndOrder)
+{
+    const auto ownMethods = [](const QMetaObject& type) {
+        QList<QByteArray> names;
+        for (int i = type.methodOffset(); i < type.methodCount(); ++i) {
+            names.append(type.method(i).methodSignature());
+        }
+        return names;
+    };
+    EXPECT_EQ(ownMethods(morvane::ui::ComboBoxAutoFilter::staticMetaObject),
+        QList<QByteArray>(
+            {"selectionComplete()", "editingCanceled()", "onItemClicked(QModelIndex)", "onEditingFinished()",
+                "onEditingCanceled()", "onCurrentIndexChanged(QModelIndex)", "onItemActivated(int)"}));
+    EXPECT_EQ(ownMethods(*box->view()->metaObject()),
+        QList<QByteArray>({"editingFinished()", "editingCanceled()", "currentIndexChanged(QModelIndex)"}));
 }

@@ -175,6 +175,51 @@ TEST_F(ComboBoxModel, allRowsRemovedWhileTheListIsOpenEndTheEditingWithNothing)
     expectOutcome(1, 0);
 }
 
+TEST_F(ComboBoxModel, rowsRemovedWhileTheCompleterIsOpenAreGoneFromIt)
+{
+    QStringListModel model({"Dog", "Bar", "Car", "Jar"});
+    setUpModel(&model);
+    box->lineEdit()->clear();
+    type("ar");
+    ASSERT_TRUE(completerPopup()->isVisible());
+    pressKey(Qt::Key_Down);
+    model.removeRows(1, 2);
+    ASSERT_EQ(box->completer()->completionModel()->rowCount(), 1);
+    pressKey(Qt::Key_Down);
+    EXPECT_EQ(box->lineEdit()->text(), "ar");
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Jar");
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, allRowsRemovedWhileTheCompleterIsOpenEndTheEditingWithNothing)
+{
+    QStringListModel model({"Dog", "Bar"});
+    setUpModel(&model);
+    box->lineEdit()->clear();
+    type("a");
+    model.removeRows(0, 2);
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), -1);
+    EXPECT_FALSE(box->isVisible());
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, aResetWhileTheListIsOpenShowsTheNewEntries)
+{
+    QStringListModel model({"Dog", "Bar", "Car"});
+    setUpModel(&model);
+    openList();
+    model.setStringList({"Egg", "Jar"});
+    EXPECT_EQ(box->view()->model()->rowCount(), 2);
+    box->view()->setCurrentIndex(box->view()->model()->index(0, 0));
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Jar");
+    expectOutcome(1, 0);
+}
+
 TEST_F(ComboBoxModel, anEmptyModelHasNoListAndEndsWithNothing)
 {
     setUp({});
@@ -227,6 +272,52 @@ TEST_F(ComboBoxModel, entriesWithLineFeedsAreFoundByTheirText)
     box->setSelectedText("two\nlines");
     EXPECT_EQ(box->lineEdit()->selectedText().size(), 9);
     expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, entriesWithLineFeedsAreOfferedInOneRowEach)
+{
+    setUp({"one", "two\nlines", "two lines"});
+    box->lineEdit()->clear();
+    type("two");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return completerPopup()->isVisible(); }));
+    const QAbstractItemModel* const offered = box->completer()->completionModel();
+    ASSERT_EQ(offered->rowCount(), 2);
+    const int height = completerPopup()->visualRect(offered->index(0, 0)).height();
+    EXPECT_EQ(completerPopup()->visualRect(offered->index(1, 0)).height(), height);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), 1);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, anEntryIsFoundAsFindTextFindsIt)
+{
+    const QStringList entries = {"", "Straße", "STRASSE", "İstanbul", "istanbul", "ISTANBUL", "kelvin",
+        QChar(0x212a) + QString("elvin sign"), "𐐀 capital", "𐐨 small", "ς", "Σ", QString::fromUtf8("e\xcc\x81"), "é",
+        "a*b", "[ab]", "two\nlines", QString(300, 'x') + "y"};
+    setUp(QStringList(entries.begin() + 1, entries.end()));
+    for (const QString& entry : entries) {
+        for (const QString& text : {entry, entry.toUpper(), entry.toLower(), entry.mid(1), entry + "?"}) {
+            box->setCurrentIndex(-1);
+            box->lineEdit()->setText(text);
+            const int expected = box->findText(box->lineEdit()->text(), Qt::MatchContains);
+            EXPECT_EQ(box->validateEntry(), expected >= 0) << text.toStdString();
+            EXPECT_EQ(box->currentIndex(), expected) << text.toStdString();
+        }
+    }
+}
+
+TEST_F(ComboBoxModel, theColumnThatIsShownIsSearched)
+{
+    QStandardItemModel model(2, 2);
+    model.setItem(0, 0, new QStandardItem("Car"));
+    model.setItem(0, 1, new QStandardItem("Dog"));
+    model.setItem(1, 0, new QStandardItem("Dog"));
+    model.setItem(1, 1, new QStandardItem("Car"));
+    box->setModelColumn(1);
+    setUpModel(&model);
+    box->lineEdit()->setText("car");
+    EXPECT_TRUE(box->validateEntry());
+    EXPECT_EQ(box->currentIndex(), 1);
 }
 
 TEST_F(ComboBoxModel, setSelectedTextFindsTheExactTextAndSelectsItsLength)

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QHBoxLayout>
 #include <QScrollArea>
 #include <QTest>
 #include <QVBoxLayout>
@@ -61,6 +62,50 @@ TEST_F(CommandLink, keepsItsPreferredSizeWhereTheLayoutOverflows)
     EXPECT_GE(button->height(), preferred(*button).height());
     EXPECT_GT(button->width(), area.viewport()->width());
     area.takeWidget();
+}
+
+TEST_F(CommandLink, showsTheWholeWrappedDescriptionInANarrowLayout)
+{
+    button->setDescription(longDescription);
+    show();
+    window.resize(40, 20);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return button->width() >= preferred(*button).width(); }));
+    EXPECT_GE(button->height(), static_cast<const QWidget&>(*button).heightForWidth(button->width()));
+
+    QWidget elsewhere;
+    morvane::ui::CorrectFontCommandLinkButton roomy(&elsewhere);
+    roomy.setText(button->text());
+    roomy.setDescription(longDescription);
+    roomy.resize(button->width(), 2 * button->height());
+    // What the roomy one has more must be blank, so no line of the text was cut.
+    const QImage shown = button->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    QImage wanted = roomy.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(shown, wanted.copy(button->rect()));
+    wanted = wanted.copy(0, button->height(), button->width(), button->height());
+    QImage blank(wanted.size(), wanted.format());
+    blank.fill(wanted.pixel(0, 0));
+    EXPECT_EQ(wanted, blank);
+}
+
+TEST_F(CommandLink, sharesANarrowRowWithoutBeingSqueezed)
+{
+    QWidget row;
+    auto* const layout = new QHBoxLayout(&row);
+    auto* const first = new morvane::ui::CorrectFontCommandLinkButton;
+    auto* const second = new morvane::ui::CorrectFontCommandLinkButton;
+    for (auto* const link : {first, second}) {
+        link->setText("Start");
+        link->setDescription(longDescription);
+        layout->addWidget(link);
+    }
+    row.show();
+    row.resize(10, 10);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&row));
+    for (auto* const link : {first, second}) {
+        EXPECT_GE(link->width(), preferred(*link).width());
+        EXPECT_GE(link->height(), preferred(*link).height());
+    }
+    EXPECT_FALSE(first->geometry().intersects(second->geometry()));
 }
 
 TEST_F(CommandLink, aPlainOneCanBeSqueezed)

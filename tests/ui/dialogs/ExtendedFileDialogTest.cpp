@@ -1,24 +1,5 @@
-#include "support/FileDialogPage.h"
-#include "support/ModalScript.h"
-#include "support/QtPrinters.h"
-#include "support/RecordingHelpLauncher.h"
-#include "support/RecordingSettings.h"
-#include "testing/RecordingDialog.h"
-#include "testing/RecordingShell.h"
+#include "ExtendedFileDialogTest.h"
 
-#include "host/InstanceOverride.h"
-#include "ui/qt/dialogs/ExtendedFileDialog.h"
-#include "ui/qt/dialogs/QExtendedFileDialog.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QWidget>
-
-#include <memory>
 #include <type_traits>
 
 static_assert(!std::is_copy_constructible_v<ExtendedFileDialog>);
@@ -29,7 +10,6 @@ namespace morvane::test {
 
 namespace {
 
-using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -38,54 +18,6 @@ const bool nativeAtStart = ExtendedFileDialog::useNativeFileDialog();
 
 const QString dataFilter = QStringLiteral("Data (*.dat)");
 const QString allFilter = QStringLiteral("All (*)");
-
-/** A facade whose both sides can be looked at: Shell calls, or the Qt dialog below the parent. */
-class ExtendedFileDialogTest : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(m_folder.isValid());
-        QFile file(path("a.dat"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
-    void TearDown() override
-    {
-        ExtendedFileDialog::setUseNativeFileDialog(true);
-        EXPECT_EQ(m_shell.liveObjects() + m_shell.liveStrings() + m_shell.apartments(), 0);
-    }
-
-    using Facade = std::unique_ptr<ExtendedFileDialog>;
-    Facade make(bool native, QFileDialog::AcceptMode mode = QFileDialog::AcceptOpen, const std::string& help = "")
-    {
-        ExtendedFileDialog::setUseNativeFileDialog(native);
-        return std::make_unique<ExtendedFileDialog>(
-            m_parent, "Caption", m_folder.path().toStdString(), "Data (*.dat);;All (*)", help, mode);
-    }
-    QExtendedFileDialog* qt() { return m_parent.findChild<QExtendedFileDialog*>(); }
-    /** Runs the Qt dialog and lets the user act on it. */
-    int runQt(ExtendedFileDialog& dialog, const std::function<void(FileDialogPage&)>& act)
-    {
-        ModalScript user;
-        user.on<QFileDialog>([act](QFileDialog& window) {
-            FileDialogPage page(window);
-            act(page);
-        });
-        return dialog.exec();
-    }
-    QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
-
-    RecordingShell m_shell;
-    RecordingHelpLauncher m_help;
-    QWidget m_parent;
-    QTemporaryDir m_folder;
-
-private:
-    RecordingSettings m_settings;
-    ui::ShellOverride m_shellOverride{m_shell};
-    InstanceOverride<HelpLauncher> m_helpOverride{m_help};
-    InstanceOverride<ApplicationSettings> m_settingsOverride{m_settings};
-};
 
 TEST_F(ExtendedFileDialogTest, isNativeUnlessToldOtherwise)
 {
@@ -182,107 +114,6 @@ TEST_F(ExtendedFileDialogTest, runsTheQtDialogThroughItsVirtualExec)
         page.dialog().reject();
     });
     EXPECT_GT(restored, 0) << "the places are added by the dialog's own exec";
-}
-
-TEST_F(ExtendedFileDialogTest, selectsAFile)
-{
-    const auto native = make(true);
-    native->selectFile(QStringLiteral("/elsewhere/b.dat"));
-    native->exec();
-    EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::SetFileName(\"b.dat\")"));
-    const auto widgets = make(false, QFileDialog::AcceptSave);
-    widgets->selectFile(path("b.dat"));
-    EXPECT_EQ(FileDialogPage(*qt()).name(), QStringLiteral("b.dat"));
-    EXPECT_EQ(widgets->selectedFiles(), QStringList(path("b.dat")));
-}
-
-TEST_F(ExtendedFileDialogTest, setsTheFileMode)
-{
-    const auto native = make(true);
-    native->setFileMode(QFileDialog::ExistingFiles);
-    native->exec();
-    EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::SetOptions(0x120A)"));
-    const auto widgets = make(false);
-    widgets->setFileMode(QFileDialog::Directory);
-    EXPECT_EQ(qt()->fileMode(), QFileDialog::Directory);
-}
-
-TEST_F(ExtendedFileDialogTest, setsAndTellsTheDirectory)
-{
-    for (const bool native : {true, false}) {
-        const auto dialog = make(native);
-        EXPECT_EQ(dialog->directory().path(), m_folder.path()) << native;
-        dialog->setDirectory(QDir::rootPath());
-        EXPECT_EQ(dialog->directory().path(), QDir::rootPath()) << native;
-        if (!native) {
-            EXPECT_EQ(qt()->directory().path(), QDir::rootPath());
-        }
-    }
-}
-
-TEST_F(ExtendedFileDialogTest, selectsAndTellsTheNameFilter)
-{
-    for (const bool native : {true, false}) {
-        const auto dialog = make(native);
-        EXPECT_EQ(dialog->selectedNameFilter(), dataFilter) << native;
-        dialog->selectNameFilter(allFilter);
-        EXPECT_EQ(dialog->selectedNameFilter(), allFilter) << native;
-    }
-}
-
-TEST_F(ExtendedFileDialogTest, unknownFilterSelectsNoneInTheNativeDialogAndNothingInTheQtDialog)
-{
-    const auto native = make(true);
-    native->selectNameFilter(QStringLiteral("Other (*.o)"));
-    EXPECT_EQ(native->selectedNameFilter(), QString());
-    const auto widgets = make(false);
-    widgets->selectNameFilter(QStringLiteral("Other (*.o)"));
-    EXPECT_EQ(widgets->selectedNameFilter(), dataFilter);
-}
-
-TEST_F(ExtendedFileDialogTest, setsAndTellsTheNameFilters)
-{
-    const QStringList filters({QStringLiteral("A (*.a)"), QStringLiteral("B (*.b)"), QStringLiteral("C (*.c)")});
-    for (const bool native : {true, false}) {
-        const auto dialog = make(native);
-        EXPECT_EQ(dialog->nameFilters(), QStringList({dataFilter, allFilter})) << native;
-        dialog->setNameFilters(filters);
-        EXPECT_EQ(dialog->nameFilters(), filters) << native;
-        dialog->nameFilters().clear();
-        EXPECT_EQ(dialog->nameFilters(), filters) << native;
-    }
-}
-
-TEST_F(ExtendedFileDialogTest, setsWhetherOverwritingIsConfirmed)
-{
-    for (const bool on : {true, false}) {
-        const auto native = make(true, QFileDialog::AcceptSave);
-        native->setDontConfirmOverwrite(!on);
-        native->setDontConfirmOverwrite(on);
-        m_shell.clearCalls();
-        native->exec();
-        EXPECT_THAT(
-            m_shell.calls(), Contains(on ? "IFileDialog::SetOptions(0x8008)" : "IFileDialog::SetOptions(0x800A)"));
-        const auto widgets = make(false, QFileDialog::AcceptSave);
-        widgets->setDontConfirmOverwrite(!on);
-        widgets->setDontConfirmOverwrite(on);
-        EXPECT_EQ(qt()->testOption(QFileDialog::DontConfirmOverwrite), on);
-    }
-}
-
-TEST_F(ExtendedFileDialogTest, showsDirectoriesOnlyInTheQtDialogAlone)
-{
-    const auto native = make(true);
-    m_shell.clearCalls();
-    native->setShowDirectoriesOnly(true);
-    EXPECT_THAT(m_shell.calls(), IsEmpty());
-    native->exec();
-    EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::SetOptions(0xA)"));
-    const auto widgets = make(false);
-    widgets->setShowDirectoriesOnly(true);
-    EXPECT_TRUE(qt()->testOption(QFileDialog::ShowDirsOnly));
-    widgets->setShowDirectoriesOnly(false);
-    EXPECT_FALSE(qt()->testOption(QFileDialog::ShowDirsOnly));
 }
 
 TEST_F(ExtendedFileDialogTest, destroysItsDialog)

@@ -6,6 +6,7 @@
 
 #include <boost/make_shared.hpp>
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -94,47 +95,83 @@ TEST_F(ExtendedWinFileDialogNesting, closeBeforeAndAfterARunChangesNothing)
     EXPECT_EQ(run(*dialog), QDialog::Rejected);
 }
 
-struct CloseCase
+struct Callback
 {
     const char* name;
     std::function<void(RecordingDialog&)> play;
 };
 
-void PrintTo(const CloseCase& c, std::ostream* out)
+void PrintTo(const Callback& c, std::ostream* out)
 {
     *out << c.name;
 }
 
-class ExtendedWinFileDialogClose : public ExtendedWinFileDialogTest, public ::testing::WithParamInterface<CloseCase>
+class ExtendedWinFileDialogCallback : public ExtendedWinFileDialogTest, public ::testing::WithParamInterface<Callback>
 {
+protected:
+    // The host can hear of an event through an action, a property of its own, or the filter index.
+    Dialog makeDialog(const std::function<void()>& act)
+    {
+        m_shell.script.announcesOpening = false;
+        Dialog dialog = saveDialog("A (*.a);;B (*.b)");
+        const auto checked = boost::make_shared<Property<bool>>(false);
+        dialog->addCustomButton("Act", act);
+        dialog->addCustomCheckBox("Check", checked);
+        checked->signalPropertyChanged.connect(act);
+        dialog->currentFilterIndex()->signalPropertyChanged.connect(act);
+        return dialog;
+    }
 };
 
-// The host can hear of an event through an action, a property of its own, the filter index, or a validator of that.
-TEST_P(ExtendedWinFileDialogClose, worksFromTheCallback)
+TEST_P(ExtendedWinFileDialogCallback, mayCloseTheDialog)
 {
-    m_shell.script.announcesOpening = false;
-    const auto dialog = saveDialog("A (*.a);;B (*.b)");
-    const auto checked = boost::make_shared<Property<bool>>(false);
+    Dialog dialog;
     int heard = 0;
-    const auto close = [&] {
+    dialog = makeDialog([&] {
         ++heard;
         dialog->close();
-    };
-    dialog->addCustomButton("Close", close);
-    dialog->addCustomCheckBox("Check", checked);
-    checked->signalPropertyChanged.connect(close);
-    dialog->currentFilterIndex()->signalPropertyChanged.connect(close);
+    });
     EXPECT_EQ(run(*dialog, GetParam().play), QDialog::Accepted);
     EXPECT_EQ(heard, 1);
     EXPECT_EQ(m_shell.calls().back(), "IFileDialog::Unadvise(1)");
     EXPECT_THAT(dialog->selectedFiles(), IsEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Callbacks, ExtendedWinFileDialogClose,
-    ::testing::Values(CloseCase{"button", [](RecordingDialog& user) { user.userClicks(0); }},
-        CloseCase{"checkBox", [](RecordingDialog& user) { user.userToggles(1); }},
-        CloseCase{"type", [](RecordingDialog& user) { user.userPicksType(2); }},
-        CloseCase{"typeWithName",
+TEST_P(ExtendedWinFileDialogCallback, cannotRunTheDialogASecondTime)
+{
+    Dialog dialog;
+    int heard = 0;
+    dialog = makeDialog([&] {
+        ++heard;
+        EXPECT_THAT(callsOf([&] { EXPECT_EQ(dialog->exec(), QDialog::Rejected); }), IsEmpty());
+    });
+    m_shell.script.results = QStringList(QStringLiteral("/a"));
+    const auto play = [](RecordingDialog& user) {
+        GetParam().play(user);
+        user.userAccepts();
+    };
+    EXPECT_EQ(run(*dialog, play), QDialog::Accepted) << "the outer run goes on";
+    EXPECT_EQ(heard, 1);
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(QStringLiteral("/a")));
+}
+
+TEST_P(ExtendedWinFileDialogCallback, mayDestroyTheParent)
+{
+    int heard = 0;
+    const Dialog dialog = makeDialog([&] {
+        ++heard;
+        m_parent.reset();
+    });
+    run(*dialog, GetParam().play);
+    EXPECT_EQ(heard, 1);
+    EXPECT_EQ(dialog->parent(), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(Callbacks, ExtendedWinFileDialogCallback,
+    ::testing::Values(Callback{"button", [](RecordingDialog& user) { user.userClicks(0); }},
+        Callback{"checkBox", [](RecordingDialog& user) { user.userToggles(1); }},
+        Callback{"type", [](RecordingDialog& user) { user.userPicksType(2); }},
+        Callback{"typeWithName",
             [](RecordingDialog& user) {
                 user.userTypesName(QStringLiteral("out.a"));
                 user.userPicksType(2);
@@ -170,7 +207,7 @@ protected:
     {
         for (auto* const button : window.findChildren<QAbstractButton*>()) {
             if (button->text() == QLatin1String(label)) {
-                QTest::mouseClick(button, Qt::LeftButton);
+                QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button->height() / 2));
                 return;
             }
         }
@@ -227,6 +264,34 @@ TEST_F(ExtendedWinFileDialogLoop, endsWhenTheParentIsDestroyed)
     user.on<QFileDialog>([](QFileDialog& window) { window.reject(); });
     EXPECT_EQ(dialog->exec(), QDialog::Rejected) << "without owner it can be shown again";
     EXPECT_TRUE(user.finished());
+}
+
+TEST_F(ExtendedWinFileDialogLoop, anObserverOfACheckBoxMayDestroyTheParent)
+{
+    m_parent->show();
+    const auto dialog = openDialog();
+    const auto checked = boost::make_shared<Property<bool>>(false);
+    dialog->addCustomCheckBox("Check", checked);
+    checked->signalPropertyChanged.connect([&] { m_parent.reset(); });
+    ModalScript user;
+    user.on<QFileDialog>([](QFileDialog& window) { click(window, "Check"); });
+    EXPECT_EQ(dialog->exec(), QDialog::Rejected);
+    EXPECT_TRUE(checked->value());
+    EXPECT_EQ(dialog->parent(), nullptr);
+}
+
+TEST_F(ExtendedWinFileDialogLoop, anObserverOfTheTypeMayDestroyTheParent)
+{
+    m_parent->show();
+    const auto dialog = saveDialog("A (*.a);;B (*.b)");
+    dialog->currentFilterIndex()->signalPropertyChanged.connect([&] { m_parent.reset(); });
+    ModalScript user;
+    user.on<QFileDialog>([](QFileDialog& window) {
+        QTest::keyClick(window.findChild<QComboBox*>(QStringLiteral("fileTypeCombo")), Qt::Key_Down);
+    });
+    EXPECT_EQ(dialog->exec(), QDialog::Rejected);
+    EXPECT_EQ(dialog->currentFilterIndex()->value(), 2);
+    EXPECT_EQ(dialog->parent(), nullptr);
 }
 
 TEST_F(ExtendedWinFileDialogLoop, anActionMayDestroyTheParent)

@@ -202,7 +202,13 @@ TEST_F(ExtendedWinFileDialogWidgets, aButtonMayCloseTheDialog)
 {
     const auto dialog = dialogIn(false);
     dialog->addCustomButton("Use defaults", [&] { dialog->close(); });
-    EXPECT_EQ(use(*dialog, [](FileDialogPage& page) { press(page, "Use defaults"); }), QDialog::Accepted);
+    EXPECT_EQ(use(*dialog,
+                  [](FileDialogPage& page) {
+                      page.typeName(QStringLiteral("a.dat"));
+                      press(page, "Use defaults");
+                  }),
+        QDialog::Accepted);
+    EXPECT_THAT(dialog->selectedFiles(), IsEmpty()) << "typed, but not chosen";
 }
 
 TEST_F(ExtendedWinFileDialogWidgets, bindsACheckBoxToItsProperty)

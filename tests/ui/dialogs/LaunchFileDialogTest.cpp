@@ -83,7 +83,7 @@ TEST_F(LaunchFileDialogQt, aTypeEditedByAWildcardKeepsItsPosition)
         page.enterName(QStringLiteral("*.dat"));
         EXPECT_NE(page.currentType(), QStringLiteral("Text (*.txt)"));
         EXPECT_TRUE(page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")}));
-        page.doubleClickFile(QStringLiteral("b.dat"));
+        page.enterName(QStringLiteral("b.dat"));
     }));
     EXPECT_THAT(files, ElementsAre(text("b.dat")));
     EXPECT_EQ(filterIndex, 1);
@@ -92,10 +92,9 @@ TEST_F(LaunchFileDialogQt, aTypeEditedByAWildcardKeepsItsPosition)
 TEST_F(LaunchFileDialogQt, reportsTheFirstOfEqualFilters)
 {
     filters = {"Data (*.dat)", "Data (*.dat)"};
-    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogPage& page) {
-        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
-        page.doubleClickFile(QStringLiteral("a.dat"));
-    }));
+    EXPECT_TRUE(launch(
+        {text("a.dat")}, false, false, 1, [](FileDialogPage& page) { page.enterName(QStringLiteral("b.dat")); }));
+    EXPECT_THAT(files, ElementsAre(text("b.dat")));
     EXPECT_EQ(filterIndex, 0);
 }
 

@@ -1,33 +1,18 @@
 #include "ui/qt/dialogs/NameFilterText.h"
 
+#include "LiteralNameFilter.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
-#include <regex>
 #include <string>
 
 namespace {
 
-// The expressions that define what a filter means.
-FileTypeText splitByExpression(const std::string& filter)
-{
-    static const std::regex expression("(.*) \\((.*)\\).*");
-    std::smatch match;
-    FileTypeText result{"File of Type", filter};
-    if (std::regex_match(filter, match, expression)) {
-        result = {match[1].str(), match[2].str()};
-    }
-    std::replace(result.patterns.begin(), result.patterns.end(), ' ', ';');
-    return result;
-}
-
-std::string extensionByExpression(const std::string& filter)
-{
-    static const std::regex expression(".* \\(\\*\\.(.*)\\).*");
-    std::smatch match;
-    return std::regex_match(filter, match, expression) ? match[1].str() : std::string();
-}
+using morvane::test::extensionByExpression;
+using morvane::test::splitByExpression;
+using morvane::test::splitFiltersLiterally;
 
 void expectSameAsExpressions(const std::string& filter)
 {
@@ -151,4 +136,18 @@ TEST(NameFilterText, splitsTenThousandFilters)
     const QStringList filters = splitNameFilters(joined);
     ASSERT_EQ(filters.size(), 10000);
     EXPECT_EQ(filters.last(), "Type 9999 (*.t9999)");
+}
+
+TEST(NameFilterText, splitsJoinedFiltersAsOneDoesCharacterByCharacter)
+{
+    std::mt19937 random(20261121);
+    const char characters[] = {';', ';', ';', ' ', 'a', '(', '\t'};
+    for (int i = 0; i < 20000; ++i) {
+        std::string text;
+        for (std::size_t length = random() % 12; length > 0; --length) {
+            text += characters[random() % std::size(characters)];
+        }
+        ASSERT_EQ(splitNameFilters(text), splitFiltersLiterally(QString::fromStdString(text)))
+            << testing::PrintToString(text);
+    }
 }

@@ -1,35 +1,15 @@
 #include "ui/qt/dialogs/SaveFileExtension.h"
 
+#include "LiteralExtensionRule.h"
+
 #include <gtest/gtest.h>
 
-#include <QRegExp>
-#include <QString>
-
-#include <boost/filesystem/path.hpp>
-
 #include <random>
-#include <regex>
 #include <string>
 
 namespace {
 
-// The rule in the words that define it.
-std::string applyByExpressions(const std::string& filename, const std::string& nameFilter)
-{
-    const std::size_t dot = nameFilter.rfind('.');
-    static const std::regex noise("[\\s\\(\\)\\*]");
-    const std::string extension =
-        std::regex_replace(dot == std::string::npos ? nameFilter : nameFilter.substr(dot), noise, "");
-    if (extension.empty()) {
-        return filename;
-    }
-    const QString name = QString::fromStdString(filename);
-    if (name.contains(QRegExp("\\.[^\\.]*$")) && !name.endsWith('.')) {
-        return filename;
-    }
-    boost::filesystem::path path(filename);
-    return path.replace_extension(extension).generic_string();
-}
+using morvane::test::applyExtensionByExpressions;
 
 struct RuleCase
 {
@@ -48,7 +28,8 @@ TEST_P(FilterExtension, isAppliedToNamesWithoutOne)
 {
     const RuleCase& c = GetParam();
     EXPECT_EQ(applyFilterExtension(c.filename, c.nameFilter), c.expected);
-    EXPECT_EQ(applyByExpressions(c.filename, c.nameFilter), c.expected) << "the oracle disagrees with the table";
+    EXPECT_EQ(applyExtensionByExpressions(c.filename, c.nameFilter), c.expected)
+        << "the oracle disagrees with the table";
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, FilterExtension,
@@ -98,7 +79,7 @@ TEST(FilterExtensionRule, agreesWithTheExpressionsOnRandomTexts)
     for (int i = 0; i < 50000 && !testing::Test::HasFailure(); ++i) {
         const std::string name = text(6);
         const std::string filter = text(8);
-        EXPECT_EQ(applyFilterExtension(name, filter), applyByExpressions(name, filter))
+        EXPECT_EQ(applyFilterExtension(name, filter), applyExtensionByExpressions(name, filter))
             << testing::PrintToString(name) << " with " << testing::PrintToString(filter);
     }
 }

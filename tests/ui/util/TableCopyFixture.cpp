@@ -1,11 +1,12 @@
 #include "ui/util/TableCopyFixture.h"
 
+#include "ui/util/LiteralSelectionText.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QtTest>
 
-#include <algorithm>
 #include <ostream>
 
 void PrintTo(const QString& text, std::ostream* out)
@@ -22,22 +23,7 @@ QString clipboardText()
 
 QString textOfSortedIndexes(const QTableView& view)
 {
-    QModelIndexList indexes = view.selectionModel()->selectedIndexes();
-    std::sort(indexes.begin(), indexes.end());
-    QString text;
-    QModelIndex previous;
-    for (const QModelIndex& index : indexes) {
-        const QString cell = view.model()->data(index, Qt::DisplayRole).toString();
-        if (!previous.isValid()) {
-            text.append(cell);
-        } else if (index.row() != previous.row()) {
-            text.append(QLatin1Char('\n')).append(cell);
-        } else {
-            text.append(QLatin1Char('\t')).append(cell);
-        }
-        previous = index;
-    }
-    return text;
+    return textOfSortedIndexes(view.selectionModel()->selectedIndexes(), *view.model());
 }
 
 TableCopyFixture::TableCopyFixture() : model(5, 4), handler(new ui::TableCopyHandler(view))

@@ -3,21 +3,60 @@
 #include <QAbstractItemView>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
+#include <QMetaMethod>
 
 namespace morvane::ui {
+
+namespace {
+
+QMetaMethod completerSignal(const char* signature)
+{
+    const QMetaObject& type = QCompleter::staticMetaObject;
+    return type.method(type.indexOfSignal(signature));
+}
+
+QMetaMethod lineSlot(const char* signature)
+{
+    const QMetaObject& type = QLineEdit::staticMetaObject;
+    return type.method(type.indexOfSlot(signature));
+}
+
+/** How QLineEdit follows a completer. Looked up once, because it is cut and mended with every key. */
+struct CompleterConnections
+{
+    const QMetaMethod activated = completerSignal("activated(QString)");
+    const QMetaMethod setText = lineSlot("setText(QString)");
+    const QMetaMethod highlighted = completerSignal("highlighted(QString)");
+    const QMetaMethod showHighlighted = lineSlot("_q_completionHighlighted(QString)");
+};
+
+const CompleterConnections& completerConnections()
+{
+    static const CompleterConnections connections;
+    return connections;
+}
+
+bool isMarked(const QAbstractItemView& popup, const QModelIndex& entry)
+{
+    return popup.currentIndex() == entry && popup.selectionModel()->isSelected(entry);
+}
+
+} // namespace
 
 AutoFilterLineEdit::CompleterDetached::CompleterDetached(QLineEdit& line, QCompleter& completer)
     : m_line(&line), m_completer(&completer)
 {
-    QObject::disconnect(m_completer, SIGNAL(activated(QString)), m_line, SLOT(setText(QString)));
-    QObject::disconnect(m_completer, SIGNAL(highlighted(QString)), m_line, SLOT(_q_completionHighlighted(QString)));
+    const CompleterConnections& both = completerConnections();
+    QObject::disconnect(m_completer, both.activated, m_line, both.setText);
+    QObject::disconnect(m_completer, both.highlighted, m_line, both.showHighlighted);
 }
 
 AutoFilterLineEdit::CompleterDetached::~CompleterDetached()
 {
     if (m_line && m_completer) {
-        QObject::connect(m_completer, SIGNAL(activated(QString)), m_line, SLOT(setText(QString)));
-        QObject::connect(m_completer, SIGNAL(highlighted(QString)), m_line, SLOT(_q_completionHighlighted(QString)));
+        const CompleterConnections& both = completerConnections();
+        QObject::connect(m_completer, both.activated, m_line, both.setText);
+        QObject::connect(m_completer, both.highlighted, m_line, both.showHighlighted);
     }
 }
 
@@ -66,9 +105,13 @@ void AutoFilterLineEdit::markCurrentCompletion()
     if (!completer || !completer->model() || completer->model()->rowCount() == 0) {
         return;
     }
+    QAbstractItemView* const popup = completer->popup();
+    const QModelIndex current = completer->currentIndex();
+    if (popup && isMarked(*popup, current)) {
+        return;
+    }
     const CompleterDetached detached(*this, *completer);
-    if (QAbstractItemView* const popup = completer->popup()) {
-        const QModelIndex current = completer->currentIndex();
+    if (popup) {
         popup->selectionModel()->select(current, QItemSelectionModel::Select);
         popup->setCurrentIndex(current);
     }

@@ -2,6 +2,7 @@
 
 #include "ui/qt/controls/AutoFilterItemView.h"
 #include "ui/qt/controls/AutoFilterLineEdit.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <ctkCompleter.h>
 
@@ -46,6 +47,7 @@ bool movesMark(const QKeyEvent& event)
 
 ComboBoxAutoFilter::ComboBoxAutoFilter(QWidget* parent) : QComboBox(parent)
 {
+    expectGuiThread("ComboBoxAutoFilter");
     auto* const list = new AutoFilterItemView;
     setView(list);
     // Filters installed later come first: these come before the ones of the popup that holds the list.
@@ -104,6 +106,25 @@ void ComboBoxAutoFilter::init(
     }
     setUniformItemSizes(view());
     setInsertPolicy(QComboBox::NoInsert);
+}
+
+bool ComboBoxAutoFilter::isFiltering() const
+{
+    return m_completer != nullptr;
+}
+
+void ComboBoxAutoFilter::setFiltering(bool on)
+{
+    if (on == isFiltering()) {
+        return;
+    }
+    if (on) {
+        init(true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
+        return;
+    }
+    delete m_completer;
+    m_completer = nullptr;
+    setEditable(false);
 }
 
 bool ComboBoxAutoFilter::validateEntry()

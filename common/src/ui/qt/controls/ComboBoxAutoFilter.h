@@ -14,15 +14,15 @@ namespace morvane::ui {
  * entry is picked, or the editing is ended or cancelled with a key, it closes its own widget and announces the outcome.
  * Good as an editor that lives for one edit, in a table cell for instance, and as a field of a form.
  *
- * | where                   | key                | outcome                                                           |
- * |-------------------------|--------------------|-------------------------------------------------------------------|
- * | line, completer's popup | Return, Enter, Tab | the first entry with the line's text: selectionComplete()         |
- * | line, completer's popup | Escape             | the current entry stays: editingCanceled()                        |
- * | line                    | Shift+Tab, or losing the focus otherwise | nothing: text and entry stay as they are    |
- * | completer's popup       | Up, Down           | marks an entry and leaves the line alone                          |
- * | popup list              | Up, Down           | the entry becomes current                                         |
- * | popup list              | Return, Enter, an entry pressed and released | as Return in the line: selectionComplete()
- * | | popup list              | Escape             | back to the entry before the edit: editingCanceled() |
+ * | where                   | key                            | outcome                                               |
+ * |-------------------------|--------------------------------|-------------------------------------------------------|
+ * | line, completer's popup | Return, Enter, Tab             | selectionComplete(): first entry with the line's text |
+ * | line, completer's popup | Escape                         | editingCanceled(): the current entry stays            |
+ * | line                    | Shift+Tab, losing the focus    | none: text and entry stay as they are                 |
+ * | completer's popup       | Up, Down                       | none: marks an entry and leaves the line alone        |
+ * | popup list              | Up, Down                       | none: the entry becomes current                       |
+ * | popup list              | Return, Enter, a clicked entry | selectionComplete(), as Return in the line            |
+ * | popup list              | Escape                         | editingCanceled(): back to the entry before the edit  |
  *
  * Each of these announces once. A slot on either signal may delete the combo box. In an item view the delegate sees Tab
  * first; let its setModelData() call validateEntry().
@@ -30,13 +30,7 @@ namespace morvane::ui {
  * Set it up with setListModel(), or with setList() and then setCompleterAttributes(). Until then nothing is filtered,
  * and there is no line to finish in.
  *
- * @code
- * auto* const box = new morvane::ui::ComboBoxAutoFilter(&form);
- * box->setList({"Bar", "Car", "Dog"});
- * box->setCompleterAttributes(
- *     true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
- * QObject::connect(box, &morvane::ui::ComboBoxAutoFilter::selectionComplete, [box] { use(box->currentText()); });
- * @endcode
+ * @snippet 07-filter-a-list/main.cpp filter
  *
  * "The entry before the edit" is the current one when the list was first opened or an entry first activated in the life
  * of the combo box, for all edits: make a new one for each edit where that matters.
@@ -46,6 +40,8 @@ namespace morvane::ui {
 class MORVANE_UI_EXPORT ComboBoxAutoFilter : public QComboBox
 {
     Q_OBJECT
+    /** Whether entries are filtered. Here for forms made with Qt Designer; set after the property `editable`. */
+    Q_PROPERTY(bool filtering READ isFiltering WRITE setFiltering)
 
 public:
     /** @param parent owner; null for a window of its own that the caller deletes */
@@ -60,6 +56,7 @@ public:
      * setCompleterAttributes() does.
      *
      * @param model not null; stays the caller's and may be shared, unless the combo box is its parent
+     * @param editable,mode,cs,elide,match as setCompleterAttributes() takes them
      */
     void setListModel(QAbstractItemModel* model, bool editable, QCompleter::CompletionMode mode, Qt::CaseSensitivity cs,
         Qt::TextElideMode elide, Qt::MatchFlag match);
@@ -76,6 +73,14 @@ public:
      */
     void setCompleterAttributes(bool editable, QCompleter::CompletionMode mode, Qt::CaseSensitivity cs,
         Qt::TextElideMode elide, Qt::MatchFlag match);
+
+    /** Whether the filtering is set up. */
+    bool isFiltering() const;
+    /**
+     * Sets the filtering up, unless it is, as a form field wants it: a popup offers the entries that fit, whatever
+     * their case. Or takes it down, unless there is none, and leaves a combo box without a line.
+     */
+    void setFiltering(bool on);
 
     /**
      * Makes the first entry current that contains the line's text, whatever its case; of an empty text that is the
@@ -105,7 +110,9 @@ Q_SIGNALS:
     void editingCanceled();
 
 protected:
+    /** Gives Tab to the line. */
     bool event(QEvent* event) override;
+    /** Watches the keys and clicks in the two popups. */
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private Q_SLOTS:

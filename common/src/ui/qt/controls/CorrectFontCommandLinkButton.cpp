@@ -1,8 +1,13 @@
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 
+#include "ui/qt/util/GuiThread.h"
+
 namespace morvane::ui {
 
-CorrectFontCommandLinkButton::CorrectFontCommandLinkButton(QWidget* parent) : QCommandLinkButton(parent) {}
+CorrectFontCommandLinkButton::CorrectFontCommandLinkButton(QWidget* parent) : QCommandLinkButton(parent)
+{
+    expectGuiThread("CorrectFontCommandLinkButton");
+}
 
 QSize CorrectFontCommandLinkButton::minimumSizeHint() const
 {

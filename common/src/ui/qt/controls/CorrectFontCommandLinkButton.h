@@ -9,6 +9,8 @@ namespace morvane::ui {
 /**
  * A command-link button that no layout squeezes below its preferred size: title and description stay readable in the
  * font that is set, and a layout with less room overflows instead.
+ *
+ * @snippet 11-command-links/main.cpp buttons
  */
 class MORVANE_UI_EXPORT CorrectFontCommandLinkButton : public QCommandLinkButton
 {

@@ -1,9 +1,15 @@
 #include "ui/qt/controls/ElidedTextLabel.h"
 
+#include "ui/qt/controls/ElidedTextAccessible.h"
 #include "ui/qt/controls/ElidedTextUtil.h"
+#include "ui/qt/util/GuiThread.h"
+
+#include <QAccessible>
 
 ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLabel(parent, flags)
 {
+    morvane::ui::expectGuiThread("ElidedTextLabel");
+    installElidedTextAccessible();
     setAlignment(Qt::AlignLeft);
     setElideMode(Qt::ElideLeft);
     // The tool tip for the text before would look like one that the host has set.
@@ -12,6 +18,8 @@ ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLa
             setToolTip(QString());
         }
         before = now;
+        QAccessibleEvent renamed(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&renamed);
     });
 }
 

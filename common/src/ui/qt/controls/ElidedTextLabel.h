@@ -11,17 +11,25 @@
  * The text starts at the leading edge. The tool tip follows text, size and font with the next paint. A tool tip that
  * the host sets to another text stays whatever the width; an empty one gives the tool tip back to the label.
  *
+ * Assistive software is told the whole text, unless the host sets an accessible name.
+ *
  * Text and alignment are QxtLabel's: setText(), setAlignment(), setElideMode().
+ *
+ * @snippet 09-long-paths/main.cpp label
  */
 class MORVANE_UI_EXPORT ElidedTextLabel : public QxtLabel
 {
     Q_OBJECT
 
 public:
-    /** @param parent owner; null for a window of its own that the caller deletes */
+    /**
+     * @param parent owner; null for a window of its own that the caller deletes
+     * @param flags  as QWidget takes them
+     */
     explicit ElidedTextLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
     ~ElidedTextLabel() override;
 
 protected:
+    /** Draws the text and settles the tool tip. */
     void paintEvent(QPaintEvent* event) override;
 };

@@ -6,7 +6,11 @@
 
 class QWidget;
 
-/** The rule by which a widget that shortens its text shows the whole of it as tool tip. */
+/**
+ * The rule by which a widget that shortens its text shows the whole of it as tool tip.
+ *
+ * @snippet 10-elide-your-own/main.cpp rule
+ */
 class MORVANE_UI_EXPORT ElidedTextUtil
 {
 public:

@@ -1,6 +1,7 @@
 #include "ui/qt/controls/IntegralSpinBox.h"
 
 #include "ui/qt/controls/StepSignals.h"
+#include "ui/qt/util/GuiThread.h"
 
 namespace morvane::ui {
 
@@ -26,6 +27,7 @@ void IntegralSpinBoxPrivate::stepBy(int steps)
 IntegralSpinBox::IntegralSpinBox(QWidget* parent)
     : QSpinBox(parent), m_private(new IntegralSpinBoxPrivate{this, &signalIncrement, &signalDecrement})
 {
+    expectGuiThread("IntegralSpinBox");
     setKeyboardTracking(false);
 }
 

@@ -22,11 +22,7 @@ class IntegralSpinBoxPrivate;
  *
  * Keyboard tracking is off: a typed value counts from Return or loss of focus on. Everything else is QSpinBox's own.
  *
- * @code
- * auto* const size = new morvane::ui::IntegralSpinBox(form);
- * size->setRange(1, 65536);
- * size->signalIncrement.connect([size] { size->setValue(size->value() * 2); });
- * @endcode
+ * @snippet 08-integer-steps/main.cpp steps
  *
  * GUI thread only.
  */

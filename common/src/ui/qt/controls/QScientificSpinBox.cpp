@@ -2,6 +2,7 @@
 
 #include "ui/qt/controls/ScientificNumberText.h"
 #include "ui/qt/controls/StepSignals.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <QDoubleValidator>
 #include <QLineEdit>
@@ -105,6 +106,7 @@ void QScientificSpinBoxPrivate::stepBy(int steps)
 QScientificSpinBox::QScientificSpinBox(QWidget* parent)
     : QDoubleSpinBox(parent), m_private(new QScientificSpinBoxPrivate(this))
 {
+    expectGuiThread("QScientificSpinBox");
     setLocale(english());
     lineEdit()->setValidator(m_private->m_validator);
     QDoubleSpinBox::setDecimals(allDigits);

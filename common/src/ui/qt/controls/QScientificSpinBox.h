@@ -2,6 +2,7 @@
 
 #include "ui/qt/MorvaneUiExport.h"
 
+#include <QByteArray>
 #include <QDoubleSpinBox>
 #include <QString>
 #include <QValidator>
@@ -34,19 +35,31 @@ class QScientificSpinBoxPrivate;
  * What the base class makes of values set by program: an infinity becomes the limit on its side and NaN the maximum;
  * values are rounded to 323 digits behind the point, so that the smallest denormals lose digits or become 0.
  *
- * @code
- * auto* const permittivity = new morvane::ui::QScientificSpinBox(form);
- * permittivity->setValue(8.8541878e-12);
- * permittivity->signalIncrement.connect([permittivity] { permittivity->setValue(permittivity->value() * 10); });
- * @endcode
+ * @snippet 05-scientific-input/main.cpp number
+ * @snippet 05-scientific-input/main.cpp steps
  *
  * GUI thread only; all spin boxes of the process share one cache of the text validated last.
  */
 class MORVANE_UI_EXPORT QScientificSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT
-    // The base class' property would set the number of digits that values are rounded to.
+    /** The significant digits. The base class' property would set the number of digits that values are rounded to. */
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    // Forms keep doubles with 15 digits behind the point, which makes 1E-18 a 0. Qt Designer edits the texts instead.
+    /** As QDoubleSpinBox has it, but not for Qt Designer. */
+    Q_PROPERTY(double minimum READ minimum WRITE setMinimum DESIGNABLE false)
+    /** As QDoubleSpinBox has it, but not for Qt Designer. */
+    Q_PROPERTY(double maximum READ maximum WRITE setMaximum DESIGNABLE false)
+    /** As QDoubleSpinBox has it, but not for Qt Designer. */
+    Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep DESIGNABLE false)
+    /** The minimum as text, for Qt Designer. */
+    Q_PROPERTY(QByteArray minimumText READ minimumText WRITE setMinimumText)
+    /** The maximum as text, for Qt Designer. */
+    Q_PROPERTY(QByteArray maximumText READ maximumText WRITE setMaximumText)
+    /** The single step as text, for Qt Designer. */
+    Q_PROPERTY(QByteArray singleStepText READ singleStepText WRITE setSingleStepText)
+    /** The value as text, for Qt Designer; set after the range. */
+    Q_PROPERTY(QByteArray valueText READ valueText WRITE setValueText)
 
 public:
     /** @param parent owner of the spin box; null for none */
@@ -63,6 +76,21 @@ public:
      * value itself keeps all its digits. 0 shows one digit, a negative number six.
      */
     void setDecimals(int digits);
+
+    ///@{
+    /**
+     * The same numbers for forms made with Qt Designer: the shortest text that means exactly the number, such as
+     * `8.8541878E-12`. A text that is not a finite number with `.` as decimal point changes nothing.
+     */
+    QByteArray minimumText() const;
+    void setMinimumText(const QByteArray& number);
+    QByteArray maximumText() const;
+    void setMaximumText(const QByteArray& number);
+    QByteArray singleStepText() const;
+    void setSingleStepText(const QByteArray& number);
+    QByteArray valueText() const;
+    void setValueText(const QByteArray& number);
+    ///@}
 
     /**
      * `value` with decimals() significant digits, as printf's "%.*G" writes it in the C locale: trailing zeros are

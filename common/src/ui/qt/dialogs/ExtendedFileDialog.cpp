@@ -28,67 +28,103 @@ ExtendedFileDialog::ExtendedFileDialog(QWidget* parent, const std::string& capti
         m_winDialog.reset(new ExtendedWinFileDialog(parent, caption, directory, filter, helpTopic, acceptMode, false));
     } else {
         m_qtDialog.reset(new QExtendedFileDialog(parent, caption, directory, filter, helpTopic, acceptMode));
+        // A parent that is destroyed takes the dialog with it.
+        QObject::connect(m_qtDialog.get(), &QObject::destroyed, [this] { static_cast<void>(m_qtDialog.release()); });
     }
 }
 
-ExtendedFileDialog::~ExtendedFileDialog() = default;
+ExtendedFileDialog::~ExtendedFileDialog()
+{
+    delete m_qtDialog.release();
+}
 
 int ExtendedFileDialog::exec()
 {
-    return m_winDialog ? static_cast<int>(m_winDialog->exec()) : m_qtDialog->exec();
+    if (m_winDialog) {
+        return m_winDialog->exec();
+    }
+    return m_qtDialog ? m_qtDialog->exec() : QDialog::Rejected;
 }
 
 void ExtendedFileDialog::selectFile(const QString& file)
 {
-    m_winDialog ? m_winDialog->selectFile(file) : m_qtDialog->selectFile(file);
+    if (m_winDialog) {
+        m_winDialog->selectFile(file);
+    } else if (m_qtDialog) {
+        m_qtDialog->selectFile(file);
+    }
 }
 
 QStringList ExtendedFileDialog::selectedFiles()
 {
-    return m_winDialog ? m_winDialog->selectedFiles() : m_qtDialog->selectedFiles();
+    return m_winDialog ? m_winDialog->selectedFiles() : m_qtDialog ? m_qtDialog->selectedFiles() : QStringList();
 }
 
 void ExtendedFileDialog::setFileMode(QFileDialog::FileMode mode)
 {
-    m_winDialog ? m_winDialog->setFileMode(mode) : m_qtDialog->setFileMode(mode);
+    if (m_winDialog) {
+        m_winDialog->setFileMode(mode);
+    } else if (m_qtDialog) {
+        m_qtDialog->setFileMode(mode);
+    }
 }
 
 QDir ExtendedFileDialog::directory()
 {
-    return m_winDialog ? m_winDialog->directory() : m_qtDialog->directory();
+    return m_winDialog ? m_winDialog->directory() : m_qtDialog ? m_qtDialog->directory() : QDir();
 }
 
 void ExtendedFileDialog::setDirectory(const QString& directory)
 {
-    m_winDialog ? m_winDialog->setDirectory(directory) : m_qtDialog->setDirectory(directory);
+    if (m_winDialog) {
+        m_winDialog->setDirectory(directory);
+    } else if (m_qtDialog) {
+        m_qtDialog->setDirectory(directory);
+    }
 }
 
 void ExtendedFileDialog::selectNameFilter(const QString& filter)
 {
-    m_winDialog ? m_winDialog->selectNameFilter(filter) : m_qtDialog->selectNameFilter(filter);
+    if (m_winDialog) {
+        m_winDialog->selectNameFilter(filter);
+    } else if (m_qtDialog) {
+        m_qtDialog->selectNameFilter(filter);
+    }
 }
 
 QStringList ExtendedFileDialog::nameFilters()
 {
-    return m_winDialog ? m_winDialog->nameFilters() : m_qtDialog->nameFilters();
+    return m_winDialog ? m_winDialog->nameFilters() : m_qtDialog ? m_qtDialog->nameFilters() : QStringList();
 }
 
 void ExtendedFileDialog::setNameFilters(const QStringList& filters)
 {
-    m_winDialog ? m_winDialog->setNameFilters(filters) : m_qtDialog->setNameFilters(filters);
+    if (m_winDialog) {
+        m_winDialog->setNameFilters(filters);
+    } else if (m_qtDialog) {
+        m_qtDialog->setNameFilters(filters);
+    }
 }
 
 QString ExtendedFileDialog::selectedNameFilter()
 {
-    return m_winDialog ? m_winDialog->selectedNameFilter() : m_qtDialog->selectedNameFilter();
+    return m_winDialog ? m_winDialog->selectedNameFilter() : m_qtDialog ? m_qtDialog->selectedNameFilter() : QString();
 }
 
 void ExtendedFileDialog::setDontConfirmOverwrite(bool on)
 {
-    m_winDialog ? m_winDialog->setDontConfirmOverwrite(on) : m_qtDialog->setDontConfirmOverwrite(on);
+    if (m_winDialog) {
+        m_winDialog->setDontConfirmOverwrite(on);
+    } else if (m_qtDialog) {
+        m_qtDialog->setDontConfirmOverwrite(on);
+    }
 }
 
 void ExtendedFileDialog::setShowDirectoriesOnly(bool on)
 {
-    m_winDialog ? m_winDialog->setShowDirectoriesOnly(on) : m_qtDialog->setShowDirectoriesOnly(on);
+    if (m_winDialog) {
+        m_winDialog->setShowDirectoriesOnly(on);
+    } else if (m_qtDialog) {
+        m_qtDialog->setShowDirectoriesOnly(on);
+    }
 }

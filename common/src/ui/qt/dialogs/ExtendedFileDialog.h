@@ -21,12 +21,10 @@ struct ParentlessFileDialog;
  * The file dialog that a host holds: the native one (ExtendedWinFileDialog) or the one made of Qt's widgets
  * (QExtendedFileDialog), whichever the process-wide switch says at construction, behind one interface.
  *
- * @code
- * ExtendedFileDialog dialog(window, "Open", lastFolder, "Data (*.dat);;All (*)", "open", QFileDialog::AcceptOpen);
- * if (dialog.exec() == QDialog::Accepted) {
- *     load(dialog.selectedFiles());
- * }
- * @endcode
+ * @snippet 12-native-or-qt/main.cpp dialog
+ *
+ * The parent may be destroyed at any time, also while exec() runs, which then returns QDialog::Rejected. The Qt dialog
+ * goes with it: from then on every operation does nothing and gives nothing.
  *
  * Made for one use: construct, configure, run, read, destroy. Exceptions of the chosen dialog pass through. GUI thread
  * only.
@@ -60,13 +58,19 @@ public:
     void selectFile(const QString& file);
     /** The chosen paths after an accepted exec(), in the form of the dialog (native paths on the native one). */
     QStringList selectedFiles();
+    /** What is asked for: a file that exists, several of them, any name, or a directory. */
     void setFileMode(QFileDialog::FileMode mode);
+    /** The directory that the dialog shows, or showed last. */
     QDir directory();
+    /** Sets the directory to start in. */
     void setDirectory(const QString& directory);
     /** Chooses a filter by its exact text. */
     void selectNameFilter(const QString& filter);
+    /** The name filters, one an entry. */
     QStringList nameFilters();
+    /** Replaces the name filters. */
     void setNameFilters(const QStringList& filters);
+    /** The text of the chosen filter; empty when none is chosen. */
     QString selectedNameFilter();
     /** Whether saving over an existing file goes without the dialog's own question. */
     void setDontConfirmOverwrite(bool on);

@@ -34,15 +34,7 @@ class QWidget;
  * `*.extension`. Give each type of a save dialog one pattern: of several, everything after the first `*.` becomes the
  * extension, as in `image.png *.jpg`.
  *
- * @code
- * ExtendedWinFileDialog dialog(window, "Save", "", "Data (*.dat);;All (*)", "", QFileDialog::AcceptSave, true);
- * dialog.addAcceptButtonOption("Save", 0);
- * dialog.addAcceptButtonOption("Save and close", 1);
- * dialog.addCustomCheckBox("Compress", compress);
- * if (dialog.exec() == QDialog::Accepted) {
- *     save(dialog.selectedFiles().first(), dialog.selectedAcceptMenuOption());
- * }
- * @endcode
+ * @snippet 02-native-controls/main.cpp dialog
  *
  * Failures of the platform are not reported. When it cannot make a dialog at all, every operation is safe, exec()
  * returns `Rejected` and selectedFiles() is empty.
@@ -79,7 +71,10 @@ public:
 
     /** Puts the last component of @p file into the name field; the folder part is dropped. */
     void selectFile(const QString& file);
-    /** The chosen paths in the platform's form, after an accepted exec(). Otherwise whatever the platform reports. */
+    /**
+     * The chosen paths in the platform's form, after an exec() that the user accepted; none when close() ended it.
+     * Otherwise whatever the platform reports.
+     */
     QStringList selectedFiles();
 
     /** What is asked for; initially `AnyFile`. `Directory` picks a folder; `DirectoryOnly` counts as `AnyFile`. */
@@ -92,6 +87,7 @@ public:
 
     /** Chooses the file type with exactly this text; a text that is not in the list chooses none. */
     void selectNameFilter(const QString& filter);
+    /** The file types, one an entry. */
     QStringList nameFilters();
     /** Replaces the filters, taken as they are. */
     void setNameFilters(const QStringList& filters);
@@ -100,6 +96,7 @@ public:
 
     /**
      * Adds a push button.
+     * @param text   its label; `&` marks the key that reaches it
      * @param action runs at each click, while the dialog is open; it may call close(). An empty function throws
      *        boost::bad_function_call when the button is clicked.
      * @return a stand-in for the button, see below
@@ -110,13 +107,18 @@ public:
      */
     QWidget* addCustomButton(const std::string& text, boost::function<void()> action);
     /**
-     * Adds a check box that starts with the value of @p checked and sets it at each toggle. Null shares no state; the
-     * box then starts unchecked.
+     * Adds a check box.
+     * @param text    its label; `&` marks the key that reaches it
+     * @param checked gives the box its first state and is set at each toggle. Null shares no state; the box then starts
+     *                unchecked.
+     * @return a stand-in for the check box, see addCustomButton()
      */
     QWidget* addCustomCheckBox(const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked);
     /**
      * Adds an entry to the menu of the accept button; needs `useAcceptMenu`.
+     * @param text  its label
      * @param value what selectedAcceptMenuOption() reports once the user accepted with this entry
+     * @return a stand-in for the entry, see addCustomButton()
      */
     QWidget* addAcceptButtonOption(const std::string& text, int value);
     /** Removes all entries of the menu, and destroys their stand-ins. */
@@ -138,7 +140,11 @@ public:
     /** The widget given to the constructor; null once it was destroyed. */
     QWidget* parent();
 
-    /** Ends a running dialog as accepted; for actions. Does nothing when no dialog is open. */
+    /**
+     * Ends a running dialog; for actions and observers. exec() then returns `Accepted`, but nothing was chosen:
+     * whatever is selected or typed, selectedFiles() is empty. directory(), currentFilterIndex() and
+     * selectedAcceptMenuOption() tell how the dialog was left. Does nothing when no dialog is open.
+     */
     void close();
 
 private:

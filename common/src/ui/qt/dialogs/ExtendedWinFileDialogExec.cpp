@@ -2,6 +2,7 @@
 #include "ui/qt/dialogs/ExtendedWinFileDialogEventHandler.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
 #include "ui/qt/dialogs/NameFilterText.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <QByteArray>
 
@@ -83,6 +84,7 @@ private:
 
 QDialog::DialogCode ExtendedWinFileDialog::Impl::exec()
 {
+    morvane::ui::expectGuiThread("ExtendedWinFileDialog");
     // The Shell's dialog does not survive being shown within itself.
     if (!m_dialog || m_running) {
         return QDialog::Rejected;

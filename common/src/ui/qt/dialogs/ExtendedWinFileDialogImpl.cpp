@@ -7,6 +7,7 @@
 #include "ui/qt/dialogs/ExtendedWinFileDialogFakeWidget.h"
 #include "ui/qt/dialogs/FilePath.h"
 #include "ui/qt/dialogs/NameFilterText.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <boost/filesystem/operations.hpp>
 #include <boost/make_shared.hpp>
@@ -31,6 +32,7 @@ ExtendedWinFileDialog::Impl::Impl(QWidget* parent, const std::string& caption, c
       m_fileName(boost::make_shared<Property<std::string>>()),
       m_useAcceptMenu(useAcceptMenu)
 {
+    morvane::ui::expectGuiThread("ExtendedWinFileDialog");
     if (FAILED(m_shell.coInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))) {
         return;
     }

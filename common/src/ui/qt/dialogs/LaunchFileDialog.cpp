@@ -1,6 +1,7 @@
 #include "ui/qt/dialogs/LaunchFileDialog.h"
 
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <QApplication>
 #include <QByteArray>
@@ -74,6 +75,7 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
     const std::vector<std::string>& nameFilters, const std::vector<std::string>& initialSelection, bool saveMode,
     bool allowMultiple, int initialFilterIndex)
 {
+    expectGuiThread("LaunchFileDialog");
     if (nameFilters.empty()) {
         return false;
     }

@@ -11,13 +11,7 @@ namespace morvane::ui {
  * Asks the user for files with one call. The dialog is the one that ExtendedFileDialog's switch says; its parent is the
  * active window, if there is one. All text is UTF-8.
  *
- * @code
- * std::vector<std::string> files;
- * int filter = -1;
- * if (morvane::ui::LaunchFileDialog(files, filter, "Open", {"Data (*.dat)", "All (*)"}, {}, false, true, 0)) {
- *     load(files);
- * }
- * @endcode
+ * @snippet 01-open-files/main.cpp launch
  *
  * @param[out] files         replaced by the chosen files when the user accepts, else left alone
  * @param[out] filterIndex   set to the position of the chosen filter in @p nameFilters, or -1, when the user accepts,

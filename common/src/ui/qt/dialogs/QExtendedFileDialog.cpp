@@ -2,6 +2,7 @@
 
 #include "host/ApplicationSettings.h"
 #include "host/HelpLauncher.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <QComboBox>
 #include <QCursor>
@@ -31,6 +32,12 @@ public:
     ArrowCursor(const ArrowCursor&) = delete;
     ArrowCursor& operator=(const ArrowCursor&) = delete;
 };
+
+/** The button box stands before the list of types in the order of Tab, and would pass the focus past it to a button. */
+void letTabReachTheTypes(const QFileDialog& dialog)
+{
+    dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->setFocusProxy(nullptr);
+}
 
 QString fromUtf8(const std::string& text)
 {
@@ -97,6 +104,7 @@ void QExtendedFileDialog::show()
     restoreSizeAndPosition();
     restoreFilters();
     addSidebarUrls();
+    letTabReachTheTypes(*this);
     QWidget::show();
     saveSizeAndPosition();
 }
@@ -106,6 +114,7 @@ int QExtendedFileDialog::exec()
     restoreSizeAndPosition();
     restoreFilters();
     addSidebarUrls();
+    letTabReachTheTypes(*this);
     const ArrowCursor arrow;
     const QPointer<QExtendedFileDialog> self(this);
     const int result = QDialog::exec();
@@ -189,6 +198,7 @@ void QExtendedFileDialog::onRootPathChanged(const QString& path)
 
 void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
 {
+    morvane::ui::expectGuiThread("QExtendedFileDialog");
     setAcceptMode(acceptMode);
     setFileMode(acceptMode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     // Also what makes Qt build the child widgets that are looked up below.
@@ -202,6 +212,13 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
     const auto* const model = qobject_cast<QFileSystemModel*>(view->model());
     connect(model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));
     connect(model, SIGNAL(rootPathChanged(const QString&)), this, SLOT(onRootPathChanged(const QString&)));
+    // For an empty name Qt's completion selects the open folder itself, out of sight, and a selected row wins over what
+    // is typed then: accepting would enter the folder and clear the name.
+    connect(m_fileNameEdit, &QLineEdit::textChanged, view, [view](const QString& text) {
+        if (text.isEmpty()) {
+            view->selectionModel()->clearSelection();
+        }
+    });
 }
 
 void QExtendedFileDialog::setHelpAction()

@@ -23,12 +23,7 @@ class QLineEdit;
  * All `std::string` arguments are UTF-8. A name filter is a description, one blank, and blank-separated patterns in
  * parentheses, `Images (*.png *.jpg)`; several are joined by `;;`.
  *
- * @code
- * QExtendedFileDialog dialog(window, "Open measurement", "", "Data (*.dat);;All (*)", "open", QFileDialog::AcceptOpen);
- * if (dialog.exec() == QDialog::Accepted) {
- *     load(dialog.selectedFiles().first());
- * }
- * @endcode
+ * @snippet 13-qt-file-dialog/main.cpp dialog
  *
  * GUI thread only.
  */

@@ -19,42 +19,40 @@ class SaveFileWinDialog;
  * exists, the user is asked whether to replace it (No shows the dialog again); then writing there is tried for real,
  * and where that fails the user may choose another place. The texts of the questions come from a message handler.
  *
- * @code
- * SaveFileDialog dialog(window, "Save report", folder, "report", {"Text (*.txt)", "Table (*.csv)"}, 0, "save");
- * if (dialog.launch()) {
- *     writers[dialog.selectedWriter()]->write(dialog.selectedFilename());
- * }
- * @endcode
+ * @snippet 04-save-a-report/main.cpp flow
  *
  * All text is UTF-8. GUI thread only. The parent may be destroyed while the flow runs.
  */
 class MORVANE_UI_EXPORT SaveFileDialog
 {
 public:
+    ///@{
     /**
-     * @param parent    owns the dialog's widgets, which live until it is destroyed. Null: a dialog without parent.
-     * @param caption   title of the dialog and of the questions
-     * @param directory start directory; empty: left to the dialog
-     * @param filename  name to start with; may be empty
-     * @param filter    name filters such as `Data (*.dat)`, joined by `;;`
-     * @param helpTopic adds a Help button that hands it to morvane::HelpLauncher; empty for none
+     * Makes the dialog that the switch says; nothing is shown yet.
+     *
+     * - `parent` owns the dialog's widgets, which live until it is destroyed. Null: a dialog without parent.
+     * - `caption` is the title of the dialog and of the questions.
+     * - `directory` is where the dialog starts. Empty: left to the dialog.
+     * - `filename` is the name to start with; may be empty.
+     * - `filter` holds name filters such as `Data (*.dat)`, joined by `;;`.
+     * - `writerFilters` has one name filter for each way of writing the file, instead of `filter`.
+     * - `selectedWriterIndex` is the position in `writerFilters` of the one to start with; outside of it none is
+     *   selected.
+     * - `helpTopic` adds a Help button that hands it to morvane::HelpLauncher. Empty: no button.
+     * - `handler` words the questions and is taken over. Null or left out: morvane::DefaultSaveFileMessageHandler.
      */
     SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filename, const std::string& filter, const std::string& helpTopic);
-    /** @param handler words the questions; taken over. Null: morvane::DefaultSaveFileMessageHandler. */
     SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filename, const std::string& filter, const std::string& helpTopic,
         std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
-    /**
-     * @param writerFilters       one name filter for each way of writing the file
-     * @param selectedWriterIndex position in @p writerFilters of the one to start with; outside of it none is selected
-     */
     SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
         const std::string& helpTopic);
     SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
         const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
+    ///@}
     virtual ~SaveFileDialog();
     SaveFileDialog(const SaveFileDialog&) = delete;
     SaveFileDialog& operator=(const SaveFileDialog&) = delete;

@@ -4,6 +4,7 @@
 #include "ui/qt/dialogs/FilePath.h"
 #include "ui/qt/dialogs/SaveFileExtension.h"
 #include "ui/qt/dialogs/WriteAccessProbe.h"
+#include "ui/qt/util/GuiThread.h"
 
 #include <QMessageBox>
 
@@ -33,6 +34,15 @@ bool existsInAnyForm(const std::string& name)
     return !error && type != boost::filesystem::status_error && type != boost::filesystem::file_not_found;
 }
 
+QStringList toNameFilters(const std::vector<std::string>& filters)
+{
+    QStringList result;
+    for (const std::string& filter : filters) {
+        result.append(QString::fromStdString(filter));
+    }
+    return result;
+}
+
 } // namespace
 
 SaveFileState::SaveFileState(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -50,8 +60,27 @@ SaveFileState::SaveFileState(QWidget* parent, const std::string& caption, const 
 
 SaveFileState::~SaveFileState() = default;
 
+void SaveFileState::setUp(const std::string& filter, const std::string& helpTopic)
+{
+    createDialog(filter, helpTopic);
+    finishDialog();
+}
+
+void SaveFileState::setUp(
+    const std::vector<std::string>& writerFilters, int selectedWriterIndex, const std::string& helpTopic)
+{
+    createDialog(writerFilters.empty() ? std::string() : writerFilters.front(), helpTopic);
+    const QStringList filters = toNameFilters(writerFilters);
+    setNameFilters(filters);
+    if (selectedWriterIndex >= 0 && selectedWriterIndex < filters.size()) {
+        selectNameFilter(filters[selectedWriterIndex]);
+    }
+    finishDialog();
+}
+
 bool SaveFileState::launch()
 {
+    morvane::ui::expectGuiThread("SaveFileDialog");
     while (isAlive() && run() && isAlive()) {
         const QStringList files = selectedFiles();
         if (files.isEmpty()) {
@@ -75,13 +104,4 @@ bool SaveFileState::launch()
         }
     }
     return false;
-}
-
-QStringList toNameFilters(const std::vector<std::string>& filters)
-{
-    QStringList result;
-    for (const std::string& filter : filters) {
-        result.append(QString::fromStdString(filter));
-    }
-    return result;
 }

@@ -23,6 +23,11 @@ struct SaveFileState
         const std::string& filename, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
     virtual ~SaveFileState();
 
+    /** Makes the dialog with name filters that are joined by `;;`. Comes before anything else. */
+    void setUp(const std::string& filter, const std::string& helpTopic);
+    /** Makes the dialog with one name filter a writer; an index outside of the list selects none. */
+    void setUp(const std::vector<std::string>& writerFilters, int selectedWriterIndex, const std::string& helpTopic);
+
     /**
      * Runs the dialog until the user picks a name that may be overwritten and can be written, or gives up, or the
      * dialog is destroyed. Returns whether m_selectedFilename may be written to.
@@ -30,6 +35,13 @@ struct SaveFileState
     bool launch();
     /** The position of the chosen filter, or -1. */
     int selectedWriter() { return nameFilters().indexOf(selectedFilter()); }
+
+    virtual void createDialog(const std::string& filter, const std::string& helpTopic) = 0;
+    virtual void setNameFilters(const QStringList& filters) = 0;
+    /** Selects the first of the filters with this text. */
+    virtual void selectNameFilter(const QString& filter) = 0;
+    /** Names the file to start with, and leaves the question before overwriting to launch(). */
+    virtual void finishDialog() = 0;
 
     /** Runs the dialog modally and returns whether the user accepted. */
     virtual bool run() = 0;
@@ -47,6 +59,3 @@ struct SaveFileState
     std::string m_selectedFilename;
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> m_messageHandler;
 };
-
-/** The filters in the same order. */
-QStringList toNameFilters(const std::vector<std::string>& filters);

@@ -12,13 +12,19 @@ namespace morvane {
  *
  * All text is UTF-8 and shown as plain text: markup in it is not interpreted. An exception thrown by a handler leaves
  * `launch()`.
+ *
+ * @snippet 14-save-in-your-words/main.cpp handler
+ * @snippet 14-save-in-your-words/main.cpp flow
  */
 class MORVANE_UI_EXPORT SaveFileMessageHandlerInterface
 {
 public:
     SaveFileMessageHandlerInterface() = default;
+    ///@{
+    /** A copy is equal and independent. */
     SaveFileMessageHandlerInterface(const SaveFileMessageHandlerInterface&) = default;
     SaveFileMessageHandlerInterface& operator=(const SaveFileMessageHandlerInterface&) = default;
+    ///@}
     virtual ~SaveFileMessageHandlerInterface();
 
     /**

@@ -17,14 +17,16 @@ struct SaveFileQtDialog::Impl : SaveFileState
         }
     }
 
-    void createDialog(const std::string& filter, const std::string& helpTopic)
+    void createDialog(const std::string& filter, const std::string& helpTopic) override
     {
         m_isOrphan = !m_parent;
         m_dialog = new QExtendedFileDialog(
             m_parent.data(), m_caption, m_directory, filter, helpTopic, QFileDialog::AcceptSave);
     }
 
-    void finishDialog()
+    void setNameFilters(const QStringList& filters) override { m_dialog->setNameFilters(filters); }
+    void selectNameFilter(const QString& filter) override { m_dialog->selectNameFilter(filter); }
+    void finishDialog() override
     {
         m_dialog->selectFile(QString::fromStdString(m_filename));
         m_dialog->setOptions(QFileDialog::DontConfirmOverwrite | QFileDialog::DontUseNativeDialog);
@@ -53,8 +55,7 @@ SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, 
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
     : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
-    m_impl->createDialog(filter, helpTopic);
-    m_impl->finishDialog();
+    m_impl->setUp(filter, helpTopic);
 }
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -70,13 +71,7 @@ SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, 
     const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
     : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
-    m_impl->createDialog(writerFilters.empty() ? std::string() : writerFilters.front(), helpTopic);
-    const QStringList filters = toNameFilters(writerFilters);
-    m_impl->m_dialog->setNameFilters(filters);
-    if (selectedWriterIndex >= 0 && selectedWriterIndex < filters.size()) {
-        m_impl->m_dialog->selectNameFilter(filters[selectedWriterIndex]);
-    }
-    m_impl->finishDialog();
+    m_impl->setUp(writerFilters, selectedWriterIndex, helpTopic);
 }
 
 SaveFileQtDialog::~SaveFileQtDialog() = default;

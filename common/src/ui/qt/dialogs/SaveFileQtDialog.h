@@ -16,12 +16,14 @@ class QWidget;
  * The save flow of SaveFileDialog on the Qt file dialog. Use it where that dialog is wanted whatever the switch says.
  *
  * The dialog is made in the constructor as a child of the parent widget and stays until that is destroyed.
+ *
+ * @snippet 15-own-qt-save-dialog/main.cpp derived
  */
 class MORVANE_UI_EXPORT SaveFileQtDialog : public QObject
 {
 public:
-    /** @name Constructors: see SaveFileDialog */
     ///@{
+    /** As the constructors of SaveFileDialog. */
     SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filename, const std::string& filter, const std::string& helpTopic);
     SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -38,8 +40,11 @@ public:
 
     /** Runs the flow; see SaveFileDialog::launch(). */
     virtual bool launch();
+    /** See SaveFileDialog::selectedFilename(). */
     std::string selectedFilename();
+    /** See SaveFileDialog::selectedFilter(). */
     std::string selectedFilter();
+    /** See SaveFileDialog::selectedWriter(). */
     int selectedWriter() const;
 
 protected:

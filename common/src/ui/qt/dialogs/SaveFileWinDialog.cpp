@@ -22,14 +22,16 @@ struct SaveFileWinDialog::Impl : SaveFileState
 {
     using SaveFileState::SaveFileState;
 
-    void createDialog(const std::string& filter, const std::string& helpTopic)
+    void createDialog(const std::string& filter, const std::string& helpTopic) override
     {
         m_hasParent = m_parent;
         m_dialog = keepForever(new ExtendedWinFileDialog(
             m_parent.data(), m_caption, m_directory, filter, helpTopic, QFileDialog::AcceptSave, false));
     }
 
-    void finishDialog()
+    void setNameFilters(const QStringList& filters) override { m_dialog->setNameFilters(filters); }
+    void selectNameFilter(const QString& filter) override { m_dialog->selectNameFilter(filter); }
+    void finishDialog() override
     {
         m_dialog->selectFile(QString::fromStdString(m_filename));
         m_dialog->setDontConfirmOverwrite(true);
@@ -58,8 +60,7 @@ SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
     : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
-    m_impl->createDialog(filter, helpTopic);
-    m_impl->finishDialog();
+    m_impl->setUp(filter, helpTopic);
 }
 
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -75,14 +76,7 @@ SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption
     const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
     : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
-    m_impl->createDialog(writerFilters.empty() ? std::string() : writerFilters.front(), helpTopic);
-    const QStringList filters = toNameFilters(writerFilters);
-    m_impl->m_dialog->setNameFilters(filters);
-    if (selectedWriterIndex >= 0 && selectedWriterIndex < filters.size()) {
-        const int position = filters.indexOf(filters[selectedWriterIndex]);
-        m_impl->m_dialog->currentFilterIndex()->setValue(position + 1);
-    }
-    m_impl->finishDialog();
+    m_impl->setUp(writerFilters, selectedWriterIndex, helpTopic);
 }
 
 SaveFileWinDialog::~SaveFileWinDialog() = default;

@@ -18,12 +18,14 @@ class QWidget;
  *
  * The dialog is made in the constructor. It is no widget that a parent could own, and outlives this object on purpose,
  * until the process ends.
+ *
+ * @snippet 16-own-native-save-dialog/main.cpp derived
  */
 class MORVANE_UI_EXPORT SaveFileWinDialog : public QObject
 {
 public:
-    /** @name Constructors: see SaveFileDialog */
     ///@{
+    /** As the constructors of SaveFileDialog. */
     SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filename, const std::string& filter, const std::string& helpTopic);
     SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -40,8 +42,11 @@ public:
 
     /** Runs the flow; see SaveFileDialog::launch(). */
     virtual bool launch();
+    /** See SaveFileDialog::selectedFilename(). */
     std::string selectedFilename();
+    /** See SaveFileDialog::selectedFilter(). */
     std::string selectedFilter();
+    /** See SaveFileDialog::selectedWriter(). */
     int selectedWriter() const;
 
 protected:

@@ -49,8 +49,10 @@ bool opens(const fs::path& path, const char* mode)
 
 void removeFile(const fs::path& path)
 {
-    boost::system::error_code ignored;
-    fs::remove(path, ignored);
+    boost::system::error_code error;
+    do {
+        fs::remove(path, error);
+    } while (error == boost::system::errc::interrupted);
 }
 
 #ifdef _WIN32
@@ -84,8 +86,13 @@ bool probeByCreating(fs::path path)
         }
         boost::system::error_code error;
         const fs::path target = fs::read_symlink(path, error);
+        if (error == boost::system::errc::interrupted) {
+            continue;
+        }
         if (error) {
-            return opens(path, "a+");
+            // No link: made by somebody else meanwhile. A link that cannot be read may lead to nothing, which opening
+            // it for appending would make.
+            return error == boost::system::errc::invalid_argument && opens(path, "a+");
         }
         path = fs::absolute(target, path.parent_path());
     }
@@ -104,7 +111,10 @@ bool probeOpenForAppend(fs::path candidate, bool removeAfter)
 bool checkWriteAccess(const fs::path& target)
 {
     boost::system::error_code error;
-    const fs::file_type type = fs::status(target, error).type();
+    fs::file_type type;
+    do {
+        type = fs::status(target, error).type();
+    } while (error == boost::system::errc::interrupted);
     if (error || isAbsent(type)) {
         return probeOpenForAppend(target, true);
     }

@@ -1,11 +1,14 @@
 #include "ui/qt/util/CopyHandlerAbstract.h"
 
+#include "ui/qt/util/GuiThread.h"
+
 #include <QKeyEvent>
 
 namespace morvane::ui {
 
 CopyHandlerAbstract::CopyHandlerAbstract(QObject& watched) : QObject(&watched), m_watched(&watched)
 {
+    expectGuiThread("CopyHandlerAbstract");
     watched.installEventFilter(this);
 }
 

@@ -17,6 +17,8 @@ namespace morvane::ui {
  * The handler is a child of the watched object and dies with it. It may be deleted earlier, also from within
  * copyToClipboard() or what that triggers. It must not be given another parent, because it refers to the watched
  * object until its end. GUI thread only.
+ *
+ * @snippet 17-copy-a-list/main.cpp handler
  */
 class MORVANE_UI_EXPORT CopyHandlerAbstract : public QObject
 {

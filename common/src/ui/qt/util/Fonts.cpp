@@ -1,5 +1,7 @@
 #include "ui/qt/util/Fonts.h"
 
+#include "ui/qt/util/GuiThread.h"
+
 #include <QDir>
 #include <QFontDatabase>
 
@@ -7,6 +9,7 @@ namespace morvane::ui {
 
 void addFontToDatabase(const std::string& fontFile)
 {
+    expectGuiThread("addFontToDatabase");
     const int id = QFontDatabase::addApplicationFont(QString::fromStdString(fontFile));
     if (id == -1) {
         QMessageLogger().warning("Warning: Failed to load TrueType font from %s", fontFile.c_str());

@@ -13,6 +13,8 @@ namespace morvane::ui {
  *        Qt's message log, "Warning: Failed to load TrueType font from " and the path as given, and nothing else.
  *
  * GUI thread only, while the application object exists.
+ *
+ * @snippet 21-fonts-of-your-own/main.cpp fonts
  */
 MORVANE_UI_EXPORT void addFontToDatabase(const std::string& fontFile);
 

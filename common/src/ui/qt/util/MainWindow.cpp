@@ -1,5 +1,7 @@
 #include "ui/qt/util/MainWindow.h"
 
+#include "ui/qt/util/GuiThread.h"
+
 #include <QApplication>
 #include <QMainWindow>
 
@@ -25,6 +27,7 @@ void searchMainWindow()
 
 QMainWindow* findMainWindow(bool forceSearch)
 {
+    expectGuiThread("findMainWindow");
     if (!cachedMainWindow || forceSearch) {
         searchMainWindow();
     }

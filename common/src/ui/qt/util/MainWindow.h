@@ -17,6 +17,8 @@ namespace morvane::ui {
  * @return null only as long as no search has found a main window.
  *
  * GUI thread only.
+ *
+ * @snippet 20-find-the-main-window/main.cpp find
  */
 MORVANE_UI_EXPORT QMainWindow* findMainWindow(bool forceSearch);
 

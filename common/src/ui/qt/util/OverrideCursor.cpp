@@ -1,5 +1,7 @@
 #include "ui/qt/util/OverrideCursor.h"
 
+#include "ui/qt/util/GuiThread.h"
+
 #include <QCursor>
 #include <QGuiApplication>
 
@@ -7,6 +9,7 @@ namespace morvane::ui {
 
 OverrideCursor::OverrideCursor(Qt::CursorShape shape)
 {
+    expectGuiThread("OverrideCursor");
     QGuiApplication::setOverrideCursor(QCursor(shape));
 }
 

@@ -9,9 +9,7 @@ namespace morvane::ui {
 /**
  * Shows a cursor shape over the whole application for as long as the guard lives.
  *
- * @code
- * const morvane::ui::OverrideCursor busy(Qt::WaitCursor);
- * @endcode
+ * @snippet 18-wait-cursor/main.cpp work
  *
  * The shapes are a stack: guards that nest must end in the reverse order of their creation, as automatic variables do.
  * Ending one takes off whatever is on top. GUI thread only, while the application object exists.

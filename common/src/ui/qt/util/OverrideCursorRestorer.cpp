@@ -1,11 +1,14 @@
 #include "ui/qt/util/OverrideCursorRestorer.h"
 
+#include "ui/qt/util/GuiThread.h"
+
 #include <QGuiApplication>
 
 namespace morvane::ui {
 
 OverrideCursorRestorer::OverrideCursorRestorer()
 {
+    expectGuiThread("OverrideCursorRestorer");
     if (const QCursor* const active = QGuiApplication::overrideCursor()) {
         m_cursor = *active;
         m_wasActive = true;

@@ -10,14 +10,7 @@ namespace morvane::ui {
  * Suspends the application's override cursor for as long as the guard lives, to show a question in the middle of a long
  * operation, say.
  *
- * @code
- * const morvane::ui::OverrideCursor busy(Qt::WaitCursor);
- * ...
- * {
- *     const morvane::ui::OverrideCursorRestorer pointer;
- *     QMessageBox::question(...);
- * }
- * @endcode
+ * @snippet 18-wait-cursor/main.cpp question
  *
  * Only the top of the stack of override cursors is taken off: with two of them, the lower one shows. Everything put on
  * the stack during the guard's life must be taken off before it ends. GUI thread only, while the application object

@@ -15,9 +15,7 @@ namespace morvane::ui {
  * Meant as a member of an object that is no QObject, or that must stop listening before its other members go: declare
  * it last.
  *
- * @code
- * m_connections.add(QObject::connect(model, &Model::changed, [this] { refresh(); }));
- * @endcode
+ * @snippet 19-cut-connections/main.cpp member
  */
 class MORVANE_UI_EXPORT QtSignalConnectionCollection
 {

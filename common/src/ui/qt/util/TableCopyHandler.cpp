@@ -1,5 +1,6 @@
 #include "ui/qt/util/TableCopyHandler.h"
 
+#include "ui/qt/util/GuiThread.h"
 #include "ui/qt/util/SelectionText.h"
 
 #include <QClipboard>
@@ -25,6 +26,7 @@ TableCopyHandler::~TableCopyHandler() = default;
 
 void TableCopyHandler::copyToClipboard()
 {
+    expectGuiThread("TableCopyHandler");
     const QString text = selectedText(*m_tableView);
     // Last of all: whoever listens to the clipboard may delete this handler.
     QGuiApplication::clipboard()->setText(text, QClipboard::Clipboard);

@@ -9,10 +9,7 @@ namespace morvane::ui {
 /**
  * Copies the selection of a table view as tab-separated text, which spreadsheet programs paste as cells.
  *
- * @code
- * auto* const table = new QTableView(window);
- * new morvane::ui::TableCopyHandler(*table); // belongs to the table
- * @endcode
+ * @snippet 06-table-copy/main.cpp copy
  *
  * The text has one line for each row with a selected cell, rows in ascending order of the model; in a line, the display
  * texts of the row's selected cells in ascending column order, joined by one tab. Lines are joined by one line feed,
@@ -40,6 +37,7 @@ public Q_SLOTS:
      * Replaces what is on the clipboard by the text of the current selection. With nothing selected, and also without a
      * model or a selection model, that is the empty text. A wait cursor shows while the text is being made if that
      * takes more than half a second; no events are processed meanwhile.
+     * @throws std::bad_alloc when memory runs out; while the text is being made, that leaves the clipboard as it was.
      */
     void copyToClipboard() override;
 

@@ -24,7 +24,13 @@ AcceptMenu::AcceptMenu(
     setPopupMode(QToolButton::InstantPopup);
     setFocusPolicy(Qt::TabFocus);
     setMenu(m_menu);
-    connect(m_menu, &QMenu::aboutToShow, this, std::move(opening));
+    connect(m_menu, &QMenu::aboutToShow, this, [this, opening = std::move(opening)] {
+        opening();
+        if (!isVisible()) {
+            // The dialog was closed, and a menu cannot be stopped from opening now.
+            QMetaObject::invokeMethod(m_menu, &QWidget::close, Qt::QueuedConnection);
+        }
+    });
     acceptButton.installEventFilter(this);
 }
 

@@ -21,7 +21,6 @@ constexpr int controlsPerRow = 4;
 
 ControlStrip::ControlStrip(QFileDialog& dialog, ControlActions actions)
     : QObject(&dialog),
-      m_dialog(dialog),
       m_actions(std::move(actions)),
       m_buttonBox(dialog.findChild<QDialogButtonBox*>()),
       m_row(new QWidget(&dialog)),
@@ -56,6 +55,10 @@ void ControlStrip::update(const std::vector<Control>& controls)
         anyInRow = anyInRow || (control.isVisible() && button->parentWidget() == m_row);
     }
     m_row->setVisible(anyInRow);
+    // The button box strings its buttons together anew for each one that is added.
+    if (m_acceptMenu) {
+        QWidget::setTabOrder(m_acceptMenu->parentWidget(), m_acceptMenu);
+    }
 }
 
 QAbstractButton* ControlStrip::buttonFor(const Control& control)
@@ -67,7 +70,8 @@ QAbstractButton* ControlStrip::buttonFor(const Control& control)
     const DWORD id = control.id;
     if (control.kind == Control::Kind::CheckButton) {
         button = new QCheckBox(m_row);
-        connect(button, &QAbstractButton::toggled, this, [this, id](bool checked) { m_actions.toggled(id, checked); });
+        // Not toggled(): Qt goes on with the button after that, and the owner of the dialog may be gone by then.
+        connect(button, &QAbstractButton::clicked, this, [this, id](bool checked) { m_actions.toggled(id, checked); });
     } else {
         auto* const pushButton = new QPushButton(m_row);
         pushButton->setAutoDefault(false);

@@ -34,7 +34,6 @@ private:
     void place(const Control& control, QAbstractButton& button);
     void updateAcceptMenu(const Control& control);
 
-    QFileDialog& m_dialog;
     const ControlActions m_actions;
     QDialogButtonBox* m_buttonBox;
     QWidget* m_row;

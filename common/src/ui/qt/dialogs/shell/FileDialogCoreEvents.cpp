@@ -5,6 +5,10 @@ namespace morvane::ui {
 
 HRESULT FileDialogCore::guarded(const std::function<HRESULT()>& call)
 {
+    // Close() may have come from an event that leads to others.
+    if (m_ended) {
+        return E_ABORT;
+    }
     try {
         return call();
     } catch (...) {

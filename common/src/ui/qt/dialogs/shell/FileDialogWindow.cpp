@@ -1,7 +1,5 @@
 #include "ui/qt/dialogs/shell/FileDialogWindow.h"
 
-#include "ui/qt/dialogs/shell/TypedNames.h"
-
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -27,20 +25,14 @@ QString nativeFilter(const FileTypeEntry& type)
     return QStringLiteral("%1 (%2)").arg(type.description, patterns).simplified();
 }
 
-bool isFolder(const QString& path)
-{
-    return QFileInfo(path).isDir();
-}
-
-QString nameForMessage(const QString& path)
-{
-    return QDir::toNativeSeparators(path);
-}
-
 } // namespace
 
 FileDialogWindow::FileDialogWindow(QWidget* owner, const FileDialogSettings& settings, FileDialogObserver& observer)
-    : QFileDialog(owner), m_settings(settings), m_observer(observer), m_folder(settings.folder)
+    : QFileDialog(owner),
+      m_settings(settings),
+      m_observer(observer),
+      m_folder(settings.folder),
+      m_toldType(settings.typeIndex)
 {
     setOption(QFileDialog::DontUseNativeDialog, settings.usesWidgets);
     applySettings();
@@ -52,7 +44,7 @@ FileDialogWindow::FileDialogWindow(QWidget* owner, const FileDialogSettings& set
         setUpTypeCombo();
         watchWidgets();
     } else {
-        setUpNativeTypes();
+        setUpNative();
     }
     setTypedName(settings.fileName);
 }
@@ -128,6 +120,22 @@ void FileDialogWindow::setUpTypeCombo()
     applyPatterns();
 }
 
+void FileDialogWindow::setUpNative()
+{
+    if (m_settings.fileMustExist && !m_settings.saving && fileMode() == QFileDialog::AnyFile) {
+        setFileMode(QFileDialog::ExistingFile);
+    }
+    setUpNativeTypes();
+    connect(this, &QFileDialog::directoryEntered, this, [this] {
+        m_folderPending = true;
+        deliverLater();
+    });
+    connect(this, &QFileDialog::currentChanged, this, [this] {
+        m_selectionPending = true;
+        deliverLater();
+    });
+}
+
 void FileDialogWindow::setUpNativeTypes()
 {
     QStringList filters;
@@ -140,14 +148,6 @@ void FileDialogWindow::setUpNativeTypes()
     setNameFilters(filters);
     selectNameFilter(filters.at(m_settings.typeIndex));
     connect(this, &QFileDialog::filterSelected, this, &FileDialogWindow::onNativeTypePicked);
-    connect(this, &QFileDialog::directoryEntered, this, [this] {
-        m_folderPending = true;
-        deliverLater();
-    });
-    connect(this, &QFileDialog::currentChanged, this, [this] {
-        m_selectionPending = true;
-        deliverLater();
-    });
 }
 
 void FileDialogWindow::watchWidgets()
@@ -168,6 +168,10 @@ void FileDialogWindow::watchWidgets()
 
 void FileDialogWindow::run()
 {
+    if (auto* const buttons = findChild<QDialogButtonBox*>()) {
+        // It stands before the list of types in the order of Tab, and would pass the focus past it to a button.
+        buttons->setFocusProxy(nullptr);
+    }
     const QPointer<FileDialogWindow> self(this);
     do {
         m_again = false;
@@ -193,6 +197,7 @@ void FileDialogWindow::setTypedName(const QString& name)
 void FileDialogWindow::setTypeIndex(int index)
 {
     m_settings.typeIndex = index;
+    m_toldType = index;
     if (m_typeCombo) {
         m_typeCombo->setCurrentIndex(index);
         applyPatterns();
@@ -244,12 +249,9 @@ void FileDialogWindow::updateAcceptButton()
 
 void FileDialogWindow::onTypePicked(int index)
 {
-    const bool changed = index != m_settings.typeIndex;
     m_settings.typeIndex = index;
     applyPatterns(); // Qt has just put its placeholder there, also when the same type was picked again
-    if (changed) {
-        m_observer.onTypeChanged(index);
-    }
+    deliverLater();
 }
 
 void FileDialogWindow::onNativeTypePicked(const QString& filter)
@@ -257,15 +259,15 @@ void FileDialogWindow::onNativeTypePicked(const QString& filter)
     const auto found = std::find_if(m_settings.types.begin(), m_settings.types.end(),
         [&filter](const FileTypeEntry& type) { return nativeFilter(type) == filter; });
     const auto index = static_cast<int>(found - m_settings.types.begin());
-    if (found != m_settings.types.end() && index != m_settings.typeIndex) {
+    if (found != m_settings.types.end()) {
         m_settings.typeIndex = index;
-        m_observer.onTypeChanged(index);
+        deliverLater();
     }
 }
 
 void FileDialogWindow::deliverLater()
 {
-    // These changes are reported from deep inside Qt's models, where the window must not be changed or destroyed.
+    // These changes are reported from deep inside Qt's widgets, where the window must not be changed or destroyed.
     if (!m_deliveryPosted) {
         m_deliveryPosted = true;
         QMetaObject::invokeMethod(
@@ -279,6 +281,10 @@ void FileDialogWindow::deliver()
     m_deliveryPosted = false;
     if (m_folderPending) {
         deliverFolder();
+    }
+    if (self && m_settings.typeIndex != m_toldType) {
+        m_toldType = m_settings.typeIndex;
+        m_observer.onTypeChanged(m_toldType);
     }
     if (self && m_selectionPending) {
         m_selectionPending = false;
@@ -304,107 +310,6 @@ void FileDialogWindow::deliverFolder()
     }
     m_folder = folder;
     m_observer.onFolderChanged(folder);
-}
-
-void FileDialogWindow::accept()
-{
-    const QPointer<FileDialogWindow> self(this);
-    deliver(); // the observer hears of what led to the choice before the choice
-    if (!self) {
-        return;
-    }
-    const QStringList paths = consistsOfWidgets() ? chosenPaths() : selectedFiles();
-    if (paths.isEmpty() || (consistsOfWidgets() && (enterFolderAmong(paths) || !exist(paths)))) {
-        return;
-    }
-    if (!self || (consistsOfWidgets() && m_settings.saving && !mayReplace(paths.first())) || !self) {
-        return;
-    }
-    const bool accepted = m_observer.mayAccept(paths);
-    if (self && accepted) {
-        done(QDialog::Accepted);
-    } else if (self && !consistsOfWidgets() && isVisible()) {
-        m_again = true;
-        done(QDialog::Rejected);
-    }
-}
-
-QStringList FileDialogWindow::chosenPaths() const
-{
-    const QString text = m_nameEdit->text();
-    if (m_settings.picksFolders && text.isEmpty()) {
-        return QStringList(directory().absolutePath());
-    }
-    QStringList paths = pathsOfTypedText(text, directory().absolutePath(), m_settings.allowsSeveral);
-    for (QString& path : paths) {
-        const bool lacksSuffix = QFileInfo(path).suffix().isEmpty() && !QFileInfo::exists(path);
-        if (lacksSuffix && !m_settings.defaultSuffix.isEmpty() && !m_settings.picksFolders) {
-            path += QLatin1Char('.') + m_settings.defaultSuffix;
-        }
-    }
-    return paths;
-}
-
-bool FileDialogWindow::enterFolderAmong(const QStringList& paths)
-{
-    const auto found = std::find_if(paths.begin(), paths.end(), isFolder);
-    if (m_settings.picksFolders || found == paths.end()) {
-        return false;
-    }
-    setDirectory(*found);
-    m_nameEdit->clear();
-    return true;
-}
-
-bool FileDialogWindow::exist(const QStringList& paths)
-{
-    for (const QString& path : paths) {
-        const QFileInfo info(path);
-        if (m_settings.picksFolders && !info.isDir()) {
-            ask(tr("%1\nDirectory not found.\nPlease verify the correct directory name was given.")
-                    .arg(nameForMessage(path)),
-                QMessageBox::Ok, QMessageBox::Ok);
-            return false;
-        }
-        if (m_settings.fileMustExist && !info.exists()) {
-            ask(tr("%1\nFile not found.\nPlease verify the correct file name was given.").arg(nameForMessage(path)),
-                QMessageBox::Ok, QMessageBox::Ok);
-            return false;
-        }
-        if (m_settings.pathMustExist && !isFolder(info.path())) {
-            ask(tr("%1\nDirectory not found.\nPlease verify the correct directory name was given.")
-                    .arg(nameForMessage(info.path())),
-                QMessageBox::Ok, QMessageBox::Ok);
-            return false;
-        }
-    }
-    return true;
-}
-
-bool FileDialogWindow::mayReplace(const QString& path)
-{
-    if (!m_settings.asksBeforeOverwriting || m_settings.picksFolders || !QFileInfo::exists(path)) {
-        return true;
-    }
-    const QPointer<FileDialogWindow> self(this);
-    const auto answer = m_observer.mayOverwrite(path);
-    if (!self || !isVisible() || answer != FileDialogObserver::OverwriteAnswer::Ask) {
-        return self && answer == FileDialogObserver::OverwriteAnswer::Accept;
-    }
-    const QString text = tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName());
-    return ask(text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes && self && isVisible();
-}
-
-QMessageBox::StandardButton FileDialogWindow::ask(
-    const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
-{
-    // On the heap, since the owner of the window may go while the box is open and take both with it.
-    const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::Warning, windowTitle(), text, buttons, this));
-    box->setTextFormat(Qt::PlainText);
-    box->setDefaultButton(defaultButton);
-    const auto answer = static_cast<QMessageBox::StandardButton>(box->exec());
-    delete box;
-    return answer;
 }
 
 } // namespace morvane::ui

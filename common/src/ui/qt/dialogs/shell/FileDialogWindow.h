@@ -94,6 +94,7 @@ private:
     void applySettings();
     void setUpWidgets();
     void setUpTypeCombo();
+    void setUpNative();
     void setUpNativeTypes();
     void watchWidgets();
     void applyPatterns();
@@ -116,6 +117,7 @@ private:
     QComboBox* m_typeCombo = nullptr;
     QFileSystemModel* m_model = nullptr;
     QString m_folder;
+    int m_toldType; ///< the type that the observer knows
     bool m_folderPending = false;
     bool m_selectionPending = false;
     bool m_deliveryPosted = false;

@@ -1,0 +1,6 @@
+#include <QWidget>
+
+int main()
+{
+    return QWidget::staticMetaObject.className() ? 0 : 1;
+}

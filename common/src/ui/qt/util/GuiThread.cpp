@@ -1,0 +1,23 @@
+#include "ui/qt/util/GuiThread.h"
+
+#include <QtGlobal>
+
+#ifndef QT_NO_DEBUG
+
+#include <QCoreApplication>
+#include <QMessageLogger>
+#include <QThread>
+
+namespace morvane::ui {
+
+void expectGuiThread(const char* what)
+{
+    const QCoreApplication* const application = QCoreApplication::instance();
+    if (application && application->thread() != QThread::currentThread()) {
+        QMessageLogger().warning("Warning: %s is used outside the GUI thread", what);
+    }
+}
+
+} // namespace morvane::ui
+
+#endif

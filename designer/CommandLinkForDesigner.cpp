@@ -1,0 +1,12 @@
+#include "CommandLinkForDesigner.h"
+
+namespace morvane::ui {
+
+CommandLinkForDesigner::CommandLinkForDesigner(QWidget* parent) : CorrectFontCommandLinkButton(parent) {}
+
+CommandLinkForDesigner::~CommandLinkForDesigner() = default;
+
+} // namespace morvane::ui
+
+#define CorrectFontCommandLinkButton CommandLinkForDesigner
+#include "moc_CommandLinkForDesigner.cpp"

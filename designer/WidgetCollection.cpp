@@ -1,0 +1,107 @@
+#include "WidgetCollection.h"
+
+#include "CommandLinkForDesigner.h"
+#include "ui/qt/controls/ComboBoxAutoFilter.h"
+#include "ui/qt/controls/ElidedTextLabel.h"
+#include "ui/qt/controls/IntegralSpinBox.h"
+#include "ui/qt/controls/QScientificSpinBox.h"
+#include "WidgetEntry.h"
+
+namespace {
+
+template <typename Widget>
+QWidget* create(QWidget* parent)
+{
+    return new Widget(parent);
+}
+
+WidgetDescription comboBox()
+{
+    WidgetDescription widget;
+    widget.className = QStringLiteral("morvane::ui::ComboBoxAutoFilter");
+    widget.extends = QStringLiteral("QComboBox");
+    widget.header = QStringLiteral("ui/qt/controls/ComboBoxAutoFilter.h");
+    widget.icon = QStringLiteral("combobox");
+    widget.toolTip = QStringLiteral("Filtering combo box");
+    widget.whatsThis = QStringLiteral("A combo box that offers the entries that contain what is typed, and that closes "
+                                      "itself when an entry is picked or the editing is cancelled.");
+    widget.size = QSize(160, 32);
+    widget.properties = QStringLiteral("<property name=\"filtering\"><bool>true</bool></property>");
+    widget.create = create<morvane::ui::ComboBoxAutoFilter>;
+    return widget;
+}
+
+WidgetDescription scientificSpinBox()
+{
+    WidgetDescription widget;
+    widget.className = QStringLiteral("morvane::ui::QScientificSpinBox");
+    widget.extends = QStringLiteral("QDoubleSpinBox");
+    widget.header = QStringLiteral("ui/qt/controls/QScientificSpinBox.h");
+    widget.icon = QStringLiteral("scientificspinbox");
+    widget.toolTip = QStringLiteral("Scientific spin box");
+    widget.whatsThis = QStringLiteral("A spin box for numbers such as 1.5E-07. Set its range, step and value as text: "
+                                      "minimumText, maximumText, singleStepText, valueText.");
+    widget.size = QSize(200, 32);
+    widget.create = create<morvane::ui::QScientificSpinBox>;
+    return widget;
+}
+
+WidgetDescription integralSpinBox()
+{
+    WidgetDescription widget;
+    widget.className = QStringLiteral("morvane::ui::IntegralSpinBox");
+    widget.extends = QStringLiteral("QSpinBox");
+    widget.header = QStringLiteral("ui/qt/controls/IntegralSpinBox.h");
+    widget.icon = QStringLiteral("integralspinbox");
+    widget.toolTip = QStringLiteral("Integer spin box with steps of your own");
+    widget.whatsThis = QStringLiteral("A spin box for whole numbers. Slots connected to signalIncrement and "
+                                      "signalDecrement take the place of its steps.");
+    widget.size = QSize(100, 32);
+    widget.create = create<morvane::ui::IntegralSpinBox>;
+    return widget;
+}
+
+WidgetDescription elidedLabel()
+{
+    WidgetDescription widget;
+    widget.className = QStringLiteral("ElidedTextLabel");
+    widget.extends = QStringLiteral("QFrame");
+    widget.header = QStringLiteral("ui/qt/controls/ElidedTextLabel.h");
+    widget.icon = QStringLiteral("elidedlabel");
+    widget.toolTip = QStringLiteral("Elided label");
+    widget.whatsThis = QStringLiteral("A label for paths and other texts whose end matters. What does not fit is cut "
+                                      "off at the start, and the tool tip has the whole.");
+    widget.size = QSize(160, 24);
+    widget.properties = QStringLiteral("<property name=\"text\"><string>A text whose end matters</string></property>");
+    widget.specifications =
+        QStringLiteral("<stringpropertyspecification name=\"text\" notr=\"false\" type=\"singleline\"/>");
+    widget.create = create<ElidedTextLabel>;
+    return widget;
+}
+
+WidgetDescription commandLinkButton()
+{
+    WidgetDescription widget;
+    widget.className = QStringLiteral("morvane::ui::CorrectFontCommandLinkButton");
+    widget.extends = QStringLiteral("QCommandLinkButton");
+    widget.header = QStringLiteral("ui/qt/controls/CorrectFontCommandLinkButton.h");
+    widget.icon = QStringLiteral("commandlink");
+    widget.toolTip = QStringLiteral("Command link that is never cut");
+    widget.whatsThis = QStringLiteral("A command link that no layout squeezes below the size of its texts.");
+    widget.size = QSize(220, 60);
+    widget.properties = QStringLiteral("<property name=\"text\"><string>Command link</string></property>"
+                                       "<property name=\"description\"><string>What it does</string></property>");
+    widget.create = create<morvane::ui::CommandLinkForDesigner>;
+    return widget;
+}
+
+} // namespace
+
+WidgetCollection::WidgetCollection()
+{
+    for (const auto& describe : {comboBox, scientificSpinBox, integralSpinBox, elidedLabel, commandLinkButton}) {
+        m_widgets.append(new WidgetEntry(describe(), this));
+    }
+}
+
+WidgetCollection::~WidgetCollection() = default;

@@ -1,0 +1,40 @@
+// A combo box that shows fewer entries with each letter typed: those that contain the letters, wherever they stand.
+
+#include "ui/qt/controls/ComboBoxAutoFilter.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <QWidget>
+
+using morvane::ui::ComboBoxAutoFilter;
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QWidget window;
+    auto* const outcome = new QLabel("Type a part of a name, such as ene, and press Return.");
+
+    //! [filter]
+    auto* const box = new ComboBoxAutoFilter(&window);
+    box->setList({"Acetone", "Benzene", "Ethanol", "Propylene", "Toluene", "Water"});
+    // Filtering starts here; before, this is a plain combo box.
+    box->setCompleterAttributes(
+        true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
+
+    // Return, Tab or a click end the editing, Escape cancels it. Either way the combo box has closed itself by then.
+    QObject::connect(box, &ComboBoxAutoFilter::selectionComplete, outcome,
+        [=] { outcome->setText("Chosen: " + box->currentText()); });
+    QObject::connect(box, &ComboBoxAutoFilter::editingCanceled, outcome,
+        [=] { outcome->setText("Cancelled, still " + box->currentText()); });
+    //! [filter]
+
+    auto* const layout = new QVBoxLayout(&window);
+    layout->addWidget(box);
+    layout->addWidget(outcome);
+    layout->addStretch();
+    window.setWindowTitle("Filtering a list");
+    window.resize(420, 120);
+    window.show();
+    return QApplication::exec();
+}

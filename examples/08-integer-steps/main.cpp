@@ -1,0 +1,29 @@
+// A whole number whose steps double and halve it, for sizes that are powers of two.
+
+#include "ui/qt/controls/IntegralSpinBox.h"
+
+#include <QApplication>
+#include <QFormLayout>
+#include <QWidget>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QWidget window;
+    window.setWindowTitle("Steps of your own");
+    auto* const form = new QFormLayout(&window);
+
+    //! [steps]
+    auto* const samples = new morvane::ui::IntegralSpinBox(&window);
+    samples->setRange(1, 65536);
+    samples->setValue(1024);
+
+    // A connected slot takes the place of the step. The spin box itself adds nothing then.
+    samples->signalIncrement.connect([samples] { samples->setValue(samples->value() * 2); });
+    samples->signalDecrement.connect([samples] { samples->setValue(samples->value() / 2); });
+    //! [steps]
+
+    form->addRow("&Samples:", samples);
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,26 @@
+// A path in a narrow window: its end stays readable, and the tool tip has the whole of it.
+
+#include "ui/qt/controls/ElidedTextLabel.h"
+
+#include <QApplication>
+#include <QVBoxLayout>
+#include <QWidget>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QWidget window;
+
+    //! [label]
+    auto* const path = new ElidedTextLabel(&window);
+    path->setText("/projects/turbine/measurements/2026-03-12/run-17/pressure-inlet.dat");
+    // The label sets its tool tip while the text is cut and takes it away when the window is wide enough.
+    //! [label]
+
+    auto* const layout = new QVBoxLayout(&window);
+    layout->addWidget(path);
+    window.setWindowTitle("Make me wider");
+    window.resize(220, 40);
+    window.show();
+    return QApplication::exec();
+}

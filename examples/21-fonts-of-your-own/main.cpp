@@ -1,0 +1,30 @@
+// Fonts that come with the program, without installing them. The first argument names a font file or a directory.
+
+#include "ui/qt/util/Fonts.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QListWidget>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const QString place = QApplication::arguments().value(1, QApplication::applicationDirPath() + "/fonts");
+
+    //! [fonts]
+    // After the application object, before the first widget. A file that is no font gives one warning in the log.
+    if (QFileInfo(place).isDir()) {
+        morvane::ui::addFontsToDatabase(place.toStdString());
+    } else {
+        morvane::ui::addFontToDatabase(place.toStdString());
+    }
+    //! [fonts]
+
+    QListWidget families;
+    families.addItems(QFontDatabase().families());
+    families.setWindowTitle("Fonts that this program can use");
+    families.resize(360, 400);
+    families.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,25 @@
+// A form made with Qt Designer: MeasurementForm.ui holds the library's widgets, and uic makes the class
+// Ui::MeasurementForm from it. To change the form, open it with Designer; the installed plugin shows it the widgets.
+
+#include "ui_MeasurementForm.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    //! [form]
+    QWidget window;
+    Ui::MeasurementForm form;
+    form.setupUi(&window);
+
+    // The widgets have the names that they were given in Designer.
+    QObject::connect(form.start, &QAbstractButton::clicked, &window, [&] {
+        QMessageBox::information(&window, "Measurement",
+            QString("%1 samples at %2 A").arg(form.samples->value()).arg(form.current->value()));
+    });
+    //! [form]
+    window.show();
+    return QApplication::exec();
+}

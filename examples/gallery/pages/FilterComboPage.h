@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Page.h"
+
+#include <QPointer>
+
+class QHBoxLayout;
+class QPushButton;
+class QStringListModel;
+class QTableWidget;
+
+namespace morvane::ui {
+class ComboBoxAutoFilter;
+}
+
+namespace gallery {
+
+/** Thousands of real file names behind one combo box that filters: as a field, and as the editor of a table's cells. */
+class FilterComboPage : public Page
+{
+    Q_OBJECT
+
+public:
+    FilterComboPage();
+
+    std::vector<TourStep> tourSteps(const TourWorkspace& workspace) override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void addField();
+    void prepareTable();
+
+    QStringListModel* m_names;
+    QHBoxLayout* m_fieldRow;
+    QPushButton* m_again;
+    QTableWidget* m_table;
+    QPointer<morvane::ui::ComboBoxAutoFilter> m_field;
+};
+
+} // namespace gallery

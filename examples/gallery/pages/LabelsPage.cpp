@@ -1,0 +1,68 @@
+#include "pages/LabelsPage.h"
+
+#include "ui/qt/controls/CorrectFontCommandLinkButton.h"
+#include "ui/qt/controls/ElidedTextLabel.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace gallery {
+
+LabelsPage::LabelsPage()
+    : Page(QStringLiteral("labels"), tr("Labels and links"),
+          tr("Drag the handle: the label cuts its path at the start, and only then the whole of it is the tool tip. "
+             "The button below has too little room, and keeps its size.")),
+      m_path(new QLineEdit(QDir::toNativeSeparators(QCoreApplication::applicationFilePath()))),
+      m_label(new ElidedTextLabel),
+      m_splitter(new QSplitter(Qt::Horizontal)),
+      m_button(new morvane::ui::CorrectFontCommandLinkButton)
+{
+    auto* const form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->addRow(tr("&Path:"), m_path);
+    form->addRow(tr("Elided:"), makePathRow());
+    form->addRow(tr("Too narrow:"), makeButtonRow());
+    body().addLayout(form);
+    body().addStretch(1);
+
+    connect(m_path, &QLineEdit::textChanged, m_label, &ElidedTextLabel::setText);
+    connect(m_label, &ElidedTextLabel::clicked, this, [this] { Q_EMIT reported(tr("The label was clicked.")); });
+    connect(m_button, &QAbstractButton::clicked, this, [this] { Q_EMIT reported(tr("The button was clicked.")); });
+}
+
+QWidget* LabelsPage::makePathRow()
+{
+    m_label->setText(m_path->text());
+    m_label->setAccessibleName(tr("Elided path"));
+    m_label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    m_label->setLineWidth(1);
+    auto* const rest = new QLabel(tr("Drag the handle."));
+    rest->setAlignment(Qt::AlignCenter);
+    rest->setMinimumWidth(1);
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->addWidget(m_label);
+    m_splitter->addWidget(rest);
+    return m_splitter;
+}
+
+QWidget* LabelsPage::makeButtonRow()
+{
+    m_button->setText(tr("Start the measurement"));
+    m_button->setDescription(tr("Every channel is zeroed, and the run starts as soon as the temperature is stable."));
+    auto* const area = new QScrollArea;
+    area->setWidgetResizable(true);
+    auto* const inside = new QWidget;
+    (new QVBoxLayout(inside))->addWidget(m_button);
+    area->setWidget(inside);
+    area->setFixedWidth(160);
+    area->setMinimumHeight(inside->sizeHint().height() + 40);
+    return area;
+}
+
+} // namespace gallery

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Page.h"
+
+class ElidedTextLabel;
+class QLabel;
+class QLineEdit;
+class QSplitter;
+
+namespace morvane::ui {
+class CorrectFontCommandLinkButton;
+}
+
+namespace gallery {
+
+/** A label that keeps the end of a real path visible, and a command-link button that no layout squeezes. */
+class LabelsPage : public Page
+{
+    Q_OBJECT
+
+public:
+    LabelsPage();
+
+    std::vector<TourStep> tourSteps(const TourWorkspace& workspace) override;
+
+private:
+    QWidget* makePathRow();
+    QWidget* makeButtonRow();
+
+    QLineEdit* m_path;
+    ElidedTextLabel* m_label;
+    QSplitter* m_splitter;
+    morvane::ui::CorrectFontCommandLinkButton* m_button;
+};
+
+} // namespace gallery

@@ -1,0 +1,37 @@
+#include "pages/LabelsPage.h"
+#include "tour/TourUser.h"
+#include "tour/TourWorkspace.h"
+#include "ui/qt/controls/CorrectFontCommandLinkButton.h"
+#include "ui/qt/controls/ElidedTextLabel.h"
+
+#include <QLineEdit>
+#include <QSplitter>
+
+namespace gallery {
+
+using tour::expect;
+
+std::vector<TourStep> LabelsPage::tourSteps(const TourWorkspace& workspace)
+{
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("narrow"),
+        [this, &workspace] {
+            tour::type(*m_path, workspace.folder().path(QStringLiteral("archive/of/the/last/campaign/run-001.dat")));
+            m_splitter->setSizes({m_splitter->width() / 2, m_splitter->width() / 2});
+        },
+        [this] { return expect(m_label->toolTip() == m_path->text(), "the cut path is not the tool tip"); }});
+    steps.push_back({QStringLiteral("wide"),
+        [this] {
+            tour::type(*m_path, QStringLiteral("run-001.dat"));
+            m_splitter->setSizes({m_splitter->width() - 50, 50});
+        },
+        [this] { return expect(m_label->toolTip().isEmpty(), "a path that fits has a tool tip"); }});
+    steps.push_back({QStringLiteral("narrow-button"), [this] { tour::click(*m_button); },
+        [this] {
+            const QWidget& button = *m_button;
+            return expect(button.width() >= button.sizeHint().width(), "the button was squeezed");
+        }});
+    return steps;
+}
+
+} // namespace gallery

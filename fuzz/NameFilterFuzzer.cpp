@@ -1,0 +1,21 @@
+// Name filters, against the expressions that define what they mean.
+#include "dialogs/LiteralNameFilter.h"
+#include "support/FuzzInput.h"
+#include "support/Require.h"
+#include "ui/qt/dialogs/NameFilterText.h"
+
+using morvane::fuzz::require;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string filter = morvane::fuzz::FuzzInput(data, size).rest();
+    const FileTypeText split = splitNameFilter(filter);
+    const std::string extension = extensionOfNameFilter(filter);
+    const QStringList filters = splitNameFilters(filter);
+    if (size <= 512) {
+        require(split == morvane::test::splitByExpression(filter), "description and patterns are those of the rule");
+        require(extension == morvane::test::extensionByExpression(filter), "the extension is that of the rule");
+    }
+    require(filters == morvane::test::splitFiltersLiterally(morvane::fuzz::fromUtf8(filter)), "filters split at ;;");
+    return 0;
+}

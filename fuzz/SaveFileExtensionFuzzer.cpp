@@ -1,0 +1,16 @@
+// A file name and a name filter, one a line, against the rule for the extension in its own words.
+#include "dialogs/LiteralExtensionRule.h"
+#include "support/FuzzInput.h"
+#include "support/Require.h"
+#include "ui/qt/dialogs/SaveFileExtension.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    morvane::fuzz::FuzzInput input(data, size);
+    const std::string filename = input.line();
+    const std::string filter = input.rest();
+    morvane::fuzz::require(
+        applyFilterExtension(filename, filter) == morvane::test::applyExtensionByExpressions(filename, filter),
+        "the name is that of the rule");
+    return 0;
+}

@@ -1,0 +1,2 @@
+include(${CMAKE_CURRENT_LIST_DIR}/CTKTargets.cmake)
+get_filename_component(CTK_INCLUDE_DIRS ${CMAKE_CURRENT_LIST_DIR}/../../../include/ctk-0.1 ABSOLUTE)

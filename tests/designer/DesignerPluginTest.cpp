@@ -1,0 +1,185 @@
+#include "ui/qt/controls/ComboBoxAutoFilter.h"
+#include "ui/qt/controls/CorrectFontCommandLinkButton.h"
+#include "ui/qt/controls/ElidedTextLabel.h"
+#include "ui/qt/controls/IntegralSpinBox.h"
+#include "ui/qt/controls/QScientificSpinBox.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QIcon>
+#include <QLineEdit>
+#include <QPluginLoader>
+#include <QTest>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <QUiLoader>
+
+#include <memory>
+
+namespace {
+
+using morvane::ui::ComboBoxAutoFilter;
+using morvane::ui::CorrectFontCommandLinkButton;
+using morvane::ui::IntegralSpinBox;
+using morvane::ui::QScientificSpinBox;
+
+QString pluginFile()
+{
+    return QStringLiteral(DESIGNER_PLUGIN);
+}
+
+std::unique_ptr<QWidget> load(QIODevice& form)
+{
+    QUiLoader loader;
+    loader.clearPluginPaths();
+    loader.addPluginPath(QFileInfo(pluginFile()).path());
+    std::unique_ptr<QWidget> window(loader.load(&form));
+    EXPECT_TRUE(window) << loader.errorString().toStdString();
+    return window;
+}
+
+class LoadedForm : public ::testing::Test
+{
+protected:
+    LoadedForm()
+    {
+        QFile file(QStringLiteral(DESIGNER_FORM));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        window = load(file);
+    }
+
+    // By the C++ type: the command link has no meta-object of its own.
+    template <typename Widget>
+    Widget* find(const char* name)
+    {
+        auto* const widget = dynamic_cast<Widget*>(window->findChild<QWidget*>(QLatin1String(name)));
+        EXPECT_TRUE(widget) << name << " is missing or of another type";
+        return widget;
+    }
+
+    std::unique_ptr<QWidget> window;
+};
+
+TEST_F(LoadedForm, hasAComboBoxThatFiltersItsEntries)
+{
+    auto* const box = find<ComboBoxAutoFilter>("substance");
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->count(), 3);
+    EXPECT_TRUE(box->isFiltering());
+    ASSERT_TRUE(box->completer());
+    box->completer()->setCompletionPrefix("ene");
+    EXPECT_EQ(box->completer()->completionCount(), 1);
+    EXPECT_EQ(box->completer()->currentCompletion(), "Benzene");
+}
+
+TEST_F(LoadedForm, hasAScientificSpinBoxWithNumbersThatDoublesInFormsCannotHold)
+{
+    auto* const current = find<QScientificSpinBox>("current");
+    ASSERT_TRUE(current);
+    EXPECT_EQ(current->minimum(), 1e-18);
+    EXPECT_EQ(current->maximum(), 1e-6);
+    EXPECT_EQ(current->value(), 2.5e-15);
+    EXPECT_EQ(current->decimals(), 4);
+    EXPECT_EQ(current->text(), "2.5E-15 A");
+}
+
+TEST_F(LoadedForm, hasAnIntegerSpinBoxWhoseStepsCanBeTaken)
+{
+    auto* const samples = find<IntegralSpinBox>("samples");
+    ASSERT_TRUE(samples);
+    EXPECT_EQ(samples->minimum(), 1);
+    EXPECT_EQ(samples->maximum(), 65536);
+    int steps = 0;
+    samples->signalIncrement.connect([&steps] { ++steps; });
+    QTest::keyClick(samples, Qt::Key_Up);
+    EXPECT_EQ(steps, 1);
+    EXPECT_EQ(samples->value(), 1024);
+}
+
+TEST_F(LoadedForm, hasALabelThatElidesAtTheStart)
+{
+    auto* const file = find<ElidedTextLabel>("file");
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->text(), "/projects/turbine/measurements/2026-03-12/run-17.dat");
+    EXPECT_EQ(file->elideMode(), Qt::ElideLeft);
+}
+
+TEST_F(LoadedForm, hasACommandLinkThatKeepsItsSize)
+{
+    auto* const start = find<CorrectFontCommandLinkButton>("start");
+    ASSERT_TRUE(start);
+    EXPECT_EQ(start->text(), "S&tart");
+    EXPECT_EQ(start->description(), "Measures with these settings.");
+    EXPECT_EQ(start->minimumSizeHint(), static_cast<QWidget*>(start)->sizeHint());
+}
+
+std::string lastPart(const ::testing::TestParamInfo<int>& info)
+{
+    static const char* const names[] = {
+        "comboBox", "scientificSpinBox", "integralSpinBox", "elidedLabel", "commandLink"};
+    return names[info.param];
+}
+
+class EachWidget : public ::testing::TestWithParam<int>
+{
+protected:
+    EachWidget()
+    {
+        auto* const collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
+        EXPECT_TRUE(collection) << plugin.errorString().toStdString();
+        if (collection) {
+            EXPECT_EQ(collection->customWidgets().size(), 5);
+            entry = collection->customWidgets().value(GetParam());
+        }
+    }
+
+    QPluginLoader plugin{pluginFile()};
+    QDesignerCustomWidgetInterface* entry = nullptr;
+};
+
+TEST_P(EachWidget, isDescribedForTheWidgetBox)
+{
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(entry->group(), "Morvane");
+    EXPECT_FALSE(entry->toolTip().isEmpty());
+    EXPECT_FALSE(entry->whatsThis().isEmpty());
+    EXPECT_FALSE(entry->isContainer());
+    EXPECT_TRUE(entry->includeFile().endsWith('/' + entry->name().section("::", -1) + ".h"));
+    EXPECT_FALSE(entry->icon().pixmap(24, 24).isNull());
+}
+
+// What dropping it on a form does.
+TEST_P(EachWidget, comesOutOfItsOwnDescriptionWithASizeThatShowsItWhole)
+{
+    ASSERT_TRUE(entry);
+    const QByteArray description = entry->domXml().toUtf8();
+    QBuffer form;
+    form.setData(description);
+    ASSERT_TRUE(form.open(QIODevice::ReadOnly));
+    const std::unique_ptr<QWidget> widget = load(form);
+    ASSERT_TRUE(widget);
+    EXPECT_FALSE(widget->objectName().isEmpty());
+    EXPECT_GE(widget->width(), widget->minimumSizeHint().width());
+    EXPECT_GE(widget->height(), widget->minimumSizeHint().height());
+}
+
+TEST_P(EachWidget, isMadeWithTheParentThatIsGiven)
+{
+    ASSERT_TRUE(entry);
+    QWidget form;
+    EXPECT_EQ(entry->createWidget(&form)->parentWidget(), &form);
+}
+
+// Designer writes the class name of the meta-object into the form.
+TEST_P(EachWidget, hasAMetaObjectOfItsOwnName)
+{
+    ASSERT_TRUE(entry);
+    QWidget form;
+    EXPECT_EQ(QLatin1String(entry->createWidget(&form)->metaObject()->className()), entry->name());
+}
+
+INSTANTIATE_TEST_SUITE_P(Plugin, EachWidget, ::testing::Range(0, 5), lastPart);
+
+} // namespace

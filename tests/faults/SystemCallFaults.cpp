@@ -1,0 +1,154 @@
+#include "faults/SystemCallFaults.h"
+
+#include <cerrno>
+#include <cstdarg>
+#include <cstddef>
+#include <cstdio>
+
+#include <dlfcn.h>
+#include <sys/types.h>
+
+namespace morvane::test {
+
+namespace {
+
+constexpr int mostCalls = 200;
+
+struct Plan
+{
+    bool active = false;
+    int failing = 0;
+    int error = 0;
+    int count = 0;
+    const char* names[mostCalls] = {};
+};
+
+// Per thread: what other threads do with files meanwhile is none of the test's business.
+thread_local Plan plan;
+
+/** Whether this call is the one that fails; sets errno then. */
+bool fails(const char* name)
+{
+    if (!plan.active || plan.count == mostCalls) {
+        return false;
+    }
+    plan.names[plan.count++] = name;
+    if (plan.count != plan.failing) {
+        return false;
+    }
+    errno = plan.error;
+    return true;
+}
+
+template <typename Function>
+Function* original(Function*, const char* name)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+SystemCallFaults::SystemCallFaults(int failing, int error)
+{
+    plan = Plan{true, failing, error};
+}
+
+SystemCallFaults::~SystemCallFaults()
+{
+    plan.active = false;
+}
+
+std::vector<std::string> SystemCallFaults::calls()
+{
+    return std::vector<std::string>(plan.names, plan.names + plan.count);
+}
+
+} // namespace morvane::test
+
+using morvane::test::fails;
+using morvane::test::original;
+
+// Declared here and not by the headers of the system, which give some of them other names.
+extern "C" {
+
+MORVANE_TEST_EXPORT int stat64(const char* path, void* status);
+MORVANE_TEST_EXPORT int lstat64(const char* path, void* status);
+MORVANE_TEST_EXPORT int fstat64(int file, void* status);
+MORVANE_TEST_EXPORT int open64(const char* path, int flags, ...);
+MORVANE_TEST_EXPORT int unlink(const char* path);
+MORVANE_TEST_EXPORT int rmdir(const char* path);
+MORVANE_TEST_EXPORT ssize_t readlink(const char* path, char* buffer, std::size_t size);
+MORVANE_TEST_EXPORT ssize_t getrandom(void* buffer, std::size_t size, unsigned flags);
+
+MORVANE_TEST_EXPORT std::FILE* fopen(const char* path, const char* mode)
+{
+    static auto* const next = original(&fopen, "fopen");
+    return fails("fopen") ? nullptr : next(path, mode);
+}
+
+MORVANE_TEST_EXPORT int fclose(std::FILE* file)
+{
+    static auto* const next = original(&fclose, "fclose");
+    const bool failing = fails("fclose");
+    const int error = errno;
+    const int result = next(file);
+    if (failing) {
+        errno = error;
+        return EOF;
+    }
+    return result;
+}
+
+int stat64(const char* path, void* status)
+{
+    static auto* const next = original(&stat64, "stat64");
+    return fails("stat") ? -1 : next(path, status);
+}
+
+int lstat64(const char* path, void* status)
+{
+    static auto* const next = original(&lstat64, "lstat64");
+    return fails("lstat") ? -1 : next(path, status);
+}
+
+int fstat64(int file, void* status)
+{
+    static auto* const next = original(&fstat64, "fstat64");
+    return fails("fstat") ? -1 : next(file, status);
+}
+
+int open64(const char* path, int flags, ...)
+{
+    static auto* const next = original(&open64, "open64");
+    va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = va_arg(arguments, unsigned);
+    va_end(arguments);
+    return fails("open") ? -1 : next(path, flags, mode);
+}
+
+int unlink(const char* path)
+{
+    static auto* const next = original(&unlink, "unlink");
+    return fails("unlink") ? -1 : next(path);
+}
+
+int rmdir(const char* path)
+{
+    static auto* const next = original(&rmdir, "rmdir");
+    return fails("rmdir") ? -1 : next(path);
+}
+
+ssize_t readlink(const char* path, char* buffer, std::size_t size)
+{
+    static auto* const next = original(&readlink, "readlink");
+    return fails("readlink") ? -1 : next(path, buffer, size);
+}
+
+ssize_t getrandom(void* buffer, std::size_t size, unsigned flags)
+{
+    static auto* const next = original(&getrandom, "getrandom");
+    return fails("getrandom") ? -1 : next(buffer, size, flags);
+}
+
+} // extern "C"

@@ -1,0 +1,99 @@
+// The controls of the host among those of the dialog.
+#include "WidgetShellRunTest.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QMenu>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolButton>
+
+namespace morvane::test {
+
+namespace {
+
+using namespace morvane::ui;
+
+TEST_F(WidgetShellRun, controlsAppearAndFollowTheirState)
+{
+    customize->AddPushButton(1, text("First").c_str());
+    customize->AddPushButton(2, text("Second").c_str());
+    customize->AddCheckButton(3, text("Third").c_str(), TRUE);
+    customize->SetControlState(2, CDCS_ENABLED);
+    show([&](QFileDialog& window) {
+        WidgetUser user(window);
+        EXPECT_TRUE(user.control(QStringLiteral("First")));
+        EXPECT_FALSE(user.control(QStringLiteral("Second")));
+        EXPECT_TRUE(user.control(QStringLiteral("Third"))->isChecked());
+        customize->SetControlState(1, CDCS_VISIBLE);
+        EXPECT_FALSE(user.control(QStringLiteral("First"))->isEnabled());
+        customize->SetControlState(2, CDCS_ENABLEDVISIBLE);
+        EXPECT_TRUE(user.control(QStringLiteral("Second"))->isEnabled());
+        customize->SetCheckButtonState(3, FALSE);
+        EXPECT_FALSE(user.control(QStringLiteral("Third"))->isChecked());
+        customize->AddPushButton(4, text("Late").c_str());
+        EXPECT_TRUE(user.control(QStringLiteral("Late")));
+        customize->SetControlLabel(4, text("Later").c_str());
+        EXPECT_TRUE(user.control(QStringLiteral("Later")));
+        window.reject();
+    });
+}
+
+TEST_F(WidgetShellRun, theProminentButtonStandsWithTheDialogsOwn)
+{
+    customize->AddPushButton(1, text("Plain").c_str());
+    customize->AddPushButton(2, text("Help").c_str());
+    ASSERT_EQ(customize->MakeProminent(2), S_OK);
+    show([](QFileDialog& window) {
+        auto* const box = window.findChild<QDialogButtonBox*>();
+        WidgetUser user(window);
+        EXPECT_TRUE(box->isAncestorOf(user.control(QStringLiteral("Help"))));
+        EXPECT_FALSE(box->isAncestorOf(user.control(QStringLiteral("Plain"))));
+        window.reject();
+    });
+}
+
+TEST_F(WidgetShellRun, theArrowOfTheAcceptButtonIsThereWhileThereIsAnItem)
+{
+    customize->EnableOpenDropDown(0);
+    show([&](QFileDialog& window) {
+        auto* const arrow = WidgetUser(window).acceptButton()->findChild<QToolButton*>();
+        ASSERT_TRUE(arrow);
+        EXPECT_FALSE(arrow->isVisible());
+        customize->AddControlItem(0, 1, text("Open as copy").c_str());
+        EXPECT_TRUE(arrow->isVisible());
+        customize->RemoveControlItem(0, 1);
+        EXPECT_FALSE(arrow->isVisible());
+        window.reject();
+    });
+}
+
+TEST_F(WidgetShellRun, otherKindsOfControlsAreNotImplemented)
+{
+    EXPECT_EQ(customize->AddMenu(1, text("x").c_str()), E_NOTIMPL);
+    EXPECT_EQ(customize->AddComboBox(1), E_NOTIMPL);
+    EXPECT_EQ(customize->AddRadioButtonList(1), E_NOTIMPL);
+    EXPECT_EQ(customize->AddEditBox(1, text("x").c_str()), E_NOTIMPL);
+    EXPECT_EQ(customize->AddSeparator(1), E_NOTIMPL);
+    EXPECT_EQ(customize->AddText(1, text("x").c_str()), E_NOTIMPL);
+    EXPECT_EQ(customize->StartVisualGroup(1, text("x").c_str()), E_NOTIMPL);
+    EXPECT_EQ(customize->EndVisualGroup(), E_NOTIMPL);
+}
+
+TEST_F(WidgetShellRun, closingTheDialogAsItsMenuOpensLeavesNoMenu)
+{
+    customize->EnableOpenDropDown(0);
+    customize->AddControlItem(0, 1, text("Open as copy").c_str());
+    dialog->SetFileName(text("a.txt").c_str());
+    sink.on["OnControlActivating"] = [&] { return dialog->Close(E_ABORT); };
+    const HRESULT hr = show([](QFileDialog& window) {
+        QTest::mouseClick(WidgetUser(window).acceptButton()->findChild<QToolButton*>(), Qt::LeftButton);
+    });
+    EXPECT_EQ(hr, E_ABORT);
+    EXPECT_EQ(sink.count("OnControlActivating 0"), 1);
+    EXPECT_FALSE(QApplication::activePopupWidget());
+}
+
+} // namespace
+
+} // namespace morvane::test

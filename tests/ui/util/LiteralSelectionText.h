@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QAbstractItemModel>
+#include <QString>
+
+#include <algorithm>
+
+namespace morvane::test {
+
+/** The text by the plainest means: all selected indexes, sorted, each compared with the one before. */
+inline QString textOfSortedIndexes(QModelIndexList indexes, const QAbstractItemModel& model)
+{
+    std::sort(indexes.begin(), indexes.end());
+    QString text;
+    QModelIndex previous;
+    for (const QModelIndex& index : indexes) {
+        const QString cell = model.data(index, Qt::DisplayRole).toString();
+        if (!previous.isValid()) {
+            text.append(cell);
+        } else if (index.row() != previous.row()) {
+            text.append(QLatin1Char('\n')).append(cell);
+        } else {
+            text.append(QLatin1Char('\t')).append(cell);
+        }
+        previous = index;
+    }
+    return text;
+}
+
+} // namespace morvane::test

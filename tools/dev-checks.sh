@@ -1,0 +1,94 @@
+# Commands of ./dev that look at the code from outside: coverage, tidy, ubsan, valgrind, soak, mutate. Sourced by ./dev,
+# whose functions and lists of packages they use.
+
+cmd_coverage() {
+    # shellcheck disable=SC2086
+    need $build_packages $run_packages $test_packages gcovr
+    build coverage
+    find build/coverage -name '*.gcda' -delete
+    run_tests coverage "$@"
+    step 'counting; lines of build/coverage/report say what was not reached'
+    coverage_report
+}
+
+# Branches that only an exception takes are left out: the compiler makes one for nearly every call.
+coverage_report() {
+    gcovr --root . --object-directory build/coverage --filter common/src/ --exclude-throw-branches \
+        --exclude-unreachable-branches --txt build/coverage/report --json build/coverage/report.json --print-summary \
+        --fail-under-line 95 --fail-under-branch 85 build/coverage
+}
+
+cmd_tidy() {
+    # shellcheck disable=SC2086
+    need $build_packages $run_packages $test_packages $tidy_packages
+    build dev
+    step 'who includes whom'
+    sh tests/checks/layers.sh
+    tidy_clang "$@"
+    tidy_cppcheck
+}
+
+tidy_sources() { git ls-files 'common/src/*.cpp' | grep -v 'WindowsShell'; }
+
+tidy_clang() {
+    step 'clang-tidy'
+    if [ $# -gt 0 ]; then printf '%s\n' "$@"; else tidy_sources; fi |
+        xargs -n 1 -P "$(nproc)" clang-tidy --quiet -p build/dev
+}
+
+tidy_cppcheck() {
+    step 'cppcheck'
+    cppcheck --quiet --error-exitcode=1 --enable=warning,style,performance,portability --inline-suppr --library=qt \
+        --std=c++17 --suppressions-list=tools/cppcheck-suppressions.txt -j "$(nproc)" \
+        -I common/src -I build/dev/generated common/src
+}
+
+cmd_ubsan() {
+    # shellcheck disable=SC2086
+    need $build_packages $run_packages $test_packages $fuzz_packages
+    build ubsan
+    run_tests ubsan "$@"
+}
+
+# The programs that use no widgets: with them, what memcheck would say is about Qt and its fonts.
+valgrind_programs='test_host test_property test_namefiltertext test_savefileextension test_spinbox_numbers
+    test_writeaccessprobe shell-text-test'
+
+cmd_valgrind() {
+    # shellcheck disable=SC2086
+    need $build_packages $run_packages $test_packages valgrind
+    [ $# -gt 0 ] || set -- $valgrind_programs
+    build dev "$@"
+    for program in "$@"; do
+        step "memcheck of $program"
+        QT_QPA_PLATFORM=offscreen valgrind --quiet --error-exitcode=9 --leak-check=full --show-leak-kinds=definite \
+            --errors-for-leak-kinds=definite --suppressions=tools/valgrind.supp \
+            "build/dev/bin/$program" --gtest_brief=1 --gtest_filter="$(valgrind_filter "$program")"
+    done
+}
+
+# Cases that measure time or memory, or need a whole machine's speed, say nothing under memcheck.
+valgrind_filter() {
+    case $1 in
+    test_host) echo '-*Process*:*InOneProcess*:*Processes*' ;;
+    test_spinbox_numbers) echo '-*andom*:*Time*:*ast*:*very*' ;;
+    test_namefiltertext) echo '-*veryShortText*:*andomTexts*' ;;
+    test_savefileextension) echo '-*andomTexts*' ;;
+    *) echo '*' ;;
+    esac
+}
+
+cmd_soak() {
+    # shellcheck disable=SC2086
+    need $build_packages $run_packages $test_packages xvfb xauth
+    build dev morvane-soak
+    step 'opening and closing every dialog and widget on an X server of its own'
+    xvfb-run -a build/dev/bin/morvane-soak "$@"
+}
+
+cmd_mutate() {
+    # shellcheck disable=SC2086
+    need $build_packages $run_packages $test_packages python3
+    step 'changing the sources one place at a time, in a copy'
+    python3 tests/mutation/mutate.py "$@"
+}
