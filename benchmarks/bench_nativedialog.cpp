@@ -1,8 +1,8 @@
 // What the native dialog adds to the Shell's own time: reading name filters, and telling the Shell about them.
 
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingShell.h"
 #include "support/Ratio.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingShell.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 #include "ui/qt/dialogs/NameFilterText.h"
 #include "ui/qt/dialogs/shell/ShellText.h"

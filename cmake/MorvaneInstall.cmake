@@ -6,6 +6,11 @@ install(TARGETS morvane-host morvane-property morvane-ui EXPORT MorvaneTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
 install(EXPORT MorvaneTargets NAMESPACE Morvane:: DESTINATION ${package_dir} COMPONENT Development)
+if(MORVANE_BUILD_TESTING_LIBRARY)
+    install(TARGETS morvane-testing EXPORT MorvaneTestingTargets
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Testing)
+    install(EXPORT MorvaneTestingTargets NAMESPACE Morvane:: DESTINATION ${package_dir} COMPONENT Testing)
+endif()
 
 get_property(uses_qxt GLOBAL PROPERTY MORVANE_USES_QXT)
 set(MORVANE_PACKAGE_NEEDS_QXT FALSE)
@@ -19,7 +24,10 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/MorvaneConfigVersion.cmak
 install(FILES ${PROJECT_BINARY_DIR}/MorvaneConfig.cmake ${PROJECT_BINARY_DIR}/MorvaneConfigVersion.cmake
         DESTINATION ${package_dir} COMPONENT Development)
 
+include(MorvanePkgConfig)
 include(MorvaneSbom)
 if(PROJECT_IS_TOP_LEVEL AND WIN32)
     include(MorvaneWindowsPackage)
+elseif(PROJECT_IS_TOP_LEVEL)
+    include(MorvanePackages)
 endif()

@@ -2,6 +2,7 @@
 option(MORVANE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(MORVANE_BUILD_EXAMPLES "Build the gallery and the examples" ${PROJECT_IS_TOP_LEVEL})
 option(MORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(MORVANE_BUILD_TESTING_LIBRARY "Build Morvane::Testing, for the tests of hosts" ${PROJECT_IS_TOP_LEVEL})
 set(designer_default OFF)
 if(PROJECT_IS_TOP_LEVEL)
     set(designer_default AUTO)
@@ -19,6 +20,11 @@ set(MORVANE_HOST_LIBRARY "" CACHE STRING
 set(MORVANE_WITH_CTK AUTO CACHE STRING "ctkCompleter from CTK: AUTO (where found), ON (required) or OFF (the stand-in)")
 set(MORVANE_WITH_QXT AUTO CACHE STRING "QxtLabel from Qxt: AUTO (where found), ON (required) or OFF (the stand-in)")
 set_property(CACHE MORVANE_BUILD_DESIGNER MORVANE_WITH_CTK MORVANE_WITH_QXT PROPERTY STRINGS AUTO ON OFF)
+
+# They are written with it.
+if(MORVANE_BUILD_TESTS OR MORVANE_BUILD_EXAMPLES OR MORVANE_BUILD_BENCHMARKS OR MORVANE_BUILD_FUZZERS)
+    set(MORVANE_BUILD_TESTING_LIBRARY ON)
+endif()
 
 include(GNUInstallDirs)
 

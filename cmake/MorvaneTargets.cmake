@@ -60,8 +60,10 @@ function(morvane_library)
     add_library(${arg_NAME} SHARED ${arg_SOURCES} ${header_files})
     add_library(Morvane::${arg_EXPORT_NAME} ALIAS ${arg_NAME})
     morvane_own_code(${arg_NAME})
+    # The libraries find each other wherever they were installed or unpacked to.
     set_target_properties(${arg_NAME} PROPERTIES
-        EXPORT_NAME ${arg_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+        EXPORT_NAME ${arg_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+        INSTALL_RPATH "$ORIGIN")
 
     set(generated ${PROJECT_BINARY_DIR}/generated)
     generate_export_header(${arg_NAME}
@@ -73,24 +75,30 @@ function(morvane_library)
     morvane_install_headers(BASE ${generated} ${arg_EXPORT_HEADER})
 endfunction()
 
+# morvane_public_headers(TARGET header... [COMPONENT name])
 # Notes headers, relative to the include root, as public ones of TARGET: they are installed, and tested on their own.
 function(morvane_public_headers target)
-    set_property(TARGET ${target} APPEND PROPERTY MORVANE_PUBLIC_HEADERS ${ARGN})
+    cmake_parse_arguments(arg "" "COMPONENT" "" ${ARGN})
+    set_property(TARGET ${target} APPEND PROPERTY MORVANE_PUBLIC_HEADERS ${arg_UNPARSED_ARGUMENTS})
     morvane_install_headers(${ARGN})
 endfunction()
 
-# Installs headers under include/morvane, keeping their paths below BASE (the include root unless given).
+# Installs headers under include/morvane, keeping their paths below BASE (the include root unless given), with COMPONENT
+# (Development unless given).
 function(morvane_install_headers)
     if(NOT MORVANE_INSTALL)
         return()
     endif()
-    cmake_parse_arguments(arg "" "BASE" "" ${ARGN})
+    cmake_parse_arguments(arg "" "BASE;COMPONENT" "" ${ARGN})
+    if(NOT arg_COMPONENT)
+        set(arg_COMPONENT Development)
+    endif()
     if(NOT arg_BASE)
         set(arg_BASE ${PROJECT_SOURCE_DIR}/common/src)
     endif()
     foreach(header IN LISTS arg_UNPARSED_ARGUMENTS)
         cmake_path(GET header PARENT_PATH directory)
         install(FILES ${arg_BASE}/${header}
-                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/morvane/${directory} COMPONENT Development)
+                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/morvane/${directory} COMPONENT ${arg_COMPONENT})
     endforeach()
 endfunction()

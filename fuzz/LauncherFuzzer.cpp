@@ -1,10 +1,10 @@
 // The launcher on the native dialog, played by a Shell without windows: hostile captions, filters and selections from
 // the host, and hostile names, types and folders from the user.
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingShell.h"
 #include "support/FuzzInput.h"
 #include "support/QuietApplication.h"
 #include "support/Require.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingShell.h"
 #include "ui/qt/dialogs/LaunchFileDialog.h"
 
 #include <algorithm>

@@ -10,13 +10,13 @@ if(TOOLCHAIN)
     list(APPEND options -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN} -DMORVANE_WINDOWS_SDK=${WINDOWS_SDK})
 endif()
 
-if(KIND STREQUAL find_package OR KIND STREQUAL examples)
+if(KIND MATCHES "^(find_package|testing|pkg_config|examples)$")
     run(${CMAKE_COMMAND} --install ${MORVANE_BINARY_DIR} --prefix ${WORK_DIR}/first)
     # A package that can be moved holds no path of the place it was installed to.
     file(RENAME ${WORK_DIR}/first ${WORK_DIR}/prefix)
     list(APPEND options -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix)
 endif()
-if(NOT KIND STREQUAL find_package)
+if(KIND MATCHES "^(add_subdirectory|own_host|examples)$")
     list(APPEND options -DMORVANE_SOURCE_DIR=${MORVANE_SOURCE_DIR})
 endif()
 

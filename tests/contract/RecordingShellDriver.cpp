@@ -1,6 +1,6 @@
 #include "contract/ShellDriver.h"
 
-#include "fakes/RecordingDialog.h"
+#include "testing/RecordingDialog.h"
 
 #include <QDir>
 

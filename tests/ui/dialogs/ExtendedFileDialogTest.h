@@ -1,12 +1,12 @@
 #pragma once
 
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingShell.h"
 #include "support/FileDialogPage.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"
 #include "support/RecordingHelpLauncher.h"
 #include "support/RecordingSettings.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingShell.h"
 
 #include "host/InstanceOverride.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"

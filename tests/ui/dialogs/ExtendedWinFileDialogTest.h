@@ -1,9 +1,10 @@
 #pragma once
 
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingShell.h"
 #include "support/QtPrinters.h"
 #include "support/RecordingHelpLauncher.h"
+#include "testing/RecordingControls.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingShell.h"
 
 #include "host/InstanceOverride.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"

@@ -1,6 +1,6 @@
 // What the launcher hands to the native dialog, call by call.
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingShell.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingShell.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/LaunchFileDialog.h"
 

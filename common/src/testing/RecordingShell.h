@@ -39,7 +39,21 @@ struct ShellScript
 };
 
 /**
- * A Shell without any window that writes down each call, in order, and answers as scripted.
+ * A Shell without any window that writes down each call, in order, and answers as scripted: for tests of code that
+ * opens the native file dialog (ExtendedWinFileDialog, ExtendedFileDialog with the native switch on, LaunchFileDialog,
+ * SaveFileWinDialog).
+ *
+ * @code
+ * RecordingShell shell;
+ * const ui::ShellOverride guard(shell);
+ * shell.script.duringShow = [](RecordingDialog& dialog) {
+ *     dialog.userTypesName("report.txt");
+ *     dialog.userAccepts();
+ * };
+ * // ... call what opens the dialog, and look at what it did with the name
+ * @endcode
+ *
+ * GUI thread only, and a QApplication must be there, as for the dialogs themselves.
  *
  * Calls are written as `Interface::Method(arguments)`, for instance `IFileDialog::SetTitle("Open")`, and numbered from
  * 1. QueryInterface is recorded; AddRef and Release are not. Any call can be made to fail, by its number or its name;
@@ -85,7 +99,7 @@ public:
     HRESULT createItemFromParsingName(PCWSTR path, IBindCtx* context, REFIID iid, void** object) override;
     HRESULT qiSearch(void* that, const QITAB* table, REFIID iid, void** object) override;
 
-    // For the objects of the shell.
+    // For the shell's own objects, not for tests.
     /** Writes the call down; the failure that it is to return, if any. */
     std::optional<HRESULT> record(const std::string& name, const std::string& arguments);
     HRESULT copyString(const QString& text, LPWSTR* copy);

@@ -1,7 +1,8 @@
-#include "fakes/RecordingControls.h"
+#include "testing/RecordingControls.h"
 
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingItems.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingItems.h"
+#include "ui/qt/dialogs/shell/ShellText.h"
 
 #include <algorithm>
 
@@ -58,7 +59,41 @@ int RecordingControls::state(DWORD control) const
 int RecordingControls::itemState(DWORD control, DWORD item) const
 {
     const auto* const found = const_cast<RecordingControls*>(this)->findItem(control, item);
-    return found ? static_cast<int>(found->second) : -1;
+    return found ? static_cast<int>(found->state) : -1;
+}
+
+bool RecordingControls::isCheckBox(DWORD control) const
+{
+    const auto found = m_controls.find(control);
+    return found != m_controls.end() && found->second.checkButton;
+}
+
+bool RecordingControls::isChecked(DWORD control) const
+{
+    const auto found = m_controls.find(control);
+    return found != m_controls.end() && found->second.checked;
+}
+
+std::optional<DWORD> RecordingControls::idOf(const QString& label) const
+{
+    for (const auto& [id, control] : m_controls) {
+        if (!control.dropDown && control.label == label) {
+            return id;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::pair<DWORD, DWORD>> RecordingControls::itemOf(const QString& label) const
+{
+    for (const auto& [id, control] : m_controls) {
+        for (const Item& item : control.items) {
+            if (item.label == label) {
+                return std::make_pair(id, item.id);
+            }
+        }
+    }
+    return std::nullopt;
 }
 
 std::optional<HRESULT> RecordingControls::record(const char* method, const std::string& arguments)
@@ -92,14 +127,14 @@ RecordingControls::Recorded* RecordingControls::find(DWORD id)
     return found == m_controls.end() ? nullptr : &found->second;
 }
 
-std::pair<DWORD, CDCONTROLSTATEF>* RecordingControls::findItem(DWORD id, DWORD item)
+RecordingControls::Item* RecordingControls::findItem(DWORD id, DWORD item)
 {
     Recorded* const control = find(id);
     if (!control) {
         return nullptr;
     }
     const auto found = std::find_if(
-        control->items.begin(), control->items.end(), [item](const auto& entry) { return entry.first == item; });
+        control->items.begin(), control->items.end(), [item](const Item& entry) { return entry.id == item; });
     return found == control->items.end() ? nullptr : &*found;
 }
 
@@ -118,13 +153,16 @@ HRESULT RecordingControls::EnableOpenDropDown(DWORD control)
 HRESULT RecordingControls::AddPushButton(DWORD control, LPCWSTR label)
 {
     const auto failure = record("AddPushButton", text(control, label));
-    return failure ? *failure : add(control, Recorded());
+    Recorded button;
+    button.label = ui::toQString(label);
+    return failure ? *failure : add(control, button);
 }
 
 HRESULT RecordingControls::AddCheckButton(DWORD control, LPCWSTR label, BOOL checked)
 {
     const auto failure = record("AddCheckButton", text(control, label) + ", " + std::to_string(checked));
     Recorded check;
+    check.label = ui::toQString(label);
     check.checkButton = true;
     check.checked = checked != FALSE;
     return failure ? *failure : add(control, check);
@@ -181,7 +219,7 @@ HRESULT RecordingControls::AddControlItem(DWORD control, DWORD item, LPCWSTR lab
     if (failure || !found || !found->dropDown || findItem(control, item)) {
         return failure.value_or(E_INVALIDARG);
     }
-    found->items.emplace_back(item, CDCS_ENABLEDVISIBLE);
+    found->items.push_back({item, ui::toQString(label), CDCS_ENABLEDVISIBLE});
     return S_OK;
 }
 
@@ -192,8 +230,8 @@ HRESULT RecordingControls::RemoveControlItem(DWORD control, DWORD item)
     if (failure || !findItem(control, item)) {
         return failure.value_or(E_INVALIDARG);
     }
-    found->items.erase(std::find_if(
-        found->items.begin(), found->items.end(), [item](const auto& entry) { return entry.first == item; }));
+    found->items.erase(
+        std::find_if(found->items.begin(), found->items.end(), [item](const Item& entry) { return entry.id == item; }));
     if (found->picked == item) {
         found->picked.reset();
     }
@@ -219,7 +257,7 @@ HRESULT RecordingControls::GetControlItemState(DWORD control, DWORD item, CDCONT
     if (failure || !found) {
         return failure.value_or(E_INVALIDARG);
     }
-    *state = found->second;
+    *state = found->state;
     return S_OK;
 }
 
@@ -231,7 +269,7 @@ HRESULT RecordingControls::SetControlItemState(DWORD control, DWORD item, CDCONT
     if (failure || !found) {
         return failure.value_or(E_INVALIDARG);
     }
-    found->second = state;
+    found->state = state;
     return S_OK;
 }
 
@@ -242,8 +280,8 @@ HRESULT RecordingControls::GetSelectedControlItem(DWORD control, DWORD* item)
     if (failure || !found || !found->dropDown) {
         return failure.value_or(E_INVALIDARG);
     }
-    const auto first = std::find_if(found->items.begin(), found->items.end(),
-        [](const auto& entry) { return entry.second == CDCS_ENABLEDVISIBLE; });
+    const auto first = std::find_if(
+        found->items.begin(), found->items.end(), [](const Item& entry) { return entry.state == CDCS_ENABLEDVISIBLE; });
     if (m_shell.script.selectedItem || found->picked) {
         *item = m_shell.script.selectedItem ? *m_shell.script.selectedItem : *found->picked;
         return S_OK;
@@ -251,7 +289,7 @@ HRESULT RecordingControls::GetSelectedControlItem(DWORD control, DWORD* item)
     if (first == found->items.end()) {
         return E_FAIL;
     }
-    *item = first->first;
+    *item = first->id;
     return S_OK;
 }
 
@@ -274,13 +312,23 @@ HRESULT RecordingControls::MakeProminent(DWORD control)
 HRESULT RecordingControls::SetControlLabel(DWORD control, LPCWSTR label)
 {
     const auto failure = record("SetControlLabel", text(control, label));
-    return failure ? *failure : find(control) ? S_OK : E_INVALIDARG;
+    Recorded* const found = find(control);
+    if (failure || !found) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    found->label = ui::toQString(label);
+    return S_OK;
 }
 
 HRESULT RecordingControls::SetControlItemText(DWORD control, DWORD item, LPCWSTR label)
 {
     const auto failure = record("SetControlItemText", text(control, item) + ", " + quoted(label));
-    return failure ? *failure : findItem(control, item) ? S_OK : E_INVALIDARG;
+    Item* const found = findItem(control, item);
+    if (failure || !found) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    found->label = ui::toQString(label);
+    return S_OK;
 }
 
 HRESULT RecordingControls::AddMenu(DWORD control, LPCWSTR label)

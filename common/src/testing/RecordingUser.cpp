@@ -1,10 +1,21 @@
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingItems.h"
+#include "testing/RecordingControls.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingItems.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace morvane::test {
+
+namespace {
+
+std::optional<DWORD> usableControl(const RecordingControls& controls, const QString& label)
+{
+    const auto control = controls.idOf(label);
+    return control && controls.state(*control) == CDCS_ENABLEDVISIBLE ? control : std::nullopt;
+}
+
+} // namespace
 
 HRESULT RecordingDialog::fire(const std::function<HRESULT(IFileDialogEvents&)>& call)
 {
@@ -101,22 +112,52 @@ void RecordingDialog::userSelects(const QString& path)
     fire([this](IFileDialogEvents& sink) { return sink.OnSelectionChange(this); });
 }
 
+bool RecordingDialog::userClicks(const QString& label)
+{
+    const auto control = usableControl(*m_controls, label);
+    if (!control || m_controls->isCheckBox(*control)) {
+        return false;
+    }
+    userClicks(*control);
+    return true;
+}
+
+bool RecordingDialog::userToggles(const QString& label)
+{
+    const auto control = usableControl(*m_controls, label);
+    if (!control || !m_controls->isCheckBox(*control)) {
+        return false;
+    }
+    userToggles(*control);
+    return true;
+}
+
+bool RecordingDialog::userPicksItem(const QString& label)
+{
+    const auto found = m_controls->itemOf(label);
+    if (!found || m_controls->itemState(found->first, found->second) != CDCS_ENABLEDVISIBLE) {
+        return false;
+    }
+    userPicksItem(found->first, found->second);
+    return true;
+}
+
 void RecordingDialog::userClicks(DWORD control)
 {
-    fireControls([&](IFileDialogControlEvents& sink) { return sink.OnButtonClicked(&m_controls, control); });
+    fireControls([&](IFileDialogControlEvents& sink) { return sink.OnButtonClicked(m_controls.get(), control); });
 }
 
 void RecordingDialog::userToggles(DWORD control)
 {
-    const BOOL checked = m_controls.toggle(control) ? TRUE : FALSE;
+    const BOOL checked = m_controls->toggle(control) ? TRUE : FALSE;
     fireControls(
-        [&](IFileDialogControlEvents& sink) { return sink.OnCheckButtonToggled(&m_controls, control, checked); });
+        [&](IFileDialogControlEvents& sink) { return sink.OnCheckButtonToggled(m_controls.get(), control, checked); });
 }
 
 void RecordingDialog::userPicksItem(DWORD control, DWORD item)
 {
-    m_controls.pick(control, item);
-    fireControls([&](IFileDialogControlEvents& sink) { return sink.OnItemSelected(&m_controls, control, item); });
+    m_controls->pick(control, item);
+    fireControls([&](IFileDialogControlEvents& sink) { return sink.OnItemSelected(m_controls.get(), control, item); });
     userAccepts();
 }
 

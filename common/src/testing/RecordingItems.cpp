@@ -1,4 +1,4 @@
-#include "fakes/RecordingItems.h"
+#include "testing/RecordingItems.h"
 
 #include "ui/qt/dialogs/shell/ShellText.h"
 

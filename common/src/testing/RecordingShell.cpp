@@ -1,7 +1,7 @@
-#include "fakes/RecordingShell.h"
+#include "testing/RecordingShell.h"
 
-#include "fakes/RecordingDialog.h"
-#include "fakes/RecordingItems.h"
+#include "testing/RecordingDialog.h"
+#include "testing/RecordingItems.h"
 #include "ui/qt/dialogs/shell/ShellText.h"
 
 #include <QDir>

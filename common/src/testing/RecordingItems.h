@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fakes/RecordingShell.h"
+#include "testing/RecordingShell.h"
 
 namespace morvane::test {
 

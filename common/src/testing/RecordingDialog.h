@@ -1,13 +1,21 @@
 #pragma once
 
-#include "fakes/RecordingControls.h"
-#include "fakes/RecordingShell.h"
+#include "testing/RecordingShell.h"
+
+#include <memory>
+#include <utility>
 
 namespace morvane::test {
 
+class RecordingControls;
+
 /**
- * The dialog of a RecordingShell. Its `user…` operations do what a user does while Show runs; the callbacks of the
- * advised sinks run inside them.
+ * The dialog of a RecordingShell, of either kind. Its `user…` operations do what a user does while Show runs; what the
+ * host hears of that, it hears inside them. Call them in ShellScript::duringShow. A dialog that was neither accepted
+ * nor cancelled there ends with ShellScript::showResult.
+ *
+ * It belongs to those who hold references to it, in the end to the dialog class of the library; do not keep a pointer
+ * to it beyond the life of that.
  */
 class RecordingDialog final : public IFileOpenDialog
 {
@@ -17,27 +25,54 @@ public:
     RecordingDialog(const RecordingDialog&) = delete;
     RecordingDialog& operator=(const RecordingDialog&) = delete;
 
+    /**
+     * Presses Open or Save. The dialog stays, as a real one does, when there is no name, when a file to open is not
+     * there (but see ShellScript::results), or when the host or the user does not want a file replaced.
+     */
     void userAccepts();
     void userCancels();
     void userTypesName(const QString& name) { m_fileName = name; }
-    /** @param index counted from 1 */
+    /** @param index the position in the list of file types, counted from 1 */
     void userPicksType(UINT index);
+    /** @param folder an absolute path, with slashes; the host may refuse it */
     void userEntersFolder(const QString& folder);
+    /** Highlights a file in the list without choosing it. @param path absolute, with slashes */
     void userSelects(const QString& path);
+    /** How the question whether a file may be replaced is answered when no sink decides. */
+    void userAnswersOverwriting(bool yes) { m_replaces = yes; }
+
+    /**
+     * Uses one of the host's own controls, found by its label as the host has given it: clicks a button, flips a check
+     * box, or picks from the menu of the accept button, which also accepts.
+     * @return false, with nothing done, when there is no such control, or it is hidden or disabled
+     */
+    bool userClicks(const QString& label);
+    bool userToggles(const QString& label);
+    bool userPicksItem(const QString& label);
+    /** The same by the controls' numbers, whatever their state. The controls must be there. */
     void userClicks(DWORD control);
     void userToggles(DWORD control);
     void userPicksItem(DWORD control, DWORD item);
-    /** How the question whether a file may be replaced is answered when no sink decides. */
-    void userAnswersOverwriting(bool yes) { m_replaces = yes; }
 
     /** Calls every advised sink, as the dialog itself does. */
     HRESULT fire(const std::function<HRESULT(IFileDialogEvents&)>& call);
     HRESULT fireControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call);
 
-    RecordingControls& controls() { return m_controls; }
+    // What a user sees; looking leaves no trace in the record.
+    /** Include testing/RecordingControls.h to look at them. */
+    RecordingControls& controls() { return *m_controls; }
     bool isShown() const { return m_running; }
+    bool isSaving() const { return m_saving; }
     QString title() const { return m_title; }
+    /** What stands in the field for the name. */
     QString fileName() const { return m_fileName.value_or(QString()); }
+    /** With slashes; the process's own directory when the host has set none. */
+    QString folder() const;
+    /** Description and patterns, such as "Text" and "*.txt;*.log", of each file type. */
+    const std::vector<std::pair<QString, QString>>& types() const { return m_types; }
+    /** The position of the chosen type, counted from 1; 0 without types. */
+    UINT typeIndex() const { return m_typeIndex; }
+    /** The window that the dialog was shown over; null for none. */
     HWND owner() const { return m_owner; }
 
     /** QueryInterface without a trace in the record. */
@@ -79,7 +114,6 @@ private:
     void play();
     void finish(HRESULT outcome);
     QStringList chosenPaths() const;
-    QString folder() const;
     bool mayReplace(const QString& path);
     HRESULT giveItem(const QString& path, IShellItem** item, HRESULT without);
 
@@ -95,7 +129,7 @@ private:
     QString m_folder;
     QString m_title;
     QString m_selected;
-    RecordingControls m_controls;
+    const std::unique_ptr<RecordingControls> m_controls;
     HWND m_owner = nullptr;
     bool m_running = false;
     bool m_replaces = true;

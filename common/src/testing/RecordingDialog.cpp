@@ -1,6 +1,7 @@
-#include "fakes/RecordingDialog.h"
+#include "testing/RecordingDialog.h"
 
-#include "fakes/RecordingItems.h"
+#include "testing/RecordingControls.h"
+#include "testing/RecordingItems.h"
 #include "ui/qt/dialogs/shell/ShellText.h"
 
 #include <QDir>
@@ -15,7 +16,7 @@ RecordingDialog::RecordingDialog(RecordingShell& shell, bool saving)
     : m_shell(shell),
       m_saving(saving),
       m_options(saving ? shell.script.saveOptions : shell.script.openOptions),
-      m_controls(shell, *this)
+      m_controls(std::make_unique<RecordingControls>(shell, *this))
 {
     shell.objectMade();
 }
@@ -45,7 +46,7 @@ HRESULT RecordingDialog::give(REFIID iid, void** object)
         (iid == IID_IFileOpenDialog && !m_saving)) {
         *object = static_cast<IFileOpenDialog*>(this);
     } else if (iid == IID_IFileDialogCustomize) {
-        *object = static_cast<IFileDialogCustomize*>(&m_controls);
+        *object = static_cast<IFileDialogCustomize*>(m_controls.get());
     } else {
         return E_NOINTERFACE;
     }
@@ -73,7 +74,7 @@ HRESULT RecordingDialog::Show(HWND owner)
     m_running = true;
     m_outcome.reset();
     m_results.clear();
-    m_controls.forgetPick();
+    m_controls->forgetPick();
     const auto stop = qScopeGuard([this] {
         m_running = false;
         m_results = m_outcome == S_OK ? m_results : QStringList();

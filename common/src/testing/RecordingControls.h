@@ -1,23 +1,37 @@
 #pragma once
 
-#include "fakes/RecordingShell.h"
+#include "testing/RecordingShell.h"
 
 namespace morvane::test {
 
-/** The custom controls of a RecordingDialog; shares its identity and reference count. */
+/**
+ * The custom controls of a RecordingDialog; shares its identity and reference count.
+ *
+ * Labels are compared with what the host has given, mnemonics included: "&Help".
+ */
 class RecordingControls final : public IFileDialogCustomize
 {
 public:
     RecordingControls(RecordingShell& shell, IFileDialog& dialog);
     virtual ~RecordingControls();
 
-    /** Flips a check button; its new state. */
+    // Looking leaves no trace in the record.
+    /** The button or check box with this label; empty when there is none. */
+    std::optional<DWORD> idOf(const QString& label) const;
+    /** The control and the item with this label in it; empty when there is none. */
+    std::optional<std::pair<DWORD, DWORD>> itemOf(const QString& label) const;
+    /** The bits of CDCONTROLSTATEF of a control or an item; -1 when it is not there. */
+    int state(DWORD control) const;
+    int itemState(DWORD control, DWORD item) const;
+    bool isCheckBox(DWORD control) const;
+    /** False, too, when it is not there or no check box. */
+    bool isChecked(DWORD control) const;
+
+    // What the dialog does for its user.
+    /** Flips a check button, which must be there; its new state. */
     bool toggle(DWORD control);
     void pick(DWORD control, DWORD item);
     void forgetPick();
-    /** The state bits of a control or an item, without a trace in the record; -1 when it is not there. */
-    int state(DWORD control) const;
-    int itemState(DWORD control, DWORD item) const;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
     ULONG STDMETHODCALLTYPE AddRef() override;
@@ -51,20 +65,27 @@ public:
     HRESULT STDMETHODCALLTYPE SetControlItemText(DWORD control, DWORD item, LPCWSTR label) override;
 
 private:
+    struct Item
+    {
+        DWORD id;
+        QString label;
+        CDCONTROLSTATEF state;
+    };
     struct Recorded
     {
+        QString label{};
         CDCONTROLSTATEF state = CDCS_ENABLEDVISIBLE;
         bool checkButton = false;
         bool dropDown = false;
         bool checked = false;
-        std::vector<std::pair<DWORD, CDCONTROLSTATEF>> items{};
+        std::vector<Item> items{};
         std::optional<DWORD> picked{};
     };
 
     std::optional<HRESULT> record(const char* method, const std::string& arguments = std::string());
     HRESULT add(DWORD id, const Recorded& control);
     Recorded* find(DWORD id);
-    std::pair<DWORD, CDCONTROLSTATEF>* findItem(DWORD id, DWORD item);
+    Item* findItem(DWORD id, DWORD item);
 
     RecordingShell& m_shell;
     IFileDialog& m_dialog;

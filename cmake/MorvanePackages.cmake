@@ -1,0 +1,50 @@
+# Packages: `cpack -G DEB` (a run-time and a development package) and `cpack -G TGZ` (both in one archive).
+set(CPACK_PACKAGE_NAME morvane)
+set(CPACK_PACKAGE_VENDOR "The Morvane authors")
+set(CPACK_PACKAGE_CONTACT "The Morvane authors <maintainers@morvane.invalid>")
+set(CPACK_PACKAGE_CHECKSUM SHA256)
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+
+set(CPACK_COMPONENTS_ALL Runtime Development)
+if(MORVANE_BUILD_TESTING_LIBRARY)
+    list(APPEND CPACK_COMPONENTS_ALL Testing)
+endif()
+set(runtime_package libmorvane${PROJECT_VERSION_MAJOR})
+foreach(package ${runtime_package} libmorvane-dev)
+    set(component Development)
+    if(package STREQUAL ${runtime_package})
+        set(component Runtime)
+    endif()
+    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE RENAME copyright
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} COMPONENT ${component})
+endforeach()
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION "This package holds the shared libraries that programs need to run.")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime_package})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+
+set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS Runtime)
+set(CPACK_COMPONENT_DEVELOPMENT_GROUP Dev)
+set(CPACK_COMPONENT_TESTING_GROUP Dev)
+set(CPACK_COMPONENT_TESTING_DEPENDS Runtime)
+set(CPACK_DEBIAN_DEV_DESCRIPTION
+    "This package holds the headers, the library for tests, and what CMake and pkg-config need to find them.")
+set(CPACK_DEBIAN_DEV_PACKAGE_NAME libmorvane-dev)
+set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS
+    "${runtime_package} (= ${PROJECT_VERSION}), qtbase5-dev (>= 5.15), libboost-dev (>= 1.74)")
+
+include(CPack)

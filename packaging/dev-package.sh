@@ -1,0 +1,81 @@
+# The command "./dev package": binary packages, and the check that they install, serve and go away again. Sourced by
+# ./dev, whose functions it uses: need, step, die.
+
+package_build_packages='dpkg-dev file pkg-config'
+package_check_packages='mmdebstrap'
+
+package_usage() {
+    cat <<'TEXT'
+usage: ./dev package [--no-check]
+       ./dev package windows
+
+Makes the .deb packages (run time and development) and a .tar.gz in build/package/packages, then installs the .deb files
+in a fresh root made for that, builds and runs a small program there, and removes them again. That needs root; it takes a
+few minutes and fetches packages with the machine's own apt sources. --no-check leaves it out.
+
+"windows" makes the ZIP for Windows, which is made, too, when build/windows is there.
+TEXT
+}
+
+package_configure() {
+    # What a distribution compiles its packages with, without debug information and file names of this machine.
+    flags=$(dpkg-buildflags --get CXXFLAGS)
+    link_flags=$(dpkg-buildflags --get LDFLAGS)
+    cmake -S . -B build/package -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
+        -DCMAKE_CXX_FLAGS="$flags -g0 -ffile-prefix-map=$(pwd)=." -DCMAKE_SHARED_LINKER_FLAGS="$link_flags" \
+        -DMORVANE_BUILD_TESTS=OFF -DMORVANE_BUILD_EXAMPLES=OFF -DMORVANE_BUILD_DESIGNER=OFF -DMORVANE_BUILD_TESTING_LIBRARY=ON \
+        -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=OFF >build/package.log 2>&1 || {
+        cat build/package.log >&2
+        die 'configuring failed'
+    }
+}
+
+package_linux() {
+    step 'building the packages'
+    mkdir -p build
+    rm -rf build/package/packages
+    package_configure
+    cmake --build build/package
+    SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null || date +%s)
+    export SOURCE_DATE_EPOCH
+    for generator in DEB TGZ; do
+        cpack -G "$generator" --config build/package/CPackConfig.cmake -B build/package/packages >build/package.log 2>&1 || {
+            cat build/package.log >&2
+            die "cpack -G $generator failed"
+        }
+    done
+    rm -rf build/package/packages/_CPack_Packages
+    step "the packages are in $(pwd)/build/package/packages"
+}
+
+package_check() {
+    step 'trying the packages in a fresh root'
+    as_root sh packaging/check-debs build/package/packages
+}
+
+cmd_package() {
+    check=yes
+    case ${1:-} in
+    --help | -h)
+        package_usage
+        return
+        ;;
+    windows)
+        command -v package_windows >/dev/null || die 'there is no package for Windows yet'
+        shift
+        package_windows "$@"
+        return
+        ;;
+    --no-check) check=no ;;
+    ?*) die "unknown argument: $1" ;;
+    esac
+    # shellcheck disable=SC2086 # the lists are to be split
+    need $build_packages $package_build_packages
+    package_linux
+    if [ -d build/windows ] && command -v package_windows >/dev/null; then
+        package_windows
+    fi
+    [ "$check" = yes ] || return 0
+    need "$package_check_packages"
+    package_check
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QProcess>
+
+namespace morvane::test {
+
+/** A program in a process group of its own, which ends, with all that it has started, when this object does. */
+class DesktopProcess : public QProcess
+{
+public:
+    DesktopProcess() = default;
+    ~DesktopProcess() override;
+
+    /** Starts the program. Whether it runs. */
+    bool run(const QString& program, const QStringList& arguments);
+    /** The first line that it prints; empty when it ends or is silent for too long. */
+    QByteArray firstLine();
+
+protected:
+    void setupChildProcess() override;
+};
+
+} // namespace morvane::test

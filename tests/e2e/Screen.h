@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QString>
+
+#include <initializer_list>
+#include <memory>
+
+namespace morvane::test {
+
+/** The keys that are no characters, as X names them. */
+enum class Key : unsigned long
+{
+    Backspace = 0xff08,
+    Tab = 0xff09,
+    Return = 0xff0d,
+    Escape = 0xff1b,
+    Left = 0xff51,
+    Up = 0xff52,
+    Right = 0xff53,
+    Down = 0xff54,
+    Home = 0xff50,
+    End = 0xff57,
+    Shift = 0xffe1,
+    Control = 0xffe3,
+    Alt = 0xffe9,
+};
+
+/**
+ * Keyboard, mouse and eyes of a person at an X server: a client of its own that makes events with the XTEST extension,
+ * so that they take the way of real ones, through the server and the window manager. Positions are those of the screen.
+ */
+class Screen
+{
+public:
+    /** @param display as in the variable DISPLAY. */
+    explicit Screen(const QByteArray& display);
+    ~Screen();
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    /** Whether the server is there and has the extension. */
+    bool isOpen() const;
+
+    void press(Key key);
+    void press(std::initializer_list<Key> held, char character);
+    void press(std::initializer_list<Key> held, Key key);
+    /** Types text of ASCII characters. */
+    void type(const QString& text);
+    void click(QPoint position);
+    void click(QPoint position, Key held);
+    void doubleClick(QPoint position);
+    void drag(QPoint from, QPoint to);
+
+    /** Whether a window manager has taken the screen. */
+    bool isManaged() const;
+    /** The title of the window that the window manager has made the active one; empty for none. */
+    QString activeTitle() const;
+    /** Asks the window manager to close the active window, as its close button does. */
+    void closeActiveWindow();
+
+    /** Writes a picture of the whole screen. */
+    bool savePicture(const QString& fileName) const;
+
+private:
+    struct Impl;
+    const std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace morvane::test
