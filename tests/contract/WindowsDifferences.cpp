@@ -24,7 +24,7 @@ const Differences windowsDifferences{
     {"anExceptionWhileItRunsLeavesShowAndTheDialogStaysUsable", foreignFrames},
 };
 
-// Each is a step of docs/windows-checklist.md.
+// What the library rests on of these is a step of docs/windows-checklist.md; it does none of the others.
 const Differences wineDifferences{
     {"forgetsTheResultOfTheRunBefore", "Wine keeps the result of the run before"},
     {"keepsFolderNameAndTypeFromRunToRun", "Wine goes back to the folder and the name that were set"},
