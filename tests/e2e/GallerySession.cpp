@@ -109,6 +109,22 @@ Accessible GallerySession::itemOf(const Accessible& whole, const QString& name)
     return *found;
 }
 
+void GallerySession::waitForOrder(const Accessible& whole, const QStringList& names)
+{
+    QStringList found;
+    const bool inOrder = eventually([&] {
+        found.clear();
+        for (const Accessible& child : whole.children()) {
+            const QString name = child.name();
+            if (names.contains(name)) {
+                found.append(name);
+            }
+        }
+        return found == names;
+    });
+    require(inOrder, QStringLiteral("not in order: %1").arg(found.join(QStringLiteral(", "))));
+}
+
 void GallerySession::click(const Accessible& target)
 {
     screen().click(target.rectangle().center());
@@ -117,12 +133,12 @@ void GallerySession::click(const Accessible& target)
 void GallerySession::clickInto(const Accessible& field)
 {
     click(field);
-    require(eventually([&] { return field.isFocused(); }), QStringLiteral("the field does not get the focus"));
+    waitForFocus(field);
 }
 
 void GallerySession::type(const Accessible& field, const QString& text)
 {
-    require(eventually([&] { return field.isFocused(); }), QStringLiteral("the field does not get the focus"));
+    waitForFocus(field);
     screen().press({Key::Control}, 'a');
     screen().type(text);
     waitForText(field, text);
@@ -146,11 +162,29 @@ void GallerySession::waitForWindow(const QString& title)
         QStringLiteral("no window \"%1\"; active is \"%2\"").arg(title, screen().activeTitle()));
 }
 
-void GallerySession::waitForReport(const QString& text)
+void GallerySession::waitForFocus(const Accessible& target)
+{
+    require(eventually([&] { return target.isFocused(); }),
+        QStringLiteral("%1 \"%2\" does not get the focus").arg(target.role(), target.name()));
+}
+
+void GallerySession::waitForEnd(const Accessible& target)
+{
+    require(eventually([&] { return !target.isShowing(); }), QStringLiteral("it is still there"));
+}
+
+QRect GallerySession::waitForPopup()
+{
+    require(eventually([this] { return !screen().popup().isEmpty(); }), QStringLiteral("nothing pops up"));
+    return screen().popup();
+}
+
+QString GallerySession::waitForReport(const QString& text)
 {
     const Accessible log = part(QStringLiteral("text"), QStringLiteral("What the library reported"));
     require(eventually([&] { return log.text().contains(text); }),
         QStringLiteral("not reported: \"%1\", but\n%2").arg(text, log.text()));
+    return log.text().section(text, 1, 1).section(QLatin1Char('\n'), 0, 0);
 }
 
 void GallerySession::expectOnClipboard(const QByteArray& text)

@@ -32,6 +32,10 @@ protected:
     /** A cell or an item of a list, table or tree. */
     Accessible itemOf(const Accessible& whole, const QString& name);
 
+    /** Waits until those of the items that have one of the names stand in that order: until they are read and sorted.
+     */
+    void waitForOrder(const Accessible& whole, const QStringList& names);
+
     void click(const Accessible& target);
     /** The same, and waits for the focus: the window manager may let later keys overtake a click. */
     void clickInto(const Accessible& field);
@@ -41,8 +45,13 @@ protected:
     void fill(const Accessible& field, const QString& text);
     void waitForText(const Accessible& field, const QString& text);
     void waitForWindow(const QString& title);
-    /** Waits for an entry in the pane with what the library reported. */
-    void waitForReport(const QString& text);
+    void waitForFocus(const Accessible& target);
+    /** Waits until the part shows no longer. */
+    void waitForEnd(const Accessible& target);
+    /** Waits until a list, menu or tip lies on top of the windows, and tells where. */
+    QRect waitForPopup();
+    /** Waits for an entry in the pane with what the library reported; the rest of that entry. */
+    QString waitForReport(const QString& text);
     /** Waits for that text on the clipboard, read by another program. */
     void expectOnClipboard(const QByteArray& text);
 
