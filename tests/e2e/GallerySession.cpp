@@ -36,9 +36,16 @@ void GallerySession::SetUp()
 
 void GallerySession::TearDown()
 {
-    if (!HasFailure() || !m_application) {
-        return;
+    if (HasFailure() && m_application) {
+        describe();
     }
+    m_application.reset();
+    m_gallery.reset();
+    EXPECT_TRUE(m_desktop.end()) << "a program outlives the desktop";
+}
+
+void GallerySession::describe()
+{
     const QString picture =
         QDir(pictureFolder)
             .filePath(QString::fromLatin1(::testing::UnitTest::GetInstance()->current_test_info()->name()) +
@@ -132,8 +139,10 @@ void GallerySession::click(const Accessible& target)
 
 void GallerySession::clickInto(const Accessible& field)
 {
-    click(field);
-    waitForFocus(field);
+    if (!field.isFocused()) {
+        click(field);
+        waitForFocus(field);
+    }
 }
 
 void GallerySession::type(const Accessible& field, const QString& text)
@@ -142,12 +151,6 @@ void GallerySession::type(const Accessible& field, const QString& text)
     screen().press({Key::Control}, 'a');
     screen().type(text);
     waitForText(field, text);
-}
-
-void GallerySession::fill(const Accessible& field, const QString& text)
-{
-    clickInto(field);
-    type(field, text);
 }
 
 void GallerySession::waitForText(const Accessible& field, const QString& text)

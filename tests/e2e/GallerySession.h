@@ -37,12 +37,13 @@ protected:
     void waitForOrder(const Accessible& whole, const QStringList& names);
 
     void click(const Accessible& target);
-    /** The same, and waits for the focus: the window manager may let later keys overtake a click. */
+    /**
+     * Gives a field the focus that does not have it, nor is about to get it. The window manager may let later keys
+     * overtake a click, and a focus that was there before or comes by itself does not tell that the click is over.
+     */
     void clickInto(const Accessible& field);
     /** Replaces what stands in the field that has the focus, or gets it soon, by typing. */
     void type(const Accessible& field, const QString& text);
-    /** The same, after a click on the field. */
-    void fill(const Accessible& field, const QString& text);
     void waitForText(const Accessible& field, const QString& text);
     void waitForWindow(const QString& title);
     void waitForFocus(const Accessible& target);
@@ -62,6 +63,9 @@ protected:
     const QString galleryTitle = QStringLiteral("Morvane Gallery");
 
 private:
+    /** What the screen showed and the gallery said. */
+    void describe();
+
     QTemporaryDir m_folder;
     Desktop m_desktop;
     std::unique_ptr<DesktopProcess> m_gallery;

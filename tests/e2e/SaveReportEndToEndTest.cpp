@@ -22,7 +22,7 @@ protected:
         click(part(button, QStringLiteral("Save Report…")));
         waitForWindow(QStringLiteral("Save Report"));
         const Accessible dialog = part(QStringLiteral("dialog"), QStringLiteral("Save Report"));
-        fill(partOf(dialog, QStringLiteral("text"), QStringLiteral("File name:")), path(QStringLiteral("report.txt")));
+        type(partOf(dialog, QStringLiteral("text"), QStringLiteral("File name:")), path(QStringLiteral("report.txt")));
         screen().press(Key::Return);
         // The title of the question is that of the dialog.
         const Accessible question = part(QStringLiteral("alert message"), QStringLiteral("Save Report"));

@@ -59,7 +59,7 @@ TEST_F(TableCopyEndToEnd, pastesIntoAnEditor)
     ASSERT_TRUE(program);
     SCOPED_TRACE(program->describe().toStdString());
     const Accessible page = partOf(*program, QStringLiteral("text"), QString());
-    clickInto(page);
+    waitForFocus(page);
     screen().press({Key::Control}, 'v');
     waitForText(page, QStringLiteral("a.txt\t1000\nb.txt\t2000"));
     screen().press({Key::Control}, 's');
