@@ -86,7 +86,7 @@ WidgetDescription commandLinkButton()
     widget.extends = QStringLiteral("QCommandLinkButton");
     widget.header = QStringLiteral("ui/qt/controls/CorrectFontCommandLinkButton.h");
     widget.icon = QStringLiteral("commandlink");
-    widget.toolTip = QStringLiteral("Command Link, Never Cut");
+    widget.toolTip = QStringLiteral("Uncut Command Link");
     widget.whatsThis = QStringLiteral("A command link that no layout squeezes below the size of its texts.");
     widget.size = QSize(220, 60);
     widget.properties = QStringLiteral("<property name=\"text\"><string>Command link</string></property>"

@@ -6,8 +6,6 @@ docs_packages='doxygen'
 cmd_docs() {
     # shellcheck disable=SC2086 # the lists are to be split
     need $build_packages $docs_packages
-    # Doxygen may have come after the configuration.
-    [ ! -f build/dev/build.ninja ] || cmake --preset dev >/dev/null || die 'configuring failed'
     build dev morvane-docs
     rm -rf build/docs
     cp -R build/dev/docs/html build/docs

@@ -1,7 +1,7 @@
 # The command "./dev package": binary packages, and the check that they install, serve and go away again. Sourced by
 # ./dev, whose functions it uses: need, step, die.
 
-package_build_packages='dpkg-dev file pkg-config'
+package_build_packages='dpkg-dev file pkg-config qttools5-dev'
 package_check_packages='mmdebstrap'
 
 package_usage() {
@@ -23,7 +23,7 @@ package_configure() {
     link_flags=$(dpkg-buildflags --get LDFLAGS)
     cmake -S . -B build/package -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
         -DCMAKE_CXX_FLAGS="$flags -g0 -ffile-prefix-map=$(pwd)=." -DCMAKE_SHARED_LINKER_FLAGS="$link_flags" \
-        -DMORVANE_BUILD_TESTS=OFF -DMORVANE_BUILD_EXAMPLES=OFF -DMORVANE_BUILD_DESIGNER=OFF -DMORVANE_BUILD_TESTING_LIBRARY=ON \
+        -DMORVANE_BUILD_TESTS=OFF -DMORVANE_BUILD_EXAMPLES=OFF -DMORVANE_BUILD_DESIGNER=ON -DMORVANE_BUILD_TESTING_LIBRARY=ON \
         -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=OFF >build/package.log 2>&1 || {
         cat build/package.log >&2
         die 'configuring failed'

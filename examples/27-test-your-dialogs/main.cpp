@@ -29,22 +29,27 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
 
+    //! [shell]
     // From here to the end of main, the native dialogs are those of the recording shell.
     morvane::test::RecordingShell shell;
     const morvane::ui::ShellOverride guard(shell);
+    //! [shell]
 
+    //! [accept]
     shell.script.duringShow = [](morvane::test::RecordingDialog& dialog) {
         dialog.userTypesName("result.dat");
         dialog.userAccepts();
     };
     check("the typed name is exported to", QString::fromStdString(askForExport()).endsWith("/result.dat"));
+    //! [accept]
 
     shell.script.duringShow = [](morvane::test::RecordingDialog& dialog) { dialog.userCancels(); };
     check("cancelling exports nothing", askForExport().empty());
 
+    //! [fail]
     shell.failCalls("IFileDialog::Show");
     check("neither does a dialog that the platform cannot show", askForExport().empty());
-
     check("every dialog was released", shell.liveObjects() == 0);
+    //! [fail]
     return failures;
 }

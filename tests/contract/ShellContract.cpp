@@ -81,9 +81,11 @@ QString ShellContract::pathOf(IShellItem* item)
 
 QString ShellContract::result()
 {
+    //! [item]
     ui::ComPtr<IShellItem> item;
     const HRESULT hr = dialog->GetResult(item.put());
     return SUCCEEDED(hr) ? pathOf(item.get()) : QStringLiteral("failed: %1").arg(static_cast<unsigned>(hr), 0, 16);
+    //! [item]
 }
 
 QStringList ShellContract::results()

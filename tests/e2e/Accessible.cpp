@@ -130,6 +130,20 @@ std::vector<Accessible> Accessible::children() const
     return result;
 }
 
+Accessible Accessible::child(int position) const
+{
+    const auto answer = call(node, QStringLiteral("GetChildAtIndex"), {position});
+    QString service;
+    QDBusObjectPath path;
+    if (!answer.isEmpty()) {
+        const auto structure = answer.first().value<QDBusArgument>();
+        structure.beginStructure();
+        structure >> service >> path;
+        structure.endStructure();
+    }
+    return Accessible(m_bus, service, path.path());
+}
+
 std::optional<Accessible> Accessible::find(const QString& role, const QString& name) const
 {
     for (const Accessible& child : children()) {

@@ -32,6 +32,8 @@ public:
     bool isFocused() const;
     bool isSelected() const;
     std::vector<Accessible> children() const;
+    /** One of them, counted from 0, without asking for all. */
+    Accessible child(int position) const;
 
     /**
      * The first part below this one of that role and name that is showing, and all around it. Lists, tables and trees

@@ -5,12 +5,23 @@
 #include <QDBusMessage>
 #include <QStandardPaths>
 
+#include <cerrno>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+
 namespace morvane::test {
 
 namespace {
 
 const QString sessionConnection = QStringLiteral("morvane-e2e-session");
 const QString accessibilityConnection = QStringLiteral("morvane-e2e-accessibility");
+
+bool noChildIsLeft()
+{
+    while (::waitpid(-1, nullptr, WNOHANG) > 0) {
+    }
+    return ::waitpid(-1, nullptr, WNOHANG) < 0 && errno == ECHILD;
+}
 
 } // namespace
 
@@ -22,10 +33,17 @@ Desktop::Desktop() : m_environment(QProcessEnvironment::systemEnvironment())
     }
     m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     m_environment.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
+    // What the buses start outlives them for a moment, and is ours to wait for then.
+    ::prctl(PR_SET_CHILD_SUBREAPER, 1);
     m_environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_environment.value(QStringLiteral("HOME")));
 }
 
 Desktop::~Desktop()
+{
+    end();
+}
+
+bool Desktop::end()
 {
     m_accessibility.reset();
     QDBusConnection::disconnectFromBus(accessibilityConnection);
@@ -34,6 +52,7 @@ Desktop::~Desktop()
     m_windowManager.reset();
     m_bus.reset();
     m_server.reset();
+    return eventually(noChildIsLeft);
 }
 
 QStringList Desktop::missingPrograms()

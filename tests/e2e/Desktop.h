@@ -24,6 +24,8 @@ public:
 
     /** Starts it all and waits until it can be used; what went wrong, empty when nothing did. */
     QString start();
+    /** Ends it all, with what its programs have started; false when something of that goes on. */
+    bool end();
 
     Screen& screen() { return *m_screen; }
     /** The environment for programs on this desktop. */

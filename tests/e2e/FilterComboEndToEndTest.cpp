@@ -5,6 +5,9 @@ namespace morvane::test {
 
 namespace {
 
+const QString finished = QStringLiteral("selectionComplete: ");
+
+/** The names to choose from are those of files of the machine: what is expected is read from the screen. */
 class FilterComboEndToEnd : public GallerySession
 {
 protected:
@@ -12,15 +15,68 @@ protected:
     {
         GallerySession::SetUp();
         openGallery(QStringLiteral("filter-combo"));
+        waitForReport(QStringLiteral("file names to choose from"));
     }
+
+    /** The page gives the field the focus and selects its text. */
+    Accessible field()
+    {
+        const Accessible page = part(QStringLiteral("layered pane"), QString());
+        Accessible line = partOf(page, QStringLiteral("text"), QString());
+        waitForFocus(line);
+        return line;
+    }
+
+    const QString typed = QStringLiteral("conf");
 };
 
 TEST_F(FilterComboEndToEnd, filtersWhileOneTypesAndPicksWithTheMouse)
 {
-    const Accessible field = part(QStringLiteral("text"), QStringLiteral("File name"));
-    clickInto(field);
-    screen().press({Key::Control}, 'a');
-    screen().type(QStringLiteral("lib"));
+    const Accessible line = field();
+    screen().type(typed);
+    screen().click(waitForPopup().center());
+    ASSERT_TRUE(eventually([&] { return line.text() != typed && screen().popup().isEmpty(); }));
+    const QString picked = line.text();
+    EXPECT_TRUE(picked.contains(typed, Qt::CaseInsensitive)) << picked.toStdString();
+    screen().press(Key::Return);
+    EXPECT_TRUE(waitForReport(finished).contains(picked, Qt::CaseInsensitive)) << picked.toStdString();
+    closeGallery();
+}
+
+TEST_F(FilterComboEndToEnd, filtersAndPicksWithTheKeyboardAlone)
+{
+    const Accessible line = field();
+    screen().type(typed);
+    waitForPopup();
+    screen().press(Key::Return);
+    const QString first = waitForReport(finished);
+    EXPECT_TRUE(first.contains(typed, Qt::CaseInsensitive)) << first.toStdString();
+    waitForEnd(line);
+
+    screen().press({Key::Alt}, 'e');
+    field();
+    screen().type(typed);
+    waitForPopup();
+    screen().press(Key::Escape);
+    waitForReport(QStringLiteral("editingCanceled"));
+    closeGallery();
+}
+
+TEST_F(FilterComboEndToEnd, picksFromTheWholeListWithTheMouse)
+{
+    const Accessible line = field();
+    // Qt tells of the text as its name.
+    const Accessible box =
+        partOf(part(QStringLiteral("layered pane"), QString()), QStringLiteral("combo box"), line.text());
+    const QRect arrow = box.rectangle();
+    screen().click(QPoint(arrow.right() - arrow.height() / 2, arrow.center().y()));
+    const Accessible list = partOf(box, QStringLiteral("list"), QString());
+    waitForPopup();
+    const Accessible entry = list.child(3);
+    const QString name = entry.name();
+    ASSERT_FALSE(name.isEmpty());
+    click(entry);
+    EXPECT_EQ(waitForReport(finished), name);
     closeGallery();
 }
 

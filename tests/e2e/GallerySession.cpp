@@ -36,9 +36,16 @@ void GallerySession::SetUp()
 
 void GallerySession::TearDown()
 {
-    if (!HasFailure() || !m_application) {
-        return;
+    if (HasFailure() && m_application) {
+        describe();
     }
+    m_application.reset();
+    m_gallery.reset();
+    EXPECT_TRUE(m_desktop.end()) << "a program outlives the desktop";
+}
+
+void GallerySession::describe()
+{
     const QString picture =
         QDir(pictureFolder)
             .filePath(QString::fromLatin1(::testing::UnitTest::GetInstance()->current_test_info()->name()) +
@@ -109,6 +116,22 @@ Accessible GallerySession::itemOf(const Accessible& whole, const QString& name)
     return *found;
 }
 
+void GallerySession::waitForOrder(const Accessible& whole, const QStringList& names)
+{
+    QStringList found;
+    const bool inOrder = eventually([&] {
+        found.clear();
+        for (const Accessible& child : whole.children()) {
+            const QString name = child.name();
+            if (names.contains(name)) {
+                found.append(name);
+            }
+        }
+        return found == names;
+    });
+    require(inOrder, QStringLiteral("not in order: %1").arg(found.join(QStringLiteral(", "))));
+}
+
 void GallerySession::click(const Accessible& target)
 {
     screen().click(target.rectangle().center());
@@ -116,22 +139,18 @@ void GallerySession::click(const Accessible& target)
 
 void GallerySession::clickInto(const Accessible& field)
 {
-    click(field);
-    require(eventually([&] { return field.isFocused(); }), QStringLiteral("the field does not get the focus"));
+    if (!field.isFocused()) {
+        click(field);
+        waitForFocus(field);
+    }
 }
 
 void GallerySession::type(const Accessible& field, const QString& text)
 {
-    require(eventually([&] { return field.isFocused(); }), QStringLiteral("the field does not get the focus"));
+    waitForFocus(field);
     screen().press({Key::Control}, 'a');
     screen().type(text);
     waitForText(field, text);
-}
-
-void GallerySession::fill(const Accessible& field, const QString& text)
-{
-    clickInto(field);
-    type(field, text);
 }
 
 void GallerySession::waitForText(const Accessible& field, const QString& text)
@@ -146,11 +165,29 @@ void GallerySession::waitForWindow(const QString& title)
         QStringLiteral("no window \"%1\"; active is \"%2\"").arg(title, screen().activeTitle()));
 }
 
-void GallerySession::waitForReport(const QString& text)
+void GallerySession::waitForFocus(const Accessible& target)
+{
+    require(eventually([&] { return target.isFocused(); }),
+        QStringLiteral("%1 \"%2\" does not get the focus").arg(target.role(), target.name()));
+}
+
+void GallerySession::waitForEnd(const Accessible& target)
+{
+    require(eventually([&] { return !target.isShowing(); }), QStringLiteral("it is still there"));
+}
+
+QRect GallerySession::waitForPopup()
+{
+    require(eventually([this] { return !screen().popup().isEmpty(); }), QStringLiteral("nothing pops up"));
+    return screen().popup();
+}
+
+QString GallerySession::waitForReport(const QString& text)
 {
     const Accessible log = part(QStringLiteral("text"), QStringLiteral("What the library reported"));
     require(eventually([&] { return log.text().contains(text); }),
         QStringLiteral("not reported: \"%1\", but\n%2").arg(text, log.text()));
+    return log.text().section(text, 1, 1).section(QLatin1Char('\n'), 0, 0);
 }
 
 void GallerySession::expectOnClipboard(const QByteArray& text)

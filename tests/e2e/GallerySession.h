@@ -32,17 +32,27 @@ protected:
     /** A cell or an item of a list, table or tree. */
     Accessible itemOf(const Accessible& whole, const QString& name);
 
+    /** Waits until those of the items that have one of the names stand in that order: until they are read and sorted.
+     */
+    void waitForOrder(const Accessible& whole, const QStringList& names);
+
     void click(const Accessible& target);
-    /** The same, and waits for the focus: the window manager may let later keys overtake a click. */
+    /**
+     * Gives a field the focus that does not have it, nor is about to get it. The window manager may let later keys
+     * overtake a click, and a focus that was there before or comes by itself does not tell that the click is over.
+     */
     void clickInto(const Accessible& field);
     /** Replaces what stands in the field that has the focus, or gets it soon, by typing. */
     void type(const Accessible& field, const QString& text);
-    /** The same, after a click on the field. */
-    void fill(const Accessible& field, const QString& text);
     void waitForText(const Accessible& field, const QString& text);
     void waitForWindow(const QString& title);
-    /** Waits for an entry in the pane with what the library reported. */
-    void waitForReport(const QString& text);
+    void waitForFocus(const Accessible& target);
+    /** Waits until the part shows no longer. */
+    void waitForEnd(const Accessible& target);
+    /** Waits until a list, menu or tip lies on top of the windows, and tells where. */
+    QRect waitForPopup();
+    /** Waits for an entry in the pane with what the library reported; the rest of that entry. */
+    QString waitForReport(const QString& text);
     /** Waits for that text on the clipboard, read by another program. */
     void expectOnClipboard(const QByteArray& text);
 
@@ -53,6 +63,9 @@ protected:
     const QString galleryTitle = QStringLiteral("Morvane Gallery");
 
 private:
+    /** What the screen showed and the gallery said. */
+    void describe();
+
     QTemporaryDir m_folder;
     Desktop m_desktop;
     std::unique_ptr<DesktopProcess> m_gallery;

@@ -1,3 +1,4 @@
+#include "e2e/Eventually.h"
 #include "e2e/GallerySession.h"
 
 namespace morvane::test {
@@ -27,7 +28,10 @@ TEST_F(OpenFilesEndToEnd, choosesSeveralFilesWithTheMouse)
     waitForWindow(QStringLiteral("Open"));
     const Accessible dialog = part(QStringLiteral("dialog"), QStringLiteral("Open"));
     const Accessible files = partOf(dialog, QStringLiteral("tree"), QStringLiteral("Files"));
-    click(itemOf(files, QStringLiteral("first.dat")));
+    waitForOrder(files, {QStringLiteral("first.dat"), QStringLiteral("second.dat"), QStringLiteral("third.dat")});
+    const Accessible first = itemOf(files, QStringLiteral("first.dat"));
+    click(first);
+    ASSERT_TRUE(eventually([&] { return first.isSelected(); }));
     screen().click(itemOf(files, QStringLiteral("third.dat")).rectangle().center(), Key::Control);
     click(partOf(dialog, button, QStringLiteral("Open")));
     waitForReport(path(QStringLiteral("first.dat")));
@@ -37,6 +41,7 @@ TEST_F(OpenFilesEndToEnd, choosesSeveralFilesWithTheMouse)
 
 TEST_F(OpenFilesEndToEnd, choosesAFileWithTheKeyboardAlone)
 {
+    part(button, QStringLiteral("Open…"));
     screen().press({Key::Alt}, 'o');
     waitForWindow(QStringLiteral("Open"));
     const Accessible dialog = part(QStringLiteral("dialog"), QStringLiteral("Open"));
@@ -52,6 +57,8 @@ TEST_F(OpenFilesEndToEnd, leavesTheDialogWithEscape)
 {
     click(part(button, QStringLiteral("Open…")));
     waitForWindow(QStringLiteral("Open"));
+    waitForFocus(partOf(
+        part(QStringLiteral("dialog"), QStringLiteral("Open")), QStringLiteral("text"), QStringLiteral("File name:")));
     screen().press(Key::Escape);
     waitForReport(QStringLiteral("Dialog cancelled"));
     closeGallery();

@@ -1,4 +1,3 @@
-#include "e2e/Eventually.h"
 #include "e2e/GallerySession.h"
 
 namespace morvane::test {
@@ -17,15 +16,18 @@ protected:
         openGallery(QStringLiteral("save-report"));
     }
 
-    /** Asks for the file that is there and waits for the question whether it may be replaced. */
-    void saveOverTheFile()
+    /** Asks for the file that is there; the question whether it may be replaced, once it can be answered. */
+    Accessible saveOverTheFile()
     {
         click(part(button, QStringLiteral("Save Report…")));
         waitForWindow(QStringLiteral("Save Report"));
         const Accessible dialog = part(QStringLiteral("dialog"), QStringLiteral("Save Report"));
-        fill(partOf(dialog, QStringLiteral("text"), QStringLiteral("File name:")), path(QStringLiteral("report.txt")));
+        type(partOf(dialog, QStringLiteral("text"), QStringLiteral("File name:")), path(QStringLiteral("report.txt")));
         screen().press(Key::Return);
-        part(QStringLiteral("alert"), QString());
+        // The title of the question is that of the dialog.
+        const Accessible question = part(QStringLiteral("alert message"), QStringLiteral("Save Report"));
+        waitForFocus(partOf(question, button, QStringLiteral("No")));
+        return question;
     }
 
     const QByteArray old = "an older report";
@@ -44,11 +46,13 @@ TEST_F(SaveReportEndToEnd, replacesAFileAfterAsking)
 
 TEST_F(SaveReportEndToEnd, leavesTheFileAloneWhenTheAnswerIsNo)
 {
-    saveOverTheFile();
+    const Accessible question = saveOverTheFile();
     screen().press({Key::Alt}, 'n');
-    waitForWindow(QStringLiteral("Save Report"));
+    waitForEnd(question);
+    waitForFocus(partOf(part(QStringLiteral("dialog"), QStringLiteral("Save Report")), QStringLiteral("text"),
+        QStringLiteral("File name:")));
     screen().press(Key::Escape);
-    waitForReport(QStringLiteral("Written: nothing"));
+    waitForReport(QStringLiteral("Nothing was written: given up"));
     EXPECT_EQ(contentOf(QStringLiteral("report.txt")), old);
     closeGallery();
 }

@@ -101,6 +101,17 @@ struct Screen::Impl
         return window;
     }
 
+    /** Empty unless the window shows without the window manager, as popups do. */
+    QRect popupRectangle(Window window) const
+    {
+        constexpr int helper = 10; // window managers have invisible windows of some pixels
+        XWindowAttributes attributes{};
+        const bool isPopup = XGetWindowAttributes(display, window, &attributes) && attributes.override_redirect &&
+                             attributes.map_state == IsViewable && attributes.width > helper &&
+                             attributes.height > helper;
+        return isPopup ? QRect(attributes.x, attributes.y, attributes.width, attributes.height) : QRect();
+    }
+
     ::Display* const display;
 };
 
@@ -183,6 +194,26 @@ QString Screen::activeTitle() const
     const Window window = m_impl->windowProperty("_NET_ACTIVE_WINDOW");
     const Atom text = XInternAtom(m_impl->display, "UTF8_STRING", False);
     return window == None ? QString() : QString::fromUtf8(m_impl->property(window, "_NET_WM_NAME", text));
+}
+
+QRect Screen::popup() const
+{
+    ::Display* const display = m_impl->display;
+    Window root = None;
+    Window parent = None;
+    Window* windows = nullptr;
+    unsigned count = 0;
+    XQueryTree(display, m_impl->root(), &root, &parent, &windows, &count);
+    QRect result;
+    for (unsigned number = 0; number < count; ++number) {
+        // From the lowest to the highest.
+        const QRect popup = m_impl->popupRectangle(windows[number]);
+        result = popup.isEmpty() ? result : popup;
+    }
+    if (windows) {
+        XFree(windows);
+    }
+    return result;
 }
 
 void Screen::closeActiveWindow()

@@ -57,6 +57,8 @@ public:
     bool isManaged() const;
     /** The title of the window that the window manager has made the active one; empty for none. */
     QString activeTitle() const;
+    /** Where the list, menu or tip is that lies on top of all windows; empty when there is none. */
+    QRect popup() const;
     /** Asks the window manager to close the active window, as its close button does. */
     void closeActiveWindow();
 

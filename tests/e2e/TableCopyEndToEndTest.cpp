@@ -27,6 +27,7 @@ protected:
     {
         const Accessible table = part(QStringLiteral("table"), QStringLiteral("Files"));
         const Accessible last = itemOf(table, QStringLiteral("2000"));
+        waitForOrder(table, {QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("c.txt")});
         screen().drag(itemOf(table, QStringLiteral("a.txt")).rectangle().center(), last.rectangle().center());
         ASSERT_TRUE(eventually([&] { return last.isSelected(); }));
     }
@@ -57,8 +58,10 @@ TEST_F(TableCopyEndToEnd, pastesIntoAnEditor)
     const auto program = desktop().application(QStringLiteral("FeatherPad"));
     ASSERT_TRUE(program);
     SCOPED_TRACE(program->describe().toStdString());
-    clickInto(partOf(*program, QStringLiteral("text"), QString()));
+    const Accessible page = partOf(*program, QStringLiteral("text"), QString());
+    waitForFocus(page);
     screen().press({Key::Control}, 'v');
+    waitForText(page, QStringLiteral("a.txt\t1000\nb.txt\t2000"));
     screen().press({Key::Control}, 's');
     EXPECT_TRUE(eventually([this] {
         return contentOf(QStringLiteral("pasted.txt")).trimmed() == "a.txt\t1000\nb.txt\t2000";

@@ -126,11 +126,13 @@ TEST_F(RecordingShellTest, togglesACheckBoxByItsLabel)
     bool before = false;
     bool after = true;
     run([&](RecordingDialog& dialog) {
-        const auto id = dialog.controls().idOf(compress);
+        //! [controls]
+        const auto id = dialog.controls().idOf(compress); // "&Compress", as the host has named its check box
         ASSERT_TRUE(id);
         before = dialog.controls().isChecked(*id);
         EXPECT_TRUE(dialog.userToggles(compress));
         after = dialog.controls().isChecked(*id);
+        //! [controls]
     });
     EXPECT_TRUE(before);
     EXPECT_FALSE(after);

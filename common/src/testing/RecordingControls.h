@@ -8,12 +8,16 @@ namespace morvane::test {
  * The custom controls of a RecordingDialog; shares its identity and reference count.
  *
  * Labels are compared with what the host has given, mnemonics included: "&Help".
+ *
+ * @snippet testing/RecordingShellTest.cpp controls
  */
 class RecordingControls final : public IFileDialogCustomize
 {
 public:
+    /** @cond made by the dialog */
     RecordingControls(RecordingShell& shell, IFileDialog& dialog);
     virtual ~RecordingControls();
+    /** @endcond */
 
     // Looking leaves no trace in the record.
     /** The button or check box with this label; empty when there is none. */
@@ -22,17 +26,22 @@ public:
     std::optional<std::pair<DWORD, DWORD>> itemOf(const QString& label) const;
     /** The bits of CDCONTROLSTATEF of a control or an item; -1 when it is not there. */
     int state(DWORD control) const;
+    /** @copydoc state() */
     int itemState(DWORD control, DWORD item) const;
+    /** False, too, when it is not there. */
     bool isCheckBox(DWORD control) const;
-    /** False, too, when it is not there or no check box. */
+    /** Whether its tick is set; false, too, when it is not there or no check box. */
     bool isChecked(DWORD control) const;
 
     // What the dialog does for its user.
     /** Flips a check button, which must be there; its new state. */
     bool toggle(DWORD control);
+    /** Makes the item of the control's menu the chosen one. Both must be there. */
     void pick(DWORD control, DWORD item);
+    /** Takes every pick() back. */
     void forgetPick();
 
+    /** @cond what the library calls */
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
     ULONG STDMETHODCALLTYPE AddRef() override;
     ULONG STDMETHODCALLTYPE Release() override;
@@ -63,6 +72,7 @@ public:
     HRESULT STDMETHODCALLTYPE EndVisualGroup() override;
     HRESULT STDMETHODCALLTYPE MakeProminent(DWORD control) override;
     HRESULT STDMETHODCALLTYPE SetControlItemText(DWORD control, DWORD item, LPCWSTR label) override;
+    /** @endcond */
 
 private:
     struct Item

@@ -16,21 +16,27 @@ class RecordingControls;
  *
  * It belongs to those who hold references to it, in the end to the dialog class of the library; do not keep a pointer
  * to it beyond the life of that.
+ *
+ * @snippet 27-test-your-dialogs/main.cpp accept
  */
 class RecordingDialog final : public IFileOpenDialog
 {
 public:
+    /** @cond made by the shell */
     RecordingDialog(RecordingShell& shell, bool saving);
     virtual ~RecordingDialog();
     RecordingDialog(const RecordingDialog&) = delete;
     RecordingDialog& operator=(const RecordingDialog&) = delete;
+    /** @endcond */
 
     /**
      * Presses Open or Save. The dialog stays, as a real one does, when there is no name, when a file to open is not
      * there (but see ShellScript::results), or when the host or the user does not want a file replaced.
      */
     void userAccepts();
+    /** Presses Cancel or Escape. */
     void userCancels();
+    /** Replaces what stands in the field for the name. @param name a name in the folder, or a path with slashes */
     void userTypesName(const QString& name) { m_fileName = name; }
     /** @param index the position in the list of file types, counted from 1 */
     void userPicksType(UINT index);
@@ -47,22 +53,30 @@ public:
      * @return false, with nothing done, when there is no such control, or it is hidden or disabled
      */
     bool userClicks(const QString& label);
+    /** @copydoc userClicks(const QString&) */
     bool userToggles(const QString& label);
+    /** @copydoc userClicks(const QString&) */
     bool userPicksItem(const QString& label);
     /** The same by the controls' numbers, whatever their state. The controls must be there. */
     void userClicks(DWORD control);
+    /** @copydoc userClicks(DWORD) */
     void userToggles(DWORD control);
+    /** @copydoc userClicks(DWORD) */
     void userPicksItem(DWORD control, DWORD item);
 
     /** Calls every advised sink, as the dialog itself does. */
     HRESULT fire(const std::function<HRESULT(IFileDialogEvents&)>& call);
+    /** The same for those that want to hear of the host's controls. */
     HRESULT fireControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call);
 
     // What a user sees; looking leaves no trace in the record.
     /** Include testing/RecordingControls.h to look at them. */
     RecordingControls& controls() { return *m_controls; }
+    /** Whether Show runs. */
     bool isShown() const { return m_running; }
+    /** Whether it is the dialog for saving. */
     bool isSaving() const { return m_saving; }
+    /** As the host has set it; empty before. */
     QString title() const { return m_title; }
     /** What stands in the field for the name. */
     QString fileName() const { return m_fileName.value_or(QString()); }
@@ -78,6 +92,7 @@ public:
     /** QueryInterface without a trace in the record. */
     HRESULT give(REFIID iid, void** object);
 
+    /** @cond what the library calls */
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
     ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
     ULONG STDMETHODCALLTYPE Release() override;
@@ -107,6 +122,7 @@ public:
     HRESULT STDMETHODCALLTYPE SetFilter(IShellItemFilter* filter) override;
     HRESULT STDMETHODCALLTYPE GetResults(IShellItemArray** items) override;
     HRESULT STDMETHODCALLTYPE GetSelectedItems(IShellItemArray** items) override;
+    /** @endcond */
 
 private:
     std::optional<HRESULT> record(const char* method, const std::string& arguments = std::string());

@@ -17,10 +17,16 @@ namespace morvane::test {
 
 class RecordingDialog;
 
-/** What a RecordingShell's dialogs answer; read when they are made (the options) or shown (the rest). */
+/**
+ * What a RecordingShell's dialogs answer; read when they are made (the options) or shown (the rest).
+ *
+ * @snippet 27-test-your-dialogs/main.cpp accept
+ */
 struct ShellScript
 {
+    /** What GetOptions of a new dialog for opening reports: what Windows sets by itself. */
     FILEOPENDIALOGOPTIONS openOptions = FOS_FILEMUSTEXIST | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR;
+    /** The same for saving. */
     FILEOPENDIALOGOPTIONS saveOptions =
         FOS_NOREADONLYRETURN | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR | FOS_OVERWRITEPROMPT;
 
@@ -43,15 +49,9 @@ struct ShellScript
  * opens the native file dialog (ExtendedWinFileDialog, ExtendedFileDialog with the native switch on, LaunchFileDialog,
  * SaveFileWinDialog).
  *
- * @code
- * RecordingShell shell;
- * const ui::ShellOverride guard(shell);
- * shell.script.duringShow = [](RecordingDialog& dialog) {
- *     dialog.userTypesName("report.txt");
- *     dialog.userAccepts();
- * };
- * // ... call what opens the dialog, and look at what it did with the name
- * @endcode
+ * @snippet 27-test-your-dialogs/main.cpp shell
+ * @snippet 27-test-your-dialogs/main.cpp accept
+ * @snippet 27-test-your-dialogs/main.cpp fail
  *
  * GUI thread only, and a QApplication must be there, as for the dialogs themselves.
  *
@@ -66,32 +66,43 @@ public:
     RecordingShell();
     ~RecordingShell() override;
 
+    /** May be changed at any time; see there when it is read. */
     ShellScript script;
 
+    /** Every call since the last clearCalls(), in order. */
     const std::vector<std::string>& calls() const { return m_calls; }
     /** The calls without arguments: `IFileDialog::SetTitle`. */
     std::vector<std::string> callNames() const;
+    /** How often this name stands in callNames(). */
     int count(const std::string& name) const;
+    /** Forgets the calls and starts to number them anew; failures stay set. */
     void clearCalls() { m_calls.clear(); }
 
     /** Makes the call with this number, counted from 1 since the last clearCalls(), fail. */
     void failCall(int number, HRESULT result = E_FAIL) { m_failingNumbers[number] = result; }
     /** Makes every call of this name, such as `IFileDialog::Advise`, fail. */
     void failCalls(const std::string& name, HRESULT result = E_FAIL) { m_failingNames[name] = result; }
+    /** Takes back every failCall() and failCalls(). */
     void failNothing();
 
     /** The dialog made last; null when there is none or it is gone. */
     RecordingDialog* dialog() const { return m_dialogs.empty() ? nullptr : m_dialogs.back(); }
 
+    /** Dialogs, items and arrays that somebody still holds; 0 when all was released. */
     int liveObjects() const { return m_liveObjects; }
+    /** Strings that were given out and not freed with coTaskMemFree(). */
     int liveStrings() const { return static_cast<int>(m_liveStrings.size()); }
     /** How often the thread has joined an apartment less how often it has left; below 0 when it left too often. */
     int apartments() const { return m_apartments; }
 
+    /** How many sinks are kept because of ShellScript::keepsSinks. */
     int keptSinks() const { return static_cast<int>(m_keptSinks.size()); }
+    /** These sinks, in the order in which they were advised. */
     const std::vector<ui::ComPtr<IFileDialogEvents>>& kept() const { return m_keptSinks; }
+    /** Gives them up. */
     void releaseKeptSinks() { m_keptSinks.clear(); }
 
+    /** @cond what the library calls, and what the shell's own objects call */
     HRESULT coInitializeEx(void* reserved, DWORD flags) override;
     void coUninitialize() override;
     HRESULT coCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD context, REFIID iid, void** object) override;
@@ -99,14 +110,14 @@ public:
     HRESULT createItemFromParsingName(PCWSTR path, IBindCtx* context, REFIID iid, void** object) override;
     HRESULT qiSearch(void* that, const QITAB* table, REFIID iid, void** object) override;
 
-    // For the shell's own objects, not for tests.
-    /** Writes the call down; the failure that it is to return, if any. */
+    // The failure that the call is to return, if any.
     std::optional<HRESULT> record(const std::string& name, const std::string& arguments);
     HRESULT copyString(const QString& text, LPWSTR* copy);
     void keep(IFileDialogEvents* sink) { m_keptSinks.push_back(ui::ComPtr<IFileDialogEvents>::share(sink)); }
     void objectMade() { ++m_liveObjects; }
     void objectGone() { --m_liveObjects; }
     void dialogGone(RecordingDialog* dialog);
+    /** @endcond */
 
 private:
     std::vector<std::string> m_calls;

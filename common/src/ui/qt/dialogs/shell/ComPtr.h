@@ -12,10 +12,7 @@ namespace morvane::ui {
  * Nothing adds a reference behind your back: the constructor adopts the reference that it is given, share() is the one
  * way to add one, and copying is not offered.
  *
- * @code
- * ComPtr<IShellItem> item;
- * if (SUCCEEDED(dialog->GetResult(item.put()))) { ... item->GetDisplayName(...) ... }
- * @endcode
+ * @snippet contract/ShellContract.cpp item
  */
 template <typename Interface>
 class ComPtr
@@ -24,7 +21,9 @@ public:
     ComPtr() = default;
     /** Adopts the reference that the caller holds on @p object; null is an empty pointer. */
     explicit ComPtr(Interface* object) : m_object(object) {}
+    /** Takes the reference over; @p other is empty afterwards. */
     ComPtr(ComPtr&& other) noexcept : m_object(other.detach()) {}
+    /** The same, releasing what was held. */
     ComPtr& operator=(ComPtr&& other) noexcept
     {
         ComPtr taken(std::move(other));
@@ -44,9 +43,13 @@ public:
         return ComPtr(object);
     }
 
+    /** Null when empty; the reference stays here. */
     Interface* get() const { return m_object; }
+    /** Not for an empty pointer. */
     Interface* operator->() const { return m_object; }
+    /** Not for an empty pointer. */
     Interface& operator*() const { return *m_object; }
+    /** Whether there is an object. */
     explicit operator bool() const { return m_object != nullptr; }
 
     /** Releases what is held and gives the place where a call leaves its result. */
@@ -55,6 +58,7 @@ public:
         reset();
         return &m_object;
     }
+    /** put() in the type that QueryInterface and its sisters take. */
     void** putVoid() { return reinterpret_cast<void**>(put()); }
 
     /** Hands the reference over to the caller. */
@@ -68,6 +72,7 @@ public:
         }
     }
 
+    /** Exchanges the references; no count changes. */
     void swap(ComPtr& other) noexcept { std::swap(m_object, other.m_object); }
 
     /** Another interface of the same object; empty when this is empty or the object does not have it. */

@@ -10,6 +10,10 @@ namespace morvane::ui {
  *
  * Each operation has the parameters and results of the published function that it is named after. GUI thread only.
  * Strings and objects that come from one Shell go back to that same Shell.
+ *
+ * Hosts meet it in tests only, where a RecordingShell takes its place:
+ *
+ * @snippet 27-test-your-dialogs/main.cpp shell
  */
 class MORVANE_UI_EXPORT Shell
 {
@@ -21,6 +25,7 @@ public:
 
     /** Joins the thread to an apartment. S_FALSE, a success, when it is already in one of that kind. */
     virtual HRESULT coInitializeEx(void* reserved, DWORD flags) = 0;
+    /** Leaves the apartment; once for each coInitializeEx() that has succeeded. */
     virtual void coUninitialize() = 0;
     /** Makes a dialog: @p clsid is CLSID_FileOpenDialog or CLSID_FileSaveDialog. A failure leaves null in @p object. */
     virtual HRESULT coCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD context, REFIID iid, void** object) = 0;
@@ -46,10 +51,13 @@ public:
 /**
  * Puts another Shell in the place of the process's own for as long as the guard lives. The replacement is not owned and
  * must outlive the guard and every object that it made. Guards nest.
+ *
+ * @snippet 27-test-your-dialogs/main.cpp shell
  */
 class MORVANE_UI_EXPORT ShellOverride
 {
 public:
+    /** @param replacement what Shell::instance() returns from here on */
     explicit ShellOverride(Shell& replacement);
     ~ShellOverride();
     ShellOverride(const ShellOverride&) = delete;
