@@ -77,11 +77,11 @@ protected:
     Texts filters{"Data (*.dat)", "Text (*.txt)", "All (*)"};
     Texts files{"old", "older", "oldest"};
     int filterIndex = -77;
+    ui::WidgetShell m_shell{ui::WidgetShell::Appearance::AlwaysWidgets};
+    std::optional<ui::ShellOverride> m_widgets; ///< engaged where the Shell would not be made of widgets by itself
 
 private:
     const bool m_before;
-    ui::WidgetShell m_shell{ui::WidgetShell::Appearance::AlwaysWidgets};
-    std::optional<ui::ShellOverride> m_widgets;
     RecordingSettings m_settings;
     InstanceOverride<ApplicationSettings> m_settingsOverride{m_settings};
     QTemporaryDir m_folder;
