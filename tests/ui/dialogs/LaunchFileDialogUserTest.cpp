@@ -91,7 +91,7 @@ TEST_P(LaunchFileDialogUser, startsWithTheFilterAtTheIndex)
 
 TEST_P(LaunchFileDialogUser, opensSeveralFiles)
 {
-    EXPECT_TRUE(launch({text("a.dat")}, false, true, 2, [](FileDialogPage& page) {
+    EXPECT_TRUE(launch({text("a.dat")}, false, true, 2, [this](FileDialogPage& page) {
         EXPECT_TRUE(m_widgets || page.dialog().fileMode() == QFileDialog::ExistingFiles);
         page.clickFile(QStringLiteral("a.dat"));
         page.clickFile(QStringLiteral("c.txt"), Qt::ControlModifier);
