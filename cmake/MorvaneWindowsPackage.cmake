@@ -16,6 +16,8 @@ if(MORVANE_WINDOWS_SDK)
     endforeach()
     install(FILES ${MORVANE_WINDOWS_SDK}/plugins/platforms/qwindows.dll
             DESTINATION ${CMAKE_INSTALL_BINDIR}/platforms COMPONENT Gallery)
+    install(FILES ${MORVANE_WINDOWS_SDK}/plugins/styles/qwindowsvistastyle.dll
+            DESTINATION ${CMAKE_INSTALL_BINDIR}/styles COMPONENT Gallery)
     # The terms under which these may be passed on, as the distribution states them.
     foreach(source qtbase5-dev g++-mingw-w64-x86-64-posix)
         install(FILES /usr/share/doc/${source}/copyright RENAME ${source}.txt
