@@ -45,7 +45,9 @@ windows_build() {
     fi
     # shellcheck disable=SC2046,SC2086 # the lists are to be split
     need $(packaging/windows/make-sdk --packages) $windows_run_packages
-    [ -n "$given" ] || step 'making the SDK for Windows, once (about 15 minutes)'
+    if [ -z "$given" ] && [ ! -f "$(packaging/windows/make-sdk --print-path)/complete" ]; then
+        step 'making the SDK for Windows, once (about 15 minutes)'
+    fi
     status=0
     sdk=$(windows_sdk "$given") || status=$?
     [ "$status" = 0 ] || exit "$status"
