@@ -12,11 +12,15 @@ using Cursors = std::vector<Qt::CursorShape>;
 class QExtendedFileDialogLifetime : public FileDialogTest
 {
 protected:
+#ifdef Q_OS_WIN
+    static constexpr int manyFiles = 1000; // Qt asks the system ten times for each
+#else
     static constexpr int manyFiles = 10000;
+#endif
 
     static QString numbered(int number)
     {
-        return QStringLiteral("many/run%1.%2").arg(number, 5, 10, QLatin1Char('0')).arg(number == 7777 ? "dat" : "txt");
+        return QStringLiteral("many/run%1.%2").arg(number, 5, 10, QLatin1Char('0')).arg(number == 777 ? "dat" : "txt");
     }
 
     void makeManyFiles() const
@@ -91,7 +95,7 @@ TEST_F(QExtendedFileDialogLifetime, shownDialogIsDestroyedWithItsParent)
     EXPECT_FALSE(dialog);
 }
 
-TEST_F(QExtendedFileDialogLifetime, destroyedWhileAFolderOfTenThousandFilesIsRead)
+TEST_F(QExtendedFileDialogLifetime, destroyedWhileAFolderOfManyFilesIsRead)
 {
     makeManyFiles();
     Dialog dialog = openDialog();
@@ -104,7 +108,7 @@ TEST_F(QExtendedFileDialogLifetime, destroyedWhileAFolderOfTenThousandFilesIsRea
     EXPECT_EQ(overrideCursors(), Cursors());
 }
 
-TEST_F(QExtendedFileDialogLifetime, tenThousandFilesAreListedFilteredAndPicked)
+TEST_F(QExtendedFileDialogLifetime, manyFilesAreListedFilteredAndPicked)
 {
     makeManyFiles();
     const Dialog dialog = openDialog("Text (*.txt);;All (*)");
@@ -115,15 +119,15 @@ TEST_F(QExtendedFileDialogLifetime, tenThousandFilesAreListedFilteredAndPicked)
         EXPECT_TRUE(waitUntil([&] { return page.listed().size() == manyFiles - 1; }));
         EXPECT_TRUE(waitUntil([&] { return overrideCursors() == Cursors({Qt::ArrowCursor}); }));
         page.enterName(QStringLiteral("*.dat"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("run07777.dat")}));
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("run00777.dat")}));
         page.pickTypeWithKeys(1);
         EXPECT_TRUE(waitUntil([&] { return page.listed().size() == manyFiles; }));
-        page.clickFile(QStringLiteral("run07777.dat"));
+        page.clickFile(QStringLiteral("run00777.dat"));
         page.click(QDialogButtonBox::Open);
     });
 
     EXPECT_EQ(result, QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("many/run07777.dat"))));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("many/run00777.dat"))));
 }
 
 TEST_F(QExtendedFileDialogLifetime, runsAgainAndAgain)
