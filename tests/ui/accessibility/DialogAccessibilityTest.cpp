@@ -213,6 +213,7 @@ TEST_F(DialogAccessibility, controlsOfTheHostMirrorFromRightToLeft)
     showNative([](QFileDialog& window) {
         QAbstractButton* const save = buttonNamed(window, "Save");
         QAbstractButton* const arrow = buttonNamed(window, "More ways to accept");
+        ASSERT_TRUE(save && arrow);
         EXPECT_EQ(arrow->x(), 0);
         EXPECT_LT(arrow->width(), save->width() / 2);
         EXPECT_GT(buttonNamed(window, "Compress")->x(), buttonNamed(window, "Lock")->x());
@@ -253,7 +254,9 @@ TEST_F(DialogAccessibility, controlsOfTheHostCanBeReadOnADarkPalette)
     showNative([](QFileDialog& window) {
         QApplication::processEvents();
         for (const char* const name : {"Save", "Compress", "Lock", "Help", "More ways to accept"}) {
-            EXPECT_GE(drawnContrast(*buttonNamed(window, QLatin1String(name))), 4.5) << name;
+            QAbstractButton* const button = buttonNamed(window, QLatin1String(name));
+            ASSERT_TRUE(button);
+            EXPECT_GE(drawnContrast(*button), 4.5) << name;
         }
     });
 }
