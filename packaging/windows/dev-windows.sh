@@ -2,7 +2,7 @@
 # The command "./dev windows": cross-build for Windows and run the tests there, under Wine; and the ZIP for Windows of
 # "./dev package". Sourced by ./dev, whose functions it uses: need, step, die, build, run_tests.
 
-windows_run_packages='wine wine64 xvfb'
+windows_run_packages='wine wine64 fonts-wine xvfb'
 
 windows_usage() {
     cat <<'TEXT'

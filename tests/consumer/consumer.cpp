@@ -3,9 +3,13 @@
 #include "property/Property.h"
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 #include "ui/qt/controls/ElidedTextLabel.h"
+#include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <boost/make_shared.hpp>
 
@@ -30,6 +34,21 @@ bool boxCompletesWithWhatItContains()
     return box.completer()->inherits("ctkCompleter") && box.completer()->completionCount() == 2;
 }
 
+/** Looks a narrow path up on the disk, which on Windows has wide names; a host makes no preparations for that. */
+bool findsWhatHasANameBeyondAscii()
+{
+    const QTemporaryDir temporary;
+    const QString file =
+        temporary.filePath(QString::fromUtf8("\xE5\x86\x99\xE7\x9C\x9F \xC3\xBC \xF0\x9F\x93\xB7.dat"));
+    QFile made(file);
+    if (!made.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    QWidget window;
+    ExtendedWinFileDialog dialog(window, "Open", file.toStdString(), "", "", QFileDialog::AcceptOpen, false);
+    return dialog.directory() == QDir(temporary.path());
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -45,5 +64,6 @@ int main(int argc, char** argv)
     QExtendedFileDialog dialog(window, "Open", "", "Data (*.dat);;All (*)", "", QFileDialog::AcceptOpen);
 
     const bool works = announced == 2 && dialog.nameFilters().size() == 2 && morvane::utf8ToWideString("x") == L"x";
-    return works && labelShowsWhatItCuts() && boxCompletesWithWhatItContains() ? 0 : 1;
+    const bool shows = labelShowsWhatItCuts() && boxCompletesWithWhatItContains();
+    return works && shows && findsWhatHasANameBeyondAscii() ? 0 : 1;
 }

@@ -109,7 +109,7 @@ TEST_P(ShellContract, readsBackTheFolder)
 TEST_P(ShellContract, makesNoItemForAPathThatDoesNotExist)
 {
     ui::ComPtr<IShellItem> item;
-    const auto name = ui::toShellString(path(QStringLiteral("nothing")));
+    const auto name = ui::toShellString(QDir::toNativeSeparators(path(QStringLiteral("nothing"))));
     EXPECT_EQ(shell().createItemFromParsingName(name.c_str(), nullptr, IID_IShellItem, item.putVoid()),
         HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
     EXPECT_FALSE(item);

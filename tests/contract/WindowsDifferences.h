@@ -4,7 +4,10 @@
 
 namespace morvane::test {
 
-/** What the Shell of Wine does otherwise than the contract's test of this name expects; null when nothing is known. */
-const char* wineDifference(const std::string& test);
+/**
+ * What the Shell of the running system, Windows or Wine, does otherwise than the contract's test of this name expects;
+ * null when nothing is known.
+ */
+const char* shellDifference(const std::string& test);
 
 } // namespace morvane::test

@@ -93,7 +93,7 @@ public:
         return dialog.Show(nullptr);
     }
 
-    const char* differenceIn(const std::string& test) const override { return wineDifference(test); }
+    const char* differenceIn(const std::string& test) const override { return shellDifference(test); }
 
 private:
     static void use(const NativeDialog& shown, const std::function<void(ShellUser&)>& play)

@@ -12,6 +12,7 @@
 
 #include <boost/make_shared.hpp>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QWidget>
@@ -87,7 +88,8 @@ TEST_F(RecordingShellTest, givesTheHostTheFileThatTheUserTypesAndAccepts)
         dialog.userAccepts();
     }),
         QDialog::Accepted);
-    EXPECT_EQ(m_dialog.selectedFiles(), QStringList(m_folder.filePath(QStringLiteral("report.dat"))));
+    EXPECT_EQ(m_dialog.selectedFiles(),
+        QStringList(QDir::toNativeSeparators(m_folder.filePath(QStringLiteral("report.dat")))));
 }
 
 TEST_F(RecordingShellTest, staysOpenWithoutAName)

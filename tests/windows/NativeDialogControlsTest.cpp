@@ -157,7 +157,12 @@ TEST_F(NativeDialogControls, closeFromAnActionIsAccepted)
 {
     const auto dialog = makeDialog(QFileDialog::AcceptOpen);
     dialog->addCustomButton("Close", [&dialog] { dialog->close(); });
-    EXPECT_EQ(run(*dialog, [](NativeDialog& shown) { shown.press(first); }), QDialog::Accepted);
+    const auto result = run(*dialog, [](NativeDialog& shown) {
+        shown.setName(L"typed.dat");
+        shown.press(first);
+    });
+    EXPECT_EQ(result, QDialog::Accepted);
+    EXPECT_TRUE(dialog->selectedFiles().isEmpty()) << "nothing was chosen";
 }
 
 TEST_F(NativeDialogControls, helpButtonHandsItsTopicToTheLauncher)

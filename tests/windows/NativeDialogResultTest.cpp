@@ -163,4 +163,35 @@ TEST_F(NativeDialogResult, launcherRunsTheNativeDialogWhileTheSwitchIsOn)
     EXPECT_EQ(filter, 1);
 }
 
+TEST_F(NativeDialogResult, launcherReportsSeveralFilesAndWhatIsToBeSaved)
+{
+    makeFile(QStringLiteral("b.dat"));
+    makeFile(QStringLiteral(u"写 真.dat"));
+    const std::vector<std::string> both{
+        path(QStringLiteral("b.dat")).toStdString(), path(QStringLiteral(u"写 真.dat")).toStdString()};
+    std::vector<std::string> files;
+    int filter = -1;
+    {
+        const DialogUser user([](NativeDialog& shown) { shown.accept(L"\"b.dat\" \"写 真.dat\""); });
+        EXPECT_TRUE(
+            morvane::ui::LaunchFileDialog(files, filter, "Several", {"All (*)"}, {both.front()}, false, true, 0));
+    }
+    EXPECT_EQ(files, both);
+    {
+        const DialogUser user([](NativeDialog& shown) { shown.accept(L"新 \U0001F195.dat"); });
+        EXPECT_TRUE(morvane::ui::LaunchFileDialog(files, filter, "Save", {"All (*)"}, {both.front()}, true, false, 0));
+    }
+    EXPECT_EQ(files, std::vector<std::string>{path(QStringLiteral(u"新 \U0001F195.dat")).toStdString()});
+}
+
+TEST_F(NativeDialogResult, cancelledLauncherReportsNothing)
+{
+    std::vector<std::string> files;
+    int filter = -1;
+    const DialogUser user([](NativeDialog& shown) { shown.cancel(); });
+    EXPECT_FALSE(morvane::ui::LaunchFileDialog(
+        files, filter, "Cancelled", {"All (*)"}, {directory().toStdString()}, false, false, 0));
+    EXPECT_TRUE(files.empty());
+}
+
 } // namespace

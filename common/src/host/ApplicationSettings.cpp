@@ -28,10 +28,8 @@ const int longestWaitMs = 10000;
 // may not even be listed.
 #ifdef Q_OS_WIN
 const int longestReplacingMs = 2000;
-const int longestVanishingMs = 10;
 #else
 const int longestReplacingMs = 0;
-const int longestVanishingMs = 0;
 #endif
 
 enum class FileState
@@ -62,19 +60,35 @@ bool waitFor(int longestMs, Condition condition)
     return true;
 }
 
+QString lockName(const QString& fileName)
+{
+    return fileName + QStringLiteral(".lock");
+}
+
+/** Waits until the condition holds, but only while somebody holds the lock and may be replacing the file. */
+template <typename Condition>
+bool waitWhileReplaced(const QString& fileName, Condition condition)
+{
+    waitFor(longestReplacingMs, [&] { return condition() || !QFileInfo::exists(lockName(fileName)); });
+    return condition();
+}
+
 // QSettings would not do: it reads a line that was cut off as a shorter value, and its process-wide cache hands out,
 // and writes later, values that could not be written.
-Snapshot readFile(const QString& fileName)
+/** @param isLocked whether the caller holds the lock, so that nobody replaces the file meanwhile */
+Snapshot readFile(const QString& fileName, bool isLocked = false)
 {
-    waitFor(longestVanishingMs, [&] { return QFileInfo::exists(fileName); });
+    if (!isLocked) {
+        waitWhileReplaced(fileName, [&] { return QFileInfo::exists(fileName); });
+    }
     const QFileInfo info(fileName);
     if (!info.exists()) {
         return {info.isSymLink() ? FileState::Unreadable : FileState::Missing, {}};
     }
     QFile file(fileName);
     // Opening a pipe or a device would wait for its other end.
-    if (!info.isFile() || info.size() > largestFile ||
-        !waitFor(longestVanishingMs, [&] { return file.open(QIODevice::ReadOnly); })) {
+    const auto opens = [&] { return file.isOpen() || file.open(QIODevice::ReadOnly); };
+    if (!info.isFile() || info.size() > largestFile || !(isLocked ? opens() : waitWhileReplaced(fileName, opens))) {
         return {FileState::Unreadable, {}};
     }
     const QByteArray content = file.readAll();
@@ -158,11 +172,11 @@ struct ApplicationSettings::Impl
         // The file behind a link is locked and replaced, whichever of its names is used.
         const QString canonical = QFileInfo(fileName).canonicalFilePath();
         const QString target = canonical.isEmpty() ? fileName : canonical;
-        QLockFile lock(target + QStringLiteral(".lock"));
+        QLockFile lock(lockName(target));
         if (!QDir().mkpath(QFileInfo(target).path()) || !acquire(lock)) {
             return false;
         }
-        Snapshot snapshot = readFile(fileName);
+        Snapshot snapshot = readFile(fileName, true);
         if (snapshot.state == FileState::Unreadable) {
             return false;
         }

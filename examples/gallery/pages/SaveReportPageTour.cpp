@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -49,10 +50,12 @@ void answer(QMessageBox::StandardButton button)
     tour::click(*tour::modal<QMessageBox>()->button(button));
 }
 
-/** Outside of what the tour may write, and on every system nothing that can be written. */
-QString refusedName()
+/** Outside of what the tour may write where there is such a place, and on every system nothing that can be written. */
+QString refusedName(const TourWorkspace& workspace)
 {
-    return QStringLiteral("/proc/report.txt");
+    const bool hasProcesses = QDir::rootPath() == QLatin1String("/");
+    return hasProcesses ? QStringLiteral("/proc/report.txt")
+                        : workspace.folder().path(QStringLiteral("archive/|report.txt"));
 }
 
 } // namespace
@@ -177,8 +180,9 @@ std::vector<TourStep> SaveReportPage::replaceSteps(const TourWorkspace& workspac
 
 std::vector<TourStep> SaveReportPage::refusedSteps(const TourWorkspace& workspace)
 {
-    const auto enter = [] { tour::enterName(refusedName()); };
-    const auto asked = [] { return expectQuestion(QStringLiteral("Unable to save file ") + refusedName()); };
+    const QString refused = refusedName(workspace);
+    const auto enter = [refused] { tour::enterName(refused); };
+    const auto asked = [refused] { return expectQuestion(QStringLiteral("Unable to save file ") + refused); };
     std::vector<TourStep> steps;
     steps.push_back(saveStep(QStringLiteral("dialog-for-refused-place")));
     steps.push_back({QStringLiteral("place-refuses"), enter, asked});
@@ -217,8 +221,11 @@ std::vector<TourStep> SaveReportPage::wordingSteps(const TourWorkspace& workspac
     steps.push_back(writtenStep(
         QStringLiteral("own-replaced"), [] { answer(QMessageBox::Yes); }, path, 0));
     steps.push_back(saveStep(QStringLiteral("dialog-with-own-refusal")));
-    steps.push_back({QStringLiteral("own-refused-question"), [] { tour::enterName(refusedName()); },
-        [] { return expectQuestion(QStringLiteral("Nobody may write report.txt there.")); }});
+    const QString refused = refusedName(workspace);
+    steps.push_back({QStringLiteral("own-refused-question"), [refused] { tour::enterName(refused); },
+        [refused] {
+            return expectQuestion(QStringLiteral("Nobody may write %1 there.").arg(QFileInfo(refused).fileName()));
+        }});
     steps.push_back({QStringLiteral("own-refused-escape"),
         [] { tour::press(*QApplication::activeModalWidget(), Qt::Key_Escape); }, [] { return tour::expectClosed(); }});
     steps.push_back({QStringLiteral("default-wording"), toggleWording, [this] {

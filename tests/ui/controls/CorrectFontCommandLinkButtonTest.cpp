@@ -7,12 +7,30 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace {
 
 /** QCommandLinkButton hides its size hints. */
 QSize preferred(const QWidget& button)
 {
     return button.sizeHint();
+}
+
+/** The largest difference of a colour's part, 0 to 255, over the pixels of @p shown. */
+int largestDifference(const QImage& shown, const QImage& wanted)
+{
+    int largest = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            const QColor one(shown.pixel(x, y));
+            const QColor other(wanted.pixel(x, y));
+            largest = std::max({largest, std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
+                std::abs(one.blue() - other.blue())});
+        }
+    }
+    return largest;
 }
 
 class CommandLink : public ::testing::Test
@@ -66,6 +84,7 @@ TEST_F(CommandLink, keepsItsPreferredSizeWhereTheLayoutOverflows)
 
 TEST_F(CommandLink, showsTheWholeWrappedDescriptionInANarrowLayout)
 {
+    button->setFocusPolicy(Qt::NoFocus); // some styles draw a frame for it
     button->setDescription(longDescription);
     show();
     window.resize(40, 20);
@@ -80,7 +99,7 @@ TEST_F(CommandLink, showsTheWholeWrappedDescriptionInANarrowLayout)
     // What the roomy one has more must be blank, so no line of the text was cut.
     const QImage shown = button->grab().toImage().convertToFormat(QImage::Format_RGB32);
     QImage wanted = roomy.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    EXPECT_EQ(shown, wanted.copy(button->rect()));
+    EXPECT_LE(largestDifference(shown, wanted), 32); // text is smoothed otherwise in a window
     wanted = wanted.copy(0, button->height(), button->width(), button->height());
     QImage blank(wanted.size(), wanted.format());
     blank.fill(wanted.pixel(0, 0));

@@ -1,5 +1,7 @@
 #include "ExtendedFileDialogTest.h"
 
+#include <QDir>
+
 #include <type_traits>
 
 static_assert(!std::is_copy_constructible_v<ExtendedFileDialog>);
@@ -88,7 +90,7 @@ TEST_F(ExtendedFileDialogTest, handsItsArgumentsToTheQtDialog)
 TEST_F(ExtendedFileDialogTest, returnsTheResultOfTheNativeDialog)
 {
     const auto dialog = make(true);
-    m_shell.script.results = QStringList(QStringLiteral("/x/\u00FC.dat"));
+    m_shell.script.results = QStringList(QDir::toNativeSeparators(QStringLiteral("/x/\u00FC.dat")));
     EXPECT_EQ(dialog->exec(), 1);
     EXPECT_EQ(dialog->selectedFiles(), m_shell.script.results);
     m_shell.script.showResult = E_FAIL;

@@ -144,7 +144,7 @@ TEST_F(ExtendedWinFileDialogExec, tellsTheOutcome)
 TEST_F(ExtendedWinFileDialogExec, readsOneResult)
 {
     const auto dialog = openDialog();
-    m_shell.script.results = QStringList(QString::fromUtf8("/a b/\xC3\xBC\xF0\x9F\x93\x81.dat"));
+    m_shell.script.results = QStringList(native(QString::fromUtf8("/a b/\xC3\xBC\xF0\x9F\x93\x81.dat")));
     EXPECT_EQ(run(*dialog, [](RecordingDialog& user) { user.userAccepts(); }), QDialog::Accepted);
     QStringList files;
     EXPECT_THAT(callsOf([&] { files = dialog->selectedFiles(); }),
@@ -157,7 +157,7 @@ TEST_F(ExtendedWinFileDialogExec, readsSeveralResultsInTheirOrder)
 {
     const auto dialog = openDialog();
     dialog->setFileMode(QFileDialog::ExistingFiles);
-    m_shell.script.results = QStringList({QStringLiteral("/b"), QStringLiteral("/a")});
+    m_shell.script.results = QStringList({native(QStringLiteral("/b")), native(QStringLiteral("/a"))});
     EXPECT_EQ(run(*dialog, [](RecordingDialog& user) { user.userAccepts(); }), QDialog::Accepted);
     QStringList files;
     const Calls item = {"IShellItem::GetDisplayName(SIGDN_FILESYSPATH)", "CoTaskMemFree(text)"};
@@ -181,7 +181,7 @@ TEST_F(ExtendedWinFileDialogExec, givesNoSeveralResultsOfASaveDialog)
 {
     const auto dialog = saveDialog();
     dialog->setFileMode(QFileDialog::ExistingFiles);
-    m_shell.script.results = QStringList(QStringLiteral("/a"));
+    m_shell.script.results = QStringList(native(QStringLiteral("/a")));
     run(*dialog, [](RecordingDialog& user) { user.userAccepts(); });
     EXPECT_THAT(dialog->selectedFiles(), IsEmpty()) << "the Shell has no such interface for saving";
 }

@@ -30,7 +30,7 @@ TEST_F(ExtendedWinFileDialogNesting, asksNothingOfTheShellWhenItRunsAlready)
         clicked = true;
         EXPECT_THAT(callsOf([&] { EXPECT_EQ(dialog->exec(), QDialog::Rejected); }), IsEmpty());
     });
-    m_shell.script.results = QStringList(QStringLiteral("/a"));
+    m_shell.script.results = QStringList(native(QStringLiteral("/a")));
     const auto result = run(*dialog, [](RecordingDialog& user) {
         user.userClicks(0);
         EXPECT_TRUE(user.isShown());
@@ -39,7 +39,7 @@ TEST_F(ExtendedWinFileDialogNesting, asksNothingOfTheShellWhenItRunsAlready)
     });
     EXPECT_TRUE(clicked);
     EXPECT_EQ(result, QDialog::Accepted) << "the outer run goes on";
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(QStringLiteral("/a")));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(native(QStringLiteral("/a"))));
     EXPECT_EQ(run(*dialog, [](RecordingDialog& user) { user.userAccepts(); }), QDialog::Accepted);
 }
 
@@ -48,7 +48,7 @@ TEST_F(ExtendedWinFileDialogNesting, runsAgainAfterAnExceptionOfAnAction)
     const auto dialog = openDialog();
     dialog->addCustomButton("Throw", [] { throw std::runtime_error("action"); });
     EXPECT_THROW(run(*dialog, [](RecordingDialog& user) { user.userClicks(0); }), std::runtime_error);
-    m_shell.script.results = QStringList(QStringLiteral("/a"));
+    m_shell.script.results = QStringList(native(QStringLiteral("/a")));
     EXPECT_EQ(run(*dialog, [](RecordingDialog& user) { user.userAccepts(); }), QDialog::Accepted);
 }
 
@@ -61,7 +61,7 @@ TEST_F(ExtendedWinFileDialogNesting, anActionMayRunAnotherDialog)
         EXPECT_EQ(inner->exec(), QDialog::Rejected);
         EXPECT_FALSE(innerNative->isShown());
     });
-    m_shell.script.results = QStringList(QStringLiteral("/a"));
+    m_shell.script.results = QStringList(native(QStringLiteral("/a")));
     bool nested = false;
     EXPECT_EQ(run(*outer,
                   [&](RecordingDialog& user) {
@@ -145,14 +145,14 @@ TEST_P(ExtendedWinFileDialogCallback, cannotRunTheDialogASecondTime)
         ++heard;
         EXPECT_THAT(callsOf([&] { EXPECT_EQ(dialog->exec(), QDialog::Rejected); }), IsEmpty());
     });
-    m_shell.script.results = QStringList(QStringLiteral("/a"));
+    m_shell.script.results = QStringList(native(QStringLiteral("/a")));
     const auto play = [](RecordingDialog& user) {
         GetParam().play(user);
         user.userAccepts();
     };
     EXPECT_EQ(run(*dialog, play), QDialog::Accepted) << "the outer run goes on";
     EXPECT_EQ(heard, 1);
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(QStringLiteral("/a")));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(native(QStringLiteral("/a"))));
 }
 
 TEST_P(ExtendedWinFileDialogCallback, mayDestroyTheParent)

@@ -12,6 +12,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -55,6 +56,9 @@ protected:
     RecordingDialog& shown() { return *m_shell.dialog(); }
 
     QString path(const QString& name) const { return m_folder.filePath(name); }
+    /** In the form in which the dialog reports paths. */
+    QString nativePath(const QString& name) const { return native(path(name)); }
+    static QString native(const QString& path) { return QDir::toNativeSeparators(path); }
     std::string folder() const { return m_folder.path().toStdString(); }
     void makeFile(const QString& name) const;
 

@@ -88,7 +88,7 @@ TEST_F(ExtendedWinFileDialogWidgets, opensTheTypedFile)
                       page.enterName(QStringLiteral("b.dat"));
                   }),
         QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("b.dat"))));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("b.dat"))));
     EXPECT_EQ(dialog->directory().path().toStdString(), folder());
 }
 
@@ -98,7 +98,7 @@ TEST_F(ExtendedWinFileDialogWidgets, opensTheClickedFile)
     dialog->setFileMode(QFileDialog::ExistingFile);
     EXPECT_EQ(
         use(*dialog, [](FileDialogPage& page) { page.doubleClickFile(QStringLiteral("c.txt")); }), QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("c.txt"))));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("c.txt"))));
 }
 
 TEST_F(ExtendedWinFileDialogWidgets, opensSeveralFiles)
@@ -114,7 +114,7 @@ TEST_F(ExtendedWinFileDialogWidgets, opensSeveralFiles)
         QDialog::Accepted);
     QStringList files = dialog->selectedFiles();
     files.sort();
-    EXPECT_EQ(files, QStringList({path(QStringLiteral("a.dat")), path(QStringLiteral("c.txt"))}));
+    EXPECT_EQ(files, QStringList({nativePath(QStringLiteral("a.dat")), nativePath(QStringLiteral("c.txt"))}));
 }
 
 TEST_F(ExtendedWinFileDialogWidgets, picksAFolder)
@@ -127,7 +127,7 @@ TEST_F(ExtendedWinFileDialogWidgets, picksAFolder)
                       WidgetUser(page.dialog()).pressAccept();
                   }),
         QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("inner"))));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("inner"))));
 }
 
 TEST_F(ExtendedWinFileDialogWidgets, cancelsWithEscape)
@@ -164,7 +164,7 @@ TEST_F(ExtendedWinFileDialogWidgets, savesTheNewNameThatItStartsWith)
                       page.click(QDialogButtonBox::Save);
                   }),
         QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("new.dat"))));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("new.dat"))));
 }
 
 TEST_F(ExtendedWinFileDialogWidgets, asksBeforeOverwriting)
@@ -180,7 +180,7 @@ TEST_F(ExtendedWinFileDialogWidgets, asksBeforeOverwriting)
     m_user.on<QMessageBox>([](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton); });
     EXPECT_EQ(dialog->exec(), QDialog::Accepted);
     EXPECT_TRUE(m_user.finished());
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("a.dat"))));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("a.dat"))));
 }
 
 TEST_F(ExtendedWinFileDialogWidgets, overwritesWithoutQuestionWhenTold)
@@ -188,7 +188,7 @@ TEST_F(ExtendedWinFileDialogWidgets, overwritesWithoutQuestionWhenTold)
     const auto dialog = dialogIn(true);
     dialog->setDontConfirmOverwrite(true);
     EXPECT_EQ(use(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("a.dat")); }), QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("a.dat"))));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("a.dat"))));
 }
 
 TEST_F(ExtendedWinFileDialogWidgets, showsHelp)
@@ -240,7 +240,7 @@ TEST_F(ExtendedWinFileDialogWidgets, reportsTheOptionThatWasPickedInTheMenu)
                   }),
         QDialog::Accepted);
     EXPECT_EQ(dialog->selectedAcceptMenuOption(), 20);
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("new.dat"))));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("new.dat"))));
     dialog->clearAcceptMenuOptions();
     dialog->addAcceptButtonOption("Keep", 30);
     use(*dialog, [](FileDialogPage& page) { QTest::keyClick(&page.dialog(), Qt::Key_Escape); });
@@ -292,7 +292,7 @@ TEST_F(ExtendedWinFileDialogWidgets, keepsFolderNameAndTypeForTheSecondRun)
                       page.enterName(QStringLiteral("again.raw"));
                   }),
         QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("inner/again.raw"))));
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("inner/again.raw"))));
 }
 
 } // namespace

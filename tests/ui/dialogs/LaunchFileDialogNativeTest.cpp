@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
@@ -32,7 +33,12 @@ protected:
     bool launch(const Texts& selection, bool save, bool several, int index)
     {
         m_shell.clearCalls();
-        return ui::LaunchFileDialog(files, filterIndex, "Caption", filters, selection, save, several, index);
+        const bool result =
+            ui::LaunchFileDialog(files, filterIndex, "Caption", filters, selection, save, several, index);
+        for (std::string& file : files) { // they come in the platform's form
+            file = QDir::fromNativeSeparators(QString::fromStdString(file)).toStdString();
+        }
+        return result;
     }
     int sentIndex() const
     {

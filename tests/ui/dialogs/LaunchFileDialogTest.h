@@ -8,6 +8,7 @@
 #include "host/InstanceOverride.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/LaunchFileDialog.h"
+#include "ui/qt/dialogs/shell/WidgetShell.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -26,6 +27,8 @@
 #include <QTest>
 #include <QWidget>
 
+#include <optional>
+
 namespace morvane::test {
 
 /** A folder with the files a.dat, b.dat, c.txt and the folder inner, and a user in front of the launched dialog. */
@@ -37,6 +40,9 @@ protected:
     explicit LaunchFileDialogTest(bool native) : m_before(ExtendedFileDialog::useNativeFileDialog())
     {
         ExtendedFileDialog::setUseNativeFileDialog(native);
+        if (QGuiApplication::platformName() == QLatin1String("windows")) {
+            m_widgets.emplace(m_shell); // the system's own dialog takes no events of Qt
+        }
         for (const char* const name : {"a.dat", "b.dat", "c.txt"}) {
             QFile file(path(name));
             EXPECT_TRUE(file.open(QIODevice::WriteOnly));
@@ -71,6 +77,8 @@ protected:
     Texts filters{"Data (*.dat)", "Text (*.txt)", "All (*)"};
     Texts files{"old", "older", "oldest"};
     int filterIndex = -77;
+    ui::WidgetShell m_shell{ui::WidgetShell::Appearance::AlwaysWidgets};
+    std::optional<ui::ShellOverride> m_widgets; ///< engaged where the Shell would not be made of widgets by itself
 
 private:
     const bool m_before;

@@ -12,6 +12,12 @@ class LaunchFileDialogUser : public LaunchFileDialogTest, public ::testing::With
 {
 protected:
     LaunchFileDialogUser() : LaunchFileDialogTest(GetParam()) {}
+
+    /** The native dialog gives paths in the platform's form. */
+    std::string reported(const char* name) const
+    {
+        return (GetParam() ? QDir::toNativeSeparators(path(name)) : path(name)).toStdString();
+    }
 };
 
 TEST_P(LaunchFileDialogUser, opensTheTypedFile)
@@ -27,7 +33,7 @@ TEST_P(LaunchFileDialogUser, opensTheTypedFile)
         page.typeName(QStringLiteral("b.dat"));
         page.click(QDialogButtonBox::Open);
     }));
-    EXPECT_THAT(files, ElementsAre(text("b.dat")));
+    EXPECT_THAT(files, ElementsAre(reported("b.dat")));
     EXPECT_EQ(filterIndex, 0);
 }
 
@@ -39,7 +45,7 @@ TEST_P(LaunchFileDialogUser, opensTheClickedFileOfThePickedType)
         page.waitForListed({QStringLiteral("c.txt"), QStringLiteral("inner")});
         page.doubleClickFile(QStringLiteral("c.txt"));
     }));
-    EXPECT_THAT(files, ElementsAre(text("c.txt")));
+    EXPECT_THAT(files, ElementsAre(reported("c.txt")));
     EXPECT_EQ(filterIndex, 1);
 }
 
@@ -52,7 +58,7 @@ TEST_P(LaunchFileDialogUser, opensTheNameThatIsEnteredWithTheKeyboard)
             page.typeName(QString());
             page.enterName(QStringLiteral("b.dat"));
         }));
-        EXPECT_THAT(files, ElementsAre(text("b.dat"))) << several;
+        EXPECT_THAT(files, ElementsAre(reported("b.dat"))) << several;
     }
 }
 
@@ -79,19 +85,19 @@ TEST_P(LaunchFileDialogUser, startsWithTheFilterAtTheIndex)
         EXPECT_EQ(page.typeCombo().currentIndex(), 1);
         page.enterName(QStringLiteral("c.txt"));
     }));
-    EXPECT_THAT(files, ElementsAre(text("c.txt")));
+    EXPECT_THAT(files, ElementsAre(reported("c.txt")));
     EXPECT_EQ(filterIndex, 1);
 }
 
 TEST_P(LaunchFileDialogUser, opensSeveralFiles)
 {
-    EXPECT_TRUE(launch({text("a.dat")}, false, true, 2, [](FileDialogPage& page) {
-        EXPECT_EQ(page.dialog().fileMode(), QFileDialog::ExistingFiles);
+    EXPECT_TRUE(launch({text("a.dat")}, false, true, 2, [this](FileDialogPage& page) {
+        EXPECT_TRUE(m_widgets || page.dialog().fileMode() == QFileDialog::ExistingFiles);
         page.clickFile(QStringLiteral("a.dat"));
         page.clickFile(QStringLiteral("c.txt"), Qt::ControlModifier);
         page.click(QDialogButtonBox::Open);
     }));
-    EXPECT_THAT(files, UnorderedElementsAre(text("a.dat"), text("c.txt")));
+    EXPECT_THAT(files, UnorderedElementsAre(reported("a.dat"), reported("c.txt")));
     EXPECT_EQ(filterIndex, 2);
 }
 
@@ -102,7 +108,7 @@ TEST_P(LaunchFileDialogUser, acceptsTheInitialSelectionOfSeveralAsItStands)
         page.dialog().setDirectory(path(""));
         page.enterName(QStringLiteral("\"a.dat\" \"b.dat\" "));
     }));
-    EXPECT_THAT(files, UnorderedElementsAre(text("a.dat"), text("b.dat")));
+    EXPECT_THAT(files, UnorderedElementsAre(reported("a.dat"), reported("b.dat")));
 }
 
 TEST_P(LaunchFileDialogUser, savesANewName)
@@ -114,7 +120,7 @@ TEST_P(LaunchFileDialogUser, savesANewName)
         EXPECT_EQ(page.name(), QStringLiteral("new.dat"));
         page.click(QDialogButtonBox::Save);
     }));
-    EXPECT_THAT(files, ElementsAre(text("inner/new.dat")));
+    EXPECT_THAT(files, ElementsAre(reported("inner/new.dat")));
     EXPECT_EQ(filterIndex, 0);
     EXPECT_FALSE(QFile::exists(path("inner/new.dat"))) << "choosing writes nothing";
 }
@@ -124,7 +130,7 @@ TEST_P(LaunchFileDialogUser, savesANameBeyondAscii)
     const std::string name = "Messung \xC3\xBC\xE2\x82\xAC\xF0\x9F\x93\x81.dat";
     EXPECT_TRUE(launch(
         {text("a.dat")}, true, false, 0, [&](FileDialogPage& page) { page.enterName(QString::fromStdString(name)); }));
-    EXPECT_THAT(files, ElementsAre(text(name.c_str())));
+    EXPECT_THAT(files, ElementsAre(reported(name.c_str())));
 }
 
 TEST_P(LaunchFileDialogUser, letsSeveralExistingFilesWinOverSaving)
@@ -195,7 +201,7 @@ TEST_P(LaunchFileDialogUser, asksBeforeOverwriting)
         page.click(QDialogButtonBox::Save);
     }));
     EXPECT_TRUE(asked);
-    EXPECT_THAT(files, ElementsAre(text("a.dat")));
+    EXPECT_THAT(files, ElementsAre(reported("a.dat")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, LaunchFileDialogUser, ::testing::Bool(),

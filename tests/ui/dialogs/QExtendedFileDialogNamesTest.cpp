@@ -177,6 +177,9 @@ TEST_F(QExtendedFileDialogSeveralNames, oddNamesArePickedTogether)
 
 TEST_F(QExtendedFileDialogSeveralNames, nameWithAStarFiltersInsteadOfOpening)
 {
+    if (!diskTakesName(QStringLiteral("a*.dat"))) {
+        GTEST_SKIP() << "no file of this system has a star in its name";
+    }
     makeFiles({QStringLiteral("a*.dat"), QStringLiteral("b.dat")});
     const Dialog dialog = openDialog("All (*)");
 

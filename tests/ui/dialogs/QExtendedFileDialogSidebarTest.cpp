@@ -77,7 +77,8 @@ TEST_F(QExtendedFileDialogSidebar, firstShowAppendsThemToo)
 
 TEST_F(QExtendedFileDialogSidebar, constructionLeavesItAlone)
 {
-    const QFileDialog plain(m_parent.get());
+    QFileDialog plain(m_parent.get());
+    plain.setOption(QFileDialog::DontUseNativeDialog);
     const Dialog dialog = openDialog();
 
     EXPECT_EQ(dialog->sidebarUrls(), plain.sidebarUrls());

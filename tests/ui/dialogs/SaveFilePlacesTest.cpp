@@ -65,6 +65,11 @@ TEST_P(SaveFlow, aFileThatMayBeReplacedButNotWrittenLeadsToAnotherPlace)
 
 TEST_P(SaveFlow, aDirectoryThatVanishesAfterTheDialogIsNotWritable)
 {
+#ifdef Q_OS_WIN
+    if (!GetParam()) {
+        GTEST_SKIP() << "Qt's dialog watches the folder that it shows, and Windows keeps a folder that is watched";
+    }
+#endif
     QDir folder(m_directory.path());
     ASSERT_TRUE(folder.mkdir("short-lived"));
     const auto flow = makeFlow(

@@ -2,6 +2,7 @@
 
 #include "host/ApplicationSettings.h"
 #include "host/HelpLauncher.h"
+#include "ui/qt/util/FileDialogAccess.h"
 #include "ui/qt/util/GuiThread.h"
 
 #include <QComboBox>
@@ -32,12 +33,6 @@ public:
     ArrowCursor(const ArrowCursor&) = delete;
     ArrowCursor& operator=(const ArrowCursor&) = delete;
 };
-
-/** The button box stands before the list of types in the order of Tab, and would pass the focus past it to a button. */
-void letTabReachTheTypes(const QFileDialog& dialog)
-{
-    dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->setFocusProxy(nullptr);
-}
 
 QString fromUtf8(const std::string& text)
 {
@@ -104,7 +99,7 @@ void QExtendedFileDialog::show()
     restoreSizeAndPosition();
     restoreFilters();
     addSidebarUrls();
-    letTabReachTheTypes(*this);
+    morvane::ui::makeListsReachable(*this);
     QWidget::show();
     saveSizeAndPosition();
 }
@@ -114,7 +109,7 @@ int QExtendedFileDialog::exec()
     restoreSizeAndPosition();
     restoreFilters();
     addSidebarUrls();
-    letTabReachTheTypes(*this);
+    morvane::ui::makeListsReachable(*this);
     const ArrowCursor arrow;
     const QPointer<QExtendedFileDialog> self(this);
     const int result = QDialog::exec();

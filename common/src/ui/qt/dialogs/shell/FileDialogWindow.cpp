@@ -1,5 +1,7 @@
 #include "ui/qt/dialogs/shell/FileDialogWindow.h"
 
+#include "ui/qt/util/FileDialogAccess.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -168,10 +170,7 @@ void FileDialogWindow::watchWidgets()
 
 void FileDialogWindow::run()
 {
-    if (auto* const buttons = findChild<QDialogButtonBox*>()) {
-        // It stands before the list of types in the order of Tab, and would pass the focus past it to a button.
-        buttons->setFocusProxy(nullptr);
-    }
+    makeListsReachable(*this);
     const QPointer<FileDialogWindow> self(this);
     do {
         m_again = false;

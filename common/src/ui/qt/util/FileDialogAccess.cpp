@@ -1,0 +1,33 @@
+#include "ui/qt/util/FileDialogAccess.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLabel>
+
+namespace morvane::ui {
+
+namespace {
+
+void nameList(const QFileDialog& dialog, const QString& label, const QString& list)
+{
+    auto* const text = dialog.findChild<QLabel*>(label);
+    auto* const combo = dialog.findChild<QComboBox*>(list);
+    if (text && combo) {
+        text->setBuddy(combo);
+    }
+}
+
+} // namespace
+
+void makeListsReachable(const QFileDialog& dialog)
+{
+    // The button box stands before the list of types in the order of Tab, and would pass the focus past it to a button.
+    if (auto* const buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))) {
+        buttons->setFocusProxy(nullptr);
+    }
+    nameList(dialog, QStringLiteral("lookInLabel"), QStringLiteral("lookInCombo"));
+    nameList(dialog, QStringLiteral("fileTypeLabel"), QStringLiteral("fileTypeCombo"));
+}
+
+} // namespace morvane::ui
