@@ -51,6 +51,13 @@ function(morvane_precompile target)
     endif()
 endfunction()
 
+# morvane_uses_regex(source...): with sanitizers, GCC takes parts of <regex> for uninitialized.
+function(morvane_uses_regex)
+    if(MORVANE_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+        set_property(SOURCE ${ARGN} APPEND PROPERTY COMPILE_OPTIONS -Wno-maybe-uninitialized)
+    endif()
+endfunction()
+
 # morvane_library(NAME morvane-ui EXPORT_NAME Ui EXPORT_HEADER ui/qt/MorvaneUiExport.h EXPORT_MACRO MORVANE_UI_EXPORT
 #                 PUBLIC_HEADERS ... SOURCES ...)
 # A versioned shared library with its export header; header paths are relative to the include root.

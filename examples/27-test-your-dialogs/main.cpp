@@ -43,8 +43,10 @@ int main(int argc, char** argv)
     check("the typed name is exported to", QString::fromStdString(askForExport()).endsWith("/result.dat"));
     //! [accept]
 
+    //! [cancel]
     shell.script.duringShow = [](morvane::test::RecordingDialog& dialog) { dialog.userCancels(); };
     check("cancelling exports nothing", askForExport().empty());
+    //! [cancel]
 
     //! [fail]
     shell.failCalls("IFileDialog::Show");

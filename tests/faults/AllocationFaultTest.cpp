@@ -30,10 +30,18 @@ enum class Outcome
     OutOfMemory
 };
 
+struct Run
+{
+    Outcome outcome;
+    /** Whether there was an allocation to fail. Code may do without one, and be done all the same. */
+    bool hadFault;
+};
+
 /** Runs `action` with the allocation `failing` failing; it must leave nothing allocated when it is given up. */
-Outcome runWithFault(int failing, const std::function<void()>& action)
+Run runWithFault(int failing, const std::function<void()>& action)
 {
     bool outOfMemory = false;
+    int count = 0;
     int outstanding = 0;
     {
         const AllocationFaults faults(failing);
@@ -42,12 +50,13 @@ Outcome runWithFault(int failing, const std::function<void()>& action)
         } catch (const std::bad_alloc&) {
             outOfMemory = true;
         }
+        count = AllocationFaults::count();
         outstanding = AllocationFaults::outstanding();
     }
     if (outOfMemory) {
         EXPECT_EQ(outstanding, 0) << "allocation " << failing;
     }
-    return outOfMemory ? Outcome::OutOfMemory : Outcome::Done;
+    return {outOfMemory ? Outcome::OutOfMemory : Outcome::Done, count >= failing};
 }
 
 /** Runs `action` with each of its allocations failing, `prepare` before and `check` after it; how many there were. */
@@ -56,9 +65,9 @@ int failEachAllocation(const std::function<void()>& prepare, const std::function
 {
     for (int failing = 1;; ++failing) {
         prepare();
-        const Outcome outcome = runWithFault(failing, action);
-        check(outcome);
-        if (outcome == Outcome::Done || ::testing::Test::HasFailure()) {
+        const Run run = runWithFault(failing, action);
+        check(run.outcome);
+        if (!run.hadFault || ::testing::Test::HasFailure()) {
             return failing - 1;
         }
     }
@@ -132,7 +141,7 @@ TEST(AllocationFaultsTest, aPropertyWorksAfterAFailure)
 {
     Property<std::string> property(longText);
     const std::string newValue = longText + longText;
-    EXPECT_EQ(runWithFault(1, [&] { property.setValue(newValue); }), Outcome::OutOfMemory);
+    EXPECT_EQ(runWithFault(1, [&] { property.setValue(newValue); }).outcome, Outcome::OutOfMemory);
     EXPECT_EQ(property.value(), longText);
     int calls = 0;
     property.signalValueChanged.connect([&](const std::string&) { ++calls; });
@@ -209,7 +218,7 @@ TEST(AllocationFaultsTest, theClipboardKeepsItsTextWhenTheNewOneCannotBeMade)
     ASSERT_GT(allocationsOfText, 3);
     QGuiApplication::clipboard()->setText(QStringLiteral("before"));
     for (int failing = 1; failing <= allocationsOfText; ++failing) {
-        EXPECT_EQ(runWithFault(failing, [&] { handler.copyToClipboard(); }), Outcome::OutOfMemory) << failing;
+        EXPECT_EQ(runWithFault(failing, [&] { handler.copyToClipboard(); }).outcome, Outcome::OutOfMemory) << failing;
         EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
     }
     handler.copyToClipboard();

@@ -97,9 +97,14 @@ using morvane::test::made;
 
 #ifdef __SANITIZE_ADDRESS__
 
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return fails() ? nullptr : made(std::malloc(size == 0 ? 1 : size));
+}
+
 void* operator new(std::size_t size)
 {
-    void* const block = fails() ? nullptr : made(std::malloc(size == 0 ? 1 : size));
+    void* const block = operator new(size, std::nothrow);
     if (!block) {
         throw std::bad_alloc();
     }

@@ -164,6 +164,30 @@ TEST_F(Controls, offerTheEntriesOfTheListByTheirTexts)
     EXPECT_EQ(list->child(1)->text(QAccessible::Name), "Benzene");
 }
 
+TEST_F(Controls, offerWhatFitsTheTypedTextByItsTexts)
+{
+    show();
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box, "eth");
+    QAbstractItemView* const popup = box->completer()->popup();
+    ASSERT_TRUE(popup->isVisible());
+    QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(popup);
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->role(), QAccessible::List);
+    ASSERT_EQ(list->childCount(), 1);
+    EXPECT_EQ(list->child(0)->text(QAccessible::Name), "Ethanol");
+}
+
+TEST_F(Controls, offerReadableEntriesOnADarkPalette)
+{
+    const DarkPalette dark;
+    show();
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box, "eth");
+    ASSERT_TRUE(box->completer()->popup()->isVisible());
+    EXPECT_GE(drawnContrast(*box->completer()->popup()->viewport()), 4.5);
+}
+
 TEST_F(Controls, canBeReadOnADarkPalette)
 {
     const DarkPalette dark;

@@ -213,11 +213,39 @@ TEST_F(DialogAccessibility, controlsOfTheHostMirrorFromRightToLeft)
     showNative([](QFileDialog& window) {
         QAbstractButton* const save = buttonNamed(window, "Save");
         QAbstractButton* const arrow = buttonNamed(window, "More ways to accept");
+        ASSERT_TRUE(save && arrow);
         EXPECT_EQ(arrow->x(), 0);
         EXPECT_LT(arrow->width(), save->width() / 2);
         EXPECT_GT(buttonNamed(window, "Compress")->x(), buttonNamed(window, "Lock")->x());
     });
     QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST_F(DialogAccessibility, theQtDialogMirrorsFromRightToLeft)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    showQt([](QFileDialog& window) {
+        const auto* const name = window.findChild<QLineEdit*>("fileNameEdit");
+        ASSERT_TRUE(name);
+        EXPECT_LT(buttonNamed(window, "Open")->mapTo(&window, QPoint()).x(), name->x());
+        EXPECT_LT(buttonNamed(window, "Help")->mapTo(&window, QPoint()).x(), name->x());
+    });
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST_F(DialogAccessibility, theQtDialogCanBeReadOnADarkPalette)
+{
+    const DarkPalette dark;
+    showQt([](QFileDialog& window) {
+        QApplication::processEvents();
+        auto* const name = window.findChild<QLineEdit*>("fileNameEdit");
+        ASSERT_TRUE(name);
+        name->setText("run-17.dat");
+        for (QWidget* const part : {static_cast<QWidget*>(buttonNamed(window, "Open")),
+                 static_cast<QWidget*>(buttonNamed(window, "Help")), static_cast<QWidget*>(name)}) {
+            EXPECT_GE(drawnContrast(*part), 4.5) << nameOf(part).toStdString();
+        }
+    });
 }
 
 TEST_F(DialogAccessibility, controlsOfTheHostCanBeReadOnADarkPalette)
@@ -226,7 +254,9 @@ TEST_F(DialogAccessibility, controlsOfTheHostCanBeReadOnADarkPalette)
     showNative([](QFileDialog& window) {
         QApplication::processEvents();
         for (const char* const name : {"Save", "Compress", "Lock", "Help", "More ways to accept"}) {
-            EXPECT_GE(drawnContrast(*buttonNamed(window, QLatin1String(name))), 4.5) << name;
+            QAbstractButton* const button = buttonNamed(window, QLatin1String(name));
+            ASSERT_TRUE(button);
+            EXPECT_GE(drawnContrast(*button), 4.5) << name;
         }
     });
 }
@@ -244,14 +274,18 @@ protected:
     }
     ~SaveQuestions() override { ExtendedFileDialog::setUseNativeFileDialog(true); }
 
-    /** Accepts the existing name by keys, and lets @p look look at the question. */
-    void askOnce(const std::function<void(QMessageBox&)>& look)
+    /** Accepts the existing name by keys, or another one, and lets @p look look at the question. */
+    void askOnce(const std::function<void(QMessageBox&)>& look, const QString& otherName = QString())
     {
         SaveFileDialog dialog(&owner, "Save report", folder.path().toStdString(), "report", "Text (*.txt)", "");
         ModalScript user;
-        user.on<QFileDialog>([](QFileDialog& window) {
+        user.on<QFileDialog>([&otherName](QFileDialog& window) {
             ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-            QTest::keyClick(window.findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+            auto* const name = window.findChild<QLineEdit*>("fileNameEdit");
+            if (!otherName.isEmpty()) {
+                name->setText(otherName);
+            }
+            QTest::keyClick(name, Qt::Key_Return);
         });
         user.on<QMessageBox>([&look](QMessageBox& box) {
             ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
@@ -288,6 +322,23 @@ TEST_P(SaveQuestions, startAtNoAndAreAnsweredByKeys)
         QTest::keyClick(box.button(QMessageBox::Yes), Qt::Key_Space);
     });
     EXPECT_TRUE(saved);
+}
+
+TEST_P(SaveQuestions, aboutARefusedPlaceHaveNamesAndAreAnsweredByKeys)
+{
+#ifndef __linux__
+    GTEST_SKIP() << "no place refuses everybody here";
+#endif
+    const auto look = [](QMessageBox& box) {
+        EXPECT_EQ(namelessPartsOf(box), QStringList());
+        EXPECT_EQ(roleOf(&box), QAccessible::AlertMessage);
+        EXPECT_TRUE(nameOf(box.findChild<QLabel*>("qt_msgbox_label")).contains("/proc/report.txt"));
+        EXPECT_EQ(walkWithTab(box).size(), box.buttons().size());
+        box.button(QMessageBox::No)->setFocus();
+        QTest::keyClick(box.button(QMessageBox::No), Qt::Key_Space);
+    };
+    askOnce(look, "/proc/report.txt");
+    EXPECT_FALSE(saved);
 }
 
 TEST_P(SaveQuestions, canBeReadOnADarkPalette)

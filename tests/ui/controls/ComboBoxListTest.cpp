@@ -203,6 +203,44 @@ TEST_F(ComboBoxList, anEntryPressedButNotReleasedPicksNothing)
     expectOutcome(1, 0);
 }
 
+TEST_F(ComboBoxList, worksAgainAfterAPickWithTheMouse)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    clickEntry(2);
+    show();
+    openList();
+    clickEntry(1);
+    EXPECT_EQ(box->currentText(), "Bar");
+    expectOutcome(2, 0);
+    show();
+    openList();
+    pressKey(Qt::Key_Escape);
+    EXPECT_EQ(box->currentText(), "Dog");
+    expectOutcome(2, 1);
+    show();
+    box->lineEdit()->clear();
+    // On the offscreen platform the closed list would have the keyboard still.
+    QTest::keyClick(window.windowHandle(), 'a');
+    ASSERT_TRUE(QTest::qWaitFor([this] { return completerPopup()->isVisible(); }));
+    pressKey(Qt::Key_Down);
+    EXPECT_EQ(box->lineEdit()->text(), "a");
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Car");
+}
+
+TEST_F(ComboBoxList, aPickWithTheMouseLeavesNothingForLaterActivations)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    clickEntry(2);
+    show();
+    Q_EMIT box->activated(1);
+    expectOutcome(1, 0);
+    QMetaObject::invokeMethod(box->view(), "pressed", Q_ARG(QModelIndex, box->model()->index(1, 0)));
+    Q_EMIT box->activated(1);
+    expectOutcome(2, 0);
+}
+
 TEST_F(ComboBoxList, itsRowsHaveOneHeight)
 {
     setUp({"Dog"});
