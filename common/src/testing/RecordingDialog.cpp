@@ -189,9 +189,8 @@ HRESULT RecordingDialog::Unadvise(DWORD cookie)
 
 HRESULT RecordingDialog::SetOptions(FILEOPENDIALOGOPTIONS options)
 {
-    char text[16];
-    std::snprintf(text, sizeof text, "0x%X", static_cast<unsigned>(options));
-    const auto failure = record("SetOptions", text);
+    const QByteArray bits = QByteArray::number(static_cast<unsigned>(options), 16).toUpper();
+    const auto failure = record("SetOptions", "0x" + bits.toStdString());
     m_options = failure ? m_options : options;
     return failure.value_or(S_OK);
 }

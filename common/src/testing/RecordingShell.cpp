@@ -110,7 +110,7 @@ void RecordingShell::coTaskMemFree(void* memory)
 {
     record("CoTaskMemFree", memory ? "text" : "null");
     if (memory && m_liveStrings.erase(memory) == 0) {
-        m_calls.push_back("ERROR: memory freed that is not there");
+        m_calls.emplace_back("ERROR: memory freed that is not there");
         return;
     }
     std::free(memory);

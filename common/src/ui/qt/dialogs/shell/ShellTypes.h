@@ -12,6 +12,8 @@
 
 #include <cstdint>
 
+// The SDK's names. NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+
 using BOOL = int;
 using UINT = std::uint32_t;
 using LONG = std::int32_t;
@@ -238,3 +240,5 @@ enum FDE_SHAREVIOLATION_RESPONSE
     FDESVR_ACCEPT = 1,
     FDESVR_REFUSE = 2
 };
+
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
