@@ -42,16 +42,25 @@ TEST_F(WidgetShellRun, severalFilesAreChosenInTheList)
     EXPECT_EQ(results(), (QStringList{QStringLiteral("a.txt"), QStringLiteral("b.txt")}));
 }
 
-TEST_F(WidgetShellRun, aMissingFileIsRefusedWithAMessage)
+class WidgetShellMissingFile : public WidgetShellRun
 {
-    const HRESULT hr = show([](QFileDialog& window) {
-        WidgetUser user(window);
-        user.typeName(QStringLiteral("missing.txt"));
-        pressAcceptAndReadMessage(user, "missing.txt");
-        user.pressCancel();
-    });
-    EXPECT_EQ(hr, cancelled);
-    EXPECT_EQ(sink.count("OnFileOk"), 0);
+protected:
+    void expectRefused(const QString& typed)
+    {
+        const HRESULT hr = show([&](QFileDialog& window) {
+            WidgetUser user(window);
+            user.typeName(typed);
+            pressAcceptAndReadMessage(user, "missing.txt");
+            user.pressCancel();
+        });
+        EXPECT_EQ(hr, cancelled);
+        EXPECT_EQ(sink.count("OnFileOk"), 0);
+    }
+};
+
+TEST_F(WidgetShellMissingFile, isRefusedWithAMessage)
+{
+    expectRefused(QStringLiteral("missing.txt"));
 }
 
 TEST_F(WidgetShellRun, aMissingFolderIsRefusedOnlyWhenItMustExist)
@@ -138,17 +147,10 @@ TEST_F(WidgetShellRun, aSaveDialogAsksForOneFileHoweverManyMayBeChosen)
     EXPECT_EQ(dialog->GetResult(item.put()), S_OK);
 }
 
-TEST_F(WidgetShellRun, oneMissingFileAmongSeveralIsRefused)
+TEST_F(WidgetShellMissingFile, isRefusedAmongSeveral)
 {
     change(FOS_ALLOWMULTISELECT);
-    const HRESULT hr = show([](QFileDialog& window) {
-        WidgetUser user(window);
-        user.typeName(QStringLiteral("\"a.txt\" \"missing.txt\""));
-        pressAcceptAndReadMessage(user, "missing.txt");
-        user.pressCancel();
-    });
-    EXPECT_EQ(hr, cancelled);
-    EXPECT_EQ(sink.count("OnFileOk"), 0);
+    expectRefused(QStringLiteral("\"a.txt\" \"missing.txt\""));
 }
 
 TEST_F(WidgetShellRun, closingTheDialogWithTheFolderThatIsTypedAsksNothingMore)
