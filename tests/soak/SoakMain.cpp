@@ -1,218 +1,185 @@
 // Opens and closes every dialog and widget many times and watches what the process holds. Not part of the tests that
-// run by themselves: `./dev soak [CYCLES [NAME...]]`.
-#include "ui/qt/controls/ComboBoxAutoFilter.h"
-#include "ui/qt/controls/CorrectFontCommandLinkButton.h"
-#include "ui/qt/controls/ElidedTextLabel.h"
-#include "ui/qt/controls/IntegralSpinBox.h"
-#include "ui/qt/controls/QScientificSpinBox.h"
-#include "ui/qt/dialogs/ExtendedFileDialog.h"
-#include "ui/qt/dialogs/ExtendedWinFileDialog.h"
-#include "ui/qt/dialogs/LaunchFileDialog.h"
-#include "ui/qt/dialogs/QExtendedFileDialog.h"
-#include "ui/qt/dialogs/SaveFileDialog.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
-#include "ui/qt/util/OverrideCursor.h"
-#include "ui/qt/util/TableCopyHandler.h"
+// run by themselves: `./dev soak [--windows] [CYCLES [NAME...]]`.
+#include "soak/Holdings.h"
+#include "soak/Platform.h"
+#include "soak/Subject.h"
+#include "ui/qt/dialogs/shell/Shell.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFileDialog>
-#include <QStandardItemModel>
-#include <QTableView>
 #include <QTemporaryDir>
-#include <QTimer>
+#include <QWidget>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include <malloc.h>
-#include <unistd.h>
-
 namespace {
 
-using namespace morvane::ui;
+using namespace morvane::test;
 
 constexpr int warmUp = 500;
 /** Qt keeps a little more with each window (hash tables of windows that grow, a log of the X server). */
 constexpr double mostBytesPerCycle = 16;
 
-struct Holdings
+/** What the cycles after the first ones have added. */
+struct Growth
 {
-    double heapBytes;
-    double residentBytes;
-    int descriptors;
+    double bytesPerCycle = 0;
+    std::vector<double> countsPerCycle = std::vector<double>(countedThings().size());
 };
 
-double residentBytes()
-{
-    long pages = 0;
-    if (std::FILE* const file = std::fopen("/proc/self/statm", "r")) {
-        if (std::fscanf(file, "%*d %ld", &pages) != 1) {
-            pages = 0;
-        }
-        std::fclose(file);
-    }
-    return static_cast<double>(pages) * static_cast<double>(sysconf(_SC_PAGESIZE));
-}
-
-Holdings holdings()
+Holdings holdingsInQuiet()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
-    malloc_trim(0);
-    const struct mallinfo2 heap = mallinfo2();
-    return {static_cast<double>(heap.uordblks) + static_cast<double>(heap.hblkhd), residentBytes(),
-        static_cast<int>(QDir(QStringLiteral("/proc/self/fd")).count())};
+    return holdings();
 }
 
-/** Closes the modal window that is about to open. */
-void rejectSoon()
+/** Whether nothing piled up beyond what @p allowed says. */
+bool isWithin(const Growth& growth, const Growth& allowed)
 {
-    auto* const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer] {
-        if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-            timer->deleteLater();
-            timer->stop();
-            dialog->reject();
+    bool within = growth.bytesPerCycle <= std::max(allowed.bytesPerCycle, 0.0) + mostBytesPerCycle;
+    for (std::size_t i = 0; i < growth.countsPerCycle.size(); ++i) {
+        within = within && growth.countsPerCycle[i] <= std::max(allowed.countsPerCycle[i], 0.0);
+    }
+    return within;
+}
+
+class Soak
+{
+public:
+    Soak(int cycles, QWidget& parent) : m_cycles(cycles), m_parent(parent)
+    {
+        for (auto* const list : {&systemSubjects, &dialogSubjects, &widgetSubjects}) {
+            const std::vector<Subject> more = list();
+            m_subjects.insert(m_subjects.end(), more.begin(), more.end());
         }
-    });
-    timer->start(0);
-}
-
-void launch(bool native)
-{
-    ExtendedFileDialog::setUseNativeFileDialog(native);
-    std::vector<std::string> files;
-    int filter = 0;
-    rejectSoon();
-    LaunchFileDialog(files, filter, "Open", {"Data (*.dat)", "All (*)"}, {}, false, true, 1);
-}
-
-template <typename Widget>
-void showWidget(Widget& widget)
-{
-    widget.show();
-    QCoreApplication::processEvents();
-    widget.hide();
-}
-
-struct Subject
-{
-    const char* name;
-    std::function<void(QWidget&)> cycle;
-};
-
-const std::vector<Subject>& subjects()
-{
-    static const std::vector<Subject> all{
-        {"QExtendedFileDialog",
-            [](QWidget& parent) {
-                QExtendedFileDialog dialog(parent, "Open", "", "Data (*.dat)", "topic", QFileDialog::AcceptOpen);
-                rejectSoon();
-                dialog.exec();
-            }},
-        {"ExtendedWinFileDialog",
-            [](QWidget& parent) {
-                ExtendedWinFileDialog dialog(
-                    parent, "Save", "", "Data (*.dat);;All (*)", "topic", QFileDialog::AcceptSave, true);
-                dialog.addCustomButton("Button", [] {});
-                dialog.addAcceptButtonOption("Option", 1);
-                rejectSoon();
-                dialog.exec();
-            }},
-        {"LaunchFileDialog-qt", [](QWidget&) { launch(false); }},
-        {"LaunchFileDialog-native", [](QWidget&) { launch(true); }},
-        {"SaveFileDialog-qt",
-            [](QWidget&) {
-                QWidget parent;
-                ExtendedFileDialog::setUseNativeFileDialog(false);
-                SaveFileDialog dialog(&parent, "Save", "", "report", std::string("Data (*.dat)"), "");
-                rejectSoon();
-                dialog.launch();
-            }},
-        {"ComboBoxAutoFilter",
-            [](QWidget& parent) {
-                ComboBoxAutoFilter box(&parent);
-                box.addItems({"one", "two", "three"});
-                box.show();
-                box.showPopup();
-                QCoreApplication::processEvents();
-                box.hidePopup();
-            }},
-        {"QScientificSpinBox",
-            [](QWidget& parent) {
-                QScientificSpinBox box(&parent);
-                showWidget(box);
-            }},
-        {"IntegralSpinBox",
-            [](QWidget& parent) {
-                IntegralSpinBox box(&parent);
-                showWidget(box);
-            }},
-        {"ElidedTextLabel",
-            [](QWidget& parent) {
-                ElidedTextLabel label(&parent);
-                label.setText(QString(300, QLatin1Char('x')));
-                showWidget(label);
-            }},
-        {"CorrectFontCommandLinkButton",
-            [](QWidget& parent) {
-                CorrectFontCommandLinkButton button(&parent);
-                button.setText(QStringLiteral("Text"));
-                showWidget(button);
-            }},
-        {"TableCopyHandler",
-            [](QWidget& parent) {
-                QStandardItemModel model(20, 4);
-                QTableView view(&parent);
-                view.setModel(&model);
-                auto* const handler = new TableCopyHandler(view);
-                showWidget(view);
-                view.selectAll();
-                handler->copyToClipboard();
-            }},
-        {"OverrideCursor", [](QWidget&) { const OverrideCursor cursor(Qt::WaitCursor); }},
-    };
-    return all;
-}
-
-/** Whether nothing piled up. */
-bool soak(const Subject& subject, int cycles, QWidget& parent)
-{
-    for (int i = 0; i < warmUp; ++i) {
-        subject.cycle(parent);
     }
-    const Holdings before = holdings();
-    QElapsedTimer clock;
-    clock.start();
-    for (int i = warmUp; i < cycles; ++i) {
-        subject.cycle(parent);
-    }
-    const double seconds = static_cast<double>(clock.elapsed()) / 1000;
-    const Holdings after = holdings();
-    const double perCycle = (after.heapBytes - before.heapBytes) / (cycles - warmUp);
-    const bool flat = perCycle <= mostBytesPerCycle && after.descriptors <= before.descriptors;
-    std::printf("| `%s` | %d | %.0f | %.1f | %+.0f | %+d | %s |\n", subject.name, cycles, before.heapBytes / 1024,
-        perCycle, (after.residentBytes - before.residentBytes) / 1024, after.descriptors - before.descriptors,
-        flat ? "flat" : "GROWS");
-    std::fprintf(stderr, "%s: %.0f s\n", subject.name, seconds);
-    std::fflush(stdout);
-    return flat;
-}
 
-bool isWanted(const Subject& subject, int argc, char** argv)
-{
-    for (int i = 2; i < argc; ++i) {
-        if (std::string(argv[i]) == subject.name) {
+    /** Those with these names; all without any. Whether none grows. */
+    bool run(const std::vector<std::string>& names)
+    {
+        printHead();
+        bool flat = true;
+        for (const Subject& subject : m_subjects) {
+            if (names.empty() || std::count(names.begin(), names.end(), subject.name) != 0) {
+                flat = runOnce(subject) && flat;
+            }
+        }
+        return flat;
+    }
+
+    bool knows(const std::string& name) const { return find(name) != nullptr; }
+
+private:
+    const Subject* find(const std::string& name) const
+    {
+        const auto found = std::find_if(
+            m_subjects.begin(), m_subjects.end(), [&name](const Subject& subject) { return name == subject.name; });
+        return found == m_subjects.end() ? nullptr : &*found;
+    }
+
+    bool runOnce(const Subject& subject)
+    {
+        if (m_growths.count(subject.name) != 0) {
             return true;
         }
+        const Subject* const reference = subject.reference ? find(subject.reference) : nullptr;
+        if (reference) {
+            runOnce(*reference);
+        }
+        const Holdings before = repeat(subject, warmUp);
+        QElapsedTimer clock;
+        clock.start();
+        const Holdings after = repeat(subject, m_cycles - warmUp);
+        std::fprintf(stderr, "%s: %.0f s\n", subject.name, static_cast<double>(clock.elapsed()) / 1000);
+        const Growth growth = between(before, after);
+        m_growths[subject.name] = growth;
+        return print(subject, reference, before, after, growth);
     }
-    return argc <= 2;
+
+    Holdings repeat(const Subject& subject, int times)
+    {
+        for (int i = 0; i < times; ++i) {
+            subject.cycle(m_parent);
+        }
+        return holdingsInQuiet();
+    }
+
+    Growth between(const Holdings& before, const Holdings& after) const
+    {
+        const double cycles = m_cycles - warmUp;
+        Growth growth;
+        growth.bytesPerCycle = (after.heapBytes - before.heapBytes) / cycles;
+        for (std::size_t i = 0; i < growth.countsPerCycle.size(); ++i) {
+            growth.countsPerCycle[i] = static_cast<double>(after.counts[i] - before.counts[i]) / cycles;
+        }
+        return growth;
+    }
+
+    static void printHead()
+    {
+        std::printf("| what | cycles | heap after %d, KiB | bytes a cycle from then on | resident, KiB | ", warmUp);
+        std::string line = "|---|---|---|---|---|";
+        for (const char* const thing : countedThings()) {
+            std::printf("%s | ", thing);
+            line += "---|";
+        }
+        std::printf("|\n%s---|\n", line.c_str());
+    }
+
+    bool print(const Subject& subject, const Subject* reference, const Holdings& before, const Holdings& after,
+        const Growth& growth) const
+    {
+        std::printf("| `%s` | %d | %.0f | %.1f | %+.0f | ", subject.name, m_cycles, before.heapBytes / 1024,
+            growth.bytesPerCycle, (after.residentBytes - before.residentBytes) / 1024);
+        for (std::size_t i = 0; i < after.counts.size(); ++i) {
+            std::printf("%+ld | ", after.counts[i] - before.counts[i]);
+        }
+        const bool flat = isWithin(growth, Growth());
+        const bool asReference = reference && isWithin(growth, m_growths.at(reference->name));
+        if (flat) {
+            std::printf("flat |\n");
+        } else if (subject.isReference) {
+            std::printf("grows, to compare with |\n");
+        } else if (asReference) {
+            std::printf("grows as `%s` |\n", reference->name);
+        } else {
+            std::printf("GROWS |\n");
+        }
+        std::fflush(stdout);
+        return flat || subject.isReference || asReference;
+    }
+
+    int m_cycles;
+    QWidget& m_parent;
+    std::vector<Subject> m_subjects;
+    std::map<std::string, Growth> m_growths;
+};
+
+int runSoak(int cycles, const std::vector<std::string>& names)
+{
+    const std::unique_ptr<morvane::ui::Shell> shell = nativeShell();
+    std::optional<morvane::ui::ShellOverride> shellOverride;
+    if (shell) {
+        shellOverride.emplace(*shell);
+    }
+    QWidget parent;
+    parent.show();
+    Soak soak(cycles, parent);
+    for (const std::string& name : names) {
+        if (!soak.knows(name)) {
+            std::fprintf(stderr, "unknown: %s\n", name.c_str());
+            return 2;
+        }
+    }
+    return soak.run(names) ? 0 : 1;
 }
 
 } // namespace
@@ -223,27 +190,16 @@ int main(int argc, char** argv)
     for (const char* const variable : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) {
         qputenv(variable, home.path().toUtf8());
     }
+    const QString started = QDir::currentPath();
     QDir::setCurrent(home.path());
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    WidgetShell shell(WidgetShell::Appearance::AlwaysWidgets);
-    const ShellOverride shellOverride(shell);
-    QWidget parent;
-    parent.show();
-
     const int cycles = argc > 1 ? std::atoi(argv[1]) : 10000;
     if (cycles <= warmUp) {
         std::fprintf(stderr, "more than %d cycles are needed\n", warmUp);
         return 2;
     }
-    std::printf("| what | cycles | heap after %d, KiB | bytes a cycle from then on | resident, KiB | descriptors | |\n"
-                "|---|---|---|---|---|---|---|\n",
-        warmUp);
-    bool flat = true;
-    for (const Subject& subject : subjects()) {
-        if (isWanted(subject, argc, argv)) {
-            flat = soak(subject, cycles, parent) && flat;
-        }
-    }
-    return flat ? 0 : 1;
+    const int result = runSoak(cycles, std::vector<std::string>(argv + std::min(argc, 2), argv + argc));
+    QDir::setCurrent(started); // a folder that is in use cannot be removed everywhere
+    return result;
 }

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QTimer>
+
+#include <functional>
+
+namespace morvane::test {
+
+/**
+ * Answers the modal dialog that is about to open, from within its loop. Ends the program when it is destroyed and there
+ * was no dialog to answer: what has not opened was not tested.
+ */
+class DialogAnswer
+{
+public:
+    /** @param answer looks whether the dialog is open and answers it; asked again until it returns true */
+    explicit DialogAnswer(std::function<bool()> answer, int intervalMs = 0);
+    ~DialogAnswer();
+    DialogAnswer(const DialogAnswer&) = delete;
+    DialogAnswer& operator=(const DialogAnswer&) = delete;
+
+    /** Cancels a dialog of Qt's widgets. */
+    static bool cancelQtDialog();
+
+private:
+    QTimer m_timer;
+    bool m_answered = false;
+};
+
+} // namespace morvane::test

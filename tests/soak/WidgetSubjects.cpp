@@ -1,0 +1,116 @@
+#include "soak/Subject.h"
+#include "ui/qt/controls/ComboBoxAutoFilter.h"
+#include "ui/qt/controls/CorrectFontCommandLinkButton.h"
+#include "ui/qt/controls/ElidedTextLabel.h"
+#include "ui/qt/controls/IntegralSpinBox.h"
+#include "ui/qt/controls/QScientificSpinBox.h"
+#include "ui/qt/util/OverrideCursor.h"
+#include "ui/qt/util/OverrideCursorRestorer.h"
+#include "ui/qt/util/TableCopyHandler.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+#include <QStandardItemModel>
+#include <QTableView>
+
+namespace morvane::test {
+
+namespace {
+
+using namespace morvane::ui;
+
+template <typename Widget>
+void showWidget(Widget& widget)
+{
+    widget.show();
+    QCoreApplication::processEvents();
+    widget.hide();
+}
+
+void filterComboBox(QWidget& parent)
+{
+    ComboBoxAutoFilter box(&parent);
+    box.addItems({"one", "two", "three"});
+    box.show();
+    box.showPopup();
+    QCoreApplication::processEvents();
+    box.hidePopup();
+}
+
+template <typename Widget>
+void showOne(QWidget& parent)
+{
+    Widget widget(&parent);
+    showWidget(widget);
+}
+
+void elideText(QWidget& parent)
+{
+    ElidedTextLabel label(&parent);
+    label.setText(QString(300, QLatin1Char('x')));
+    showWidget(label);
+}
+
+void showLinkButton(QWidget& parent)
+{
+    CorrectFontCommandLinkButton button(&parent);
+    button.setText(QStringLiteral("Text"));
+    showWidget(button);
+}
+
+void copyTable(QWidget& parent)
+{
+    QStandardItemModel model(20, 4);
+    QTableView view(&parent);
+    view.setModel(&model);
+    auto* const handler = new TableCopyHandler(view);
+    showWidget(view);
+    view.selectAll();
+    handler->copyToClipboard();
+}
+
+class LabelCopyHandler : public CopyHandlerAbstract
+{
+public:
+    explicit LabelCopyHandler(ElidedTextLabel& label) : CopyHandlerAbstract(label), m_label(label) {}
+    void copyToClipboard() override { QApplication::clipboard()->setText(m_label.text()); }
+
+private:
+    ElidedTextLabel& m_label;
+};
+
+void copyLabel(QWidget& parent)
+{
+    ElidedTextLabel label(&parent);
+    label.setText(QStringLiteral("Text"));
+    new LabelCopyHandler(label);
+    showWidget(label);
+    QKeyEvent copy(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier);
+    QCoreApplication::sendEvent(&label, &copy);
+}
+
+void restoreCursor(QWidget&)
+{
+    const OverrideCursor cursor(Qt::WaitCursor);
+    const OverrideCursorRestorer restorer;
+}
+
+} // namespace
+
+std::vector<Subject> widgetSubjects()
+{
+    return {
+        {"ComboBoxAutoFilter", &filterComboBox},
+        {"QScientificSpinBox", &showOne<QScientificSpinBox>},
+        {"IntegralSpinBox", &showOne<IntegralSpinBox>},
+        {"ElidedTextLabel", &elideText},
+        {"CorrectFontCommandLinkButton", &showLinkButton},
+        {"TableCopyHandler", &copyTable},
+        {"CopyHandlerAbstract", &copyLabel},
+        {"OverrideCursor", [](QWidget&) { const OverrideCursor cursor(Qt::WaitCursor); }},
+        {"OverrideCursorRestorer", &restoreCursor},
+    };
+}
+
+} // namespace morvane::test
