@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QPixmapCache>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -34,8 +35,10 @@ struct Growth
     std::vector<double> countsPerCycle = std::vector<double>(countedThings().size());
 };
 
+/** With nothing left that waits to be deleted, and without what Qt may throw away whenever it likes. */
 Holdings holdingsInQuiet()
 {
+    QPixmapCache::clear();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
     return holdings();

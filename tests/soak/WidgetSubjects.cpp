@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCommandLinkButton>
 #include <QKeyEvent>
 #include <QStandardItemModel>
 #include <QTableView>
@@ -55,6 +56,13 @@ void elideText(QWidget& parent)
 void showLinkButton(QWidget& parent)
 {
     CorrectFontCommandLinkButton button(&parent);
+    button.setText(QStringLiteral("Text"));
+    showWidget(button);
+}
+
+void showStockLinkButton(QWidget& parent)
+{
+    QCommandLinkButton button(&parent);
     button.setText(QStringLiteral("Text"));
     showWidget(button);
 }
@@ -105,7 +113,8 @@ std::vector<Subject> widgetSubjects()
         {"QScientificSpinBox", &showOne<QScientificSpinBox>},
         {"IntegralSpinBox", &showOne<IntegralSpinBox>},
         {"ElidedTextLabel", &elideText},
-        {"CorrectFontCommandLinkButton", &showLinkButton},
+        {"QCommandLinkButton", &showStockLinkButton, nullptr, true},
+        {"CorrectFontCommandLinkButton", &showLinkButton, "QCommandLinkButton"},
         {"TableCopyHandler", &copyTable},
         {"CopyHandlerAbstract", &copyLabel},
         {"OverrideCursor", [](QWidget&) { const OverrideCursor cursor(Qt::WaitCursor); }},
