@@ -79,11 +79,27 @@ valgrind_filter() {
 }
 
 cmd_soak() {
+    if [ "${1:-}" = --windows ]; then
+        shift
+        soak_windows "$@"
+        return
+    fi
     # shellcheck disable=SC2086
     need $build_packages $run_packages $test_packages xvfb xauth
     build dev morvane-soak
     step 'opening and closing every dialog and widget on an X server of its own'
     xvfb-run -a build/dev/bin/morvane-soak "$@"
+}
+
+# In a place of its own, which is cleared at the end without disturbing tests that run meanwhile.
+soak_windows() {
+    windows_prepare
+    build windows morvane-soak
+    step "opening and closing every dialog and widget under Wine, the native dialogs being the system's own"
+    trap 'packaging/windows/run-wine --home build/windows/soak-wine --stop' EXIT
+    trap 'exit 143' INT TERM HUP
+    QT_QPA_PLATFORM=windows packaging/windows/run-wine --home build/windows/soak-wine --sdk "$MORVANE_WINDOWS_SDK" \
+        --path build/windows/bin --timeout 172800 -- build/windows/bin/morvane-soak.exe "$@"
 }
 
 cmd_mutate() {

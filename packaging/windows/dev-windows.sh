@@ -38,6 +38,12 @@ windows_configure() {
 
 # windows_build [--sdk DIR]: the SDK, the configuration and the build. Ends with status 77 when there can be no SDK.
 windows_build() {
+    windows_prepare "$@"
+    build windows
+}
+
+# windows_prepare [--sdk DIR]: the same without the build.
+windows_prepare() {
     given=''
     if [ "${1:-}" = --sdk ]; then
         [ $# -ge 2 ] || die '--sdk wants a directory'
@@ -52,7 +58,6 @@ windows_build() {
     sdk=$(windows_sdk "$given") || status=$?
     [ "$status" = 0 ] || exit "$status"
     windows_configure "$sdk"
-    build windows
 }
 
 cmd_windows() {
