@@ -10,6 +10,8 @@ if(MSVC)
 else()
     target_compile_options(morvane-build-flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Wcast-align -Wformat=2
+        # The macros of GoogleTest for typed suites, which GCC takes without a word.
+        $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
         # The system's COM interfaces, which our objects implement, have no virtual destructors.
         $<$<NOT:$<BOOL:${WIN32}>>:-Wnon-virtual-dtor>
         $<$<BOOL:${MORVANE_WARNINGS_AS_ERRORS}>:-Werror>)

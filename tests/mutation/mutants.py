@@ -173,6 +173,8 @@ def embedded_literals(line, mutants):
 def embedded(mutants):
     """One line that holds all these mutants of it and chooses when it runs, or nothing when the line has no such form."""
     line, code, begins = mutants[0].line, mutants[0].code, mutants[0].begins_statement
+    if re.search(r"\b(Q_[A-Z]+|DESIGNABLE|STORED)\b", code):
+        return None  # moc reads these itself
     match = CONDITION.search(code)
     if match and is_balanced(match.group(1)) and " = " not in match.group(1) and is_inside(mutants, *match.span(1)):
         return choice(line, mutants, *match.span(1), lambda text: f"bool({text})")

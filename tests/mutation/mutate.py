@@ -14,6 +14,7 @@ import concurrent.futures
 import fnmatch
 import os
 import pathlib
+import pickle
 import random
 import re
 import shutil
@@ -29,6 +30,7 @@ WORK = ROOT / "build" / "mutation"
 COPY = WORK / "source"
 BUILD = WORK / "build"
 ALONE_FILE = WORK / "alone.txt"  # what the compiler did not take together with others, to start with the next time
+REACH_FILE = WORK / "reach.pickle"
 SWITCH_FILE = WORK / "MutantSwitch.h"
 
 DIALOGS = "ui/qt/dialogs/"
@@ -68,7 +70,7 @@ TESTS = [
 SKIPPED = ["*WindowsShell*", "*ShellInterfaces.h", "*ShellTypes.h"]
 
 
-# Included by every file that holds mutants. The first time that the chosen mutant's place is reached leaves a file.
+# Included by every file that holds mutants: tells which one is on, and writes down which ones are asked for.
 SWITCH = r"""#pragma once
 #include <cstdio>
 #include <cstdlib>
@@ -80,21 +82,23 @@ inline int morvaneChosenMutant()
     }();
     return chosen;
 }
+inline std::FILE* morvaneMutantLog()
+{
+    static std::FILE* const log = [] {
+        const char* const name = std::getenv("MORVANE_MUTANT_LOG");
+        return name != nullptr ? std::fopen(name, "a") : nullptr;
+    }();
+    return log;
+}
 inline bool morvaneMutant(int mutant)
 {
-    static bool told = false;
-    if (morvaneChosenMutant() != mutant) {
-        return false;
+    static bool told[65536] = {};
+    if (morvaneMutantLog() != nullptr && !told[mutant]) {
+        told[mutant] = true;
+        std::fprintf(morvaneMutantLog(), "%d\n", mutant);
+        std::fflush(morvaneMutantLog());
     }
-    if (!told) {
-        told = true;
-        if (const char* const name = std::getenv("MORVANE_MUTANT_REACHED")) {
-            if (std::FILE* const file = std::fopen(name, "w")) {
-                std::fclose(file);
-            }
-        }
-    }
-    return true;
+    return morvaneChosenMutant() == mutant;
 }
 """
 
@@ -143,37 +147,106 @@ def build(programs, jobs):
     return subprocess.run(["ninja", "-C", BUILD, "-k", "0", f"-j{jobs}", *programs], capture_output=True, text=True)
 
 
+def run_program(program, cases, mutant, limit, **variables):
+    """Whether the program's cases succeed in time."""
+    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", MORVANE_MUTANT=str(mutant), **variables)
+    chosen = ":".join(cases)
+    if len(chosen) < 100000:  # more does not fit into a variable; then all of the program's cases run
+        environment["GTEST_FILTER"] = chosen
+    try:
+        result = subprocess.run([BUILD / "bin" / program, "--gtest_brief=1", "--gtest_fail_fast=1"], cwd=WORK,
+                                env=environment, capture_output=True, timeout=limit)
+    except subprocess.TimeoutExpired:
+        return False
+    return result.returncode == 0
+
+
+def cases_of(program):
+    listed = subprocess.run([BUILD / "bin" / program, "--gtest_list_tests"], capture_output=True, text=True, check=True,
+                            env=dict(os.environ, QT_QPA_PLATFORM="offscreen"))
+    cases, suite = [], ""
+    for line in listed.stdout.splitlines():
+        text = line.split("#")[0].rstrip()
+        if not line.startswith(" "):
+            suite = text if text.endswith(".") else ""
+        elif suite:
+            cases.append(suite + text.strip())
+    return cases
+
+
+def newest_program(names):
+    libraries = [file for file in BUILD.rglob("*.so*") if file.is_file()]
+    return max(file.stat().st_mtime for file in libraries + [BUILD / "bin" / name for name in names])
+
+
 class Programs:
-    """Runs test programs, each bounded by a multiple of the time that it took without any change."""
+    """The cases of the test programs, how long each takes, and which mutants it reaches."""
 
-    def __init__(self, names):
-        self.limits = {}
-        for name in names:
-            started = time.monotonic()
-            if self.failing([name], 0, None, 600):
-                sys.exit(f"{name} fails without any change")
-            self.limits[name] = 15 + 5 * (time.monotonic() - started)
+    quick = 0.4  # seconds; cases that take longer have their turn when the others found nothing
 
-    def failing(self, names, mutant, reached, limit=None):
-        """The first of the programs that fails, or nothing."""
-        environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", MORVANE_MUTANT=str(mutant))
-        if reached:
-            environment["MORVANE_MUTANT_REACHED"] = str(reached)
-        for name in names:
-            # Twice: a busy machine makes a test fail now and then, and that kills nothing.
-            if self.fails(name, environment, limit) and self.fails(name, environment, limit):
-                return name
+    def __init__(self, names, jobs):
+        self.seconds = {}
+        self.reaching = collections.defaultdict(list)
+        self.unlogged = collections.defaultdict(list)
+        if REACH_FILE.exists() and REACH_FILE.stat().st_mtime > newest_program(names):
+            self.seconds, self.reaching, self.unlogged = pickle.loads(REACH_FILE.read_bytes())
+        else:
+            self.measure_all(names, jobs)
+            REACH_FILE.write_bytes(pickle.dumps((self.seconds, self.reaching, self.unlogged)))
+
+    def measure_all(self, names, jobs):
+        with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+            list(pool.map(lambda each: self.measure(*each), [(name, case) for name in names for case in cases_of(name)]))
+
+    def measure(self, program, case):
+        log = WORK / f"log-{threading.get_ident()}"
+        log.unlink(missing_ok=True)
+        started = time.monotonic()
+        logged = run_program(program, [case], 0, 600, MORVANE_MUTANT_LOG=str(log))
+        self.seconds[program, case] = time.monotonic() - started
+        if logged:
+            for mutant in set(log.read_text().split()) if log.exists() else ():
+                self.reaching[program, int(mutant)].append(case)
+        elif run_program(program, [case], 0, 600):
+            self.unlogged[program].append(case)  # it counts what the program writes, or the machine is busy
+        else:
+            raise RuntimeError(f"{case} of {program} fails without any change")
+        log.unlink(missing_ok=True)
+
+    def reaches(self, programs, mutant):
+        return any(self.cases(program, mutant) for program in programs)
+
+    def cases(self, program, mutant):
+        return self.reaching.get((program, mutant), []) + self.unlogged[program]
+
+    def failing(self, programs, mutant):
+        """The first of the programs that fails with the mutant on, or nothing."""
+        for want_quick in (True, False):
+            for program in programs:
+                cases = [case for case in self.cases(program, mutant)
+                         if (self.seconds[program, case] <= self.quick) == want_quick]
+                # Twice again: that kills nothing.
+                if cases and not self.succeeds(program, cases, mutant) and not self.succeeds(program, cases, mutant):
+                    return program
         return None
 
-    def fails(self, name, environment, limit):
-        try:
-            result = subprocess.run([BUILD / "bin" / name, "--gtest_brief=1", "--gtest_fail_fast=1"], cwd=WORK,
-                                    env=environment, capture_output=True, timeout=limit or self.limits[name])
-        except subprocess.TimeoutExpired:
-            return True
-        if result.returncode != 0:
-            (WORK / f"failed-{name}.txt").write_bytes(result.stdout + result.stderr)
-        return result.returncode != 0
+    def failing_alone(self, programs, neighbours):
+        """
+        The same where the one mutant that there is was compiled in. What it is reached by is not known: those that reach
+        its neighbours come first.
+        """
+        likely = {(program, case) for program in programs for mutant in neighbours
+                  for case in self.reaching.get((program, mutant), []) if self.seconds[program, case] <= self.quick}
+        for want_likely in (True, False):
+            for program in programs:
+                cases = [case for name, case in self.seconds
+                         if name == program and ((program, case) in likely) == want_likely]
+                if cases and not self.succeeds(program, cases, 0) and not self.succeeds(program, cases, 0):
+                    return program
+        return None
+
+    def succeeds(self, program, cases, mutant):
+        return run_program(program, cases, mutant, 15 + 4 * sum(self.seconds[program, case] for case in cases))
 
 
 class Copy:
@@ -273,23 +346,22 @@ class Report:
 
 def try_together(mutants, runner, report, jobs):
     def one(mutant):
-        reached = WORK / f"reached-{mutant.id}"
-        outcome = runner.failing(tests_for(mutant.path), mutant.id, reached)
-        report.add(mutant, outcome, reached.exists())
-        reached.unlink(missing_ok=True)
+        programs = tests_for(mutant.path)
+        report.add(mutant, runner.failing(programs, mutant.id), runner.reaches(programs, mutant.id))
 
     with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
         list(pool.map(one, mutants))
 
 
-def try_alone(mutants, copy, runner, report, jobs):
+def try_alone(mutants, others, copy, runner, report, jobs):
     for mutant in sorted(mutants, key=lambda each: (each.path, each.number)):
         copy.replace(mutant)
         programs = tests_for(mutant.path)
         if build(programs, jobs).returncode != 0:
             outcome = "does not compile"
         else:
-            outcome = runner.failing(programs, 0, None)
+            near = [each.id for each in others if each.path == mutant.path and abs(each.number - mutant.number) <= 15]
+            outcome = runner.failing_alone(programs, near)
         write(COPY / "common/src" / mutant.path, copy.originals[mutant.path])
         report.add(mutant, outcome, True)
 
@@ -331,12 +403,12 @@ def main():
     started = time.monotonic()
     together, alone = build_embedded(copy, mutants, programs, options.jobs)
     print(f"{len(together)} compiled in together, {len(alone)} one by one", flush=True)
-    runner = Programs(programs)
+    runner = Programs(programs, options.jobs)
     try_together(together, runner, report, options.jobs)
     copy.restore()
     if alone:
         build(programs, options.jobs)
-        try_alone(alone, copy, runner, report, options.jobs)
+        try_alone(alone, together, copy, runner, report, options.jobs)
     report.end(time.monotonic() - started)
     return 0
 

@@ -10,7 +10,7 @@ namespace morvane::test {
 /** The digit search as a plain loop over the candidates: what findDigitsInRange() has to agree with. */
 inline std::optional<qint64> literalDigitSearch(qint64 number, qint64 minimum, qint64 maximum)
 {
-    const auto magnitude = [](qint64 n) { return n < 0 ? 0 - static_cast<quint64>(n) : static_cast<quint64>(n); };
+    const auto magnitude = [](qint64 n) { return n < 0 ? ~static_cast<quint64>(n) + 1 : static_cast<quint64>(n); };
     if (minimum <= number && number <= maximum) {
         return number;
     }

@@ -37,7 +37,13 @@ quint64 numberOf(const Digits& digits)
 quint64 magnitude(qint64 number)
 {
     const auto bits = static_cast<quint64>(number);
-    return number < 0 ? 0 - bits : bits;
+    return number < 0 ? ~bits + 1 : bits;
+}
+
+/** How far it is from @p low up to @p high; all of a qint64's range fits. */
+quint64 distance(qint64 low, qint64 high)
+{
+    return low < 0 && high >= 0 ? magnitude(low) + magnitude(high) : static_cast<quint64>(high - low);
 }
 
 qint64 negative(quint64 magnitude)
@@ -138,7 +144,7 @@ std::optional<qint64> findDigitsInRange(qint64 number, qint64 minimum, qint64 ma
     if (minimum > maximum) {
         return std::nullopt;
     }
-    const bool tooMany = static_cast<quint64>(maximum) - static_cast<quint64>(minimum) >= patience;
+    const bool tooMany = distance(minimum, maximum) >= patience;
     const qint64 last = tooMany ? maximum - static_cast<qint64>(patience) : minimum;
     const DigitPattern pattern(magnitude(number));
     if (maximum >= 0) {

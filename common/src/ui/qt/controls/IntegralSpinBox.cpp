@@ -20,8 +20,8 @@ void IntegralSpinBoxPrivate::stepBy(int steps)
     if (handStepToHost(steps, *m_increment, *m_decrement)) {
         return;
     }
-    const auto change = static_cast<unsigned>(m_spinBox->singleStep()) * static_cast<unsigned>(steps);
-    m_spinBox->setValue(static_cast<int>(static_cast<unsigned>(m_spinBox->value()) + change));
+    const qint64 value = m_spinBox->value() + static_cast<qint64>(m_spinBox->singleStep()) * steps;
+    m_spinBox->setValue(static_cast<int>(static_cast<quint32>(value)));
 }
 
 IntegralSpinBox::IntegralSpinBox(QWidget* parent)

@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -109,13 +110,19 @@ bool GrowthRange::reachesWithFraction(qint64 match, qint64 right) const
     return finds(right, match == m_min.left ? m_min.right : farEnd(), match == m_max.left ? m_max.right : nearEnd());
 }
 
+/** The number after this one; the first one after the last. */
+qint64 successor(qint64 number)
+{
+    using Limits = std::numeric_limits<qint64>;
+    return number == Limits::max() ? Limits::min() : number + 1;
+}
+
 bool GrowthRange::reachesWithFractionAlone() const
 {
     if (m_min.left == m_max.left) {
         return finds(0, m_min.right, m_max.right);
     }
-    const quint64 difference = static_cast<quint64>(m_max.left) - static_cast<quint64>(m_min.left);
-    if (difference == 1 || difference == ~quint64(0)) {
+    if (successor(m_min.left) == m_max.left || successor(m_max.left) == m_min.left) {
         return findDigitsInRange(0, m_min.right, nearEnd()) || findDigitsInRange(0, farEnd(), m_max.right);
     }
     return findDigitsInRange(0, 0, m_unit).has_value();
