@@ -1,13 +1,16 @@
 """Changes the library's sources in one small way at a time and sees whether a test notices.
 
-    ./dev mutate [--sample N] [--seed N] [--files PATTERN] [--list]
+    ./dev mutate [--sample N] [--seed N] [--files PATTERN] [--again FILE] [--list]
 
-Works in a copy below build/mutation. Each change (a mutant) is compiled into the library and the test programs that are
-mapped to its file; it is killed when it does not compile, when a test fails or when the tests do not end. The survivors
-stand in build/mutation/survivors.txt.
+Works in a copy below build/mutation. Most changes (mutants) are compiled in together and one of them is chosen by an
+environment variable when a test program starts; those whose line has no form for that are compiled in one by one. For each
+mutant the test programs that are mapped to its file run. It is killed when it does not compile, when a test fails or when
+the tests do not end. The survivors stand in build/mutation/survivors.txt, with a remark where no test reaches the line.
 """
 
 import argparse
+import collections
+import concurrent.futures
 import fnmatch
 import os
 import pathlib
@@ -16,12 +19,17 @@ import re
 import shutil
 import subprocess
 import sys
+import threading
 import time
+
+import mutants as mutation
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 WORK = ROOT / "build" / "mutation"
 COPY = WORK / "source"
 BUILD = WORK / "build"
+ALONE_FILE = WORK / "alone.txt"  # what the compiler did not take together with others, to start with the next time
+SWITCH_FILE = WORK / "MutantSwitch.h"
 
 DIALOGS = "ui/qt/dialogs/"
 CONTROLS = "ui/qt/controls/"
@@ -59,70 +67,36 @@ TESTS = [
 # Compiled for Windows only, or declarations that have nothing to change.
 SKIPPED = ["*WindowsShell*", "*ShellInterfaces.h", "*ShellTypes.h"]
 
-REPLACEMENTS = [
-    (r"(?<![=!<>])==(?!=)", "!="),
-    (r"!=", "=="),
-    (r"(?<= )<=(?= )", "<"),
-    (r"(?<= )>=(?= )", ">"),
-    (r"(?<= )<(?= )", "<="),
-    (r"(?<= )>(?= )", ">="),
-    (r"&&", "||"),
-    (r"(?<= )\|\|(?= )", "&&"),
-    (r"(?<= )\+(?= )", "-"),
-    (r"(?<= )-(?= )", "+"),
-    (r"\+\+", "--"),
-    (r"(?<= )\+=(?= )", "-="),
-    (r"(?<= )-=(?= )", "+="),
-    (r"\btrue\b", "false"),
-    (r"\bfalse\b", "true"),
-    (r"(?<![\w.\"'])0(?![\w.\"'])", "1"),
-    (r"(?<![\w.\"'])1(?![\w.\"'])", "2"),
-    (r"(?<= )&(?= )", "|"),
-    (r"(?<=[(\s])!(?=[\w(])", ""),
-    (r"\bbreak;", ";"),
-    (r"\bcontinue;", ";"),
-]
-CONDITION = re.compile(r"\b(if|while) \((?!const |auto )(.+)\) \{$")
-STATEMENT = re.compile(r"^\s+(?!return|break|continue|using|static_assert|typedef|struct|class|const |auto |throw|delete )"
-                       r"[\w:>.\-*()&\[\]]+(\(.*\)| [+\-|&]?= .+);$")
 
-
-class Mutant:
-    def __init__(self, path, number, old, new):
-        self.path, self.number, self.old, self.new = path, number, old, new
-
-    def __str__(self):
-        return f"{self.path}:{self.number}\n    - {self.old.strip()}\n    + {self.new.strip()}"
-
-
-def without_texts(line):
-    """The line with strings, characters and comments blanked, so that positions stay."""
-    blanked = re.sub(r'"(\\.|[^"\\])*"|\'(\\.|[^\'\\])\'', lambda m: "\x01" * len(m.group()), line)
-    return re.sub(r"(//.*|/\*.*?\*/|^\s*\*.*|^\s*/\*.*)", lambda m: "\x01" * len(m.group()), blanked)
-
-
-def mutants_of(path):
-    found = []
-    lines = (ROOT / "common/src" / path).read_text().splitlines()
-    platform = 0
-    for number, line in enumerate(lines, 1):
-        code = without_texts(line)
-        if re.match(r"\s*#\s*if.*_WIN32", code):
-            platform += 1
-        elif re.match(r"\s*#\s*(else|endif)", code) and platform:
-            platform -= 1
-        if platform or re.match(r"\s*(#|template|using|namespace|static_assert|friend|typedef)", code):
-            continue
-        for pattern, replacement in REPLACEMENTS:
-            for match in re.finditer(pattern, code):
-                found.append(Mutant(path, number, line, line[:match.start()] + replacement + line[match.end():]))
-        match = CONDITION.search(code)
-        if match:
-            inner = line[match.start(2):match.end(2)]
-            found.append(Mutant(path, number, line, line[:match.start(2)] + f"!({inner})" + line[match.end(2):]))
-        if STATEMENT.match(code) and "expectGuiThread" not in code:
-            found.append(Mutant(path, number, line, re.match(r"\s*", line).group() + ";"))
-    return found
+# Included by every file that holds mutants. The first time that the chosen mutant's place is reached leaves a file.
+SWITCH = r"""#pragma once
+#include <cstdio>
+#include <cstdlib>
+inline int morvaneChosenMutant()
+{
+    static const int chosen = [] {
+        const char* const text = std::getenv("MORVANE_MUTANT");
+        return text != nullptr ? std::atoi(text) : 0;
+    }();
+    return chosen;
+}
+inline bool morvaneMutant(int mutant)
+{
+    static bool told = false;
+    if (morvaneChosenMutant() != mutant) {
+        return false;
+    }
+    if (!told) {
+        told = true;
+        if (const char* const name = std::getenv("MORVANE_MUTANT_REACHED")) {
+            if (std::FILE* const file = std::fopen(name, "w")) {
+                std::fclose(file);
+            }
+        }
+    }
+    return true;
+}
+"""
 
 
 def tests_for(path):
@@ -141,51 +115,195 @@ def sources(wanted):
             yield name
 
 
-def prepare():
+def write(path, text):
+    if not path.exists() or path.read_text() != text:
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text)
+
+
+def prepare(sources_with_mutants):
     listed = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], cwd=ROOT, capture_output=True, text=True,
                             check=True)
-    for name in listed.stdout.splitlines():
-        source, target = ROOT / name, COPY / name
-        if source.is_file() and (not target.exists() or source.read_bytes() != target.read_bytes()):
+    names = [name for name in listed.stdout.splitlines() if (ROOT / name).is_file()]
+    for name in names:
+        target = COPY / name
+        if target.exists() and name.removeprefix("common/src/") in sources_with_mutants:
+            continue  # written when the mutants are put in
+        if not target.exists() or (ROOT / name).read_bytes() != target.read_bytes():
             target.parent.mkdir(parents=True, exist_ok=True)
-            shutil.copy(source, target)
-    if not (BUILD / "build.ninja").exists():
-        # Programs need not be linked again when only the code inside the library changes.
-        subprocess.run(["cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
-                        "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",
-                        "-DMORVANE_BUILD_EXAMPLES=OFF"], check=True, stdout=subprocess.DEVNULL)
+            shutil.copy(ROOT / name, target)
+    write(SWITCH_FILE, SWITCH)
+    # Programs need not be linked again when only the code inside the library changes.
+    subprocess.run(["cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+                    "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -w", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", "-DMORVANE_BUILD_EXAMPLES=OFF",
+                    "-DMORVANE_BUILD_QUICKLY=ON", "-DMORVANE_WARNINGS_AS_ERRORS=OFF"], check=True, stdout=subprocess.DEVNULL)
 
 
 def build(programs, jobs):
-    return subprocess.run(["ninja", "-C", BUILD, f"-j{jobs}", *programs], capture_output=True, text=True)
+    return subprocess.run(["ninja", "-C", BUILD, "-k", "0", f"-j{jobs}", *programs], capture_output=True, text=True)
 
 
-def failing_program(programs, limit):
-    for program in programs:
-        environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
+class Programs:
+    """Runs test programs, each bounded by a multiple of the time that it took without any change."""
+
+    def __init__(self, names):
+        self.limits = {}
+        for name in names:
+            started = time.monotonic()
+            if self.failing([name], 0, None, 600):
+                sys.exit(f"{name} fails without any change")
+            self.limits[name] = 15 + 5 * (time.monotonic() - started)
+
+    def failing(self, names, mutant, reached, limit=None):
+        """The first of the programs that fails, or nothing."""
+        environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", MORVANE_MUTANT=str(mutant))
+        if reached:
+            environment["MORVANE_MUTANT_REACHED"] = str(reached)
+        for name in names:
+            # Twice: a busy machine makes a test fail now and then, and that kills nothing.
+            if self.fails(name, environment, limit) and self.fails(name, environment, limit):
+                return name
+        return None
+
+    def fails(self, name, environment, limit):
         try:
-            result = subprocess.run([BUILD / "bin" / program, "--gtest_brief=1", "--gtest_fail_fast=1"], cwd=WORK,
-                                    env=environment, capture_output=True, timeout=limit)
+            result = subprocess.run([BUILD / "bin" / name, "--gtest_brief=1", "--gtest_fail_fast=1"], cwd=WORK,
+                                    env=environment, capture_output=True, timeout=limit or self.limits[name])
         except subprocess.TimeoutExpired:
-            return program + " (did not end)"
+            return True
         if result.returncode != 0:
-            return program
-    return None
+            (WORK / f"failed-{name}.txt").write_bytes(result.stdout + result.stderr)
+        return result.returncode != 0
 
 
-def verdict(mutant, jobs, limit):
-    path = COPY / "common/src" / mutant.path
-    original = path.read_text()
-    lines = original.splitlines(keepends=True)
-    lines[mutant.number - 1] = mutant.new + "\n"
-    path.write_text("".join(lines))
-    programs = tests_for(mutant.path)
-    try:
+class Copy:
+    """The sources in the copy with any number of mutants compiled in."""
+
+    def __init__(self, paths):
+        self.originals = {path: (ROOT / "common/src" / path).read_text() for path in paths}
+
+    def embed(self, mutants):
+        """Puts all in that can be chosen when the program runs; gives those that cannot."""
+        left = []
+        lines = {path: text.splitlines(keepends=True) for path, text in self.originals.items()}
+        places = collections.defaultdict(list)
+        for mutant in mutants:
+            places[mutant.path, mutant.number].append(mutant)
+        for (path, number), group in places.items():
+            line = mutation.embedded(group)
+            if line is None:
+                left += group
+            else:
+                lines[path][number - 1] = line + "\n"
+        for path, changed in lines.items():
+            start = f'#include "{SWITCH_FILE}"\n#line 1\n' if "".join(changed) != self.originals[path] else ""
+            write(COPY / "common/src" / path, start + "".join(changed))
+        return left
+
+    def replace(self, mutant):
+        lines = self.originals[mutant.path].splitlines(keepends=True)
+        lines[mutant.number - 1] = mutant.new_line() + "\n"
+        write(COPY / "common/src" / mutant.path, "".join(lines))
+
+    def restore(self):
+        self.embed([])
+
+
+def lines_in_error(output):
+    """(file, line) for all that the compiler or moc complains about, the places that led there included."""
+    pattern = re.compile(r"common/src/([\w./]+):(\d+):(?:\d+:)?\s+(?:error|Parse error|required from|in)")
+    return {(match.group(1), int(match.group(2))) for match in pattern.finditer(output)}
+
+
+def near_error(mutants, output):
+    """Those in the lines before one that is in error: a variable that is declared within a branch is missed later."""
+    places = lines_in_error(output)
+    return [mutant for mutant in mutants
+            if any(path == mutant.path and 0 <= number - mutant.number <= 12 for path, number in places)]
+
+
+def build_embedded(copy, mutants, programs, jobs):
+    """Compiles as many mutants in together as the compiler takes; gives those and the others."""
+    known = ALONE_FILE.read_text() if ALONE_FILE.exists() else ""
+    alone = [mutant for mutant in mutants if f"{mutant}\n" in known]
+    together = [mutant for mutant in mutants if mutant not in alone]
+    for _ in range(12):
+        left = copy.embed(together)
+        alone += left
+        together = [mutant for mutant in together if mutant not in left]
+        result = build(programs, jobs)
+        ALONE_FILE.write_text("".join(f"{mutant}\n" for mutant in alone))
+        if result.returncode == 0:
+            return together, alone
+        places = lines_in_error(result.stdout)
+        wrong = [mutant for mutant in together if (mutant.path, mutant.number) in places] or \
+            near_error(together, result.stdout)
+        if not wrong:
+            sys.exit("the mutants that do not compile are not found:\n" + result.stdout)
+        alone += wrong
+        together = [mutant for mutant in together if mutant not in wrong]
+    sys.exit("the mutants still do not compile together")
+
+
+class Report:
+    def __init__(self, total):
+        self.total, self.killed, self.invalid, self.survivors, self.done = total, 0, 0, [], 0
+        self.lock = threading.Lock()
+
+    def add(self, mutant, outcome, reached):
+        with self.lock:
+            self.done += 1
+            remark = "" if reached else " (not reached)"
+            if outcome == "does not compile":
+                self.invalid += 1
+            elif outcome:
+                self.killed += 1
+            else:
+                self.survivors.append((mutant, remark))
+                outcome = "SURVIVED" + remark
+            print(f"{self.done}/{self.total} {outcome}: {mutant}", flush=True)
+
+    def end(self, seconds):
+        self.survivors.sort(key=lambda each: (each[0].path, each[0].number))
+        (WORK / "survivors.txt").write_text("".join(f"{mutant}{remark}\n" for mutant, remark in self.survivors))
+        tried = self.killed + len(self.survivors)
+        print(f"{self.done} mutants tried, {self.invalid} did not compile; of the other {tried}, {self.killed} were killed "
+              f"({100 * self.killed / max(tried, 1):.1f} %) in {seconds:.0f} s")
+
+
+def try_together(mutants, runner, report, jobs):
+    def one(mutant):
+        reached = WORK / f"reached-{mutant.id}"
+        outcome = runner.failing(tests_for(mutant.path), mutant.id, reached)
+        report.add(mutant, outcome, reached.exists())
+        reached.unlink(missing_ok=True)
+
+    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+        list(pool.map(one, mutants))
+
+
+def try_alone(mutants, copy, runner, report, jobs):
+    for mutant in sorted(mutants, key=lambda each: (each.path, each.number)):
+        copy.replace(mutant)
+        programs = tests_for(mutant.path)
         if build(programs, jobs).returncode != 0:
-            return "does not compile"
-        return failing_program(programs, limit)
-    finally:
-        path.write_text(original)
+            outcome = "does not compile"
+        else:
+            outcome = runner.failing(programs, 0, None)
+        write(COPY / "common/src" / mutant.path, copy.originals[mutant.path])
+        report.add(mutant, outcome, True)
+
+
+def chosen_mutants(options):
+    found = [mutant for path in sources(options.files)
+             for mutant in mutation.mutants_of(path, (ROOT / "common/src" / path).read_text())]
+    for number, mutant in enumerate(found, 1):
+        mutant.id = number
+    if options.again:
+        again = pathlib.Path(options.again).read_text()
+        found = [mutant for mutant in found if str(mutant) + "\n" in again or str(mutant) + " (" in again]
+    random.Random(options.seed).shuffle(found)
+    return found[:options.sample] if options.sample else found
 
 
 def main():
@@ -193,46 +311,33 @@ def main():
     parser.add_argument("--sample", type=int, default=100, help="how many mutants to try; 0 for all")
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--files", default="*", help="pattern below common/src")
+    parser.add_argument("--again", help="only the survivors in this file")
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
-    parser.add_argument("--timeout", type=int, default=240, help="seconds for a test program")
-    parser.add_argument("--list", action="store_true", help="only print the mutants")
+    parser.add_argument("--list", action="store_true", help="only print the mutants and how they are compiled in")
     options = parser.parse_args()
 
-    mutants = [mutant for path in sources(options.files) for mutant in mutants_of(path)]
-    total = len(mutants)
-    random.Random(options.seed).shuffle(mutants)
-    if options.sample:
-        mutants = mutants[:options.sample]
+    mutants = chosen_mutants(options)
     if options.list:
         for mutant in mutants:
             print(mutant)
-        print(f"{total} mutants")
+        print(f"{len(mutants)} mutants")
         return 0
 
-    prepare()
+    paths = sorted({mutant.path for mutant in mutants})
+    prepare(paths)
     programs = sorted({program for mutant in mutants for program in tests_for(mutant.path)})
-    result = build(programs, options.jobs)
-    if result.returncode != 0:
-        sys.exit(result.stdout[-3000:])
-    broken = failing_program(programs, options.timeout)
-    if broken:
-        sys.exit(f"{broken} fails without any change")
-
-    killed, invalid, survivors = 0, 0, []
+    copy = Copy(paths)
+    report = Report(len(mutants))
     started = time.monotonic()
-    for number, mutant in enumerate(mutants, 1):
-        outcome = verdict(mutant, options.jobs, options.timeout)
-        if outcome == "does not compile":
-            invalid += 1
-        elif outcome:
-            killed += 1
-        else:
-            survivors.append(mutant)
-        print(f"{number}/{len(mutants)} {outcome or 'SURVIVED'}: {mutant}", flush=True)
-    tried = killed + len(survivors)
-    (WORK / "survivors.txt").write_text("".join(f"{mutant}\n" for mutant in survivors))
-    print(f"{total} mutants, {len(mutants)} tried, {invalid} did not compile; of the other {tried}, {killed} were killed "
-          f"({100 * killed / max(tried, 1):.0f} %) in {time.monotonic() - started:.0f} s")
+    together, alone = build_embedded(copy, mutants, programs, options.jobs)
+    print(f"{len(together)} compiled in together, {len(alone)} one by one", flush=True)
+    runner = Programs(programs)
+    try_together(together, runner, report, options.jobs)
+    copy.restore()
+    if alone:
+        build(programs, options.jobs)
+        try_alone(alone, copy, runner, report, options.jobs)
+    report.end(time.monotonic() - started)
     return 0
 
 

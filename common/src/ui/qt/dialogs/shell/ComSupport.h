@@ -45,4 +45,10 @@ inline HRESULT copyToTaskMemory(const QString& text, LPWSTR* copy)
     return S_OK;
 }
 
+/** Frees what copyToTaskMemory() has made, whichever Shell is the process's own; null is allowed. */
+inline void freeTaskMemory(void* memory)
+{
+    std::free(memory);
+}
+
 } // namespace morvane::ui

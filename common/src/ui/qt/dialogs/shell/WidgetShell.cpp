@@ -1,12 +1,11 @@
 #include "ui/qt/dialogs/shell/WidgetShell.h"
 
+#include "ui/qt/dialogs/shell/ComSupport.h"
 #include "ui/qt/dialogs/shell/ShellText.h"
 #include "ui/qt/dialogs/shell/WidgetFileDialog.h"
 #include "ui/qt/dialogs/shell/WidgetShellItem.h"
 
 #include <QFileInfo>
-
-#include <cstdlib>
 
 namespace morvane::ui {
 
@@ -70,7 +69,7 @@ HRESULT WidgetShell::coCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD, RE
 
 void WidgetShell::coTaskMemFree(void* memory)
 {
-    std::free(memory);
+    freeTaskMemory(memory);
 }
 
 HRESULT WidgetShell::createItemFromParsingName(PCWSTR path, IBindCtx*, REFIID iid, void** object)

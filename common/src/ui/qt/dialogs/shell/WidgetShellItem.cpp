@@ -1,7 +1,6 @@
 #include "ui/qt/dialogs/shell/WidgetShellItem.h"
 
 #include "ui/qt/dialogs/shell/ComSupport.h"
-#include "ui/qt/dialogs/shell/Shell.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -214,7 +213,7 @@ QString pathOfShellItem(IShellItem* item)
         return QString();
     }
     const QString path = QDir::fromNativeSeparators(toQString(name));
-    Shell::instance().coTaskMemFree(name);
+    freeTaskMemory(name);
     return path;
 }
 

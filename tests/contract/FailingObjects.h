@@ -1,0 +1,156 @@
+#pragma once
+
+#include "contract/FailingShell.h"
+#include "ui/qt/dialogs/shell/ComPtr.h"
+
+#include <memory>
+
+namespace morvane::test {
+
+/** A stand-in of an object of a Shell; the reference that it is made with is the caller's. */
+template <typename Interface>
+class FailingObject : public Interface
+{
+public:
+    FailingObject(ShellFaults& faults, ui::ComPtr<Interface> target) : m_faults(faults), m_target(std::move(target))
+    {
+        ++m_faults.liveObjects;
+    }
+    virtual ~FailingObject() { --m_faults.liveObjects; }
+
+    Interface* target() const { return m_target.get(); }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
+    {
+        *object = nullptr;
+        return call("QueryInterface", [&] { return find(riid, object); });
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE Release() override
+    {
+        const ULONG left = --m_references;
+        if (left == 0) {
+            delete this;
+        }
+        return left;
+    }
+
+protected:
+    /** QueryInterface for another interface that the stand-in has. */
+    virtual HRESULT find(REFIID riid, void** object)
+    {
+        if (riid != IID_IUnknown && riid != ui::iidOf<Interface>()) {
+            return E_NOINTERFACE;
+        }
+        return give(static_cast<Interface*>(this), object);
+    }
+
+    template <typename Other>
+    HRESULT give(Other* that, void** object)
+    {
+        this->AddRef();
+        *object = that;
+        return S_OK;
+    }
+
+    template <typename Function>
+    HRESULT call(const char* method, Function&& function)
+    {
+        return m_faults.isHit(name() + std::string("::") + method) ? E_FAIL : function();
+    }
+
+    /** A call that hands out a string. */
+    template <typename Function>
+    HRESULT callForText(const char* method, LPWSTR* text, Function&& function)
+    {
+        *text = nullptr;
+        const HRESULT result = call(method, function);
+        m_faults.liveStrings += *text ? 1 : 0;
+        return result;
+    }
+
+    /** A call that hands out an object, for which Standin stands in. */
+    template <typename Standin, typename Made, typename Function>
+    HRESULT callForObject(const char* method, Made** made, Function&& function)
+    {
+        *made = nullptr;
+        ui::ComPtr<Made> target;
+        const HRESULT result = call(method, [&] { return function(target.put()); });
+        if (target) {
+            *made = new Standin(m_faults, std::move(target));
+        }
+        return result;
+    }
+
+    virtual const char* name() const = 0;
+
+    ShellFaults& m_faults;
+    ui::ComPtr<Interface> m_target;
+
+private:
+    ULONG m_references = 1;
+};
+
+class FailingItem final : public FailingObject<IShellItem>
+{
+public:
+    using FailingObject::FailingObject;
+
+    /** What the Shell knows an item by. */
+    static IShellItem* unwrapped(IShellItem* item)
+    {
+        return item ? static_cast<FailingItem*>(item)->target() : nullptr;
+    }
+
+    HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetParent(IShellItem** parent) override
+    {
+        return callForObject<FailingItem>(
+            "GetParent", parent, [&](IShellItem** made) { return m_target->GetParent(made); });
+    }
+    HRESULT STDMETHODCALLTYPE GetDisplayName(SIGDN form, LPWSTR* text) override
+    {
+        return callForText("GetDisplayName", text, [&] { return m_target->GetDisplayName(form, text); });
+    }
+    HRESULT STDMETHODCALLTYPE GetAttributes(SFGAOF mask, SFGAOF* attributes) override
+    {
+        return call("GetAttributes", [&] { return m_target->GetAttributes(mask, attributes); });
+    }
+    HRESULT STDMETHODCALLTYPE Compare(IShellItem* other, SICHINTF hint, int* order) override
+    {
+        return call("Compare", [&] { return m_target->Compare(unwrapped(other), hint, order); });
+    }
+
+protected:
+    const char* name() const override { return "IShellItem"; }
+};
+
+class FailingItems final : public FailingObject<IShellItemArray>
+{
+public:
+    using FailingObject::FailingObject;
+
+    HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetPropertyStore(GETPROPERTYSTOREFLAGS, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetPropertyDescriptionList(REFPROPERTYKEY, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetAttributes(SIATTRIBFLAGS, SFGAOF, SFGAOF*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetCount(DWORD* count) override
+    {
+        return call("GetCount", [&] { return m_target->GetCount(count); });
+    }
+    HRESULT STDMETHODCALLTYPE GetItemAt(DWORD index, IShellItem** item) override
+    {
+        return callForObject<FailingItem>(
+            "GetItemAt", item, [&](IShellItem** made) { return m_target->GetItemAt(index, made); });
+    }
+    HRESULT STDMETHODCALLTYPE EnumItems(IEnumShellItems**) override { return E_NOTIMPL; }
+
+protected:
+    const char* name() const override { return "IShellItemArray"; }
+};
+
+/** A dialog for files to open, or to save, that is told to show itself by @p show. */
+ui::ComPtr<IFileDialog> makeFailingDialog(
+    ShellFaults& faults, const FailingShell::Show& show, ui::ComPtr<IFileDialog> target);
+
+} // namespace morvane::test
