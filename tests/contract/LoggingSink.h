@@ -28,13 +28,14 @@ public:
     std::map<std::string, std::function<HRESULT()>> on; ///< by name of the callback; without entry E_NOTIMPL
     FDE_OVERWRITE_RESPONSE overwriteResponse = FDEOR_DEFAULT;
     ULONG references = 1;
+    bool hearsOfControls = true; ///< whether it has the interface for them
 
     int count(const std::string& entry) const { return static_cast<int>(std::count(log.begin(), log.end(), entry)); }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
         const QITAB table[] = {ui::interfaceRow<IFileDialogEvents, LoggingSink>(),
-            ui::interfaceRow<IFileDialogControlEvents, LoggingSink>(), {}};
+            hearsOfControls ? ui::interfaceRow<IFileDialogControlEvents, LoggingSink>() : QITAB{}, {}};
         return m_shell.qiSearch(this, table, riid, object);
     }
     ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }

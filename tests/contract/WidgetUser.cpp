@@ -145,7 +145,11 @@ void WidgetUser::pickAcceptItem(DWORD, DWORD, const QString& label)
         ADD_FAILURE() << "no item " << label.toStdString();
         menu->close();
     });
-    QTest::mouseClick(arrow, Qt::LeftButton);
+    const QPointer<QToolButton> guard(arrow);
+    QTest::mousePress(arrow, Qt::LeftButton); // the menu is open until this returns
+    if (guard) {
+        QTest::mouseRelease(arrow, Qt::LeftButton);
+    }
 }
 
 void WidgetUser::pressAcceptAndAnswer(bool replace)

@@ -2,6 +2,7 @@
 #include "faults/AllocationFaults.h"
 #include "property/Property.h"
 #include "ui/qt/dialogs/NameFilterText.h"
+#include "ui/qt/dialogs/shell/ComSupport.h"
 #include "ui/qt/util/SelectionText.h"
 #include "ui/qt/util/TableCopyHandler.h"
 #include "ui/util/CellModel.h"
@@ -14,6 +15,7 @@
 
 #include <boost/make_shared.hpp>
 
+#include <cstdlib>
 #include <functional>
 #include <new>
 #include <optional>
@@ -187,6 +189,29 @@ TEST(AllocationFaultsTest, splittingJoinedFiltersGivesAllOfThemOrNone)
     QStringList result;
     failEachAllocation([&] { result = QStringList("before"); }, [&] { result = splitNameFilters(joined); },
         [&](Outcome outcome) { EXPECT_EQ(result.size(), outcome == Outcome::Done ? 3 : 1); });
+}
+
+TEST(AllocationFaultsTest, aTextForACallerOfTheShellComesWholeOrNotAtAll)
+{
+    const QString text(100, QLatin1Char('x'));
+    LPWSTR copy = nullptr;
+    HRESULT hr = E_FAIL;
+    int refused = 0;
+    const auto forget = [&] {
+        std::free(copy);
+        copy = nullptr;
+        hr = E_FAIL;
+    };
+    const int allocations = failEachAllocation(
+        forget, [&] { hr = ui::copyToTaskMemory(text, &copy); },
+        [&](Outcome outcome) {
+            EXPECT_EQ(copy != nullptr, hr == S_OK);
+            EXPECT_EQ(ui::toQString(copy), hr == S_OK ? text : QString());
+            EXPECT_EQ(outcome == Outcome::OutOfMemory, hr == E_FAIL);
+            refused += hr == E_OUTOFMEMORY ? 1 : 0;
+        });
+    forget();
+    EXPECT_EQ(refused, allocations - 1) << "all but the conversion";
 }
 
 TEST(AllocationFaultsTest, theTextOfASelectionComesWholeOrNotAtAll)

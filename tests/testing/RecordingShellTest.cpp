@@ -97,6 +97,21 @@ TEST_F(RecordingShellTest, staysOpenWithoutAName)
     EXPECT_EQ(run([](RecordingDialog& dialog) { dialog.userAccepts(); }), QDialog::Rejected);
 }
 
+TEST(RecordingShellOpen, staysOpenForAFileThatIsNotThereUnlessTheScriptHasResults)
+{
+    RecordingShell shell;
+    ui::ComPtr<IFileDialog> dialog;
+    ASSERT_EQ(shell.coCreateInstance(CLSID_FileOpenDialog, nullptr, 1, IID_IFileDialog, dialog.putVoid()), S_OK);
+    shell.script.showResult = E_ABORT;
+    shell.script.duringShow = [](RecordingDialog& shown) {
+        shown.userTypesName(QStringLiteral("/no/such/file"));
+        shown.userAccepts();
+    };
+    EXPECT_EQ(dialog->Show(nullptr), E_ABORT);
+    shell.script.results = QStringList(QStringLiteral("/no/such/other"));
+    EXPECT_EQ(dialog->Show(nullptr), S_OK);
+}
+
 TEST_F(RecordingShellTest, staysOpenWhenTheUserWantsNoFileReplaced)
 {
     const QString name = QStringLiteral("old.dat");

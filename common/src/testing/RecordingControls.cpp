@@ -172,7 +172,7 @@ HRESULT RecordingControls::GetControlState(DWORD control, CDCONTROLSTATEF* state
 {
     const auto failure = record("GetControlState", text(control));
     const Recorded* const found = find(control);
-    if (failure || !found) {
+    if (failure || !found || !state) {
         return failure.value_or(E_INVALIDARG);
     }
     *state = found->state;
@@ -194,7 +194,7 @@ HRESULT RecordingControls::GetCheckButtonState(DWORD control, BOOL* checked)
 {
     const auto failure = record("GetCheckButtonState", text(control));
     const Recorded* const found = find(control);
-    if (failure || !found || !found->checkButton) {
+    if (failure || !found || !found->checkButton || !checked) {
         return failure.value_or(E_INVALIDARG);
     }
     *checked = found->checked ? TRUE : FALSE;
@@ -242,7 +242,7 @@ HRESULT RecordingControls::RemoveAllControlItems(DWORD control)
 {
     const auto failure = record("RemoveAllControlItems", text(control));
     Recorded* const found = find(control);
-    if (failure || !found) {
+    if (failure || !found || !found->dropDown) {
         return failure.value_or(E_INVALIDARG);
     }
     found->items.clear();
@@ -254,7 +254,7 @@ HRESULT RecordingControls::GetControlItemState(DWORD control, DWORD item, CDCONT
 {
     const auto failure = record("GetControlItemState", text(control, item));
     const auto* const found = findItem(control, item);
-    if (failure || !found) {
+    if (failure || !found || !state) {
         return failure.value_or(E_INVALIDARG);
     }
     *state = found->state;
@@ -277,7 +277,7 @@ HRESULT RecordingControls::GetSelectedControlItem(DWORD control, DWORD* item)
 {
     const auto failure = record("GetSelectedControlItem", text(control));
     const Recorded* const found = find(control);
-    if (failure || !found || !found->dropDown) {
+    if (failure || !found || !found->dropDown || !item) {
         return failure.value_or(E_INVALIDARG);
     }
     const auto first = std::find_if(
@@ -306,14 +306,15 @@ HRESULT RecordingControls::SetSelectedControlItem(DWORD control, DWORD item)
 HRESULT RecordingControls::MakeProminent(DWORD control)
 {
     const auto failure = record("MakeProminent", text(control));
-    return failure ? *failure : find(control) ? S_OK : E_INVALIDARG;
+    const Recorded* const found = find(control);
+    return failure ? *failure : found && !found->dropDown ? S_OK : E_INVALIDARG;
 }
 
 HRESULT RecordingControls::SetControlLabel(DWORD control, LPCWSTR label)
 {
     const auto failure = record("SetControlLabel", text(control, label));
     Recorded* const found = find(control);
-    if (failure || !found) {
+    if (failure || !found || found->dropDown) {
         return failure.value_or(E_INVALIDARG);
     }
     found->label = ui::toQString(label);
@@ -361,9 +362,9 @@ HRESULT RecordingControls::AddText(DWORD control, LPCWSTR label)
     return record("AddText", text(control, label)).value_or(E_NOTIMPL);
 }
 
-HRESULT RecordingControls::GetEditBoxText(DWORD control, WCHAR**)
+HRESULT RecordingControls::GetEditBoxText(DWORD control, WCHAR** text)
 {
-    return record("GetEditBoxText", text(control)).value_or(E_NOTIMPL);
+    return withoutResult(record("GetEditBoxText", std::to_string(control)), text);
 }
 
 HRESULT RecordingControls::SetEditBoxText(DWORD control, LPCWSTR label)

@@ -35,6 +35,9 @@ std::optional<HRESULT> RecordingDialog::record(const char* method, const std::st
 HRESULT RecordingDialog::QueryInterface(REFIID riid, void** object)
 {
     const auto failure = record("QueryInterface", nameOfIid(riid));
+    if (!object) {
+        return E_POINTER;
+    }
     *object = nullptr;
     return failure ? *failure : give(riid, object);
 }
@@ -153,6 +156,9 @@ HRESULT RecordingDialog::SetFileTypeIndex(UINT index)
 HRESULT RecordingDialog::GetFileTypeIndex(UINT* index)
 {
     const auto failure = record("GetFileTypeIndex");
+    if (!index) {
+        return failure.value_or(E_INVALIDARG);
+    }
     if (!failure) {
         *index = m_typeIndex;
     }
@@ -198,6 +204,9 @@ HRESULT RecordingDialog::SetOptions(FILEOPENDIALOGOPTIONS options)
 HRESULT RecordingDialog::GetOptions(FILEOPENDIALOGOPTIONS* options)
 {
     const auto failure = record("GetOptions");
+    if (!options) {
+        return failure.value_or(E_INVALIDARG);
+    }
     if (!failure) {
         *options = m_options;
     }
@@ -206,23 +215,26 @@ HRESULT RecordingDialog::GetOptions(FILEOPENDIALOGOPTIONS* options)
 
 HRESULT RecordingDialog::SetDefaultFolder(IShellItem* folder)
 {
-    const auto failure = record("SetDefaultFolder", pathOf(m_shell, folder).toStdString());
-    if (!failure && m_folder.isEmpty()) {
-        m_folder = pathOf(m_shell, folder);
+    const QString path = pathOf(m_shell, folder);
+    const auto failure = record("SetDefaultFolder", path.toStdString());
+    if (failure || path.isEmpty()) {
+        return failure.value_or(E_INVALIDARG);
     }
-    return failure.value_or(S_OK);
+    m_folder = m_folder.isEmpty() ? path : m_folder;
+    return S_OK;
 }
 
 HRESULT RecordingDialog::SetFolder(IShellItem* folder)
 {
-    const auto failure = record("SetFolder", pathOf(m_shell, folder).toStdString());
-    if (failure || !folder) {
+    const QString path = pathOf(m_shell, folder);
+    const auto failure = record("SetFolder", path.toStdString());
+    if (failure || path.isEmpty()) {
         return failure.value_or(E_INVALIDARG);
     }
     if (m_running) {
-        userEntersFolder(pathOf(m_shell, folder));
+        userEntersFolder(path);
     } else {
-        m_folder = pathOf(m_shell, folder);
+        m_folder = path;
     }
     return S_OK;
 }
@@ -230,6 +242,9 @@ HRESULT RecordingDialog::SetFolder(IShellItem* folder)
 HRESULT RecordingDialog::GetFolder(IShellItem** item)
 {
     const auto failure = record("GetFolder");
+    if (!item) {
+        return failure.value_or(E_INVALIDARG);
+    }
     *item = failure ? nullptr : makeRecordingItem(m_shell, folder()).detach();
     return failure.value_or(S_OK);
 }
@@ -237,6 +252,9 @@ HRESULT RecordingDialog::GetFolder(IShellItem** item)
 HRESULT RecordingDialog::GetCurrentSelection(IShellItem** item)
 {
     const auto failure = record("GetCurrentSelection");
+    if (!item) {
+        return failure.value_or(E_INVALIDARG);
+    }
     *item = nullptr;
     return failure ? *failure : giveItem(m_selected, item, E_FAIL);
 }
@@ -253,6 +271,9 @@ HRESULT RecordingDialog::SetFileName(LPCWSTR name)
 HRESULT RecordingDialog::GetFileName(LPWSTR* name)
 {
     const auto failure = record("GetFileName");
+    if (!name) {
+        return failure.value_or(E_INVALIDARG);
+    }
     *name = nullptr;
     if (failure || (!m_fileName && !m_running)) {
         return failure.value_or(E_FAIL);
@@ -280,6 +301,9 @@ HRESULT RecordingDialog::SetFileNameLabel(LPCWSTR label)
 HRESULT RecordingDialog::GetResult(IShellItem** item)
 {
     const auto failure = record("GetResult");
+    if (!item) {
+        return failure.value_or(E_INVALIDARG);
+    }
     *item = nullptr;
     if (failure || m_results.size() > 1) {
         return failure.value_or(E_FAIL);
@@ -327,6 +351,9 @@ HRESULT RecordingDialog::SetFilter(IShellItemFilter*)
 HRESULT RecordingDialog::GetResults(IShellItemArray** items)
 {
     const auto failure = record("GetResults");
+    if (!items) {
+        return failure.value_or(E_INVALIDARG);
+    }
     *items = failure || m_results.isEmpty() ? nullptr : makeRecordingArray(m_shell, m_results).detach();
     return failure ? *failure : *items ? S_OK : E_UNEXPECTED;
 }
@@ -334,6 +361,9 @@ HRESULT RecordingDialog::GetResults(IShellItemArray** items)
 HRESULT RecordingDialog::GetSelectedItems(IShellItemArray** items)
 {
     const auto failure = record("GetSelectedItems");
+    if (!items) {
+        return failure.value_or(E_INVALIDARG);
+    }
     *items = failure || m_selected.isEmpty() ? nullptr : makeRecordingArray(m_shell, QStringList(m_selected)).detach();
     return failure ? *failure : *items ? S_OK : E_FAIL;
 }

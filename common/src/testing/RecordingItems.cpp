@@ -9,6 +9,15 @@ namespace morvane::test {
 
 namespace {
 
+HRESULT withoutAttributes(const std::optional<HRESULT>& failure, SFGAOF* attributes)
+{
+    if (!attributes) {
+        return E_POINTER;
+    }
+    *attributes = 0;
+    return failure.value_or(E_NOTIMPL);
+}
+
 /** Counts references and live objects for an item or an array. */
 template <typename Interface>
 class RecordingObject : public Interface
@@ -22,6 +31,9 @@ public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
         const auto failure = record("QueryInterface", nameOfIid(riid));
+        if (!object) {
+            return E_POINTER;
+        }
         const bool known = riid == IID_IUnknown || riid == ui::iidOf<Interface>();
         *object = known && !failure ? this : nullptr;
         if (*object) {
@@ -59,24 +71,41 @@ public:
 
     const QString& path() const { return m_path; }
 
-    HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void** object) override
+    {
+        return withoutResult(record("BindToHandler", ""), object);
+    }
     HRESULT STDMETHODCALLTYPE GetParent(IShellItem** parent) override
     {
         const auto failure = record("GetParent", "");
-        *parent = failure ? nullptr : makeRecordingItem(m_shell, QFileInfo(m_path).path()).detach();
-        return failure.value_or(S_OK);
+        if (!parent) {
+            return E_POINTER;
+        }
+        const QFileInfo info(m_path);
+        *parent = failure || info.isRoot() ? nullptr : makeRecordingItem(m_shell, info.path()).detach();
+        return failure ? *failure : *parent ? S_OK : E_FAIL;
     }
     HRESULT STDMETHODCALLTYPE GetDisplayName(SIGDN form, LPWSTR* name) override
     {
         const bool wholePath = form == SIGDN_FILESYSPATH || form == SIGDN_DESKTOPABSOLUTEPARSING;
         const auto failure = record("GetDisplayName", wholePath ? "SIGDN_FILESYSPATH" : "other");
+        if (!name) {
+            return E_POINTER;
+        }
         *name = nullptr;
-        const QString text = wholePath ? QDir::toNativeSeparators(m_path) : QFileInfo(m_path).fileName();
+        const QString fileName = QFileInfo(m_path).fileName();
+        const QString text = wholePath || fileName.isEmpty() ? QDir::toNativeSeparators(m_path) : fileName;
         return failure ? *failure : m_shell.copyString(text, name);
     }
-    HRESULT STDMETHODCALLTYPE GetAttributes(SFGAOF, SFGAOF*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetAttributes(SFGAOF, SFGAOF* attributes) override
+    {
+        return withoutAttributes(record("GetAttributes", ""), attributes);
+    }
     HRESULT STDMETHODCALLTYPE Compare(IShellItem* other, SICHINTF, int* order) override
     {
+        if (!other || !order) {
+            return E_POINTER;
+        }
         *order = QString::compare(m_path, pathOf(m_shell, other));
         return *order == 0 ? S_OK : S_FALSE;
     }
@@ -93,21 +122,37 @@ public:
     {
     }
 
-    HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetPropertyStore(GETPROPERTYSTOREFLAGS, REFIID, void**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetPropertyDescriptionList(REFPROPERTYKEY, REFIID, void**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetAttributes(SIATTRIBFLAGS, SFGAOF, SFGAOF*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void** object) override
+    {
+        return withoutResult(record("BindToHandler", ""), object);
+    }
+    HRESULT STDMETHODCALLTYPE GetPropertyStore(GETPROPERTYSTOREFLAGS, REFIID, void** store) override
+    {
+        return withoutResult(record("GetPropertyStore", ""), store);
+    }
+    HRESULT STDMETHODCALLTYPE GetPropertyDescriptionList(REFPROPERTYKEY, REFIID, void** list) override
+    {
+        return withoutResult(record("GetPropertyDescriptionList", ""), list);
+    }
+    HRESULT STDMETHODCALLTYPE GetAttributes(SIATTRIBFLAGS, SFGAOF, SFGAOF* attributes) override
+    {
+        return withoutAttributes(record("GetAttributes", ""), attributes);
+    }
     HRESULT STDMETHODCALLTYPE GetCount(DWORD* count) override
     {
         const auto failure = record("GetCount", "");
-        if (!failure) {
-            *count = static_cast<DWORD>(m_paths.size());
+        if (!count) {
+            return E_POINTER;
         }
+        *count = failure ? 0 : static_cast<DWORD>(m_paths.size());
         return failure.value_or(S_OK);
     }
     HRESULT STDMETHODCALLTYPE GetItemAt(DWORD index, IShellItem** item) override
     {
         const auto failure = record("GetItemAt", std::to_string(index));
+        if (!item) {
+            return E_POINTER;
+        }
         const bool inside = index < static_cast<DWORD>(m_paths.size());
         *item = nullptr;
         if (!failure && inside) {
@@ -115,7 +160,10 @@ public:
         }
         return failure ? *failure : inside ? S_OK : E_FAIL;
     }
-    HRESULT STDMETHODCALLTYPE EnumItems(IEnumShellItems**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE EnumItems(IEnumShellItems** items) override
+    {
+        return withoutResult(record("EnumItems", ""), items);
+    }
 
 private:
     const QStringList m_paths;

@@ -72,8 +72,8 @@ void RecordingShell::dialogGone(RecordingDialog* dialog)
 HRESULT RecordingShell::coInitializeEx(void* reserved, DWORD flags)
 {
     const auto failure = record("CoInitializeEx", (reserved ? "reserved, " : "null, ") + std::to_string(flags));
-    if (failure) {
-        return *failure;
+    if (failure || reserved) {
+        return failure.value_or(E_INVALIDARG);
     }
     return m_apartments++ == 0 ? S_OK : S_FALSE;
 }
@@ -92,6 +92,9 @@ HRESULT RecordingShell::coCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD 
                                                              : "unknown class";
     const auto failure = record("CoCreateInstance",
         std::string(kind) + (outer ? ", outer, " : ", null, ") + std::to_string(context) + ", " + nameOfIid(iid));
+    if (!object) {
+        return E_POINTER;
+    }
     *object = nullptr;
     if (failure) {
         return *failure;
@@ -120,6 +123,9 @@ HRESULT RecordingShell::createItemFromParsingName(PCWSTR path, IBindCtx* context
 {
     const auto failure =
         record("SHCreateItemFromParsingName", quoted(path) + (context ? ", context, " : ", null, ") + nameOfIid(iid));
+    if (!object) {
+        return E_POINTER;
+    }
     *object = nullptr;
     const QString found = ui::toQString(path).replace(QLatin1Char('\\'), QLatin1Char('/'));
     if (failure || found.isEmpty()) {
@@ -136,6 +142,9 @@ HRESULT RecordingShell::createItemFromParsingName(PCWSTR path, IBindCtx* context
 HRESULT RecordingShell::qiSearch(void* that, const QITAB* table, REFIID iid, void** object)
 {
     const auto failure = record("QISearch", nameOfIid(iid));
+    if (!object) {
+        return E_POINTER;
+    }
     *object = nullptr;
     if (failure) {
         return *failure;

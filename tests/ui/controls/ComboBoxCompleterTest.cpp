@@ -91,6 +91,26 @@ TEST_F(ComboBoxCompleter, movingThroughTheListMarksEntriesAndLeavesTheLineAlone)
     expectOutcome(0, 0);
 }
 
+TEST_F(ComboBoxCompleter, controlHomeAndControlEndMarkTheFirstAndTheLastEntry)
+{
+    setUp({"Dog", "Bar", "Car", "Far"});
+    typeInto("ar");
+    pressKey(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(completerPopup()->currentIndex().row(), 2);
+    pressKey(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(completerPopup()->currentIndex().row(), 0);
+    EXPECT_EQ(box->lineEdit()->text(), "ar");
+}
+
+TEST_F(ComboBoxCompleter, homeAloneGoesToTheBeginningOfTheLine)
+{
+    setUp({"Dog", "Bar", "Car", "Far"});
+    typeInto("ar");
+    pressKey(Qt::Key_Home);
+    EXPECT_EQ(box->lineEdit()->cursorPosition(), 0);
+    EXPECT_EQ(box->lineEdit()->text(), "ar");
+}
+
 TEST_F(ComboBoxCompleter, returnTakesTheTextAndNotTheMark)
 {
     setUp({"Dog", "Bar", "Car"});

@@ -1,7 +1,9 @@
 // The save flow with a host's own message handler.
 #include "SaveFileDialogFixture.h"
 
+#include "testing/RecordingShell.h"
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
+#include "ui/qt/dialogs/SaveFileWinDialog.h"
 
 #include <stdexcept>
 
@@ -142,4 +144,39 @@ TEST_P(SaveFlow, ownsItsHandler)
     EXPECT_EQ(destroyed, 0);
     flow.reset();
     EXPECT_EQ(destroyed, 1);
+}
+
+TEST_P(SaveFlow, savesNothingWhenTheParentGoesWhileTheHandlerIsAsked)
+{
+    struct Leaving : morvane::DefaultSaveFileMessageHandler
+    {
+        explicit Leaving(QPointer<QWidget>& leaving) : parent(leaving) {}
+        std::string filenameToCheck(const std::string& filename) override
+        {
+            delete parent;
+            return filename;
+        }
+        QPointer<QWidget>& parent;
+    };
+    const auto flow = makeFlow("Data files (*.dat)", std::make_unique<Leaving>(m_parent));
+    ModalScript user;
+    user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "new"); });
+    EXPECT_FALSE(flow->launch());
+    EXPECT_TRUE(user.finished());
+    EXPECT_EQ(entries(), QStringList());
+}
+
+TEST(SaveFlowWithoutAFile, savesNothingWhenTheShellAcceptsWithoutAResult)
+{
+    RecordingShell shell;
+    const morvane::ui::ShellOverride guard(shell);
+    QWidget parent;
+    Script script;
+    SaveFileWinDialog flow(
+        &parent, "Save data", "", "", "Data files (*.dat)", "", std::make_unique<ScriptedHandler>(script));
+    shell.script.showResult = S_OK;
+    shell.failCalls("IFileDialog::GetResult");
+    EXPECT_FALSE(flow.launch());
+    EXPECT_EQ(shell.count("IFileDialog::Show"), 1);
+    EXPECT_TRUE(script.calls.empty());
 }

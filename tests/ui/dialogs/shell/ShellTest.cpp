@@ -147,4 +147,76 @@ TEST(TableSearch, findsEachInterfaceAndAnswersForIUnknownWithTheFirst)
     EXPECT_EQ(nothing, nullptr);
 }
 
+TEST(ShellConstants, combineAsInTheSdk)
+{
+    CDCONTROLSTATEF state = CDCS_INACTIVE;
+    state = state | CDCS_VISIBLE;
+    state = state | CDCS_ENABLED;
+    EXPECT_EQ(state, CDCS_ENABLEDVISIBLE);
+    state = state & ~CDCS_ENABLED;
+    EXPECT_EQ(state, CDCS_VISIBLE);
+}
+
+TEST(ShellConstants, turnErrorsOfTheSystemIntoResults)
+{
+    const std::pair<ULONG, unsigned> table[] = {{0, 0}, {ERROR_FILE_NOT_FOUND, 0x80070002}, {ERROR_BUSY, 0x800700AA},
+        {ERROR_CANCELLED, 0x800704C7}, {0x12345678, 0x80075678}, {0x80004005, 0x80004005}};
+    for (const auto& [error, expected] : table) {
+        const HRESULT result = HRESULT_FROM_WIN32(error);
+        EXPECT_EQ(static_cast<unsigned>(result), expected);
+        EXPECT_EQ(SUCCEEDED(result), error == 0);
+        EXPECT_EQ(FAILED(result), error != 0);
+    }
+}
+
+TEST(ShellConstants, compareIdentifiersByEveryPart)
+{
+    const IID original = IID_IUnknown;
+    EXPECT_TRUE(original == IID_IUnknown);
+    IID other[] = {original, original, original, original, original};
+    ++other[0].Data1;
+    ++other[1].Data2;
+    ++other[2].Data3;
+    ++other[3].Data4[0];
+    ++other[4].Data4[7];
+    for (const IID& changed : other) {
+        EXPECT_FALSE(changed == original);
+        EXPECT_TRUE(changed != original);
+    }
+}
+
+TEST(ShellConstants, nameEachInterfaceByItsIdentifier)
+{
+    using morvane::ui::iidOf;
+    EXPECT_EQ(iidOf<IUnknown>(), IID_IUnknown);
+    EXPECT_EQ(iidOf<IShellItem>(), IID_IShellItem);
+    EXPECT_EQ(iidOf<IShellItemArray>(), IID_IShellItemArray);
+    EXPECT_EQ(iidOf<IModalWindow>(), IID_IModalWindow);
+    EXPECT_EQ(iidOf<IFileDialog>(), IID_IFileDialog);
+    EXPECT_EQ(iidOf<IFileOpenDialog>(), IID_IFileOpenDialog);
+    EXPECT_EQ(iidOf<IFileSaveDialog>(), IID_IFileSaveDialog);
+    EXPECT_EQ(iidOf<IFileDialogCustomize>(), IID_IFileDialogCustomize);
+    EXPECT_EQ(iidOf<IFileDialogEvents>(), IID_IFileDialogEvents);
+    EXPECT_EQ(iidOf<IFileDialogControlEvents>(), IID_IFileDialogControlEvents);
+}
+
+TEST(ComPointer, isTheObjectThatItHolds)
+{
+    Counted object;
+    const ComPtr<IUnknown> pointer(&object);
+    EXPECT_EQ(&*pointer, &object);
+    EXPECT_TRUE(pointer);
+    EXPECT_FALSE(ComPtr<IUnknown>::share(nullptr));
+}
+
+TEST(ComPointer, releasesWhatItHeldWhenItTakesAnother)
+{
+    Counted first;
+    Counted second;
+    ComPtr<IUnknown> pointer(&first);
+    pointer = ComPtr<IUnknown>(&second);
+    EXPECT_EQ(first.references, 0u);
+    EXPECT_EQ(second.references, 1u);
+}
+
 } // namespace

@@ -80,6 +80,18 @@ TEST_F(WidgetShellRun, otherKindsOfControlsAreNotImplemented)
     EXPECT_EQ(customize->EndVisualGroup(), E_NOTIMPL);
 }
 
+TEST_F(WidgetShellRun, anItemMayBeTriggeredWithoutTheMenuAsAssistiveTechnologyDoes)
+{
+    customize->EnableOpenDropDown(0);
+    customize->AddControlItem(0, 1, text("Open as copy").c_str());
+    dialog->SetFileName(text("a.txt").c_str());
+    const HRESULT hr = show([](QFileDialog& window) {
+        WidgetUser(window).acceptButton()->findChild<QToolButton*>()->menu()->actions().constFirst()->trigger();
+    });
+    EXPECT_EQ(hr, S_OK);
+    EXPECT_EQ(sink.count("OnItemSelected 0 1"), 1);
+}
+
 TEST_F(WidgetShellRun, closingTheDialogAsItsMenuOpensLeavesNoMenu)
 {
     customize->EnableOpenDropDown(0);

@@ -44,6 +44,11 @@ public:
         Q_EMIT filterSelected(m_filter);
         QCoreApplication::processEvents();
     }
+    void userPicksFilter(const QString& filter)
+    {
+        Q_EMIT filterSelected(filter);
+        QCoreApplication::processEvents();
+    }
     void userAccepts() { Q_EMIT accept(); }
     void userCancels() { Q_EMIT reject(); }
     QString folder() const { return m_directory.toLocalFile(); }
@@ -99,8 +104,14 @@ private:
 class WidgetShellDesktop : public WidgetShellRun
 {
 protected:
-    /** A dialog that needs no widgets. */
+    /** A dialog that needs no widgets, with types. */
     void makePlain(const CLSID& clsid)
+    {
+        makePlainWithoutTypes(clsid);
+        setTypes({{QStringLiteral("Text"), QStringLiteral("*.txt")},
+            {QStringLiteral("Data"), QStringLiteral("*.dat;*.csv")}});
+    }
+    void makePlainWithoutTypes(const CLSID& clsid)
     {
         dialog->Unadvise(cookie);
         ASSERT_EQ(
@@ -112,8 +123,6 @@ protected:
             S_OK);
         ASSERT_EQ(dialog->SetFolder(item.get()), S_OK);
         ASSERT_EQ(dialog->Advise(&sink, &cookie), S_OK);
-        setTypes({{QStringLiteral("Text"), QStringLiteral("*.txt")},
-            {QStringLiteral("Data"), QStringLiteral("*.dat;*.csv")}});
     }
     HRESULT run(const DesktopDialog::Play& play)
     {
@@ -240,6 +249,107 @@ TEST_F(WidgetShellDesktop, opensAgainWhenItsChoiceIsRefused)
         S_OK);
     EXPECT_EQ(opened, 2);
     EXPECT_EQ(results(), QStringList(QStringLiteral("b.txt")));
+}
+
+TEST_F(WidgetShellDesktop, acceptsNothingBeforeAFileIsPicked)
+{
+    makePlain(CLSID_FileOpenDialog);
+    EXPECT_EQ(run([](DesktopDialog& shown) {
+        shown.userAccepts();
+        shown.userCancels();
+    }),
+        cancelled);
+    EXPECT_EQ(sink.count("OnFileOk"), 0);
+}
+
+TEST_F(WidgetShellDesktop, followsTheHostWhileItIsOpen)
+{
+    makePlain(CLSID_FileOpenDialog);
+    dialog->SetFileName(text("a.txt").c_str());
+    run([&](DesktopDialog& shown) {
+        EXPECT_EQ(shown.selectedFiles(), QList<QUrl>{QUrl::fromLocalFile(path("a.txt"))});
+        EXPECT_EQ(dialog->SetFileTypeIndex(2), S_OK);
+        EXPECT_EQ(shown.selectedNameFilter(), QStringLiteral("Data (*.dat *.csv)"));
+        EXPECT_EQ(dialog->SetFileName(text("b.txt").c_str()), S_OK);
+        LPWSTR name = nullptr;
+        EXPECT_EQ(dialog->GetFileName(&name), S_OK);
+        EXPECT_EQ(toQString(name), QStringLiteral("b.txt"));
+        plain.coTaskMemFree(name);
+        shown.userCancels();
+    });
+    EXPECT_EQ(sink.count("OnTypeChange 2"), 0);
+}
+
+TEST_F(WidgetShellDesktop, saysWhichFilesAreSelected)
+{
+    makePlain(CLSID_FileOpenDialog);
+    change(FOS_ALLOWMULTISELECT);
+    run([&](DesktopDialog& shown) {
+        shown.userPicks({path("a.txt"), path("b.txt")});
+        ComPtr<IShellItemArray> items;
+        ASSERT_EQ(dialog.query<IFileOpenDialog>()->GetSelectedItems(items.put()), S_OK);
+        DWORD count = 0;
+        EXPECT_EQ(items->GetCount(&count), S_OK);
+        EXPECT_EQ(count, 2u);
+        shown.userCancels();
+    });
+}
+
+TEST_F(WidgetShellDesktop, opensWithoutTypesOrPatterns)
+{
+    makePlainWithoutTypes(CLSID_FileOpenDialog);
+    EXPECT_EQ(run([&](DesktopDialog& shown) {
+        EXPECT_EQ(shown.options()->nameFilters(), QStringList(QStringLiteral("All Files (*)"))) << "Qt's own";
+        shown.userPicks({path("a.txt")});
+        shown.userAccepts();
+    }),
+        S_OK);
+    setTypes({{QStringLiteral("Everything"), QString()}});
+    run([](DesktopDialog& shown) {
+        EXPECT_EQ(shown.options()->nameFilters(), QStringList(QStringLiteral("Everything (*)")));
+        shown.userCancels();
+    });
+}
+
+TEST_F(WidgetShellDesktop, picksFoldersAndFilesThatNeedNotExist)
+{
+    makePlainWithoutTypes(CLSID_FileOpenDialog);
+    change(FOS_PICKFOLDERS);
+    run([](DesktopDialog& shown) {
+        EXPECT_EQ(shown.options()->fileMode(), QFileDialogOptions::Directory);
+        shown.userCancels();
+    });
+    change(FOS_NOVALIDATE, FOS_PICKFOLDERS);
+    EXPECT_EQ(run([&](DesktopDialog& shown) {
+        EXPECT_EQ(shown.options()->fileMode(), QFileDialogOptions::AnyFile);
+        shown.userPicks({path("missing.txt")});
+        shown.userAccepts();
+    }),
+        S_OK);
+}
+
+TEST_F(WidgetShellDesktop, ignoresATypeThatItWasNotGiven)
+{
+    makePlain(CLSID_FileOpenDialog);
+    run([](DesktopDialog& shown) {
+        shown.userPicksFilter(QStringLiteral("Foreign (*.xyz)"));
+        shown.userCancels();
+    });
+    UINT index = 0;
+    EXPECT_EQ(dialog->GetFileTypeIndex(&index), S_OK);
+    EXPECT_EQ(index, 1u);
+    EXPECT_EQ(sink.count("OnTypeChange 1"), 1) << "the one on opening";
+}
+
+TEST_F(WidgetShellDesktop, doesNotAppearForTypesWithoutADescriptionOfTheirOwn)
+{
+    for (const char* const description : {"", "Two  blanks"}) {
+        makePlainWithoutTypes(CLSID_FileOpenDialog);
+        setTypes({{QString::fromUtf8(description), QStringLiteral("*.txt")}});
+        desktop.user = [this](DesktopDialog&) { ++opened; };
+        EXPECT_EQ(show([](QFileDialog& window) { window.reject(); }), cancelled) << description;
+    }
+    EXPECT_EQ(opened, 0);
 }
 
 TEST_F(WidgetShellDesktop, closesFromACallback)

@@ -1,6 +1,7 @@
 // The owner of the dialog, and what ends a run from outside.
 #include "WidgetShellRunTest.h"
 
+#include <QComboBox>
 #include <QTimer>
 
 namespace morvane::test {
@@ -69,6 +70,123 @@ TEST_F(WidgetShellRun, anOwnerThatGoesDuringACallbackEndsTheRun)
         poll.start(1);
         EXPECT_NE(dialog->Show(handle), E_FAIL) << callback;
     }
+}
+
+/** An owner who is destroyed in a callback that the user brings about in the open dialog. */
+class WidgetShellOwner : public WidgetShellRun
+{
+protected:
+    void SetUp() override
+    {
+        WidgetShellRun::SetUp();
+        owner = std::make_unique<QWidget>();
+    }
+
+    HRESULT runAndLose(const char* callback, const std::function<void(QFileDialog&)>& act)
+    {
+        const auto lose = [this, callback, act](QFileDialog& window) {
+            sink.on[callback] = [this] {
+                owner.reset();
+                return S_OK;
+            };
+            act(window);
+        };
+        const HRESULT hr = show(lose, reinterpret_cast<HWND>(owner->winId()));
+        EXPECT_FALSE(owner) << callback;
+        sink.on.clear();
+        EXPECT_EQ(show([](QFileDialog& window) { window.reject(); }), cancelled) << "it can be shown again";
+        return hr;
+    }
+    void enterInner(QFileDialog& window)
+    {
+        window.setDirectory(folder.filePath(QStringLiteral("inner")));
+        QCoreApplication::processEvents();
+    }
+    void loseWhileAMessageIsOpen(QFileDialog& window)
+    {
+        ModalScript script;
+        script.on<QMessageBox>([this](QMessageBox&) { owner.reset(); });
+        WidgetUser(window).pressAccept();
+        EXPECT_TRUE(script.finished()) << "no message was shown";
+    }
+
+    std::unique_ptr<QWidget> owner;
+};
+
+TEST_F(WidgetShellOwner, endsTheRunWhereverItGoesInAChangeOfTheFolder)
+{
+    for (const char* const callback : {"OnFolderChanging", "OnFolderChange"}) {
+        owner = std::make_unique<QWidget>();
+        EXPECT_EQ(runAndLose(callback, [this](QFileDialog& window) { enterInner(window); }), cancelled) << callback;
+    }
+}
+
+TEST_F(WidgetShellOwner, endsTheRunWhenTheFolderChangesAsTheUserAccepts)
+{
+    dialog->SetFileName(text("a.txt").c_str());
+    const auto accept = [this](QFileDialog& window) {
+        WidgetUser user(window);
+        window.setDirectory(folder.filePath(QStringLiteral("inner"))); // told as the button is pressed
+        user.pressAccept();
+    };
+    EXPECT_EQ(runAndLose("OnFolderChange", accept), cancelled);
+    EXPECT_EQ(sink.count("OnFileOk"), 0);
+}
+
+TEST_F(WidgetShellOwner, endsTheRunWhenTheTypeChanges)
+{
+    setTypes({{QStringLiteral("T"), QStringLiteral("*.txt")}, {QStringLiteral("D"), QStringLiteral("*.dat")}});
+    const auto pick = [](QFileDialog& window) {
+        QTest::keyClick(WidgetUser(window).typeCombo(), Qt::Key_Down);
+        QCoreApplication::processEvents();
+    };
+    EXPECT_EQ(runAndLose("OnTypeChange", pick), cancelled);
+}
+
+TEST_F(WidgetShellOwner, endsTheRunWhenAnItemOfTheAcceptButtonIsPicked)
+{
+    customize->EnableOpenDropDown(0);
+    customize->AddControlItem(0, 10, text("Item").c_str());
+    dialog->SetFileName(text("a.txt").c_str());
+    const auto pick = [](QFileDialog& window) { WidgetUser(window).pickAcceptItem(0, 10, QStringLiteral("Item")); };
+    EXPECT_EQ(runAndLose("OnItemSelected", pick), cancelled);
+    EXPECT_EQ(sink.count("OnFileOk"), 0);
+}
+
+TEST_F(WidgetShellOwner, endsTheRunInTheQuestionOfTheSink)
+{
+    make(CLSID_FileSaveDialog);
+    dialog->SetFileName(text("a.txt").c_str());
+    sink.overwriteResponse = FDEOR_ACCEPT;
+    EXPECT_EQ(runAndLose("OnOverwrite", [](QFileDialog& window) { WidgetUser(window).pressAccept(); }), cancelled);
+    EXPECT_EQ(sink.count("OnFileOk"), 0);
+}
+
+TEST_F(WidgetShellOwner, endsTheRunWhileAMessageOrAQuestionIsOpen)
+{
+    for (const auto& [clsid, name] :
+        {std::pair(CLSID_FileOpenDialog, "missing.txt"), {CLSID_FileSaveDialog, "a.txt"}}) {
+        make(clsid);
+        owner = std::make_unique<QWidget>();
+        dialog->SetFileName(text(name).c_str());
+        EXPECT_EQ(runAndLose("", [this](QFileDialog& window) { loseWhileAMessageIsOpen(window); }), cancelled) << name;
+        EXPECT_EQ(sink.count("OnFileOk"), 0) << name;
+    }
+}
+
+TEST_F(WidgetShellOwner, isNotNeededToCloseTheDialog)
+{
+    customize->AddPushButton(1, text("Leave").c_str());
+    const HRESULT hr = show(
+        [this](QFileDialog& window) {
+            sink.on["OnButtonClicked"] = [this] {
+                owner.reset();
+                return dialog->Close(E_ABORT);
+            };
+            WidgetUser(window).clickButton(1, QStringLiteral("Leave"));
+        },
+        reinterpret_cast<HWND>(owner->winId()));
+    EXPECT_EQ(hr, E_ABORT);
 }
 
 TEST_F(WidgetShellRun, quittingTheApplicationEndsTheRun)

@@ -1,11 +1,14 @@
 #include "ui/qt/dialogs/shell/AcceptMenu.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
+
+#include <utility>
 
 namespace morvane::ui {
 
@@ -31,6 +34,7 @@ AcceptMenu::AcceptMenu(
             QMetaObject::invokeMethod(m_menu, &QWidget::close, Qt::QueuedConnection);
         }
     });
+    m_menu->installEventFilter(this);
     acceptButton.installEventFilter(this);
 }
 
@@ -58,10 +62,38 @@ void AcceptMenu::update(const Control& dropDown)
 
 bool AcceptMenu::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_menu) {
+        return filterMenu(*event);
+    }
     if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutDirectionChange) {
         fitToButton();
     }
     return QToolButton::eventFilter(watched, event);
+}
+
+bool AcceptMenu::filterMenu(QEvent& event)
+{
+    if (m_isResending || (event.type() != QEvent::MouseButtonRelease && event.type() != QEvent::KeyPress)) {
+        return false;
+    }
+    // QMenu goes on using itself after an action was triggered, so nobody is told before it is done.
+    m_isResending = true;
+    QCoreApplication::sendEvent(m_menu, &event);
+    m_isResending = false;
+    if (const auto item = std::exchange(m_due, std::nullopt)) {
+        event.accept();
+        m_picked(*item); // which may be the end of the dialog
+    }
+    return true;
+}
+
+void AcceptMenu::onTriggered(DWORD item)
+{
+    if (m_isResending) {
+        m_due = item;
+    } else {
+        m_picked(item);
+    }
 }
 
 void AcceptMenu::paintEvent(QPaintEvent*)
@@ -88,7 +120,7 @@ void AcceptMenu::addItem(const ControlItem& item)
     QAction* const action = m_menu->addAction(item.label);
     action->setEnabled((item.state & CDCS_ENABLED) != 0);
     action->setVisible((item.state & CDCS_VISIBLE) != 0);
-    connect(action, &QAction::triggered, this, [this, id = item.id] { m_picked(id); });
+    connect(action, &QAction::triggered, this, [this, id = item.id] { onTriggered(id); });
 }
 
 void AcceptMenu::fitToButton()

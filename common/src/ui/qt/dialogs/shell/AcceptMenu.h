@@ -4,6 +4,8 @@
 
 #include <QToolButton>
 
+#include <optional>
+
 class QAbstractButton;
 class QMenu;
 
@@ -28,11 +30,15 @@ protected:
 
 private:
     void addItem(const ControlItem& item);
+    bool filterMenu(QEvent& event);
+    void onTriggered(DWORD item);
     void fitToButton();
 
     QAbstractButton& m_acceptButton;
     const std::function<void(DWORD)> m_picked;
     QMenu* m_menu;
+    bool m_isResending = false;
+    std::optional<DWORD> m_due; ///< was picked, and nobody was told yet
 };
 
 } // namespace morvane::ui

@@ -21,6 +21,17 @@ private:
     std::atomic<ULONG> m_count{1};
 };
 
+/** The answer of a method that is not offered and would give something back; @p result is null afterwards. */
+template <typename Result>
+HRESULT notImplemented(Result** result)
+{
+    if (!result) {
+        return E_POINTER;
+    }
+    *result = nullptr;
+    return E_NOTIMPL;
+}
+
 /** Hands @p text to a caller who frees it with Shell::coTaskMemFree() of WidgetShell. */
 inline HRESULT copyToTaskMemory(const QString& text, LPWSTR* copy)
 {

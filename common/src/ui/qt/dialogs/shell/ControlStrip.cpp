@@ -79,42 +79,45 @@ QAbstractButton* ControlStrip::buttonFor(const Control& control)
         connect(button, &QAbstractButton::clicked, this, [this, id] { m_actions.clicked(id); });
     }
     button->setObjectName(QStringLiteral("customControl%1").arg(id));
-    const int position = m_rowLayout->count();
-    m_rowLayout->addWidget(button, position / controlsPerRow, position % controlsPerRow);
+    addToRow(*button);
     return button;
+}
+
+void ControlStrip::addToRow(QAbstractButton& button)
+{
+    // A button that became prominent has left a gap.
+    int position = 0;
+    while (m_rowLayout->itemAtPosition(position / controlsPerRow, position % controlsPerRow)) {
+        ++position;
+    }
+    m_rowLayout->addWidget(&button, position / controlsPerRow, position % controlsPerRow);
 }
 
 void ControlStrip::place(const Control& control, QAbstractButton& button)
 {
-    if (control.prominent && control.kind == Control::Kind::PushButton && button.parentWidget() == m_row &&
-        m_buttonBox) {
+    const bool standsApart = control.prominent && control.kind == Control::Kind::PushButton;
+    if (standsApart && button.parentWidget() == m_row) {
         m_rowLayout->removeWidget(&button);
         m_buttonBox->addButton(&button, QDialogButtonBox::HelpRole);
-    } else if (!control.prominent && button.parentWidget() != m_row) {
+    } else if (!standsApart && button.parentWidget() != m_row) {
         m_buttonBox->removeButton(&button);
-        const int position = m_rowLayout->count();
-        m_rowLayout->addWidget(&button, position / controlsPerRow, position % controlsPerRow);
+        addToRow(button);
     }
 }
 
 void ControlStrip::updateAcceptMenu(const Control& control)
 {
-    if (!m_acceptMenu && m_buttonBox) {
+    if (!m_acceptMenu) {
         const auto buttons = m_buttonBox->buttons();
         const auto accept = std::find_if(buttons.begin(), buttons.end(), [this](QAbstractButton* button) {
             return m_buttonBox->buttonRole(button) == QDialogButtonBox::AcceptRole;
         });
-        if (accept == buttons.end()) {
-            return;
-        }
         const DWORD id = control.id;
-        m_acceptMenu = new AcceptMenu(
-            **accept, [this, id](DWORD item) { m_actions.itemPicked(id, item); },
-            [this, id] { m_actions.activating(id); });
+        const auto picked = [this, id](DWORD item) { m_actions.itemPicked(id, item); };
+        const auto opening = [this, id] { m_actions.activating(id); };
+        m_acceptMenu = new AcceptMenu(**accept, picked, opening);
     }
-    if (m_acceptMenu) {
-        m_acceptMenu->update(control);
-    }
+    m_acceptMenu->update(control);
 }
 
 } // namespace morvane::ui

@@ -31,6 +31,7 @@ public:
 
 private:
     QAbstractButton* buttonFor(const Control& control);
+    void addToRow(QAbstractButton& button);
     void place(const Control& control, QAbstractButton& button);
     void updateAcceptMenu(const Control& control);
 

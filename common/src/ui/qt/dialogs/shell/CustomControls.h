@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/qt/dialogs/shell/ComSupport.h"
 #include "ui/qt/dialogs/shell/Control.h"
 #include "ui/qt/dialogs/shell/ControlStrip.h"
 #include "ui/qt/dialogs/shell/ShellInterfaces.h"
@@ -45,7 +46,7 @@ public:
     HRESULT STDMETHODCALLTYPE SetControlLabel(DWORD control, LPCWSTR label) override;
     HRESULT STDMETHODCALLTYPE GetControlState(DWORD control, CDCONTROLSTATEF* state) override;
     HRESULT STDMETHODCALLTYPE SetControlState(DWORD control, CDCONTROLSTATEF state) override;
-    HRESULT STDMETHODCALLTYPE GetEditBoxText(DWORD, WCHAR**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetEditBoxText(DWORD, WCHAR** text) override { return notImplemented(text); }
     HRESULT STDMETHODCALLTYPE SetEditBoxText(DWORD, LPCWSTR) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetCheckButtonState(DWORD control, BOOL* checked) override;
     HRESULT STDMETHODCALLTYPE SetCheckButtonState(DWORD control, BOOL checked) override;

@@ -225,8 +225,12 @@ HRESULT FileDialogCore::getOptions(FILEOPENDIALOGOPTIONS* options) const
 
 HRESULT FileDialogCore::setDefaultFolder(IShellItem* folder)
 {
-    m_defaultFolder = pathOfShellItem(folder);
-    return m_defaultFolder.isEmpty() ? E_INVALIDARG : S_OK;
+    const QString path = pathOfShellItem(folder);
+    if (path.isEmpty()) {
+        return E_INVALIDARG;
+    }
+    m_defaultFolder = path;
+    return S_OK;
 }
 
 HRESULT FileDialogCore::setFolder(IShellItem* folder)

@@ -44,7 +44,7 @@ public:
 
     HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void** object) override
     {
-        return answer(nullptr, false, object) == E_POINTER ? E_POINTER : E_NOTIMPL;
+        return notImplemented(object);
     }
     HRESULT STDMETHODCALLTYPE GetParent(IShellItem** parent) override;
     HRESULT STDMETHODCALLTYPE GetDisplayName(SIGDN form, LPWSTR* name) override;
@@ -119,6 +119,7 @@ HRESULT WidgetShellItem::Compare(IShellItem* other, SICHINTF, int* order)
 class WidgetShellItemArray final : public IShellItemArray
 {
 public:
+    /** @param paths at least one */
     explicit WidgetShellItemArray(const QStringList& paths) : m_paths(paths) {}
     virtual ~WidgetShellItemArray() = default;
 
@@ -138,15 +139,15 @@ public:
 
     HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void** object) override
     {
-        return answer(nullptr, false, object) == E_POINTER ? E_POINTER : E_NOTIMPL;
+        return notImplemented(object);
     }
     HRESULT STDMETHODCALLTYPE GetPropertyStore(GETPROPERTYSTOREFLAGS, REFIID, void** store) override
     {
-        return answer(nullptr, false, store) == E_POINTER ? E_POINTER : E_NOTIMPL;
+        return notImplemented(store);
     }
     HRESULT STDMETHODCALLTYPE GetPropertyDescriptionList(REFPROPERTYKEY, REFIID, void** list) override
     {
-        return answer(nullptr, false, list) == E_POINTER ? E_POINTER : E_NOTIMPL;
+        return notImplemented(list);
     }
     HRESULT STDMETHODCALLTYPE GetAttributes(SIATTRIBFLAGS how, SFGAOF mask, SFGAOF* attributes) override;
     HRESULT STDMETHODCALLTYPE GetCount(DWORD* count) override
@@ -158,14 +159,7 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetItemAt(DWORD index, IShellItem** item) override;
-    HRESULT STDMETHODCALLTYPE EnumItems(IEnumShellItems** items) override
-    {
-        if (!items) {
-            return E_POINTER;
-        }
-        *items = nullptr;
-        return E_NOTIMPL;
-    }
+    HRESULT STDMETHODCALLTYPE EnumItems(IEnumShellItems** items) override { return notImplemented(items); }
 
 private:
     ReferenceCount m_references;
@@ -178,7 +172,7 @@ HRESULT WidgetShellItemArray::GetAttributes(SIATTRIBFLAGS how, SFGAOF mask, SFGA
         return E_POINTER;
     }
     const bool all = (static_cast<DWORD>(how) & static_cast<DWORD>(SIATTRIBFLAGS_MASK)) != SIATTRIBFLAGS_OR;
-    *attributes = all && !m_paths.isEmpty() ? mask : 0;
+    *attributes = all ? mask : 0;
     for (const QString& path : m_paths) {
         SFGAOF one = 0;
         makeShellItem(path)->GetAttributes(mask, &one);

@@ -10,7 +10,7 @@ namespace morvane::ui {
 /** An item of the file system, existing or not; @p path is absolute, with Qt's separators. */
 ComPtr<IShellItem> makeShellItem(const QString& path);
 
-/** The items for @p paths, in that order. */
+/** The items for @p paths, at least one, in that order. */
 ComPtr<IShellItemArray> makeShellItemArray(const QStringList& paths);
 
 /** The path of any Shell's item with Qt's separators; empty for null and for items outside the file system. */

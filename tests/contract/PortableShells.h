@@ -1,0 +1,23 @@
+#pragma once
+
+#include "contract/ShellContract.h"
+
+namespace morvane::test {
+
+/**
+ * What only our own Shells promise beyond the published interfaces: how they take arguments that nobody should pass,
+ * and what they do not offer.
+ */
+class PortableShellContract : public ShellContract
+{
+protected:
+    static ui::ShellString text(const char* utf8) { return ui::toShellString(QString::fromUtf8(utf8)); }
+    /** The array with the one path that a run has chosen. */
+    ui::ComPtr<IShellItemArray> chosenArray();
+};
+
+/** Our own Shells, which are there on every platform. */
+const std::vector<NamedShellDriver>& portableShells();
+std::string nameOf(const ::testing::TestParamInfo<NamedShellDriver>& tested);
+
+} // namespace morvane::test
