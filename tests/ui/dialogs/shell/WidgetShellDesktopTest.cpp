@@ -280,6 +280,17 @@ TEST_F(WidgetShellDesktop, followsTheHostWhileItIsOpen)
     EXPECT_EQ(sink.count("OnTypeChange 2"), 0);
 }
 
+TEST_F(WidgetShellDesktop, startsWithTheTypeThatIsSet)
+{
+    makePlain(CLSID_FileOpenDialog);
+    ASSERT_EQ(dialog->SetFileTypeIndex(2), S_OK);
+    run([](DesktopDialog& shown) {
+        EXPECT_EQ(shown.selectedNameFilter(), QStringLiteral("Data (*.dat *.csv)"));
+        shown.userCancels();
+    });
+    EXPECT_EQ(sink.count("OnTypeChange 2"), 1) << "the one on opening";
+}
+
 TEST_F(WidgetShellDesktop, saysWhichFilesAreSelected)
 {
     makePlain(CLSID_FileOpenDialog);

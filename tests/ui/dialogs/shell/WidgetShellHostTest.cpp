@@ -320,6 +320,10 @@ TEST_F(WidgetShellHost, hidesTheRowWithItsLastControl)
         EXPECT_TRUE(row->isVisible());
         EXPECT_EQ(customize->SetControlState(1, CDCS_ENABLED), S_OK);
         EXPECT_FALSE(row->isVisible());
+        EXPECT_EQ(customize->SetControlState(1, CDCS_ENABLEDVISIBLE), S_OK);
+        EXPECT_TRUE(row->isVisible());
+        EXPECT_EQ(customize->MakeProminent(1), S_OK);
+        EXPECT_FALSE(row->isVisible()) << "the button has left it";
         window.reject();
     });
 }

@@ -157,8 +157,12 @@ TEST_F(WidgetShellOwner, endsTheRunInTheQuestionOfTheSink)
 {
     make(CLSID_FileSaveDialog);
     dialog->SetFileName(text("a.txt").c_str());
-    sink.overwriteResponse = FDEOR_ACCEPT;
-    EXPECT_EQ(runAndLose("OnOverwrite", [](QFileDialog& window) { WidgetUser(window).pressAccept(); }), cancelled);
+    for (const auto response : {FDEOR_ACCEPT, FDEOR_REFUSE, FDEOR_DEFAULT}) {
+        owner = std::make_unique<QWidget>();
+        sink.overwriteResponse = response;
+        EXPECT_EQ(runAndLose("OnOverwrite", [](QFileDialog& window) { WidgetUser(window).pressAccept(); }), cancelled)
+            << response;
+    }
     EXPECT_EQ(sink.count("OnFileOk"), 0);
 }
 

@@ -267,17 +267,13 @@ void FileDialogWindow::onNativeTypePicked(const QString& filter)
 void FileDialogWindow::deliverLater()
 {
     // These changes are reported from deep inside Qt's widgets, where the window must not be changed or destroyed.
-    if (!m_deliveryPosted) {
-        m_deliveryPosted = true;
-        QMetaObject::invokeMethod(
-            this, [this] { deliver(); }, Qt::QueuedConnection);
-    }
+    QMetaObject::invokeMethod(
+        this, [this] { deliver(); }, Qt::QueuedConnection);
 }
 
 void FileDialogWindow::deliver()
 {
     const QPointer<FileDialogWindow> self(this);
-    m_deliveryPosted = false;
     if (m_folderPending) {
         deliverFolder();
     }
