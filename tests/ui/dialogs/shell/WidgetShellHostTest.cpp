@@ -133,6 +133,9 @@ TEST_F(WidgetShellHost, setsTypesAndTextsWhileItRuns)
         EXPECT_EQ(user.acceptButton()->text(), QStringLiteral("Take"));
         EXPECT_EQ(dialog->SetFileNameLabel(text("Called").c_str()), S_OK);
         EXPECT_EQ(window.labelText(QFileDialog::FileName), QStringLiteral("Called"));
+        EXPECT_EQ(dialog->SetFolder(itemFor(inner()).get()), S_OK);
+        user.enterFolder(folder.path());
+        EXPECT_EQ(sink.count("OnFolderChange inner"), 1);
         window.reject();
     });
     EXPECT_EQ(sink.count("OnTypeChange 2"), 0);

@@ -107,6 +107,27 @@ TEST_F(WidgetShellSinks, mayLeaveBeforeTheirTurn)
     EXPECT_THAT(second.log, ::testing::ElementsAre(::testing::StartsWith("OnFolderChanging ")));
 }
 
+TEST_F(WidgetShellSinks, hearOfNoTypeWhereThereIsNone)
+{
+    show([](QFileDialog& window) { window.reject(); });
+    EXPECT_FALSE(sink.log.empty());
+    EXPECT_THAT(sink.log, ::testing::Not(::testing::Contains(::testing::StartsWith("OnTypeChange"))));
+}
+
+TEST_F(WidgetShellSinks, hearNothingAfterTheChoice)
+{
+    change(0, FOS_OVERWRITEPROMPT);
+    ComPtr<IShellItem> inner;
+    const ShellString path = toShellString(folder.filePath(QStringLiteral("inner")));
+    ASSERT_EQ(shell.createItemFromParsingName(path.c_str(), nullptr, IID_IShellItem, inner.putVoid()), S_OK);
+    const HRESULT hr = show([&](QFileDialog& window) {
+        QObject::connect(&window, &QDialog::accepted, &window, [&] { dialog->SetFolder(inner.get()); });
+        WidgetUser(window).pressAccept();
+    });
+    EXPECT_EQ(hr, S_OK);
+    EXPECT_EQ(sink.log.back(), "OnFileOk");
+}
+
 TEST_F(WidgetShellSinks, areToldOfASelectionOnce)
 {
     sink.on["OnFileOk"] = [] { return S_FALSE; };
