@@ -6,6 +6,8 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <set>
+
 namespace morvane::test {
 
 namespace {
@@ -132,61 +134,100 @@ TEST_F(WidgetShellAcceptMenu, showsEachItemInItsState)
             // Qt takes what cannot be seen for disabled.
             EXPECT_EQ(actions.at(1)->isEnabled(), state == CDCS_ENABLEDVISIBLE) << state;
         }
+        const auto kept = [&window] {
+            return arrow(window).menu()->findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly).size();
+        };
+        EXPECT_TRUE(QTest::qWaitFor([&kept] { return kept() == 2 + 1; })) << "besides the one of the menu: " << kept();
         window.reject();
     });
 }
 
-/** The colours of an arrow on the screen: in one row near its top, where the arrow itself is not, and in its middle. */
+/** The colours of an arrow on the screen: in a row above the arrow itself, in its middle, and at both its ends. */
 struct Look
 {
     explicit Look(QToolButton& arrow)
     {
         const QImage image = arrow.grab().toImage();
         for (int x = 0; x < image.width(); ++x) {
-            top.push_back(image.pixel(x, 6));
+            above.push_back(image.pixel(x, 6));
             middle.push_back(image.pixel(x, image.height() / 2));
+            ends.insert(image.pixel(x, 0));
+            ends.insert(image.pixel(x, image.height() - 1));
         }
     }
-    QRgb background() const { return top.at(top.size() / 2); }
+    QRgb ground() const { return above.at(above.size() / 2); }
+    QRgb arrow() const { return middle.at(middle.size() / 2); }
 
-    std::vector<QRgb> top;
+    std::vector<QRgb> above;
     std::vector<QRgb> middle;
+    std::set<QRgb> ends;
 };
 
-TEST_F(WidgetShellAcceptMenu, isPaintedWithALineTowardsTheText)
+class WidgetShellAcceptMenuLook : public WidgetShellAcceptMenu
+{
+protected:
+    static QPalette palette(QFileDialog& window)
+    {
+        QPalette palette = window.palette();
+        palette.setColor(QPalette::Active, QPalette::Mid, Qt::red);
+        palette.setColor(QPalette::Disabled, QPalette::Mid, Qt::blue);
+        return palette;
+    }
+};
+
+TEST_F(WidgetShellAcceptMenuLook, hasALineTowardsTheText)
 {
     show([this](QFileDialog& window) {
-        const auto line = [&window](QPalette::ColorGroup group) {
-            return window.palette().color(group, QPalette::Mid).rgb();
-        };
+        const QRgb enabled = QColor(Qt::red).rgb();
+        const QRgb disabled = QColor(Qt::blue).rgb();
+        window.setPalette(palette(window));
         window.setLayoutDirection(Qt::LeftToRight);
         const Look ordinary(arrow(window));
-        EXPECT_EQ(ordinary.top.front(), line(QPalette::Active));
-        EXPECT_NE(ordinary.top.back(), line(QPalette::Active));
-        EXPECT_NE(ordinary.middle.at(ordinary.middle.size() / 2), ordinary.middle.at(2)) << "the arrow";
+        EXPECT_EQ(ordinary.above.front(), enabled);
+        EXPECT_NE(ordinary.above.back(), enabled);
+        EXPECT_EQ(ordinary.ends.count(enabled), 0u) << "the line is shorter than the button is high";
         window.setLayoutDirection(Qt::RightToLeft);
         const Look turned(arrow(window));
-        EXPECT_EQ(turned.top.back(), line(QPalette::Active));
-        EXPECT_NE(turned.top.front(), line(QPalette::Active));
+        EXPECT_EQ(turned.above.back(), enabled);
+        EXPECT_NE(turned.above.front(), enabled);
         EXPECT_EQ(customize->SetControlState(0, CDCS_VISIBLE), S_OK);
-        EXPECT_EQ(Look(arrow(window)).top.back(), line(QPalette::Disabled));
+        EXPECT_EQ(Look(arrow(window)).above.back(), disabled);
         window.reject();
     });
 }
 
-TEST_F(WidgetShellAcceptMenu, isWashedWithColourWhileItHasTheFocusAndMoreSoWhileItIsDown)
+TEST_F(WidgetShellAcceptMenuLook, hasAnArrowInTheColourOfText)
+{
+    show([](QFileDialog& window) {
+        const Look ordinary(arrow(window));
+        EXPECT_NE(ordinary.arrow(), ordinary.ground());
+        QPalette palette = window.palette();
+        palette.setColor(QPalette::WindowText, Qt::red);
+        palette.setColor(QPalette::ButtonText, Qt::red);
+        window.setPalette(palette);
+        EXPECT_NE(Look(arrow(window)).arrow(), ordinary.arrow());
+        window.reject();
+    });
+}
+
+TEST_F(WidgetShellAcceptMenuLook, isWashedWithColourUnderTheMouseAndWithTheFocusAndMoreSoWhileItIsDown)
 {
     show([](QFileDialog& window) {
         QToolButton& opener = arrow(window);
-        const QRgb plain = Look(opener).background();
-        opener.setFocus();
-        const QRgb focused = Look(opener).background();
+        button(window).setFocus();
+        opener.setAttribute(Qt::WA_UnderMouse, false);
+        const QRgb plain = Look(opener).ground();
         opener.setDown(true);
-        const QRgb down = Look(opener).background();
+        const QRgb down = Look(opener).ground();
         opener.setDown(false);
-        EXPECT_NE(focused, plain);
+        opener.setAttribute(Qt::WA_UnderMouse, true);
+        const QRgb hovered = Look(opener).ground();
+        opener.setAttribute(Qt::WA_UnderMouse, false);
+        opener.setFocus();
+        EXPECT_EQ(Look(opener).ground(), hovered);
+        EXPECT_NE(hovered, plain);
         EXPECT_NE(down, plain);
-        EXPECT_NE(down, focused);
+        EXPECT_NE(down, hovered);
         window.reject();
     });
 }

@@ -337,7 +337,9 @@ TEST_F(WidgetShellHost, hidesTheArrowWithItsDropDown)
     ASSERT_EQ(customize->AddControlItem(0, 1, text("Item").c_str()), S_OK);
     show([&](QFileDialog& window) {
         auto* const arrow = window.findChild<QWidget*>(QStringLiteral("acceptMenuArrow"));
+        WidgetUser(window).typeName(QStringLiteral("a.txt")); // without a name nothing can be accepted
         EXPECT_TRUE(arrow->isVisible());
+        EXPECT_TRUE(arrow->isEnabled());
         EXPECT_EQ(customize->SetControlItemState(0, 1, CDCS_ENABLED), S_OK);
         EXPECT_FALSE(arrow->isVisible()) << "no item that can be seen";
         EXPECT_EQ(customize->SetControlItemState(0, 1, CDCS_VISIBLE), S_OK);

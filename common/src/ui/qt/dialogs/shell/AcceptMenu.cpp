@@ -25,7 +25,6 @@ AcceptMenu::AcceptMenu(
     setObjectName(QStringLiteral("acceptMenuArrow"));
     setAccessibleName(tr("More ways to accept"));
     setPopupMode(QToolButton::InstantPopup);
-    setFocusPolicy(Qt::TabFocus);
     setMenu(m_menu);
     connect(m_menu, &QMenu::aboutToShow, this, [this, opening = std::move(opening)] {
         opening();
