@@ -72,6 +72,22 @@ TEST_F(WidgetShellAcceptMenu, staysAtTheEndOfTheButtonWhateverItsSizeAndDirectio
     });
 }
 
+TEST_F(WidgetShellAcceptMenu, isAddedToAButtonThatKeepsItsSize)
+{
+    make(CLSID_FileOpenDialog);
+    ASSERT_EQ(customize->AddPushButton(5, text("A button that makes all the others as wide").c_str()), S_OK);
+    ASSERT_EQ(customize->MakeProminent(5), S_OK);
+    show([this](QFileDialog& window) {
+        const QSize before = button(window).size();
+        EXPECT_EQ(customize->EnableOpenDropDown(0), S_OK);
+        EXPECT_EQ(customize->AddControlItem(0, 1, text("Open as copy").c_str()), S_OK);
+        EXPECT_EQ(button(window).size(), before);
+        EXPECT_EQ(arrow(window).geometry().topRight(), button(window).rect().topRight());
+        EXPECT_EQ(arrow(window).height(), before.height());
+        window.reject();
+    });
+}
+
 TEST_F(WidgetShellAcceptMenu, hasRoomBesideTheTextOfTheButton)
 {
     show([this](QFileDialog& window) {

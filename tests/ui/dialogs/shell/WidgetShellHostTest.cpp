@@ -340,6 +340,8 @@ TEST_F(WidgetShellHost, hidesTheArrowWithItsDropDown)
         WidgetUser(window).typeName(QStringLiteral("a.txt")); // without a name nothing can be accepted
         EXPECT_TRUE(arrow->isVisible());
         EXPECT_TRUE(arrow->isEnabled());
+        EXPECT_FALSE(window.findChild<QWidget*>(QStringLiteral("customControls"))->isVisible())
+            << "not a control there";
         EXPECT_EQ(customize->SetControlItemState(0, 1, CDCS_ENABLED), S_OK);
         EXPECT_FALSE(arrow->isVisible()) << "no item that can be seen";
         EXPECT_EQ(customize->SetControlItemState(0, 1, CDCS_VISIBLE), S_OK);

@@ -94,7 +94,6 @@ void ControlStrip::place(const Control& control, QAbstractButton& button)
 {
     const bool standsApart = control.prominent && control.kind == Control::Kind::PushButton;
     if (standsApart && button.parentWidget() == m_row) {
-        m_rowLayout->removeWidget(&button);
         m_buttonBox->addButton(&button, QDialogButtonBox::HelpRole);
     } else if (!standsApart && button.parentWidget() != m_row) {
         m_buttonBox->removeButton(&button);
