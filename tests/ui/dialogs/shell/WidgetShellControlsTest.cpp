@@ -96,7 +96,12 @@ TEST_F(WidgetShellRun, enterPressesTheButtonThatHasTheFocusAndElseAccepts)
 TEST_F(WidgetShellRun, controlsLineUpWithTheRowsOfTheDialog)
 {
     customize->AddPushButton(1, text("Button").c_str());
+    customize->AddCheckButton(2, text("Check").c_str(), FALSE);
     show([](QFileDialog& window) {
+        for (const char* const label : {"Button", "Check"}) {
+            const auto* const control = WidgetUser(window).control(QString::fromUtf8(label));
+            EXPECT_EQ(control->width(), control->sizeHint().width()) << "side by side, not all over the row";
+        }
         const auto left = [&window](const QWidget* widget) { return widget->mapTo(&window, QPoint()).x(); };
         EXPECT_EQ(left(WidgetUser(window).control(QStringLiteral("Button"))),
             left(window.findChild<QWidget*>(QStringLiteral("lookInLabel"))));
