@@ -90,6 +90,20 @@ TEST_F(WidgetShellRun, typesAreChosenByPositionWhateverTheirTexts)
     EXPECT_EQ(sink.count("OnTypeChange 2"), 1);
 }
 
+TEST_F(WidgetShellRun, aLongDescriptionDoesNotWidenTheWindow)
+{
+    int widths[2] = {0, 0};
+    for (const int lengthy : {0, 1}) {
+        make(CLSID_FileOpenDialog);
+        setTypes({{QString(lengthy == 0 ? 4 : 400, QLatin1Char('W')), QStringLiteral("*.txt")}});
+        show([&](QFileDialog& window) {
+            widths[lengthy] = window.sizeHint().width();
+            window.reject();
+        });
+    }
+    EXPECT_EQ(widths[0], widths[1]);
+}
+
 TEST_F(WidgetShellRun, switchingTypesLeavesTheTypedSuffixAlone)
 {
     make(CLSID_FileSaveDialog);

@@ -187,7 +187,6 @@ void FileDialogWindow::setTypedName(const QString& name)
 {
     if (m_nameEdit) {
         m_nameEdit->setText(name);
-        updateAcceptButton();
     } else if (!name.isEmpty()) {
         selectFile(name);
     }
