@@ -202,6 +202,9 @@ TEST_F(WidgetShellDesktop, givesNothingWhenCancelled)
 {
     makePlain(CLSID_FileSaveDialog);
     EXPECT_EQ(run([&](DesktopDialog& shown) {
+        EXPECT_EQ(shown.options()->acceptMode(), QFileDialogOptions::AcceptSave);
+        EXPECT_FALSE(shown.options()->testOption(QFileDialogOptions::DontConfirmOverwrite));
+        EXPECT_FALSE(shown.options()->testOption(QFileDialogOptions::ShowDirsOnly));
         shown.userPicks({path("a.txt")});
         shown.userCancels();
     }),
@@ -328,6 +331,8 @@ TEST_F(WidgetShellDesktop, picksFoldersAndFilesThatNeedNotExist)
     change(FOS_PICKFOLDERS);
     run([](DesktopDialog& shown) {
         EXPECT_EQ(shown.options()->fileMode(), QFileDialogOptions::Directory);
+        EXPECT_TRUE(shown.options()->testOption(QFileDialogOptions::ShowDirsOnly));
+        EXPECT_TRUE(shown.options()->testOption(QFileDialogOptions::DontConfirmOverwrite)) << "an open dialog";
         shown.userCancels();
     });
     change(FOS_NOVALIDATE, FOS_PICKFOLDERS);

@@ -170,7 +170,11 @@ TEST_F(WidgetShellHost, hasNoTypesWhileItPicksFolders)
     setTypes({{QStringLiteral("Text"), QStringLiteral("*.txt")}, {QStringLiteral("Data"), QStringLiteral("*.dat")}});
     show([&](QFileDialog& window) {
         EXPECT_FALSE(WidgetUser(window).typeCombo()->isVisible());
+        const QStringList folders(QStringLiteral("inner"));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shownFiles(window) == folders; })) << "and no files";
         EXPECT_EQ(dialog->SetFileTypeIndex(2), S_OK);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shownFiles(window) == folders; })) << "whatever the patterns";
         window.reject();
     });
 }

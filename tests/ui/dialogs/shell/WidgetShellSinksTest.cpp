@@ -114,6 +114,28 @@ TEST_F(WidgetShellSinks, hearOfNoTypeWhereThereIsNone)
     EXPECT_THAT(sink.log, ::testing::Not(::testing::Contains(::testing::StartsWith("OnTypeChange"))));
 }
 
+TEST_F(WidgetShellSinks, keepTheUserInTheFolderWhereTheyAreAndHearOfTheWayBack)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("inner/most")));
+    const QString inner = folder.filePath(QStringLiteral("inner"));
+    const std::string base = QFileInfo(folder.path()).fileName().toStdString();
+    show([&](QFileDialog& window) {
+        EXPECT_EQ(window.acceptMode(), QFileDialog::AcceptSave);
+        WidgetUser user(window);
+        user.enterFolder(inner);
+        sink.on["OnFolderChanging"] = [] { return S_FALSE; };
+        user.enterFolder(inner + QStringLiteral("/most"));
+        EXPECT_EQ(window.directory().path(), inner);
+        sink.on.clear();
+        user.enterFolder(folder.path());
+        EXPECT_EQ(window.directory().path(), folder.path());
+        window.reject();
+    });
+    EXPECT_EQ(sink.count("OnFolderChange inner"), 1);
+    EXPECT_EQ(sink.count("OnFolderChange most"), 0);
+    EXPECT_EQ(sink.count("OnFolderChange " + base), 2) << "on opening and on coming back";
+}
+
 TEST_F(WidgetShellSinks, hearNothingAfterTheChoice)
 {
     change(0, FOS_OVERWRITEPROMPT);

@@ -229,9 +229,6 @@ QStringList FileDialogWindow::selectedPaths() const
 
 void FileDialogWindow::applyPatterns()
 {
-    if (m_settings.picksFolders || m_settings.types.empty()) {
-        return;
-    }
     m_model->setNameFilters(m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex)).patterns);
 }
 
