@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTreeView>
 
@@ -83,6 +84,22 @@ TEST_F(WidgetShellChoice, isNothingWithoutANameAndASelection)
             window.reject();
         });
     }
+}
+
+TEST_F(WidgetShellChoice, isTheSelectedFolderWhateverNameIsTyped)
+{
+    dialog->SetFileName(text("a.txt").c_str());
+    show([&](QFileDialog& window) {
+        WidgetUser(window).clickFile(QStringLiteral("inner"), Qt::NoModifier);
+        EXPECT_EQ(WidgetUser(window).nameEdit()->text(), QStringLiteral("a.txt"));
+        ComPtr<IShellItem> item;
+        ASSERT_EQ(dialog->GetCurrentSelection(item.put()), S_OK);
+        LPWSTR name = nullptr;
+        ASSERT_EQ(item->GetDisplayName(SIGDN_NORMALDISPLAY, &name), S_OK);
+        EXPECT_EQ(toUtf8(name), "inner");
+        shell.coTaskMemFree(name);
+        window.reject();
+    });
 }
 
 TEST_F(WidgetShellChoice, isOfSeveralFilesOnlyWhereThatIsAskedForAndNotForSaving)

@@ -107,11 +107,15 @@ TEST_F(WidgetShellRun, aLongDescriptionDoesNotWidenTheWindow)
 TEST_F(WidgetShellRun, switchingTypesLeavesTheTypedSuffixAlone)
 {
     make(CLSID_FileSaveDialog);
-    setTypes({{QStringLiteral("Text"), QStringLiteral("*.txt")}, {QStringLiteral("Data"), QStringLiteral("*.dat")}});
+    setTypes({{QStringLiteral("Text (*.txt)"), QStringLiteral("*.txt")},
+        {QStringLiteral("Table (*.csv)"), QStringLiteral("*.csv")},
+        {QStringLiteral("Data (*.dat)"), QStringLiteral("*.dat")}});
     show([&](QFileDialog& window) {
         WidgetUser user(window);
         user.typeName(QStringLiteral("name.old"));
-        user.pickType(2);
+        QTest::keyClick(user.typeCombo(), Qt::Key_End);
+        EXPECT_EQ(user.typeCombo()->currentIndex(), 2);
+        EXPECT_EQ(user.nameEdit()->text(), QStringLiteral("name.old"));
         user.pickType(1);
         EXPECT_EQ(user.nameEdit()->text(), QStringLiteral("name.old"));
         window.reject();

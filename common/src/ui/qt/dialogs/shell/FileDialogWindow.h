@@ -80,7 +80,6 @@ public:
     QString typedName() const;
     void setTypedName(const QString& name);
     void setTypeIndex(int index);
-    QString folder() const { return m_folder; }
     /** Goes to @p folder as if the user had; the observer is told before this returns. */
     void setFolder(const QString& folder);
     /** The selected files, or else the one whose name is typed. */
