@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
@@ -64,6 +65,46 @@ TEST_F(WidgetShellRun, theArrowOfTheAcceptButtonIsThereWhileThereIsAnItem)
         EXPECT_TRUE(arrow->isVisible());
         customize->RemoveControlItem(0, 1);
         EXPECT_FALSE(arrow->isVisible());
+        window.reject();
+    });
+}
+
+TEST_F(WidgetShellRun, enterPressesTheButtonThatHasTheFocusAndElseAccepts)
+{
+    customize->AddPushButton(1, text("Plain").c_str());
+    customize->AddPushButton(2, text("Prominent").c_str());
+    customize->AddCheckButton(3, text("Check").c_str(), FALSE);
+    ASSERT_EQ(customize->MakeProminent(2), S_OK);
+    dialog->SetFileName(text("a.txt").c_str());
+    sink.on["OnFileOk"] = [] { return S_FALSE; };
+    show([&](QFileDialog& window) {
+        WidgetUser user(window);
+        for (const char* const label : {"Plain", "Prominent", "Check"}) {
+            user.control(QString::fromUtf8(label))->setFocus();
+            QTest::keyClick(user.control(QString::fromUtf8(label)), Qt::Key_Return);
+        }
+        user.nameEdit()->setFocus();
+        QTest::keyClick(user.nameEdit(), Qt::Key_Return);
+        window.reject();
+    });
+    EXPECT_EQ(sink.count("OnButtonClicked 1"), 1);
+    EXPECT_EQ(sink.count("OnButtonClicked 2"), 1);
+    EXPECT_EQ(sink.count("OnCheckButtonToggled 3 1"), 0);
+    EXPECT_EQ(sink.count("OnFileOk"), 2) << "from the check button and from the name";
+}
+
+TEST_F(WidgetShellRun, controlsLineUpWithTheRowsOfTheDialog)
+{
+    customize->AddPushButton(1, text("Button").c_str());
+    customize->AddCheckButton(2, text("Check").c_str(), FALSE);
+    show([](QFileDialog& window) {
+        for (const char* const label : {"Button", "Check"}) {
+            const auto* const control = WidgetUser(window).control(QString::fromUtf8(label));
+            EXPECT_EQ(control->width(), control->sizeHint().width()) << "side by side, not all over the row";
+        }
+        const auto left = [&window](const QWidget* widget) { return widget->mapTo(&window, QPoint()).x(); };
+        EXPECT_EQ(left(WidgetUser(window).control(QStringLiteral("Button"))),
+            left(window.findChild<QWidget*>(QStringLiteral("lookInLabel"))));
         window.reject();
     });
 }

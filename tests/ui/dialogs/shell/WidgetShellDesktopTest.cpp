@@ -202,6 +202,9 @@ TEST_F(WidgetShellDesktop, givesNothingWhenCancelled)
 {
     makePlain(CLSID_FileSaveDialog);
     EXPECT_EQ(run([&](DesktopDialog& shown) {
+        EXPECT_EQ(shown.options()->acceptMode(), QFileDialogOptions::AcceptSave);
+        EXPECT_FALSE(shown.options()->testOption(QFileDialogOptions::DontConfirmOverwrite));
+        EXPECT_FALSE(shown.options()->testOption(QFileDialogOptions::ShowDirsOnly));
         shown.userPicks({path("a.txt")});
         shown.userCancels();
     }),
@@ -280,6 +283,17 @@ TEST_F(WidgetShellDesktop, followsTheHostWhileItIsOpen)
     EXPECT_EQ(sink.count("OnTypeChange 2"), 0);
 }
 
+TEST_F(WidgetShellDesktop, startsWithTheTypeThatIsSet)
+{
+    makePlain(CLSID_FileOpenDialog);
+    ASSERT_EQ(dialog->SetFileTypeIndex(2), S_OK);
+    run([](DesktopDialog& shown) {
+        EXPECT_EQ(shown.selectedNameFilter(), QStringLiteral("Data (*.dat *.csv)"));
+        shown.userCancels();
+    });
+    EXPECT_EQ(sink.count("OnTypeChange 2"), 1) << "the one on opening";
+}
+
 TEST_F(WidgetShellDesktop, saysWhichFilesAreSelected)
 {
     makePlain(CLSID_FileOpenDialog);
@@ -317,6 +331,8 @@ TEST_F(WidgetShellDesktop, picksFoldersAndFilesThatNeedNotExist)
     change(FOS_PICKFOLDERS);
     run([](DesktopDialog& shown) {
         EXPECT_EQ(shown.options()->fileMode(), QFileDialogOptions::Directory);
+        EXPECT_TRUE(shown.options()->testOption(QFileDialogOptions::ShowDirsOnly));
+        EXPECT_TRUE(shown.options()->testOption(QFileDialogOptions::DontConfirmOverwrite)) << "an open dialog";
         shown.userCancels();
     });
     change(FOS_NOVALIDATE, FOS_PICKFOLDERS);

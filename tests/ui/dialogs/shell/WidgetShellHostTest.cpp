@@ -133,6 +133,9 @@ TEST_F(WidgetShellHost, setsTypesAndTextsWhileItRuns)
         EXPECT_EQ(user.acceptButton()->text(), QStringLiteral("Take"));
         EXPECT_EQ(dialog->SetFileNameLabel(text("Called").c_str()), S_OK);
         EXPECT_EQ(window.labelText(QFileDialog::FileName), QStringLiteral("Called"));
+        EXPECT_EQ(dialog->SetFolder(itemFor(inner()).get()), S_OK);
+        user.enterFolder(folder.path());
+        EXPECT_EQ(sink.count("OnFolderChange inner"), 1);
         window.reject();
     });
     EXPECT_EQ(sink.count("OnTypeChange 2"), 0);
@@ -167,7 +170,11 @@ TEST_F(WidgetShellHost, hasNoTypesWhileItPicksFolders)
     setTypes({{QStringLiteral("Text"), QStringLiteral("*.txt")}, {QStringLiteral("Data"), QStringLiteral("*.dat")}});
     show([&](QFileDialog& window) {
         EXPECT_FALSE(WidgetUser(window).typeCombo()->isVisible());
+        const QStringList folders(QStringLiteral("inner"));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shownFiles(window) == folders; })) << "and no files";
         EXPECT_EQ(dialog->SetFileTypeIndex(2), S_OK);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shownFiles(window) == folders; })) << "whatever the patterns";
         window.reject();
     });
 }
@@ -320,6 +327,10 @@ TEST_F(WidgetShellHost, hidesTheRowWithItsLastControl)
         EXPECT_TRUE(row->isVisible());
         EXPECT_EQ(customize->SetControlState(1, CDCS_ENABLED), S_OK);
         EXPECT_FALSE(row->isVisible());
+        EXPECT_EQ(customize->SetControlState(1, CDCS_ENABLEDVISIBLE), S_OK);
+        EXPECT_TRUE(row->isVisible());
+        EXPECT_EQ(customize->MakeProminent(1), S_OK);
+        EXPECT_FALSE(row->isVisible()) << "the button has left it";
         window.reject();
     });
 }
@@ -330,7 +341,11 @@ TEST_F(WidgetShellHost, hidesTheArrowWithItsDropDown)
     ASSERT_EQ(customize->AddControlItem(0, 1, text("Item").c_str()), S_OK);
     show([&](QFileDialog& window) {
         auto* const arrow = window.findChild<QWidget*>(QStringLiteral("acceptMenuArrow"));
+        WidgetUser(window).typeName(QStringLiteral("a.txt")); // without a name nothing can be accepted
         EXPECT_TRUE(arrow->isVisible());
+        EXPECT_TRUE(arrow->isEnabled());
+        EXPECT_FALSE(window.findChild<QWidget*>(QStringLiteral("customControls"))->isVisible())
+            << "not a control there";
         EXPECT_EQ(customize->SetControlItemState(0, 1, CDCS_ENABLED), S_OK);
         EXPECT_FALSE(arrow->isVisible()) << "no item that can be seen";
         EXPECT_EQ(customize->SetControlItemState(0, 1, CDCS_VISIBLE), S_OK);

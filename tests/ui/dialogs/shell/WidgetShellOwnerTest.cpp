@@ -2,7 +2,10 @@
 #include "WidgetShellRunTest.h"
 
 #include <QComboBox>
+#include <QMenu>
+#include <QPushButton>
 #include <QTimer>
+#include <QToolButton>
 
 namespace morvane::test {
 
@@ -151,14 +154,30 @@ TEST_F(WidgetShellOwner, endsTheRunWhenAnItemOfTheAcceptButtonIsPicked)
     const auto pick = [](QFileDialog& window) { WidgetUser(window).pickAcceptItem(0, 10, QStringLiteral("Item")); };
     EXPECT_EQ(runAndLose("OnItemSelected", pick), cancelled);
     EXPECT_EQ(sink.count("OnFileOk"), 0);
+    owner = std::make_unique<QWidget>();
+    dialog->SetFileName(text("a.txt").c_str());
+    const auto pickWithKeys = [](QFileDialog& window) {
+        QPointer<QToolButton> arrow(WidgetUser(window).acceptButton()->findChild<QToolButton*>());
+        QTimer::singleShot(0, arrow, [arrow] {
+            QTest::keyClick(arrow->menu(), Qt::Key_Down);
+            QTest::keyPress(arrow->menu(), Qt::Key_Return);
+        });
+        QTest::mousePress(arrow, Qt::LeftButton); // the menu is open until this returns
+    };
+    EXPECT_EQ(runAndLose("OnItemSelected", pickWithKeys), cancelled);
+    EXPECT_EQ(sink.count("OnItemSelected 0 10"), 2);
 }
 
 TEST_F(WidgetShellOwner, endsTheRunInTheQuestionOfTheSink)
 {
     make(CLSID_FileSaveDialog);
     dialog->SetFileName(text("a.txt").c_str());
-    sink.overwriteResponse = FDEOR_ACCEPT;
-    EXPECT_EQ(runAndLose("OnOverwrite", [](QFileDialog& window) { WidgetUser(window).pressAccept(); }), cancelled);
+    for (const auto response : {FDEOR_ACCEPT, FDEOR_REFUSE, FDEOR_DEFAULT}) {
+        owner = std::make_unique<QWidget>();
+        sink.overwriteResponse = response;
+        EXPECT_EQ(runAndLose("OnOverwrite", [](QFileDialog& window) { WidgetUser(window).pressAccept(); }), cancelled)
+            << response;
+    }
     EXPECT_EQ(sink.count("OnFileOk"), 0);
 }
 

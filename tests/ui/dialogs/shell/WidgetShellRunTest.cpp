@@ -2,6 +2,7 @@
 #include "WidgetShellRunTest.h"
 
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QPushButton>
@@ -34,6 +35,32 @@ TEST_F(WidgetShellRun, anEmptyTitleLeavesQtsOwn)
     });
 }
 
+TEST_F(WidgetShellRun, acceptingIsOfferedWhileThereIsAName)
+{
+    for (const bool picksFolders : {false, true}) {
+        change(picksFolders ? FILEOPENDIALOGOPTIONS(FOS_PICKFOLDERS) : 0);
+        dialog->SetFileName(text("").c_str());
+        show([&](QFileDialog& window) {
+            WidgetUser user(window);
+            const auto* const cancel = window.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel);
+            const auto expectOffered = [&](const char* when, bool offered) {
+                EXPECT_EQ(user.acceptButton()->isEnabled(), offered || picksFolders) << when << " " << picksFolders;
+                EXPECT_TRUE(cancel->isEnabled()) << when << " " << picksFolders;
+            };
+            expectOffered("at first", false);
+            user.typeName(QStringLiteral("a.txt"));
+            expectOffered("with a name", true);
+            user.typeName(QString());
+            expectOffered("deleted", false);
+            dialog->SetFileName(text("b.txt").c_str());
+            expectOffered("with the host's name", true);
+            dialog->SetFileName(text("").c_str());
+            expectOffered("taken back", false);
+            window.reject();
+        });
+    }
+}
+
 TEST_F(WidgetShellRun, typesAreChosenByPositionWhateverTheirTexts)
 {
     const QString odd = QString::fromUtf8("A  (x)  größer");
@@ -61,6 +88,20 @@ TEST_F(WidgetShellRun, typesAreChosenByPositionWhateverTheirTexts)
         window.reject();
     });
     EXPECT_EQ(sink.count("OnTypeChange 2"), 1);
+}
+
+TEST_F(WidgetShellRun, aLongDescriptionDoesNotWidenTheWindow)
+{
+    int widths[2] = {0, 0};
+    for (const int lengthy : {0, 1}) {
+        make(CLSID_FileOpenDialog);
+        setTypes({{QString(lengthy == 0 ? 4 : 400, QLatin1Char('W')), QStringLiteral("*.txt")}});
+        show([&](QFileDialog& window) {
+            widths[lengthy] = window.sizeHint().width();
+            window.reject();
+        });
+    }
+    EXPECT_EQ(widths[0], widths[1]);
 }
 
 TEST_F(WidgetShellRun, switchingTypesLeavesTheTypedSuffixAlone)

@@ -25,7 +25,6 @@ AcceptMenu::AcceptMenu(
     setObjectName(QStringLiteral("acceptMenuArrow"));
     setAccessibleName(tr("More ways to accept"));
     setPopupMode(QToolButton::InstantPopup);
-    setFocusPolicy(Qt::TabFocus);
     setMenu(m_menu);
     connect(m_menu, &QMenu::aboutToShow, this, [this, opening = std::move(opening)] {
         opening();
@@ -55,8 +54,7 @@ void AcceptMenu::update(const Control& dropDown)
     setEnabled(dropDown.isEnabled());
     setVisible(any && dropDown.isVisible());
     // Room on both sides keeps the text of the button in its middle.
-    const int room = isHidden() ? 0 : 2 * arrowWidth;
-    m_acceptButton.setMinimumWidth(room == 0 ? 0 : m_acceptButton.sizeHint().width() + room);
+    m_acceptButton.setMinimumWidth(isHidden() ? 0 : m_acceptButton.sizeHint().width() + 2 * arrowWidth);
     fitToButton();
 }
 

@@ -27,7 +27,6 @@ ControlStrip::ControlStrip(QFileDialog& dialog, ControlActions actions)
       m_rowLayout(new QGridLayout(m_row))
 {
     m_row->setObjectName(QStringLiteral("customControls"));
-    m_row->hide();
     m_rowLayout->setContentsMargins(0, 0, 0, 0);
     m_rowLayout->setColumnStretch(controlsPerRow, 1);
     if (auto* const grid = qobject_cast<QGridLayout*>(dialog.layout())) {
@@ -73,9 +72,7 @@ QAbstractButton* ControlStrip::buttonFor(const Control& control)
         // Not toggled(): Qt goes on with the button after that, and the owner of the dialog may be gone by then.
         connect(button, &QAbstractButton::clicked, this, [this, id](bool checked) { m_actions.toggled(id, checked); });
     } else {
-        auto* const pushButton = new QPushButton(m_row);
-        pushButton->setAutoDefault(false);
-        button = pushButton;
+        button = new QPushButton(m_row);
         connect(button, &QAbstractButton::clicked, this, [this, id] { m_actions.clicked(id); });
     }
     button->setObjectName(QStringLiteral("customControl%1").arg(id));
@@ -97,7 +94,6 @@ void ControlStrip::place(const Control& control, QAbstractButton& button)
 {
     const bool standsApart = control.prominent && control.kind == Control::Kind::PushButton;
     if (standsApart && button.parentWidget() == m_row) {
-        m_rowLayout->removeWidget(&button);
         m_buttonBox->addButton(&button, QDialogButtonBox::HelpRole);
     } else if (!standsApart && button.parentWidget() != m_row) {
         m_buttonBox->removeButton(&button);

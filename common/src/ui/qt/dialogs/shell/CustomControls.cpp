@@ -42,6 +42,13 @@ void CustomControls::showIn(QFileDialog& window)
     m_strip->update(m_controls);
 }
 
+void CustomControls::refresh()
+{
+    if (m_strip) {
+        m_strip->update(m_controls);
+    }
+}
+
 HRESULT CustomControls::QueryInterface(REFIID riid, void** object)
 {
     return m_owner.QueryInterface(riid, object);
@@ -266,9 +273,7 @@ void CustomControls::onItemPicked(DWORD id, DWORD item)
 
 HRESULT CustomControls::updated()
 {
-    if (m_strip) {
-        m_strip->update(m_controls);
-    }
+    refresh();
     return S_OK;
 }
 

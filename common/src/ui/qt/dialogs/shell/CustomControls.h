@@ -29,6 +29,8 @@ public:
     bool isEmpty() const { return m_controls.empty(); }
     /** Shows the controls in @p window until it is destroyed, and forgets which drop-down item was picked before. */
     void showIn(QFileDialog& window);
+    /** To be called when what the controls stand beside has changed. */
+    void refresh();
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
     ULONG STDMETHODCALLTYPE AddRef() override;

@@ -76,7 +76,7 @@ HRESULT FileDialogCore::show(HWND owner)
         const auto stop = qScopeGuard([this] { m_running = false; });
         run(findOwner(owner));
     }
-    if (m_outcome != S_OK || m_exception) {
+    if (m_outcome != S_OK) {
         m_results.clear();
     }
     if (m_exception) {
@@ -308,6 +308,7 @@ HRESULT FileDialogCore::setOkButtonLabel(LPCWSTR label)
 {
     m_settings.acceptLabel = toQString(label);
     applyTexts();
+    m_controls.refresh();
     return S_OK;
 }
 

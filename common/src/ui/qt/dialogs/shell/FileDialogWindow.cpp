@@ -187,7 +187,6 @@ void FileDialogWindow::setTypedName(const QString& name)
 {
     if (m_nameEdit) {
         m_nameEdit->setText(name);
-        updateAcceptButton();
     } else if (!name.isEmpty()) {
         selectFile(name);
     }
@@ -230,9 +229,6 @@ QStringList FileDialogWindow::selectedPaths() const
 
 void FileDialogWindow::applyPatterns()
 {
-    if (m_settings.picksFolders || m_settings.types.empty()) {
-        return;
-    }
     m_model->setNameFilters(m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex)).patterns);
 }
 
@@ -267,17 +263,13 @@ void FileDialogWindow::onNativeTypePicked(const QString& filter)
 void FileDialogWindow::deliverLater()
 {
     // These changes are reported from deep inside Qt's widgets, where the window must not be changed or destroyed.
-    if (!m_deliveryPosted) {
-        m_deliveryPosted = true;
-        QMetaObject::invokeMethod(
-            this, [this] { deliver(); }, Qt::QueuedConnection);
-    }
+    QMetaObject::invokeMethod(
+        this, [this] { deliver(); }, Qt::QueuedConnection);
 }
 
 void FileDialogWindow::deliver()
 {
     const QPointer<FileDialogWindow> self(this);
-    m_deliveryPosted = false;
     if (m_folderPending) {
         deliverFolder();
     }

@@ -120,7 +120,6 @@ private:
     int m_toldType; ///< the type that the observer knows
     bool m_folderPending = false;
     bool m_selectionPending = false;
-    bool m_deliveryPosted = false;
     bool m_again = false; ///< the desktop's dialog has ended with a choice that was refused
 };
 
