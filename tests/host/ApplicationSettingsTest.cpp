@@ -188,6 +188,26 @@ TEST_F(ApplicationSettingsTest, readsLinesThatEndInTheOtherPlatformsWay)
     EXPECT_EQ(onDisk("key"), "value");
 }
 
+TEST_F(ApplicationSettingsTest, writesTheNamesOfKeysAsEarlierFilesHaveThem)
+{
+    const QByteArray plain = "abcdefghijklmnopqrstuvwxyz0123456789-.";
+    std::string key;
+    QByteArray name = "_";
+    for (int byte = 0; byte < 256; ++byte) {
+        const QByteArray character(1, static_cast<char>(byte));
+        key += character.toStdString();
+        name += plain.contains(character) ? character : '_' + character.toHex();
+    }
+    ApplicationSettings(m_file).depositValue(key, "value");
+    EXPECT_TRUE(read(m_file).startsWith("[values]\n" + name + '=')) << read(m_file).constData();
+}
+
+TEST_F(ApplicationSettingsTest, readsAnEarlierFile)
+{
+    write(m_file, "[values]\n_a_2fb=f840dad1dmFsdWU\n");
+    EXPECT_EQ(onDisk("a/b"), "value");
+}
+
 TEST_F(ApplicationSettingsTest, hasItsDefaultFileBelowTheConfigurationDirectory)
 {
     const QString expected = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
