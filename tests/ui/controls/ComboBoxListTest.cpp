@@ -65,6 +65,17 @@ TEST_F(ComboBoxList, theOutcomeOfTheMouseIsThereWhenItIsAnnounced)
     EXPECT_FALSE(wasVisible);
 }
 
+TEST_F(ComboBoxList, theMouseIsAnnouncedAfterAllThatTheComboBoxItselfAnnounces)
+{
+    setUp({"Dog", "Bar", "Car"});
+    QStringList order;
+    QObject::connect(box, &QComboBox::textActivated, [&](const QString& text) { order.append(text); });
+    QObject::connect(box, &morvane::ui::ComboBoxAutoFilter::selectionComplete, [&] { order.append("complete"); });
+    openList();
+    clickEntry(1);
+    EXPECT_EQ(order, QStringList({"Bar", "complete"}));
+}
+
 TEST_F(ComboBoxList, aPickedEntryGivesWayToAnEarlierOneThatContainsIt)
 {
     setUp({"Scar", "Bar", "Car"});
