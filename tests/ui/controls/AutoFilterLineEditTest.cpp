@@ -1,6 +1,8 @@
 // The editor line on its own, with a completer whose connections can be counted.
 #include "ui/qt/controls/AutoFilterLineEdit.h"
 
+#include "support/MessageLog.h"
+
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
@@ -8,6 +10,8 @@
 #include <QItemSelectionModel>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <memory>
 
 namespace {
 
@@ -76,6 +80,20 @@ TEST_F(AutoFilterLineEditTest, keysLeaveTheCompleterConnectedAsItWas)
         EXPECT_EQ(marks().currentIndex().row(), row);
         EXPECT_EQ(completer.connections(), before);
     }
+}
+
+TEST_F(AutoFilterLineEditTest, aCompleterOrLineThatGoesMeanwhileIsNotConnectedAgain)
+{
+    const morvane::test::MessageLog log;
+    auto otherCompleter = std::make_unique<QCompleter>();
+    auto otherLine = std::make_unique<QLineEdit>();
+    {
+        const morvane::ui::AutoFilterLineEdit::CompleterDetached withoutCompleter(line, *otherCompleter);
+        const morvane::ui::AutoFilterLineEdit::CompleterDetached withoutLine(*otherLine, completer);
+        otherCompleter.reset();
+        otherLine.reset();
+    }
+    EXPECT_TRUE(log.entries().empty());
 }
 
 TEST_F(AutoFilterLineEditTest, takesTheTextThatTheCompleterAnnounces)
