@@ -181,6 +181,14 @@ TEST_F(ApplicationSettingsTest, keepsCommentsAndForeignSections)
     EXPECT_EQ(onDisk("key"), "2");
 }
 
+TEST_F(ApplicationSettingsTest, keepsLinesBeforeTheFirstSection)
+{
+    write(m_file, "name=x\n");
+    EXPECT_TRUE(onDisk("key").isEmpty());
+    ApplicationSettings(m_file).depositValue("key", "value");
+    EXPECT_TRUE(read(m_file).startsWith("name=x\n[values]\n_key=")) << read(m_file).constData();
+}
+
 TEST_F(ApplicationSettingsTest, readsLinesThatEndInTheOtherPlatformsWay)
 {
     ApplicationSettings(m_file).depositValue("key", "value");

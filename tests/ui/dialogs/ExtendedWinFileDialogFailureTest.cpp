@@ -169,6 +169,16 @@ TEST_F(ExtendedWinFileDialogFailure, aResultThatIsAnnouncedButMissingIsNone)
     }
 }
 
+TEST_F(ExtendedWinFileDialogFailure, whatTheDialogDoesNotTellCountsAsNothing)
+{
+    const auto dialog = openDialog();
+    m_shell.failCalls("IFileDialog::GetOptions");
+    m_shell.failCalls("IFileDialog::Advise");
+    const Calls calls = callsOf([&] { run(*dialog); });
+    EXPECT_THAT(calls, ::testing::Contains("IFileDialog::SetOptions(0x2)"));
+    EXPECT_THAT(calls, ::testing::Contains("IFileDialog::Unadvise(0)"));
+}
+
 TEST_F(ExtendedWinFileDialogFailure, theScenarioSucceedsWithoutFailures)
 {
     const Outcome outcome = playAll();
