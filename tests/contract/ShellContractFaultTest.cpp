@@ -40,6 +40,7 @@ private:
         return m_driver.show(dialog, [this](ShellUser& user) { m_play(user); });
     }
     bool hasControls() const;
+    bool keepsTheSink() const;
     void expectWhatCanBe(const Outcome& outcome) const;
     std::unique_ptr<ExtendedWinFileDialog> make(QFileDialog::AcceptMode mode, bool withMenu);
     static std::set<std::string> namesOf(const std::vector<std::string>& calls) { return {calls.begin(), calls.end()}; }
@@ -60,6 +61,12 @@ bool FaultyRun::hasControls() const
         "IFileDialog::QueryInterface", "IFileDialogCustomize::AddPushButton", "IFileDialogCustomize::AddCheckButton",
         "IFileDialogCustomize::SetControlState", "IFileDialogCustomize::GetControlState"};
     return harmful.count(failed) == 0;
+}
+
+/** Whether the Shell, not ours, holds a sink for good that it was not told to let go. */
+bool FaultyRun::keepsTheSink() const
+{
+    return m_shell.faults.failed() == "IFileDialog::Unadvise" && m_driver.differenceIn("releasesItsSinksAtItsEnd");
 }
 
 void FaultyRun::expectWhatCanBe(const Outcome& outcome) const
@@ -150,7 +157,8 @@ void FaultyRun::failEachCall(void (FaultyRun::*use)())
         }
         SCOPED_TRACE(std::to_string(failing) + ": " + m_shell.faults.failed());
         expectWhatCanBe(m_outcome);
-        EXPECT_EQ(m_shell.faults.liveObjects, 0);
+        EXPECT_EQ(m_shell.faults.liveObjects, keepsTheSink() ? 1 : 0);
+        m_shell.faults.liveObjects = 0;
         EXPECT_EQ(m_shell.faults.liveStrings, 0);
         EXPECT_EQ(m_shell.faults.apartments, 0);
         EXPECT_TRUE(failing < 0 || !m_shell.faults.failed().empty()) << "the calls are not the same each time";

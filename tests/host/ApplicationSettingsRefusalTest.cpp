@@ -6,8 +6,11 @@
 #include <QDir>
 #include <QProcess>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <csignal>
 
 using morvane::ApplicationSettings;
 using morvane::test::MessageLog;
@@ -37,6 +40,22 @@ protected:
     {
         struct stat status = {};
         return ::lstat(QFile::encodeName(name).constData(), &status) == 0 ? status.st_mode & S_IFMT : 0;
+    }
+
+    /** One that takes no space on the disk. */
+    void makeFileOfSize(qint64 size)
+    {
+        QFile file(m_file);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(file.resize(size));
+    }
+
+    /** What is logged when a value is read. */
+    QStringList warningsOfReading() const
+    {
+        const MessageLog log;
+        EXPECT_TRUE(onDisk("key").isEmpty());
+        return log.texts(QtWarningMsg);
     }
 
     QByteArray native() const { return QFile::encodeName(m_file); }
@@ -70,6 +89,29 @@ public:
 private:
     QString m_file;
     bool m_set;
+};
+
+/** The process can write no file beyond this size, as on a disk that is full. */
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &m_before), 0);
+        const rlimit limit{bytes, m_before.rlim_max};
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    }
+    ~FileSizeLimit()
+    {
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &m_before), 0);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    void (*m_handler)(int);
+    rlimit m_before = {};
 };
 
 } // namespace
@@ -125,12 +167,53 @@ TEST_F(ApplicationSettingsRefusalTest, refusesANameThatIsTooLong)
 
 TEST_F(ApplicationSettingsRefusalTest, doesNotReadAHugeFile)
 {
-    QFile file(m_file);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(file.resize(Q_INT64_C(20) << 30)); // takes no space on the disk
-    file.close();
+    makeFileOfSize(Q_INT64_C(20) << 30);
     expectRefused(m_file);
     EXPECT_EQ(QFileInfo(m_file).size(), Q_INT64_C(20) << 30);
+}
+
+TEST_F(ApplicationSettingsRefusalTest, readsAFileOfTheLargestSizeAndNoneBeyond)
+{
+    const qint64 largest = Q_INT64_C(256) << 20;
+    makeFileOfSize(largest);
+    EXPECT_EQ(warningsOfReading(), QStringList(QStringLiteral("Warning: The settings file is damaged: ") + m_file));
+    makeFileOfSize(largest + 1);
+    EXPECT_EQ(warningsOfReading(), QStringList(QStringLiteral("Warning: The settings file cannot be read: ") + m_file));
+}
+
+TEST_F(ApplicationSettingsRefusalTest, keepsTheFileAsItWasWhenTheDiskTakesNoMore)
+{
+    ApplicationSettings(m_file).depositValue("key", "old");
+    const QByteArray before = read(m_file);
+    for (const int size : {1500, 12000, 50000}) {
+        SCOPED_TRACE(size);
+        const MessageLog log;
+        ApplicationSettings settings(m_file);
+        {
+            const FileSizeLimit limit(1500);
+            settings.depositValue("key", QByteArray(size, 'n'));
+        }
+        EXPECT_EQ(log.texts(QtWarningMsg).size(), 1);
+        EXPECT_EQ(settings.getByteArrayValue("key"), QByteArray(size, 'n'));
+        EXPECT_EQ(read(m_file), before);
+        EXPECT_EQ(QDir(m_directory.path()).entryList(QDir::Files | QDir::Hidden),
+            QStringList{QStringLiteral("settings.ini")});
+    }
+}
+
+TEST_F(ApplicationSettingsRefusalTest, storesNothingWithoutTheLock)
+{
+    const MessageLog log;
+    ApplicationSettings settings(m_file);
+    {
+        const FileSizeLimit limit(24); // enough for the value, too little for what Qt writes into a lock
+        settings.depositValue("k", "v");
+    }
+    EXPECT_EQ(log.texts(QtWarningMsg).size(), 1);
+    EXPECT_EQ(settings.getByteArrayValue("k"), "v");
+    EXPECT_FALSE(QFile::exists(m_file));
+    settings.depositValue("k", "v");
+    EXPECT_EQ(QFileInfo(m_file).size(), 23) << "the value does not fit into the limit";
 }
 
 TEST_F(ApplicationSettingsRefusalTest, keepsALinkToTheFileInPlace)

@@ -181,11 +181,39 @@ TEST_F(ApplicationSettingsTest, keepsCommentsAndForeignSections)
     EXPECT_EQ(onDisk("key"), "2");
 }
 
+TEST_F(ApplicationSettingsTest, keepsLinesBeforeTheFirstSection)
+{
+    write(m_file, "name=x\n");
+    EXPECT_TRUE(onDisk("key").isEmpty());
+    ApplicationSettings(m_file).depositValue("key", "value");
+    EXPECT_TRUE(read(m_file).startsWith("name=x\n[values]\n_key=")) << read(m_file).constData();
+}
+
 TEST_F(ApplicationSettingsTest, readsLinesThatEndInTheOtherPlatformsWay)
 {
     ApplicationSettings(m_file).depositValue("key", "value");
     write(m_file, read(m_file).replace("\n", "\r\n"));
     EXPECT_EQ(onDisk("key"), "value");
+}
+
+TEST_F(ApplicationSettingsTest, writesTheNamesOfKeysAsEarlierFilesHaveThem)
+{
+    const QByteArray plain = "abcdefghijklmnopqrstuvwxyz0123456789-.";
+    std::string key;
+    QByteArray name = "_";
+    for (int byte = 0; byte < 256; ++byte) {
+        const QByteArray character(1, static_cast<char>(byte));
+        key += character.toStdString();
+        name += plain.contains(character) ? character : '_' + character.toHex();
+    }
+    ApplicationSettings(m_file).depositValue(key, "value");
+    EXPECT_TRUE(read(m_file).startsWith("[values]\n" + name + '=')) << read(m_file).constData();
+}
+
+TEST_F(ApplicationSettingsTest, readsAnEarlierFile)
+{
+    write(m_file, "[values]\n_a_2fb=f840dad1dmFsdWU\n");
+    EXPECT_EQ(onDisk("a/b"), "value");
 }
 
 TEST_F(ApplicationSettingsTest, hasItsDefaultFileBelowTheConfigurationDirectory)

@@ -48,16 +48,12 @@ struct Snapshot
 
 /** Looks again and again, at least twice where the time is not zero. */
 template <typename Condition>
-bool waitFor(int longestMs, Condition condition)
+void waitFor(int longestMs, Condition condition)
 {
     const QDeadlineTimer deadline(longestMs);
-    while (!condition()) {
-        if (deadline.hasExpired()) {
-            return false;
-        }
+    while (!condition() && !deadline.hasExpired()) {
         QThread::msleep(2);
     }
-    return true;
 }
 
 QString lockName(const QString& fileName)
@@ -105,7 +101,9 @@ Snapshot readFile(const QString& fileName, bool isLocked = false)
 QFileDevice::FileError replaceFile(const QString& fileName, const QByteArray& content)
 {
     QSaveFile file(fileName);
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    // Flushed first, because commit() takes no notice of what the disk refuses then.
+    const bool isWritten =
+        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
     const QFileDevice::FileError error = file.error() == QFileDevice::NoError ? QFileDevice::WriteError : file.error();
     return isWritten ? QFileDevice::NoError : error;
 }

@@ -108,7 +108,7 @@ void SaveReportPage::write(const QString& fileName, int writer)
     const ReportWriter& chosen = reportWriters().at(static_cast<size_t>(qMax(0, writer)));
     const QByteArray content = (Report::example(m_reportTitle->text()).*chosen.write)();
     QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit()) {
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit()) {
         showWritten(fileName, tr("%1, writer %2").arg(chosen.name).arg(writer));
     } else {
         showNothingWritten(file.errorString());

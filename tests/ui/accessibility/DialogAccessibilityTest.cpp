@@ -17,6 +17,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QLabel>
@@ -128,6 +129,16 @@ TEST_F(DialogAccessibility, everyPartOfTheNativeDialogWithControlsHasANameAndARo
         EXPECT_EQ(roleOf(buttonNamed(window, "Help")), QAccessible::Button);
         EXPECT_EQ(roleOf(buttonNamed(window, "More ways to accept")), QAccessible::ButtonMenu);
     });
+}
+
+TEST_F(DialogAccessibility, theListsOfFoldersAndTypesHaveTheNamesThatStandBesideThem)
+{
+    const auto look = [](QFileDialog& window) {
+        EXPECT_EQ(nameOf(window.findChild<QComboBox*>("lookInCombo")), "Look in:");
+        EXPECT_EQ(nameOf(window.findChild<QComboBox*>("fileTypeCombo")), "Files of type:");
+    };
+    showQt(look);
+    showNative(look);
 }
 
 TEST_F(DialogAccessibility, tabReachesEveryPartOfTheQtDialogAndComesBack)

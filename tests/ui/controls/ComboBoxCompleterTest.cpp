@@ -5,6 +5,17 @@ using morvane::test::type;
 
 namespace {
 
+struct CountedObject : QObject
+{
+    using QObject::receivers;
+};
+
+int connectionsOf(const QCompleter& completer)
+{
+    const auto receivers = &CountedObject::receivers;
+    return (completer.*receivers)(SIGNAL(activated(QString))) + (completer.*receivers)(SIGNAL(highlighted(QString)));
+}
+
 class ComboBoxCompleter : public morvane::test::ComboBoxForm
 {
 protected:
@@ -109,6 +120,36 @@ TEST_F(ComboBoxCompleter, homeAloneGoesToTheBeginningOfTheLine)
     pressKey(Qt::Key_Home);
     EXPECT_EQ(box->lineEdit()->cursorPosition(), 0);
     EXPECT_EQ(box->lineEdit()->text(), "ar");
+}
+
+TEST_F(ComboBoxCompleter, keysLeaveItConnectedToTheLineAsItWas)
+{
+    setUp({"Dog", "Bar", "Car", "Far"});
+    typeInto("a");
+    const int asItWas = connectionsOf(*box->completer());
+    EXPECT_GE(asItWas, 2);
+    for (const Qt::Key key :
+        {Qt::Key_R, Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_Left, Qt::Key_Home, Qt::Key_Shift}) {
+        pressKey(key);
+        EXPECT_EQ(connectionsOf(*box->completer()), asItWas) << key;
+    }
+    Q_EMIT box->completer()->activated(QString("no entry"));
+    EXPECT_EQ(box->lineEdit()->text(), "no entry");
+}
+
+TEST_F(ComboBoxCompleter, tabClosesTheListOfALineThatTheHostHasPutIn)
+{
+    setUp({"Dog", "Bar", "Car"});
+    QCompleter* const completer = box->completer();
+    box->setLineEdit(new QLineEdit);
+    box->setCompleter(completer);
+    after.setFocus();
+    box->setFocus();
+    typeInto("ca");
+    pressKey(Qt::Key_Tab);
+    EXPECT_FALSE(completerPopup()->isVisible());
+    EXPECT_TRUE(after.hasFocus());
+    expectOutcome(0, 0);
 }
 
 TEST_F(ComboBoxCompleter, returnTakesTheTextAndNotTheMark)

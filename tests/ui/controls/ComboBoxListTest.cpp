@@ -22,6 +22,15 @@ TEST_F(ComboBoxList, opensAtTheFirstEntryThatContainsTheText)
     EXPECT_EQ(box->view()->currentIndex().row(), 2);
 }
 
+TEST_F(ComboBoxList, opensAtTheVeryFirstEntryToo)
+{
+    setUp({"Dog", "Bar", "Car"});
+    box->setCurrentIndex(2);
+    box->lineEdit()->setText("do");
+    openList();
+    EXPECT_EQ(box->currentIndex(), 0);
+}
+
 TEST_F(ComboBoxList, opensWithTheEntryAsItWasWhenNoneContainsTheText)
 {
     setUp({"Dog", "Bar", "Car"});
@@ -63,6 +72,17 @@ TEST_F(ComboBoxList, theOutcomeOfTheMouseIsThereWhenItIsAnnounced)
     clickEntry(1);
     EXPECT_EQ(announced, "Bar");
     EXPECT_FALSE(wasVisible);
+}
+
+TEST_F(ComboBoxList, theMouseIsAnnouncedAfterAllThatTheComboBoxItselfAnnounces)
+{
+    setUp({"Dog", "Bar", "Car"});
+    QStringList order;
+    QObject::connect(box, &QComboBox::textActivated, [&](const QString& text) { order.append(text); });
+    QObject::connect(box, &morvane::ui::ComboBoxAutoFilter::selectionComplete, [&] { order.append("complete"); });
+    openList();
+    clickEntry(1);
+    EXPECT_EQ(order, QStringList({"Bar", "complete"}));
 }
 
 TEST_F(ComboBoxList, aPickedEntryGivesWayToAnEarlierOneThatContainsIt)
@@ -144,6 +164,18 @@ TEST_F(ComboBoxList, escapeRestoresTheEntryBeforeTheEdit)
     EXPECT_FALSE(box->view()->isVisible());
     EXPECT_FALSE(box->isVisible());
     expectOutcome(0, 1);
+}
+
+TEST_F(ComboBoxList, escapeIsTakenFromShortcutsAndLeavesTheListOpenForTheKeyPress)
+{
+    setUp({"Dog", "Bar", "Car"});
+    openList();
+    QKeyEvent shortcut(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier);
+    shortcut.ignore();
+    QCoreApplication::sendEvent(box->view(), &shortcut);
+    EXPECT_TRUE(shortcut.isAccepted());
+    EXPECT_TRUE(box->view()->isVisible());
+    expectOutcome(0, 0);
 }
 
 TEST_F(ComboBoxList, escapeInTheListLeavesTheTextToBeValidated)

@@ -326,6 +326,8 @@ TEST_F(ComboBoxModel, setSelectedTextFindsTheExactTextAndSelectsItsLength)
     box->setSelectedText("Car");
     EXPECT_EQ(box->currentIndex(), 2);
     EXPECT_EQ(box->lineEdit()->selectedText(), "Car");
+    box->setSelectedText("Dog");
+    EXPECT_EQ(box->currentIndex(), 0);
 
     box->setCurrentIndex(1);
     box->setSelectedText("car");

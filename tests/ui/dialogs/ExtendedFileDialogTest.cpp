@@ -118,6 +118,27 @@ TEST_F(ExtendedFileDialogTest, runsTheQtDialogThroughItsVirtualExec)
     EXPECT_GT(restored, 0) << "the places are added by the dialog's own exec";
 }
 
+TEST_F(ExtendedFileDialogTest, isEmptyOnceTheParentHasTakenTheQtDialogAway)
+{
+    ExtendedFileDialog::setUseNativeFileDialog(false);
+    auto parent = std::make_unique<QWidget>();
+    ExtendedFileDialog dialog(*parent, "Caption", "", "Data (*.dat)", "", QFileDialog::AcceptOpen);
+    EXPECT_EQ(dialog.nameFilters(), QStringList(dataFilter));
+    parent.reset();
+    dialog.setNameFilters({allFilter});
+    dialog.selectNameFilter(allFilter);
+    dialog.selectFile(path("a.dat"));
+    dialog.setDirectory(m_folder.path());
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setDontConfirmOverwrite(true);
+    dialog.setShowDirectoriesOnly(true);
+    EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+    EXPECT_THAT(dialog.selectedFiles(), IsEmpty());
+    EXPECT_THAT(dialog.nameFilters(), IsEmpty());
+    EXPECT_EQ(dialog.selectedNameFilter(), QString());
+    EXPECT_EQ(dialog.directory(), QDir());
+}
+
 TEST_F(ExtendedFileDialogTest, destroysItsDialog)
 {
     auto widgets = make(false);

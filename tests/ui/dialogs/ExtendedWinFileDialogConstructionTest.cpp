@@ -1,6 +1,10 @@
 #include "ExtendedWinFileDialogTest.h"
 
+#include "property/Property.h"
+
 #include <QDir>
+
+#include <boost/make_shared.hpp>
 
 #include <type_traits>
 
@@ -164,6 +168,39 @@ TEST_F(ExtendedWinFileDialogConstruction, leavesTheApartmentBeforeTheDialogIsRel
     EXPECT_THAT(shell.calls(), ElementsAre("CoUninitialize()"));
     EXPECT_THAT(shell.objectsAtTheEnd, ElementsAre(1)) << "the dialog itself is left to the end";
     EXPECT_EQ(shell.liveObjects(), 0);
+}
+
+/** Writes its name down when it goes. */
+struct Leaving
+{
+    Leaving(std::vector<std::string>& allGone, const char* ownName) : gone(allGone), name(ownName) {}
+    ~Leaving() { gone.emplace_back(name); }
+    Leaving(const Leaving&) = delete;
+    Leaving& operator=(const Leaving&) = delete;
+
+    std::vector<std::string>& gone;
+    const char* const name;
+};
+
+struct LeavingFlag : Leaving, Property<bool>
+{
+    explicit LeavingFlag(std::vector<std::string>& allGone) : Leaving(allGone, "check box"), Property<bool>(true) {}
+};
+
+TEST_F(ExtendedWinFileDialogConstruction, letsGoOfCheckBoxesAndThenOfActionsBetweenTheApartmentAndTheDialog)
+{
+    std::vector<std::string> gone;
+    auto dialog = openDialog();
+    dialog->addCustomButton("Button", [action = std::make_shared<Leaving>(gone, "action")] {});
+    dialog->addCustomCheckBox("Check", boost::make_shared<LeavingFlag>(gone));
+    dialog->addCustomButton("Other", [witness = std::shared_ptr<int>(new int, [&](const int* number) {
+        delete number;
+        gone.emplace_back(m_shell.calls().back() + ", dialogs: " + std::to_string(m_shell.liveObjects()));
+    })] {});
+    EXPECT_THAT(gone, ::testing::IsEmpty());
+    dialog.reset();
+    EXPECT_THAT(gone, ::testing::UnorderedElementsAre("check box", "action", "CoUninitialize(), dialogs: 1"));
+    EXPECT_EQ(gone.front(), "check box");
 }
 
 TEST_F(ExtendedWinFileDialogConstruction, leavesTheApartmentEvenWhenJoiningFailed)

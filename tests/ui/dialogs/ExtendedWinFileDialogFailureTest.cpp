@@ -151,6 +151,34 @@ TEST_F(ExtendedWinFileDialogFailure, withoutDialogTheValuesAreKeptAndEverythingI
     EXPECT_EQ(m_shell.calls().size(), 2u);
 }
 
+TEST_F(ExtendedWinFileDialogFailure, aResultThatIsAnnouncedButMissingIsNone)
+{
+    for (const bool several : {false, true}) {
+        const auto dialog = openDialog();
+        dialog->setFileMode(several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+        m_shell.script.results = QStringList(QStringLiteral("/a"));
+        run(*dialog, [](RecordingDialog& user) { user.userAccepts(); });
+        EXPECT_EQ(dialog->selectedFiles().size(), 1);
+        for (const char* const call : {several ? "IFileDialog::GetResults" : "IFileDialog::GetResult",
+                 "IShellItemArray::GetItemAt", "IShellItem::GetDisplayName"}) {
+            m_shell.failCalls(call, S_OK);
+            EXPECT_EQ(dialog->selectedFiles().size(), !several && call == std::string("IShellItemArray::GetItemAt"))
+                << call;
+            m_shell.failNothing();
+        }
+    }
+}
+
+TEST_F(ExtendedWinFileDialogFailure, whatTheDialogDoesNotTellCountsAsNothing)
+{
+    const auto dialog = openDialog();
+    m_shell.failCalls("IFileDialog::GetOptions");
+    m_shell.failCalls("IFileDialog::Advise");
+    const Calls calls = callsOf([&] { run(*dialog); });
+    EXPECT_THAT(calls, ::testing::Contains("IFileDialog::SetOptions(0x2)"));
+    EXPECT_THAT(calls, ::testing::Contains("IFileDialog::Unadvise(0)"));
+}
+
 TEST_F(ExtendedWinFileDialogFailure, theScenarioSucceedsWithoutFailures)
 {
     const Outcome outcome = playAll();

@@ -9,6 +9,11 @@
 #include <regex>
 #include <string>
 
+inline bool operator==(const FileTypeText& a, const FileTypeText& b)
+{
+    return a.description == b.description && a.patterns == b.patterns;
+}
+
 namespace morvane::test {
 
 // The expressions that define what a name filter means. They recurse once a character: keep the texts short.

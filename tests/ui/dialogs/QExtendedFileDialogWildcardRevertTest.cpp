@@ -200,6 +200,21 @@ TEST_F(QExtendedFileDialogWildcardRevert, duplicatesInTheListAreRestored)
     });
 }
 
+TEST_F(QExtendedFileDialogWildcardRevert, theSecondOfTwoEqualTypesCanBePickedOnceTheListIsRestored)
+{
+    const Dialog dialog = openDialog("All (*);;Text (*.txt);;Text (*.txt)");
+    run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("*.dat")); });
+
+    run(*dialog, [](FileDialogPage& page) {
+        page.pickTypeWithKeys(2);
+        EXPECT_EQ(page.typeCombo().currentIndex(), 2);
+        page.enterName(QStringLiteral("*.dat"));
+        page.pickTypeWithKeys(0);
+        page.pickTypeWithKeys(2);
+        EXPECT_EQ(page.typeCombo().currentIndex(), 2);
+    });
+}
+
 TEST_F(QExtendedFileDialogWildcardRevert, saveModeRestoresTheListToo)
 {
     const Dialog dialog = saveDialog("Text (*.txt);;All (*);;Data (*.dat)");

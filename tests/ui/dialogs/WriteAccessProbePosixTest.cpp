@@ -8,7 +8,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <functional>
+#include <string>
 
 using namespace morvane::test;
 
@@ -77,6 +79,26 @@ TEST_F(WriteAccessProbe, triesTheTargetOfADanglingLinkAndKeepsTheLink)
     expectAnswer(true, path("link to link"));
     fs::create_symlink("missing/not-there", path("nowhere"));
     expectAnswer(false, path("nowhere"));
+}
+
+TEST_F(WriteAccessProbe, followsAsManyDanglingLinksAsTheSystem)
+{
+    const auto name = [](int link) { return "link" + std::to_string(link); };
+    fs::create_symlink("not-there", path(name(1)));
+    for (int link = 2; link <= 45; ++link) {
+        fs::create_symlink(name(link - 1), path(name(link)));
+    }
+    for (const int link : {1, 2, 39, 40, 41, 45}) {
+        SCOPED_TRACE(link);
+        std::FILE* const file = std::fopen(path(name(link)).c_str(), "a");
+        const bool systemFollows = file != nullptr;
+        if (file) {
+            std::fclose(file);
+            fs::remove(path("not-there"));
+        }
+        EXPECT_EQ(systemFollows, link <= 40);
+        expectAnswer(systemFollows, path(name(link)));
+    }
 }
 
 TEST_F(WriteAccessProbe, refusesALoopOfLinksAndKeepsIt)

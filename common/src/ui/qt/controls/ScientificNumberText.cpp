@@ -50,8 +50,8 @@ qint64 powerOfTen(int exponent)
 struct TypedNumber
 {
     std::optional<qint64> left;
-    std::optional<qint64> right;
-    QChar sign; ///< of a number without integer half
+    std::optional<qint64> right; ///< not looked at without integer half
+    QChar sign;                  ///< of a number without integer half
 };
 
 TypedNumber cutAtPoint(const QString& text, QChar delimiter)
@@ -62,7 +62,7 @@ TypedNumber cutAtPoint(const QString& text, QChar delimiter)
     }
     const bool signOnly = point == 1 && (text[0] == QLatin1Char('+') || text[0] == QLatin1Char('-'));
     if (point == 0 || signOnly) {
-        return {std::nullopt, text.midRef(point + 1).toLongLong(), signOnly ? text[0] : QLatin1Char('+')};
+        return {std::nullopt, std::nullopt, signOnly ? text[0] : QLatin1Char('+')};
     }
     const bool endsInPoint = point == text.size() - 1;
     return {text.leftRef(point).toLongLong(),

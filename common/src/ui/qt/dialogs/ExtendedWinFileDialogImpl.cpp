@@ -54,20 +54,8 @@ ExtendedWinFileDialog::Impl::Impl(QWidget* parent, const std::string& caption, c
 
 ExtendedWinFileDialog::Impl::~Impl()
 {
-    // The apartment is left before the dialog goes; hosts rely on the order.
+    // Before the members and, last of all, the dialog go; hosts rely on the order.
     m_shell.coUninitialize();
-    m_acceptMenuWidgets.clear();
-    m_controlWidgets.clear();
-    m_acceptMenuValues.clear();
-    m_checkBoxProperties.clear();
-    m_buttonActions.clear();
-    m_fileName.reset();
-    m_currentFilterIndex.reset();
-    m_helpTopic.clear();
-    m_nameFilters.clear();
-    m_directory.reset();
-    m_caption.clear();
-    m_dialog.reset();
 }
 
 void ExtendedWinFileDialog::Impl::initStartFolder(const std::string& directory)

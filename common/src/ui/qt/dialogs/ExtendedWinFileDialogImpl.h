@@ -74,6 +74,7 @@ struct ExtendedWinFileDialog::Impl
     void appendPath(QStringList& files, IShellItem& item);
     void replaceTypedExtension(IFileDialog& dialog);
 
+    // Destroyed from the last to the first, which hosts rely on.
     morvane::ui::Shell& m_shell;
     morvane::ui::ComPtr<IFileDialog> m_dialog;
     QPointer<QWidget> m_parent;

@@ -14,11 +14,6 @@ struct FileTypeText
 {
     std::string description;
     std::string patterns; ///< separated by semicolons
-
-    bool operator==(const FileTypeText& other) const
-    {
-        return description == other.description && patterns == other.patterns;
-    }
 };
 
 /**

@@ -199,8 +199,6 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
     setFileMode(acceptMode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     // Also what makes Qt build the child widgets that are looked up below.
     setOption(QFileDialog::DontUseNativeDialog, true);
-    m_performSelectedFileValidation = true;
-    m_overrideCursorSet = false;
 
     m_fileTypeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
     m_fileNameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
