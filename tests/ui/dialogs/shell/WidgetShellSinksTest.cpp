@@ -183,7 +183,7 @@ TEST_F(WidgetShellSinks, findNoResultOfARunThatIsClosedAfterItsChoice)
 
 TEST_F(WidgetShellSinks, leaveTheQuestionToABoxThatShowsTheNameAsItIs)
 {
-    const QString name = QStringLiteral("<b>bold.txt");
+    const QString name = QStringLiteral("&lt;b&gt;bold.txt");
     QFile file(folder.filePath(name));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     dialog->SetFileName(toShellString(name).c_str());
