@@ -71,7 +71,7 @@ cmd_valgrind() {
 valgrind_filter() {
     case $1 in
     test_host) echo '-*Process*:*InOneProcess*:*Processes*' ;;
-    test_spinbox_numbers) echo '-*andom*:*Time*:*ast*:*very*' ;;
+    test_spinbox_numbers) echo '-*andom*:*Time*:*ast*:*very*:*AndItsLoop*' ;;
     test_namefiltertext) echo '-*veryShortText*:*andomTexts*' ;;
     test_savefileextension) echo '-*andomTexts*' ;;
     *) echo '*' ;;
