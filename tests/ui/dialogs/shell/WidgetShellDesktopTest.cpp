@@ -1,6 +1,7 @@
 // The dialog of a desktop in place of Qt's widgets, played through the interface by which Qt talks to the desktop.
 #include "WidgetShellRunTest.h"
 
+#include <QAbstractButton>
 #include <QEventLoop>
 #include <QTimer>
 #include <QUrl>
@@ -281,6 +282,29 @@ TEST_F(WidgetShellDesktop, followsTheHostWhileItIsOpen)
         shown.userCancels();
     });
     EXPECT_EQ(sink.count("OnTypeChange 2"), 0);
+}
+
+TEST_F(WidgetShellDesktop, keepsControlsThatComeWhileItIsOpenForTheNextRun)
+{
+    makePlain(CLSID_FileOpenDialog);
+    run([&](DesktopDialog& shown) {
+        EXPECT_EQ(customize->AddPushButton(5, text("Preview").c_str()), S_OK);
+        EXPECT_EQ(customize->MakeProminent(5), S_OK);
+        EXPECT_EQ(customize->AddCheckButton(6, text("Keep").c_str(), TRUE), S_OK);
+        EXPECT_EQ(customize->EnableOpenDropDown(7), S_OK);
+        EXPECT_EQ(customize->AddControlItem(7, 1, text("Read-only").c_str()), S_OK);
+        EXPECT_EQ(dialog->SetOkButtonLabel(text("Take").c_str()), S_OK);
+        shown.userCancels();
+    });
+    EXPECT_EQ(opened, 1);
+    ModalScript script;
+    script.on<QFileDialog>([](QFileDialog& window) {
+        EXPECT_TRUE(window.findChild<QAbstractButton*>(QStringLiteral("customControl5")));
+        EXPECT_TRUE(window.findChild<QAbstractButton*>(QStringLiteral("customControl6")));
+        window.reject();
+    });
+    EXPECT_EQ(dialog->Show(nullptr), cancelled);
+    EXPECT_EQ(opened, 1) << "the desktop's dialog has no place for controls";
 }
 
 TEST_F(WidgetShellDesktop, startsWithTheTypeThatIsSet)
