@@ -5,19 +5,17 @@ namespace morvane::test {
 namespace {
 
 /** Tells the library's sink of the stand-in where the Shell tells of the dialog. */
-class FailingSink final : public IFileDialogEvents, public IFileDialogControlEvents
+class FailingSink final : public CountedObject<IFileDialogEvents, IFileDialogControlEvents>
 {
 public:
     FailingSink(ShellFaults& faults, IFileDialog& dialog, IFileDialogCustomize& customize, IFileDialogEvents& target)
-        : m_faults(faults),
+        : CountedObject(faults),
           m_dialog(dialog),
           m_customize(customize),
           m_target(ui::ComPtr<IFileDialogEvents>::share(&target)),
           m_controlTarget(m_target.query<IFileDialogControlEvents>())
     {
-        ++m_faults.liveObjects;
     }
-    virtual ~FailingSink() { --m_faults.liveObjects; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
@@ -31,15 +29,6 @@ public:
         }
         AddRef();
         return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = --m_references;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
     }
 
     HRESULT STDMETHODCALLTYPE OnFileOk(IFileDialog*) override { return m_target->OnFileOk(&m_dialog); }
@@ -80,12 +69,10 @@ public:
     }
 
 private:
-    ShellFaults& m_faults;
     IFileDialog& m_dialog;
     IFileDialogCustomize& m_customize;
     const ui::ComPtr<IFileDialogEvents> m_target;
     const ui::ComPtr<IFileDialogControlEvents> m_controlTarget;
-    ULONG m_references = 1;
 };
 
 /** The methods of a dialog, and, with the same count of references, its controls'. */

@@ -2,21 +2,44 @@
 
 #include "contract/FailingShell.h"
 #include "ui/qt/dialogs/shell/ComPtr.h"
-
-#include <memory>
+#include "ui/qt/dialogs/shell/ComSupport.h"
 
 namespace morvane::test {
 
-/** A stand-in of an object of a Shell; the reference that it is made with is the caller's. */
-template <typename Interface>
-class FailingObject : public Interface
+/** Counts the references to an object, the first of which is the caller's, and, with ShellFaults, the objects. */
+template <typename... Interfaces>
+class CountedObject : public Interfaces...
 {
 public:
-    FailingObject(ShellFaults& faults, ui::ComPtr<Interface> target) : m_faults(faults), m_target(std::move(target))
+    explicit CountedObject(ShellFaults& faults) : m_faults(faults) { ++m_faults.liveObjects; }
+    virtual ~CountedObject() { --m_faults.liveObjects; }
+
+    ULONG STDMETHODCALLTYPE AddRef() override { return m_references.increment(); }
+    ULONG STDMETHODCALLTYPE Release() override
     {
-        ++m_faults.liveObjects;
+        const ULONG left = m_references.decrement();
+        if (left == 0) {
+            delete this;
+        }
+        return left;
     }
-    virtual ~FailingObject() { --m_faults.liveObjects; }
+
+protected:
+    ShellFaults& m_faults;
+
+private:
+    ui::ReferenceCount m_references;
+};
+
+/** A stand-in of an object of a Shell. */
+template <typename Interface>
+class FailingObject : public CountedObject<Interface>
+{
+public:
+    FailingObject(ShellFaults& faults, ui::ComPtr<Interface> target)
+        : CountedObject<Interface>(faults), m_target(std::move(target))
+    {
+    }
 
     Interface* target() const { return m_target.get(); }
 
@@ -25,17 +48,10 @@ public:
         *object = nullptr;
         return call("QueryInterface", [&] { return find(riid, object); });
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = --m_references;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
-    }
 
 protected:
+    using CountedObject<Interface>::m_faults;
+
     /** QueryInterface for another interface that the stand-in has. */
     virtual HRESULT find(REFIID riid, void** object)
     {
@@ -84,11 +100,7 @@ protected:
 
     virtual const char* name() const = 0;
 
-    ShellFaults& m_faults;
     ui::ComPtr<Interface> m_target;
-
-private:
-    ULONG m_references = 1;
 };
 
 class FailingItem final : public FailingObject<IShellItem>

@@ -3,6 +3,7 @@
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingShell.h"
 
+#include "contract/LoggingSink.h"
 #include "ui/qt/dialogs/shell/ShellText.h"
 
 #include <gmock/gmock.h>
@@ -261,30 +262,7 @@ TEST_F(RecordingShellFailures, reachTheCallsOfArrays)
 
 TEST_F(RecordingShellFailures, aRefusedAdviceHoldsNoSink)
 {
-    class Sink final : public IFileDialogEvents
-    {
-    public:
-        virtual ~Sink() = default;
-        HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
-        ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-        ULONG STDMETHODCALLTYPE Release() override { return --references; }
-        HRESULT STDMETHODCALLTYPE OnFileOk(IFileDialog*) override { return E_NOTIMPL; }
-        HRESULT STDMETHODCALLTYPE OnFolderChanging(IFileDialog*, IShellItem*) override { return E_NOTIMPL; }
-        HRESULT STDMETHODCALLTYPE OnFolderChange(IFileDialog*) override { return E_NOTIMPL; }
-        HRESULT STDMETHODCALLTYPE OnSelectionChange(IFileDialog*) override { return E_NOTIMPL; }
-        HRESULT STDMETHODCALLTYPE OnShareViolation(IFileDialog*, IShellItem*, FDE_SHAREVIOLATION_RESPONSE*) override
-        {
-            return E_NOTIMPL;
-        }
-        HRESULT STDMETHODCALLTYPE OnTypeChange(IFileDialog*) override { return E_NOTIMPL; }
-        HRESULT STDMETHODCALLTYPE OnOverwrite(IFileDialog*, IShellItem*, FDE_OVERWRITE_RESPONSE*) override
-        {
-            return E_NOTIMPL;
-        }
-
-        ULONG references = 1;
-    };
-    Sink sink;
+    LoggingSink sink(shell);
     DWORD cookie = 77;
     expectFailures({{"IFileDialog::Advise", [&] { return dialog->Advise(&sink, &cookie); }}});
     EXPECT_EQ(sink.references, 1u);
