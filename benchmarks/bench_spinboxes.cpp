@@ -3,6 +3,7 @@
 #include "support/Ratio.h"
 #include "ui/qt/controls/DigitSearch.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
+#include "ui/qt/controls/ScientificNumberText.h"
 
 #include <QElapsedTimer>
 
@@ -18,6 +19,7 @@ namespace {
 using morvane::test::literalDigitSearch;
 using morvane::test::literalReading;
 using morvane::ui::findDigitsInRange;
+using morvane::ui::interpretNumber;
 using morvane::ui::NumberRules;
 using morvane::ui::QScientificSpinBox;
 
@@ -252,9 +254,39 @@ void textBySnprintf(benchmark::State& state)
 }
 MORVANE_BENCHMARK(textBySnprintf);
 
+/** Reads what might be pasted: `length` characters of digits, separators and blanks, so many times. */
+void readLongTexts(int length, int times)
+{
+    const NumberRules rules{-largest, largest, 8, '.', ',', {}, {}, {}};
+    const QString nines(length, '9');
+    for (const QString& text : {nines, "0." + nines, QString("9,").repeated(length / 2), QString(length, ' '), "1E" + nines}) {
+        for (int i = 0; i < times; ++i) {
+            int pos = length;
+            benchmark::DoNotOptimize(interpretNumber(text, pos, rules));
+        }
+    }
+}
+
+void readMebibyte(benchmark::State& state)
+{
+    for (auto _ : state) {
+        readLongTexts(1 << 20, 1);
+    }
+}
+MORVANE_BENCHMARK(readMebibyte);
+
+void readSixteenthsOfMebibyte(benchmark::State& state)
+{
+    for (auto _ : state) {
+        readLongTexts(1 << 16, 16);
+    }
+}
+MORVANE_BENCHMARK(readSixteenthsOfMebibyte);
+
 MORVANE_RATIO(spin_digit_search_worst, digitSearchWorst, literalDigitSearchWorst, 0.001);
 MORVANE_RATIO(spin_validate_worst, validateWorst, validateWorstWithTheLoop, 0.01);
 MORVANE_RATIO(spin_validate_typical, validateTypical, validateTypicalByQt, 1.0);
+MORVANE_RATIO(spin_read_growth, readMebibyte, readSixteenthsOfMebibyte, 1.3);
 MORVANE_RATIO(spin_text, text, textBySnprintf, 1.5);
 
 } // namespace

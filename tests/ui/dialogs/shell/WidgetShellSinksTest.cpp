@@ -168,6 +168,35 @@ TEST_F(WidgetShellSinks, areToldOfASelectionOnce)
     EXPECT_EQ(sink.count("OnFileOk"), 2);
 }
 
+TEST_F(WidgetShellSinks, decideAboutOneChoiceAtATime)
+{
+    change(0, FOS_OVERWRITEPROMPT);
+    for (const HRESULT answer : {S_FALSE, S_OK}) {
+        int decisions = 0;
+        show([&](QFileDialog& window) {
+            sink.on["OnFileOk"] = [&] {
+                ++decisions;
+                WidgetUser(window).typeName(QStringLiteral("other.txt"));
+                WidgetUser(window).pressAccept(); // as in an event loop that the sink runs
+                return answer;
+            };
+            WidgetUser(window).pressAccept();
+            EXPECT_EQ(window.isVisible(), answer != S_OK);
+            window.reject();
+        });
+        EXPECT_EQ(decisions, 1);
+        ComPtr<IShellItem> item;
+        EXPECT_EQ(dialog->GetResult(item.put()), answer == S_OK ? S_OK : E_UNEXPECTED);
+        if (item) {
+            LPWSTR name = nullptr;
+            ASSERT_EQ(item->GetDisplayName(SIGDN_NORMALDISPLAY, &name), S_OK);
+            EXPECT_EQ(toQString(name), "a.txt");
+            shell.coTaskMemFree(name);
+        }
+        dialog->SetFileName(text("a.txt").c_str());
+    }
+}
+
 TEST_F(WidgetShellSinks, findNoResultOfARunThatIsClosedAfterItsChoice)
 {
     change(0, FOS_OVERWRITEPROMPT);

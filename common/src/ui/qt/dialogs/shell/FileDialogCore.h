@@ -82,6 +82,7 @@ private:
     QPointer<FileDialogWindow> m_window;
     bool m_running = false;
     bool m_ended = false;
+    bool m_deciding = false;
     HRESULT m_outcome = S_OK;
     std::exception_ptr m_exception;
     QStringList m_results;

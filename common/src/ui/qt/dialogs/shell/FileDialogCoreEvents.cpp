@@ -70,9 +70,15 @@ FileDialogObserver::OverwriteAnswer FileDialogCore::mayOverwrite(const QString& 
 
 bool FileDialogCore::mayAccept(const QStringList& paths)
 {
+    // A sink that runs an event loop decides about the choice it was asked about before there is another one.
+    if (m_deciding) {
+        return false;
+    }
+    m_deciding = true;
     m_results = paths;
     const bool accepted =
         tell([this](IFileDialogEvents& sink) { return sink.OnFileOk(&m_dialog); }) == S_OK && !m_ended;
+    m_deciding = false;
     if (accepted) {
         m_ended = true;
         m_outcome = S_OK;
