@@ -286,7 +286,7 @@ MORVANE_BENCHMARK(readSixteenthsOfMebibyte);
 MORVANE_RATIO(spin_digit_search_worst, digitSearchWorst, literalDigitSearchWorst, 0.001);
 MORVANE_RATIO(spin_validate_worst, validateWorst, validateWorstWithTheLoop, 0.01);
 MORVANE_RATIO(spin_validate_typical, validateTypical, validateTypicalByQt, 1.0);
-MORVANE_RATIO(spin_read_growth, readMebibyte, readSixteenthsOfMebibyte, 1.3);
+MORVANE_RATIO(spin_read_growth, readMebibyte, readSixteenthsOfMebibyte, 2);
 MORVANE_RATIO(spin_text, text, textBySnprintf, 1.5);
 
 } // namespace

@@ -116,6 +116,24 @@ TEST_F(ExtendedWinFileDialogStandIn, enablingReadsAndWritesTheState)
             "IFileDialogCustomize::SetControlItemState(0, 3, 2)"));
 }
 
+TEST_F(ExtendedWinFileDialogStandIn, goesByItsOwnStateWhereTheShellDoesNotTellIt)
+{
+    m_shell.failCalls("GetControlState", E_FAIL);
+    m_shell.failCalls("GetControlItemState", E_FAIL);
+    for (QWidget* const widget : all()) {
+        widget->setEnabled(false);
+    }
+    EXPECT_THAT(states(), ElementsAre(visible, visible, visible));
+    for (QWidget* const widget : all()) {
+        widget->hide();
+    }
+    EXPECT_THAT(states(), ElementsAre(0, 0, 0));
+    for (QWidget* const widget : all()) {
+        widget->setEnabled(true);
+    }
+    EXPECT_THAT(states(), ElementsAre(enabled, enabled, enabled));
+}
+
 TEST_F(ExtendedWinFileDialogStandIn, keepsTheBitsThatTheShellHasSetItself)
 {
     ui::ComPtr<IFileDialogCustomize> customize;

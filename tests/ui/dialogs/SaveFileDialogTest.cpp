@@ -204,6 +204,18 @@ TEST_P(SaveFlow, keepsTheDialogThatItWasMadeWith)
     EXPECT_FALSE(flow->launch());
 }
 
+TEST_P(SaveFlow, choosesTheDialogForWritersToo)
+{
+    const auto flow = makeFlow({"Text (*.txt)", "Data (*.dat)"}, 1);
+    EXPECT_EQ(m_parent->findChild<QExtendedFileDialog*>() != nullptr, !GetParam());
+    ModalScript user;
+    user.on<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(qobject_cast<QExtendedFileDialog*>(&dialog) != nullptr, !GetParam());
+        pressCancel(dialog);
+    });
+    EXPECT_FALSE(flow->launch());
+}
+
 TEST_P(SaveFlow, leavesItsQtDialogToTheParent)
 {
     auto flow = makeFlow();

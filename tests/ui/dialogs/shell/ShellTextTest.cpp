@@ -49,6 +49,16 @@ TEST(ShellText, comesBackAsQtsTextAndAsUtf8)
     EXPECT_EQ(toUtf8(text.c_str()), "é\U0001F600");
 }
 
+TEST(ShellText, keepsTheFirstAndTheLastCharacterOfEachPlane)
+{
+    for (uint plane = 1; plane <= 16; ++plane) {
+        const uint characters[] = {plane << 16, (plane << 16) + 0xFFFF};
+        const QString text = QString::fromUcs4(characters, 2);
+        EXPECT_EQ(toQString(toShellString(text)), text) << plane;
+        EXPECT_EQ(toUtf8(toShellString(text).c_str()), text.toStdString()) << plane;
+    }
+}
+
 TEST(ShellText, takesNullForEmptyText)
 {
     EXPECT_EQ(toQString(static_cast<const WCHAR*>(nullptr)), QString());

@@ -1,6 +1,7 @@
 // The names and attributes of items and of what several files have in common.
 #include "WidgetShellRunTest.h"
 
+#include <QProcess>
 #include <QUrl>
 
 #include <utility>
@@ -52,11 +53,26 @@ TEST_F(WidgetShellAttributes, ofAnItemTellWhatItIs)
 #endif
     for (const auto& [name, expected] : table) {
         SFGAOF read = 0;
-        const SFGAOF all = folderBits | SFGAO_STREAM | SFGAO_HIDDEN | SFGAO_LINK | SFGAO_FILESYSTEM;
-        EXPECT_EQ(itemFor(name)->GetAttributes(all, &read), S_FALSE) << name;
+        EXPECT_EQ(itemFor(name)->GetAttributes(~SFGAOF(0), &read), S_FALSE) << name;
         EXPECT_EQ(read, expected | SFGAO_FILESYSTEM) << name;
         EXPECT_EQ(itemFor(name)->GetAttributes(expected, &read), S_OK) << name;
     }
+}
+
+TEST_F(WidgetShellAttributes, ofAFileThatCannotBeWrittenSaySo)
+{
+    makeFile("fixed");
+    const auto change = [this](const char* flag) {
+        return QProcess::execute(QStringLiteral("chattr"), {flag, folder.filePath(QStringLiteral("fixed"))});
+    };
+    if (change("+i") != 0) {
+        GTEST_SKIP() << "this file system has no immutable files, or nobody may make them so";
+    }
+    SFGAOF read = 0;
+    EXPECT_EQ(itemFor("fixed")->GetAttributes(SFGAO_READONLY, &read), S_OK);
+    EXPECT_EQ(change("-i"), 0);
+    EXPECT_EQ(read, SFGAO_READONLY);
+    EXPECT_EQ(itemFor("fixed")->GetAttributes(SFGAO_READONLY, &read), S_FALSE);
 }
 
 TEST_F(WidgetShellAttributes, ofAnItemThatHasGoneAreThoseOfAFile)
