@@ -112,6 +112,22 @@ TEST(RecordingShellOpen, staysOpenForAFileThatIsNotThereUnlessTheScriptHasResult
     EXPECT_EQ(dialog->Show(nullptr), S_OK);
 }
 
+TEST(RecordingShellOpen, hasASingleResultOnlyForASingleFile)
+{
+    RecordingShell shell;
+    ui::ComPtr<IFileDialog> dialog;
+    ASSERT_EQ(shell.coCreateInstance(CLSID_FileOpenDialog, nullptr, 1, IID_IFileDialog, dialog.putVoid()), S_OK);
+    shell.script.duringShow = [](RecordingDialog& shown) { shown.userAccepts(); };
+    const std::vector<std::pair<QStringList, HRESULT>> table = {
+        {{QStringLiteral("/a")}, S_OK}, {{QStringLiteral("/a"), QStringLiteral("/b")}, E_FAIL}};
+    for (const auto& [files, expected] : table) {
+        shell.script.results = files;
+        EXPECT_EQ(dialog->Show(nullptr), S_OK);
+        ui::ComPtr<IShellItem> item;
+        EXPECT_EQ(dialog->GetResult(item.put()), expected) << files.size();
+    }
+}
+
 TEST_F(RecordingShellTest, staysOpenWhenTheUserWantsNoFileReplaced)
 {
     const QString name = QStringLiteral("old.dat");

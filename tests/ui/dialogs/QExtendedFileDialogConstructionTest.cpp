@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMetaMethod>
 #include <QPointer>
@@ -174,4 +175,16 @@ TEST_F(QExtendedFileDialogConstruction, directoriesOptionIsForwarded)
     EXPECT_TRUE(dialog->testOption(QFileDialog::ShowDirsOnly));
     dialog->setShowDirectoriesOnly(false);
     EXPECT_FALSE(dialog->testOption(QFileDialog::ShowDirsOnly));
+}
+
+TEST_F(QExtendedFileDialogConstruction, listsAreNamedByTheirLabelsOnceItIsShown)
+{
+    const Dialog dialog = openDialog();
+    dialog->show();
+    for (const char* const list : {"lookIn", "fileType"}) {
+        const auto* const label = dialog->findChild<QLabel*>(QStringLiteral("%1Label").arg(list));
+        const auto* const combo = dialog->findChild<QComboBox*>(QStringLiteral("%1Combo").arg(list));
+        ASSERT_TRUE(label && combo) << list;
+        EXPECT_EQ(label->buddy(), combo) << list;
+    }
 }

@@ -176,6 +176,20 @@ TEST_F(QExtendedFileDialogWildcardRevert, nextShowRestoresTheList)
     EXPECT_EQ(FileDialogPage(*dialog).types(), callersTypes);
 }
 
+TEST_F(QExtendedFileDialogWildcardRevert, aRestoredListGivesWayToTheNextOne)
+{
+    const QStringList others = {QStringLiteral("Image (*.png)"), QStringLiteral("Table (*.csv)")};
+    const Dialog dialog = dialogWithTypes();
+    run(*dialog, [](FileDialogPage& page) { editAll(page); });
+    dialog->show();
+    dialog->hide();
+    dialog->setNameFilters(others);
+
+    dialog->show();
+
+    EXPECT_EQ(dialog->nameFilters(), others);
+}
+
 TEST_F(QExtendedFileDialogWildcardRevert, runWithoutAPatternKeepsTheSelectedType)
 {
     const Dialog dialog = dialogWithTypes();

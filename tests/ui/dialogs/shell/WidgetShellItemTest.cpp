@@ -61,6 +61,20 @@ TEST_F(WidgetShellItem, isAFileAndNothingWithinTheProgram)
     EXPECT_TRUE(FAILED(make(QStringLiteral(":/qt-project.org"), item)));
 }
 
+#ifndef Q_OS_WIN // where a backslash stands between folders only
+TEST_F(WidgetShellItem, takesABackslashForASeparatorUnlessThereIsSuchAFile)
+{
+    const QString name = folder.filePath(QStringLiteral("sub\\file"));
+    makeFile(QStringLiteral("sub/file"));
+    ComPtr<IShellItem> item;
+    ASSERT_EQ(make(name, item), S_OK);
+    EXPECT_EQ(displayName(*item, SIGDN_FILESYSPATH), folder.filePath(QStringLiteral("sub/file")));
+    makeFile(QStringLiteral("sub\\file"));
+    ASSERT_EQ(make(name, item), S_OK);
+    EXPECT_EQ(displayName(*item, SIGDN_FILESYSPATH), name);
+}
+#endif
+
 TEST_F(WidgetShellItem, knowsFoldersFromFiles)
 {
     makeFile(QStringLiteral("file"));
