@@ -211,6 +211,21 @@ TEST(ScientificNumberText, agreesWithTheLiteralFormOnEveryShortText)
     }
 }
 
+TEST(ScientificNumberText, agreesWithTheLiteralFormInEveryNarrowRange)
+{
+    for (int minimum = -35; minimum <= 35; ++minimum) {
+        for (int maximum = -35; maximum <= 35; ++maximum) {
+            for (const int decimals : {0, 1, 2}) {
+                const NumberRules rules = rulesFor(minimum / 10.0, maximum / 10.0, decimals);
+                for (const char* const text : {".5", "-.5", "+.5", "-.15", "1.", "-1.", "1.5", "-1.5", "0.5", "-0.5",
+                         "-0", "5", "3.04", "-2.0"}) {
+                    ASSERT_TRUE(agreesWithTheLiteralForm(text, 1, rules, findDigitsInRange));
+                }
+            }
+        }
+    }
+}
+
 TEST(ScientificNumberText, longTextsAgreeWithTheLiteralForm)
 {
     const int length = 100000;
