@@ -6,6 +6,7 @@
 #include "property/Property.h"
 #include "support/QtPrinters.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
+#include "ui/qt/dialogs/shell/ShellText.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -25,6 +26,7 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Pair;
+using ui::toShellString;
 
 const QString preview = QStringLiteral("&Preview");
 const QString compress = QStringLiteral("&Compress");
@@ -142,6 +144,32 @@ TEST_F(RecordingShellTest, staysOpenWhenTheUserWantsNoFileReplaced)
     };
     EXPECT_EQ(accept(false), QDialog::Rejected);
     EXPECT_EQ(accept(true), QDialog::Accepted);
+}
+
+TEST_F(RecordingShellTest, replacesAFileUnlessTheUserSaysNo)
+{
+    QFile file(m_folder.filePath(QStringLiteral("old.dat")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(run([](RecordingDialog& dialog) {
+        dialog.userTypesName(QStringLiteral("old.dat"));
+        dialog.userAccepts();
+    }),
+        QDialog::Accepted);
+}
+
+TEST_F(RecordingShellTest, findsControlsAndItemsByTheLabelsThatTheyHaveLast)
+{
+    RecordingControls& controls = m_shell.dialog()->controls();
+    const auto button = controls.idOf(preview);
+    const auto option = controls.itemOf(saveAndClose);
+    ASSERT_TRUE(button && option);
+    EXPECT_EQ(controls.SetControlLabel(*button, toShellString(QStringLiteral("Look")).c_str()), S_OK);
+    EXPECT_EQ(
+        controls.SetControlItemText(option->first, option->second, toShellString(QStringLiteral("Keep")).c_str()), S_OK);
+    EXPECT_EQ(controls.idOf(QStringLiteral("Look")), button);
+    EXPECT_FALSE(controls.idOf(preview));
+    EXPECT_EQ(controls.itemOf(QStringLiteral("Keep")), option);
+    EXPECT_FALSE(controls.itemOf(saveAndClose));
 }
 
 TEST_F(RecordingShellTest, clicksAButtonByItsLabel)

@@ -75,6 +75,13 @@ TEST_F(ComboBoxCompleter, typingMarksTheFirstEntryAndLeavesTheLineAlone)
     EXPECT_EQ(box->lineEdit()->text(), "ar");
 }
 
+TEST_F(ComboBoxCompleter, typingMarksTheOnlyEntryThereIs)
+{
+    setUp({"Bar"});
+    typeInto("ar");
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Bar");
+}
+
 TEST_F(ComboBoxCompleter, theCompletersCurrentRowIsMarkedWithTheNextKey)
 {
     setUp({"Dog", "Bar", "Car"});

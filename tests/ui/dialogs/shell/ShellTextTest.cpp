@@ -22,6 +22,8 @@ TEST(ShellText, writesCharactersOutsideTheBmpAsPairs)
     EXPECT_EQ(pair[0], 0xD83D);
     EXPECT_EQ(pair[1], 0xDE00);
     EXPECT_EQ(toShellString(std::wstring(L"\U0010FFFF")).size(), 2u);
+    const ShellString first = toShellString(std::wstring(L"\U00010000"));
+    EXPECT_EQ(first, (ShellString{0xD800, 0xDC00}));
 }
 
 TEST(ShellText, replacesWhatIsNoCharacter)
