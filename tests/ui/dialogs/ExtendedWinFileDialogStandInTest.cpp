@@ -118,8 +118,8 @@ TEST_F(ExtendedWinFileDialogStandIn, enablingReadsAndWritesTheState)
 
 TEST_F(ExtendedWinFileDialogStandIn, goesByItsOwnStateWhereTheShellDoesNotTellIt)
 {
-    m_shell.failCalls("GetControlState", E_FAIL);
-    m_shell.failCalls("GetControlItemState", E_FAIL);
+    m_shell.failCalls("IFileDialogCustomize::GetControlState");
+    m_shell.failCalls("IFileDialogCustomize::GetControlItemState");
     for (QWidget* const widget : all()) {
         widget->setEnabled(false);
     }
