@@ -259,7 +259,8 @@ void readLongTexts(int length, int times)
 {
     const NumberRules rules{-largest, largest, 8, '.', ',', {}, {}, {}};
     const QString nines(length, '9');
-    for (const QString& text : {nines, "0." + nines, QString("9,").repeated(length / 2), QString(length, ' '), "1E" + nines}) {
+    for (const QString& text :
+        {nines, "0." + nines, QString("9,").repeated(length / 2), QString(length, ' '), "1E" + nines}) {
         for (int i = 0; i < times; ++i) {
             int pos = length;
             benchmark::DoNotOptimize(interpretNumber(text, pos, rules));

@@ -164,8 +164,8 @@ TEST_F(RecordingShellTest, findsControlsAndItemsByTheLabelsThatTheyHaveLast)
     const auto option = controls.itemOf(saveAndClose);
     ASSERT_TRUE(button && option);
     EXPECT_EQ(controls.SetControlLabel(*button, toShellString(QStringLiteral("Look")).c_str()), S_OK);
-    EXPECT_EQ(
-        controls.SetControlItemText(option->first, option->second, toShellString(QStringLiteral("Keep")).c_str()), S_OK);
+    EXPECT_EQ(controls.SetControlItemText(option->first, option->second, toShellString(QStringLiteral("Keep")).c_str()),
+        S_OK);
     EXPECT_EQ(controls.idOf(QStringLiteral("Look")), button);
     EXPECT_FALSE(controls.idOf(preview));
     EXPECT_EQ(controls.itemOf(QStringLiteral("Keep")), option);

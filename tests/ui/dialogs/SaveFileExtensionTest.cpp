@@ -71,8 +71,8 @@ TEST(FilterExtensionRule, keepsNamesLongerThanADiskTakes)
 TEST(FilterExtensionRule, agreesWithTheExpressionsOnRandomTexts)
 {
     std::mt19937 random(20260812);
-    const std::string pieces[] = {".", "a", "/", "dat", " ", "(", ")", "*", "\xC3\xA4", "\\", "\n", "\t", "\r", "\v",
-        "\x08", "\x0e", "..", "?"};
+    const std::string pieces[] = {
+        ".", "a", "/", "dat", " ", "(", ")", "*", "\xC3\xA4", "\\", "\n", "\t", "\r", "\v", "\x08", "\x0e", "..", "?"};
     const auto text = [&](int longest) {
         std::uniform_int_distribution<std::size_t> pick(0, std::size(pieces) - 1);
         std::string result;
