@@ -4,6 +4,22 @@
 
 using namespace morvane::test;
 
+namespace {
+
+/** Of a flow that was just made and belongs to the parent. */
+void cancelAndExpectTheDialog(SaveFileDialog& flow, const QWidget& parent, bool isNative)
+{
+    EXPECT_EQ(parent.findChild<QExtendedFileDialog*>() != nullptr, !isNative);
+    ModalScript user;
+    user.on<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(qobject_cast<QExtendedFileDialog*>(&dialog) != nullptr, !isNative);
+        pressCancel(dialog);
+    });
+    EXPECT_FALSE(flow.launch());
+}
+
+} // namespace
+
 INSTANTIATE_TEST_SUITE_P(Dialogs, SaveFlow, testing::Bool(), &saveFlowName);
 
 TEST_P(SaveFlow, givesANewNameTheExtensionOfTheFilter)
@@ -195,25 +211,13 @@ TEST_P(SaveFlow, keepsTheDialogThatItWasMadeWith)
 {
     const auto flow = makeFlow();
     ExtendedFileDialog::setUseNativeFileDialog(!GetParam());
-    EXPECT_EQ(m_parent->findChild<QExtendedFileDialog*>() != nullptr, !GetParam());
-    ModalScript user;
-    user.on<QFileDialog>([&](QFileDialog& dialog) {
-        EXPECT_EQ(qobject_cast<QExtendedFileDialog*>(&dialog) != nullptr, !GetParam());
-        pressCancel(dialog);
-    });
-    EXPECT_FALSE(flow->launch());
+    cancelAndExpectTheDialog(*flow, *m_parent, GetParam());
 }
 
 TEST_P(SaveFlow, choosesTheDialogForWritersToo)
 {
     const auto flow = makeFlow({"Text (*.txt)", "Data (*.dat)"}, 1);
-    EXPECT_EQ(m_parent->findChild<QExtendedFileDialog*>() != nullptr, !GetParam());
-    ModalScript user;
-    user.on<QFileDialog>([&](QFileDialog& dialog) {
-        EXPECT_EQ(qobject_cast<QExtendedFileDialog*>(&dialog) != nullptr, !GetParam());
-        pressCancel(dialog);
-    });
-    EXPECT_FALSE(flow->launch());
+    cancelAndExpectTheDialog(*flow, *m_parent, GetParam());
 }
 
 TEST_P(SaveFlow, leavesItsQtDialogToTheParent)
