@@ -330,9 +330,10 @@ def build_embedded(copy, mutants, programs, jobs):
 def known_survivors():
     """
     The reason for each mutant that may survive. The file has paragraphs: a reason in lines that begin with '#', then
-    mutants, each as its file and its two lines. Their line numbers are left out, so that the sources may move.
+    mutants, each as its file and its two lines. Their line numbers are left out, so that the sources may move; one that
+    looks the same at several places of a file is there as often as it may survive.
     """
-    reasons, reason, lines = {}, "", []
+    reasons, reason, lines = collections.defaultdict(list), "", []
     for line in KNOWN_FILE.read_text().splitlines():
         if line.startswith("#"):
             reason = line[1:].strip() if lines or not reason else reason + " " + line[1:].strip()
@@ -340,7 +341,7 @@ def known_survivors():
         elif line.strip():
             lines.append(line.strip())
             if len(lines) % 3 == 0:
-                reasons[tuple(lines[-3:])] = reason
+                reasons[tuple(lines[-3:])].append(reason)
     return reasons
 
 
@@ -362,7 +363,8 @@ class Report:
             elif outcome:
                 self.killed += 1
             else:
-                reason = self.known.get(without_number(mutant))
+                reasons = self.known[without_number(mutant)]
+                reason = reasons.pop() if reasons else ""
                 self.survivors.append((mutant, f"\n    # {reason}" if reason else "" if reached else " (not reached)"))
                 outcome = "survived, as is known" if reason else "SURVIVED" if reached else "SURVIVED (not reached)"
             print(f"{self.done}/{self.total} {outcome}: {mutant}", flush=True)
