@@ -68,8 +68,18 @@ QStringList Desktop::missingPrograms()
 
 QString Desktop::start()
 {
-    for (const auto step :
-        {&Desktop::startServer, &Desktop::startBus, &Desktop::connectAccessibility, &Desktop::startWindowManager}) {
+    return run(
+        {&Desktop::startServer, &Desktop::startBus, &Desktop::connectAccessibility, &Desktop::startWindowManager});
+}
+
+QString Desktop::startScreen()
+{
+    return run({&Desktop::startServer, &Desktop::startWindowManager});
+}
+
+QString Desktop::run(std::initializer_list<QString (Desktop::*)()> steps)
+{
+    for (const auto step : steps) {
         const QString failure = (this->*step)();
         if (!failure.isEmpty()) {
             return failure;

@@ -24,6 +24,8 @@ public:
 
     /** Starts it all and waits until it can be used; what went wrong, empty when nothing did. */
     QString start();
+    /** The same without the buses, for programs that need only a screen. */
+    QString startScreen();
     /** Ends it all, with what its programs have started; false when something of that goes on. */
     bool end();
 
@@ -36,6 +38,8 @@ public:
     std::optional<Accessible> application(const QString& name);
 
 private:
+    /** Runs the steps until one of them fails; what went wrong. */
+    QString run(std::initializer_list<QString (Desktop::*)()> steps);
     QString startServer();
     QString startBus();
     QString connectAccessibility();

@@ -46,7 +46,10 @@ struct Screen::Impl
     Impl& operator=(const Impl&) = delete;
 
     void key(KeyCode code, bool down) { XTestFakeKeyEvent(display, code, down ? True : False, CurrentTime); }
-    void button(bool down) { XTestFakeButtonEvent(display, Button1, down ? True : False, CurrentTime); }
+    void button(bool down, unsigned number = Button1)
+    {
+        XTestFakeButtonEvent(display, number, down ? True : False, CurrentTime);
+    }
     void move(QPoint to) { XTestFakeMotionEvent(display, DefaultScreen(display), to.x(), to.y(), CurrentTime); }
     void done() { XSync(display, False); }
 
@@ -153,10 +156,8 @@ void Screen::type(const QString& text)
 
 void Screen::click(QPoint position)
 {
-    m_impl->move(position);
-    m_impl->button(true);
-    m_impl->button(false);
-    m_impl->done();
+    pressButton(position);
+    releaseButton(position);
 }
 
 void Screen::click(QPoint position, Key held)
@@ -181,6 +182,36 @@ void Screen::drag(QPoint from, QPoint to)
     m_impl->move((from + to) / 2);
     m_impl->move(to);
     m_impl->button(false);
+    m_impl->done();
+}
+
+void Screen::move(QPoint position)
+{
+    m_impl->move(position);
+    m_impl->done();
+}
+
+void Screen::pressButton(QPoint position)
+{
+    m_impl->move(position);
+    m_impl->button(true);
+    m_impl->done();
+}
+
+void Screen::releaseButton(QPoint position)
+{
+    m_impl->move(position);
+    m_impl->button(false);
+    m_impl->done();
+}
+
+void Screen::wheel(QPoint position, Turn direction, int notches)
+{
+    m_impl->move(position);
+    for (int notch = 0; notch < notches; ++notch) {
+        m_impl->button(true, static_cast<unsigned>(direction));
+        m_impl->button(false, static_cast<unsigned>(direction));
+    }
     m_impl->done();
 }
 

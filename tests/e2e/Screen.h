@@ -12,6 +12,7 @@ namespace morvane::test {
 /** The keys that are no characters, as X names them. */
 enum class Key : unsigned long
 {
+    Space = 0x20,
     Backspace = 0xff08,
     Tab = 0xff09,
     Return = 0xff0d,
@@ -21,10 +22,24 @@ enum class Key : unsigned long
     Right = 0xff53,
     Down = 0xff54,
     Home = 0xff50,
+    PageUp = 0xff55,
+    PageDown = 0xff56,
     End = 0xff57,
+    Enter = 0xff8d, ///< of the number block
+    F4 = 0xffc1,
     Shift = 0xffe1,
     Control = 0xffe3,
     Alt = 0xffe9,
+    Delete = 0xffff,
+};
+
+/** Where a mouse wheel is turned to, seen from the person. */
+enum class Turn : unsigned
+{
+    Up = 4,
+    Down = 5,
+    Left = 6,
+    Right = 7,
 };
 
 /**
@@ -52,6 +67,12 @@ public:
     void click(QPoint position, Key held);
     void doubleClick(QPoint position);
     void drag(QPoint from, QPoint to);
+    /** The steps of a click or drag, one by one. */
+    void move(QPoint position);
+    void pressButton(QPoint position);
+    void releaseButton(QPoint position);
+    /** Turns the wheel by so many whole notches. */
+    void wheel(QPoint position, Turn direction, int notches = 1);
 
     /** Whether a window manager has taken the screen. */
     bool isManaged() const;

@@ -1,56 +1,6 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QDir>
-#include <QLocale>
-#include <QTemporaryDir>
-
-#include <cstdio>
-
-namespace {
-
-/** Settings, caches and well-known folders of the person who runs the tests stay untouched. */
-void usePrivateHome(const QTemporaryDir& home)
-{
-    const QDir directory(home.path());
-    for (const char* const folder : {"Desktop", "Documents", "config", "cache", "data"}) {
-        directory.mkdir(QString::fromLatin1(folder));
-    }
-    qputenv("HOME", directory.path().toUtf8());
-    qputenv("USERPROFILE", directory.path().toUtf8());
-    qputenv("XDG_CONFIG_HOME", directory.filePath(QStringLiteral("config")).toUtf8());
-    qputenv("XDG_CACHE_HOME", directory.filePath(QStringLiteral("cache")).toUtf8());
-    qputenv("XDG_DATA_HOME", directory.filePath(QStringLiteral("data")).toUtf8());
-}
-
-} // namespace
-
-#ifdef __SANITIZE_ADDRESS__
-/** Read by the leak checker. Qt's offscreen platform does not give back the screen that it makes. */
-extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions()
-{
-    return "leak:libqoffscreen\n";
-}
-#endif
+#include "support/TestRun.h"
 
 int main(int argc, char** argv)
 {
-    qputenv("LC_ALL", "C.UTF-8");
-    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const QTemporaryDir home;
-    if (!home.isValid()) {
-        std::fprintf(stderr, "cannot make a temporary home directory\n");
-        return 1;
-    }
-    usePrivateHome(home);
-
-    ::testing::InitGoogleMock(&argc, argv);
-    QApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("morvane-tests"));
-    QLocale::setDefault(QLocale::c());
-    return RUN_ALL_TESTS();
+    return morvane::test::runTests(argc, argv);
 }

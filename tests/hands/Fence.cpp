@@ -1,0 +1,127 @@
+#include "hands/Fence.h"
+
+#include "e2e/Eventually.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractNativeEventFilter>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QWidget>
+
+#include <cstring>
+
+#include <poll.h>
+#include <X11/Xlib.h>
+#include <xcb/xcb.h>
+
+namespace morvane::test {
+
+struct Fence::Impl final : QAbstractNativeEventFilter
+{
+    Impl()
+        : display(XOpenDisplay(nullptr)),
+          token(XInternAtom(display, "_MORVANE_FENCE", False)),
+          extents(XInternAtom(display, "_NET_FRAME_EXTENTS", False)),
+          probe(XCreateSimpleWindow(display, DefaultRootWindow(display), 0, 0, 1, 1, 0, 0, 0))
+    {
+        XSelectInput(display, probe, PropertyChangeMask);
+        receiver.winId();
+        QCoreApplication::instance()->installNativeEventFilter(this);
+    }
+
+    ~Impl() override
+    {
+        QCoreApplication::instance()->removeNativeEventFilter(this);
+        XCloseDisplay(display);
+    }
+
+    Impl(const Impl&) = delete;
+    Impl& operator=(const Impl&) = delete;
+
+    bool nativeEventFilter(const QByteArray& type, void* message, long* /*result*/) override
+    {
+        if (type != "xcb_generic_event_t") {
+            return false;
+        }
+        constexpr int sentMask = 0x7f;
+        const auto* const event = static_cast<const xcb_generic_event_t*>(message);
+        if ((event->response_type & sentMask) != XCB_CLIENT_MESSAGE) {
+            return false;
+        }
+        const auto* const text = static_cast<const xcb_client_message_event_t*>(message);
+        if (text->type != token) {
+            return false;
+        }
+        arrived = static_cast<long>(text->data.data32[0]);
+        return true;
+    }
+
+    XEvent messageTo(Window window, Atom type) const
+    {
+        XEvent event;
+        std::memset(&event, 0, sizeof event);
+        event.xclient.type = ClientMessage;
+        event.xclient.window = window;
+        event.xclient.message_type = type;
+        event.xclient.format = 32;
+        return event;
+    }
+
+    /** The window manager answers in order: what it held back before is let go then. */
+    bool waitForWindowManager()
+    {
+        XEvent question = messageTo(probe, XInternAtom(display, "_NET_REQUEST_FRAME_EXTENTS", False));
+        XSendEvent(
+            display, DefaultRootWindow(display), False, SubstructureNotifyMask | SubstructureRedirectMask, &question);
+        XFlush(display);
+        QElapsedTimer time;
+        time.start();
+        while (!time.hasExpired(timeLimitMs)) {
+            XEvent event;
+            while (XPending(display)) {
+                XNextEvent(display, &event);
+                if (event.type == PropertyNotify && event.xproperty.atom == extents) {
+                    return true;
+                }
+            }
+            // The window manager may be waiting for this program.
+            QCoreApplication::processEvents();
+            ::pollfd connection{ConnectionNumber(display), POLLIN, 0};
+            ::poll(&connection, 1, 1);
+        }
+        return false;
+    }
+
+    bool waitForOwnEvent()
+    {
+        XEvent event = messageTo(static_cast<Window>(receiver.internalWinId()), token);
+        const long number = ++sent;
+        event.xclient.data.l[0] = number;
+        XSendEvent(display, event.xclient.window, False, NoEventMask, &event);
+        XFlush(display);
+        return eventually([&] { return arrived >= number; });
+    }
+
+    ::Display* const display;
+    const Atom token;
+    const Atom extents;
+    const Window probe;
+    QWidget receiver; // never shown
+    long sent = 0;
+    long arrived = 0;
+};
+
+Fence::Fence() : m_impl(std::make_unique<Impl>()) {}
+
+Fence::~Fence() = default;
+
+void Fence::pass()
+{
+    EXPECT_TRUE(m_impl->waitForWindowManager()) << "the window manager does not answer";
+    EXPECT_TRUE(m_impl->waitForOwnEvent()) << "the event of the test itself does not arrive";
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+} // namespace morvane::test
