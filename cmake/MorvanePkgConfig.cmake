@@ -45,11 +45,12 @@ set(host_library morvane-host)
 if(MORVANE_HOST_LIBRARY)
     set(host_library) # what implements the services is the host's own affair
 endif()
-# Qxt has no place in the system: a program must be told where to compile with it, link it and load it.
+# Qxt has no place in the system: a program must be told where to compile with it, link it and load it. Its headers are
+# system headers, as they are to CMake, because compilers warn of them.
 set(label_cflags)
 set(label_libs)
 if(MORVANE_PACKAGE_NEEDS_QXT)
-    set(label_cflags -I${Qxt_INCLUDE_DIR} -I${Qxt_CORE_INCLUDE_DIR})
+    set(label_cflags -isystem${Qxt_INCLUDE_DIR} -isystem${Qxt_CORE_INCLUDE_DIR})
     foreach(library IN ITEMS ${Qxt_LIBRARY} ${Qxt_CORE_LIBRARY})
         cmake_path(GET library PARENT_PATH directory)
         cmake_path(GET library STEM name)
