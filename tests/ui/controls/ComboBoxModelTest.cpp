@@ -233,7 +233,7 @@ TEST_F(ComboBoxModel, anEmptyModelHasNoListAndEndsWithNothing)
     EXPECT_FALSE(box->validateEntry());
 }
 
-TEST_F(ComboBoxModel, aMillionRowsAreFilteredAndEnded)
+TEST_F(ComboBoxModel, withTheCompleterStandInAMillionRowsAreFilteredAndEnded)
 {
     NumberModel model(1000000);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

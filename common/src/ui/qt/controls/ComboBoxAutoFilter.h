@@ -1,11 +1,10 @@
 #pragma once
 
+#include "ui/qt/compat/ctkCompleterFwd.h"
 #include "ui/qt/MorvaneUiExport.h"
 
 #include <QComboBox>
 #include <QCompleter>
-
-class ctkCompleter;
 
 namespace morvane::ui {
 
@@ -123,6 +122,8 @@ private Q_SLOTS:
     void onItemActivated(int index);
 
 private:
+    using ctkCompleter = compat::ctkCompleter;
+
     enum class Announcement
     {
         AtOnce,
