@@ -33,7 +33,6 @@ protected:
 
     static void pick(const NativeDialog& shown, const Names& names)
     {
-        std::wstring typed;
         for (const std::wstring& name : names) {
             EXPECT_TRUE(waitUntil([&] { return shown.lists(name); }));
             const std::wstring before = shown.name();
@@ -57,19 +56,19 @@ protected:
             start.push_back(file.toStdString());
         }
         const DialogUser user(std::move(script));
-        return morvane::ui::LaunchFileDialog(files, filter, "Launch", {"All (*)"}, start, save, several, 0);
+        return morvane::ui::LaunchFileDialog(m_files, m_filter, "Launch", {"All (*)"}, start, save, several, 0);
     }
     std::vector<QString> chosen() const
     {
         std::vector<QString> paths;
-        for (const std::string& file : files) {
+        for (const std::string& file : m_files) {
             paths.push_back(QString::fromStdString(file));
         }
         return paths;
     }
 
-    std::vector<std::string> files;
-    int filter = -1;
+    std::vector<std::string> m_files;
+    int m_filter = -1;
 };
 
 class NativeReadmeSample : public NativeLauncher

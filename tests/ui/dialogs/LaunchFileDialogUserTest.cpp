@@ -126,10 +126,12 @@ TEST_P(LaunchFileDialogUser, startsWithFilesOfWhichOneHasGone)
 {
     EXPECT_TRUE(launch({text("gone.dat"), text("a.dat")}, false, true, 0, [this](FileDialogPage& page) {
         EXPECT_EQ(page.dialog().directory().path(), path(""));
-        page.clickFile(QStringLiteral("a.dat"));
+        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+        page.clickFile(QStringLiteral("b.dat"));
+        EXPECT_EQ(page.name(), QStringLiteral("b.dat"));
         page.click(QDialogButtonBox::Open);
     }));
-    EXPECT_THAT(files, ElementsAre(reported("a.dat")));
+    EXPECT_THAT(files, ElementsAre(reported("b.dat")));
 }
 
 TEST_P(LaunchFileDialogUser, savesANewName)

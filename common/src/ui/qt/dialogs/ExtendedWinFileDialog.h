@@ -35,7 +35,8 @@ class QWidget;
  * pattern is not of the form `*.extension`. A type whose extension is a wildcard, `All files (*.*)`, leaves the name
  * alone. Give each type of a save dialog one pattern: of several, everything after the first `*.` becomes the
  * extension, as in `image.png *.jpg`. A list of names in quotes is never changed. Opening the dialog chooses no type: a
- * name that has an extension stays as it is, and one that has none gets that of a type with one pattern, the first time.
+ * name that has an extension stays as it is, and one that has none gets that of a type with one pattern, the first
+ * time.
  *
  * @snippet 02-native-controls/main.cpp dialog
  *
@@ -43,7 +44,8 @@ class QWidget;
  * returns `Rejected` and selectedFiles() is empty.
  *
  * GUI thread only; the constructor joins it to a single-threaded COM apartment, and leaves it again when it throws; the
- * destructor leaves it. Callbacks run nested in exec(). The object must not be destroyed while exec() runs; its parent may be.
+ * destructor leaves it. Callbacks run nested in exec(). The object must not be destroyed while exec() runs; its parent
+ * may be.
  */
 class MORVANE_UI_EXPORT ExtendedWinFileDialog
 {
@@ -73,9 +75,9 @@ public:
     QDialog::DialogCode exec();
 
     /**
-     * Puts the last component of @p file into the name field; the folder part is dropped. @p file may be a list of paths
-     * in double quotes with blanks in between, `"/x/a.dat" "/x/b.dat"`: each is reduced to its last component and stays
-     * in quotes, and one alone stands without them.
+     * Puts the last component of @p file into the name field; the folder part is dropped. @p file may be a list of
+     * paths in double quotes with blanks in between, `"/x/a.dat" "/x/b.dat"`: each is reduced to its last component and
+     * stays in quotes, and one alone stands without them.
      */
     void selectFile(const QString& file);
     /**
