@@ -1,5 +1,6 @@
 #include "ui/qt/dialogs/shell/FileDialogWindow.h"
 
+#include "ui/qt/dialogs/shell/TypedNames.h"
 #include "ui/qt/util/FileDialogAccess.h"
 
 #include <QAbstractItemView>
@@ -57,7 +58,7 @@ void FileDialogWindow::applySettings()
 {
     setAcceptMode(m_settings.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     // Whether files must exist is checked in accept(): Qt would disable the button without saying why.
-    const bool several = m_settings.allowsSeveral && !m_settings.usesWidgets;
+    const bool several = m_settings.allowsSeveral && !m_settings.saving && !m_settings.usesWidgets;
     setFileMode(m_settings.picksFolders ? QFileDialog::Directory
                 : several               ? QFileDialog::ExistingFiles
                                         : QFileDialog::AnyFile);
@@ -85,7 +86,7 @@ void FileDialogWindow::setTexts(const QString& title, const QString& acceptLabel
 
 void FileDialogWindow::setUpWidgets()
 {
-    if (m_settings.allowsSeveral) {
+    if (m_settings.allowsSeveral && !m_settings.saving) {
         for (const char* const name : {"listView", "treeView"}) {
             if (auto* const view = findChild<QAbstractItemView*>(QLatin1String(name))) {
                 view->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -162,6 +163,7 @@ void FileDialogWindow::watchWidgets()
     });
     if (auto* const view = findChild<QAbstractItemView*>(QStringLiteral("listView"))) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+            updateAcceptButton(); // Qt goes by the typed text, which need not change
             m_selectionPending = true;
             deliverLater();
         });
@@ -187,8 +189,13 @@ void FileDialogWindow::setTypedName(const QString& name)
 {
     if (m_nameEdit) {
         m_nameEdit->setText(name);
-    } else if (!name.isEmpty()) {
-        selectFile(name);
+        return;
+    }
+    const QStringList listed = quotedNames(name);
+    for (const QString& file : listed.isEmpty() ? QStringList(name) : listed) {
+        if (!file.isEmpty()) {
+            selectFile(file);
+        }
     }
 }
 

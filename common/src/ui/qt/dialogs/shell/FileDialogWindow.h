@@ -24,7 +24,7 @@ struct FileDialogSettings
 {
     bool saving = false;
     bool picksFolders = false;
-    bool allowsSeveral = false;
+    bool allowsSeveral = false; ///< when saving, a list of names can be typed, but not picked
     bool fileMustExist = false;
     bool pathMustExist = false;
     bool asksBeforeOverwriting = false;
@@ -106,6 +106,7 @@ private:
     QStringList chosenPaths() const;
     bool enterFolderAmong(const QStringList& paths);
     bool exist(const QStringList& paths);
+    bool mayReplaceAll(const QStringList& paths);
     bool mayReplace(const QString& path);
     QMessageBox::StandardButton ask(
         const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton);
