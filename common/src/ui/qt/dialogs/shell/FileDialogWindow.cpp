@@ -1,6 +1,7 @@
 #include "ui/qt/dialogs/shell/FileDialogWindow.h"
 
 #include "ui/qt/util/FileDialogAccess.h"
+#include "ui/qt/util/FileDialogLayout.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -49,6 +50,9 @@ FileDialogWindow::FileDialogWindow(QWidget* owner, const FileDialogSettings& set
         setUpNative();
     }
     setTypedName(settings.fileName);
+    if (settings.fileNameIsTyped) {
+        m_editedName = settings.fileName;
+    }
 }
 
 FileDialogWindow::~FileDialogWindow() = default;
@@ -156,6 +160,7 @@ void FileDialogWindow::watchWidgets()
 {
     connect(m_typeCombo, QOverload<int>::of(&QComboBox::activated), this, &FileDialogWindow::onTypePicked);
     connect(m_nameEdit, &QLineEdit::textChanged, this, &FileDialogWindow::updateAcceptButton);
+    connect(m_nameEdit, &QLineEdit::textEdited, this, [this](const QString& name) { m_editedName = name; });
     connect(m_model, &QFileSystemModel::rootPathChanged, this, [this] {
         m_folderPending = true;
         deliverLater();
@@ -171,6 +176,9 @@ void FileDialogWindow::watchWidgets()
 void FileDialogWindow::run()
 {
     makeListsReachable(*this);
+    if (consistsOfWidgets()) {
+        showListsWhole(*this);
+    }
     const QPointer<FileDialogWindow> self(this);
     do {
         m_again = false;
@@ -186,14 +194,23 @@ QString FileDialogWindow::typedName() const
 void FileDialogWindow::setTypedName(const QString& name)
 {
     if (m_nameEdit) {
+        // A wildcard that is given another ending, as for another type, is still no name of a file.
+        m_editedName = holdsWildcard() ? name : m_editedName;
         m_nameEdit->setText(name);
     } else if (!name.isEmpty()) {
         selectFile(name);
     }
 }
 
+bool FileDialogWindow::holdsWildcard() const
+{
+    return m_nameEdit && !m_settings.picksFolders && m_nameEdit->text() == m_editedName &&
+           m_editedName.contains(QLatin1Char('*'));
+}
+
 void FileDialogWindow::setTypeIndex(int index)
 {
+    forgetWildcard();
     m_settings.typeIndex = index;
     m_toldType = index;
     if (m_typeCombo) {
@@ -221,7 +238,7 @@ QStringList FileDialogWindow::selectedPaths() const
             paths.append(m_model->filePath(index));
         }
     }
-    if (paths.isEmpty() && !m_nameEdit->text().isEmpty()) {
+    if (paths.isEmpty() && !m_nameEdit->text().isEmpty() && !holdsWildcard()) {
         paths = chosenPaths();
     }
     return paths;
@@ -229,7 +246,11 @@ QStringList FileDialogWindow::selectedPaths() const
 
 void FileDialogWindow::applyPatterns()
 {
-    m_model->setNameFilters(m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex)).patterns);
+    if (!m_typedPatterns.isEmpty() || m_settings.types.empty()) {
+        m_model->setNameFilters(m_typedPatterns);
+    } else {
+        m_model->setNameFilters(m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex)).patterns);
+    }
 }
 
 void FileDialogWindow::updateAcceptButton()
@@ -244,6 +265,9 @@ void FileDialogWindow::updateAcceptButton()
 
 void FileDialogWindow::onTypePicked(int index)
 {
+    if (index != m_settings.typeIndex) {
+        forgetWildcard();
+    }
     m_settings.typeIndex = index;
     applyPatterns(); // Qt has just put its placeholder there, also when the same type was picked again
     deliverLater();

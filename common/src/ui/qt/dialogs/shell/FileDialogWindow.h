@@ -35,7 +35,8 @@ struct FileDialogSettings
     QString fileNameLabel;    ///< empty: Qt's own
     QString folder;           ///< of an existing directory
     QString fileName;
-    QString defaultSuffix; ///< added to names without suffix; empty: none
+    bool fileNameIsTyped = false; ///< by the user, in an earlier run
+    QString defaultSuffix;        ///< added to names without suffix; empty: none
     std::vector<FileTypeEntry> types;
     int typeIndex = 0;
 };
@@ -79,6 +80,8 @@ public:
     bool consistsOfWidgets() const { return m_nameEdit != nullptr; }
     QString typedName() const;
     void setTypedName(const QString& name);
+    /** Whether the name is a wildcard that the user has typed. It filters what is listed and is no name of a file. */
+    bool holdsWildcard() const;
     void setTypeIndex(int index);
     /** Goes to @p folder as if the user had; the observer is told before this returns. */
     void setFolder(const QString& folder);
@@ -97,6 +100,9 @@ private:
     void setUpNativeTypes();
     void watchWidgets();
     void applyPatterns();
+    void filterByWildcard();
+    bool enterFolderOfWildcard();
+    void forgetWildcard();
     void updateAcceptButton();
     void onTypePicked(int index);
     void onNativeTypePicked(const QString& filter);
@@ -116,7 +122,9 @@ private:
     QComboBox* m_typeCombo = nullptr;
     QFileSystemModel* m_model = nullptr;
     QString m_folder;
-    int m_toldType; ///< the type that the observer knows
+    QString m_editedName;        ///< as the user has left it, until a name is set by others
+    QStringList m_typedPatterns; ///< in place of those of the type
+    int m_toldType;              ///< the type that the observer knows
     bool m_folderPending = false;
     bool m_selectionPending = false;
     bool m_again = false; ///< the desktop's dialog has ended with a choice that was refused
