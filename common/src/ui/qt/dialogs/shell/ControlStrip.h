@@ -3,6 +3,7 @@
 #include "ui/qt/dialogs/shell/Control.h"
 
 #include <QObject>
+#include <QString>
 
 #include <map>
 
@@ -18,7 +19,8 @@ class AcceptMenu;
 
 /**
  * The widgets of the custom controls in one QFileDialog made of widgets: a row below the file types, the prominent push
- * button below the dialog's own buttons, and the menu on the accept button. A child of the dialog.
+ * button below the dialog's own buttons, and the menu on the accept button, which carries the text of the menu's first
+ * item then. A child of the dialog.
  */
 class ControlStrip : public QObject
 {
@@ -34,13 +36,17 @@ private:
     void addToRow(QAbstractButton& button);
     void place(const Control& control, QAbstractButton& button);
     void updateAcceptMenu(const Control& control);
+    void nameAcceptButton(const Control& dropDown);
 
+    QFileDialog& m_dialog;
     const ControlActions m_actions;
     QDialogButtonBox* m_buttonBox;
     QWidget* m_row;
     QGridLayout* m_rowLayout;
     std::map<DWORD, QAbstractButton*> m_buttons;
     AcceptMenu* m_acceptMenu = nullptr;
+    QString m_ownText;    ///< of the accept button, while it carries that of an item
+    QString m_optionText; ///< of the item; empty when the button carries its own
 };
 
 } // namespace morvane::ui

@@ -70,7 +70,7 @@ private:
     ControlItem* findItem(DWORD control, DWORD item);
     Control* findDropDown(DWORD id);
     void onToggled(DWORD id, bool checked);
-    void onItemPicked(DWORD id, DWORD item);
+    bool onItemPicked(DWORD id, DWORD item);
     HRESULT updated();
 
     IUnknown& m_owner;
