@@ -14,6 +14,8 @@
 #include <QTreeView>
 
 #include <algorithm>
+#include <numeric>
+#include <vector>
 
 namespace morvane::ui {
 
@@ -88,25 +90,39 @@ private:
     void fitColumns()
     {
         m_files.doItemsLayout(); // shows the scroll bar that takes its share of the room
-        const QHeaderView& header = *m_files.header();
-        int others = 0;
-        for (int column = nameColumn + 1; column < header.count(); ++column) {
-            widen(column);
-            others += header.sectionSize(column);
+        const std::vector<int> needed = neededWidths();
+        std::vector<int> widths = needed;
+        for (int column = nameColumn + 1; column < m_files.header()->count(); ++column) {
+            auto& width = widths[static_cast<std::size_t>(column)];
+            width = std::max(width, m_usual[static_cast<std::size_t>(column)]);
         }
-        const int least = m_files.fontMetrics().horizontalAdvance(QStringLiteral("measurement.data"));
-        m_files.setColumnWidth(nameColumn, std::max(m_files.viewport()->width() - others, least));
+        const int room = m_files.viewport()->width();
+        const int usualName = m_files.fontMetrics().horizontalAdvance(QStringLiteral("measurement.data"));
+        if (std::accumulate(widths.begin() + 1, widths.end(), usualName) > room) {
+            widths = needed; // the names need the room more
+        }
+        const int others = std::accumulate(widths.begin() + 1, widths.end(), 0);
+        widths.front() = std::max(room - others, usualName / 2);
+        for (int column = nameColumn; column < m_files.header()->count(); ++column) {
+            m_files.setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+        }
     }
 
-    void widen(int column)
+    /** In which titles and texts are whole. */
+    std::vector<int> neededWidths()
     {
-        const int before = m_files.columnWidth(column);
-        m_files.resizeColumnToContents(column);
-        int wanted = std::max(before, m_files.columnWidth(column));
-        if (column == dateColumn) {
-            wanted = std::max(wanted, widthOfDate());
+        std::vector<int> widths;
+        const bool isEmpty = m_files.model()->rowCount(m_files.rootIndex()) == 0;
+        const bool isFirst = m_usual.empty();
+        for (int column = nameColumn; column < m_files.header()->count(); ++column) {
+            if (isFirst) {
+                m_usual.push_back(m_files.columnWidth(column)); // what Qt gives, for contents of any kind
+            }
+            m_files.resizeColumnToContents(column);
+            widths.push_back(
+                std::max(m_files.columnWidth(column), column == dateColumn && isEmpty ? widthOfDate() : 0));
         }
-        m_files.setColumnWidth(column, wanted);
+        return widths;
     }
 
     /** For times when nothing is listed yet. */
@@ -121,6 +137,7 @@ private:
     QListView& m_sidebar;
     QTreeView& m_files;
     QMetaObject::Connection m_loaded;
+    std::vector<int> m_usual; ///< of the columns
 };
 
 } // namespace

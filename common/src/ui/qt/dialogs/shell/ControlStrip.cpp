@@ -1,10 +1,10 @@
 #include "ui/qt/dialogs/shell/ControlStrip.h"
 
 #include "ui/qt/dialogs/shell/AcceptMenu.h"
+#include "ui/qt/dialogs/shell/FileDialogWindow.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -19,7 +19,7 @@ constexpr int controlsPerRow = 4;
 
 } // namespace
 
-ControlStrip::ControlStrip(QFileDialog& dialog, ControlActions actions)
+ControlStrip::ControlStrip(FileDialogWindow& dialog, ControlActions actions)
     : QObject(&dialog),
       m_dialog(dialog),
       m_actions(std::move(actions)),
@@ -114,22 +114,9 @@ void ControlStrip::updateAcceptMenu(const Control& control)
         const auto opening = [this, id] { m_actions.activating(id); };
         m_acceptMenu = new AcceptMenu(**accept, picked, opening);
     }
-    nameAcceptButton(control);
+    const ControlItem* const first = control.isVisible() ? control.firstChoice() : nullptr;
+    m_dialog.setOptionText(first ? first->label : QString());
     m_acceptMenu->update(control);
-}
-
-void ControlStrip::nameAcceptButton(const Control& dropDown)
-{
-    const ControlItem* const first = dropDown.isVisible() ? dropDown.firstChoice() : nullptr;
-    const QString shown = m_dialog.labelText(QFileDialog::Accept);
-    if (m_optionText.isEmpty() || shown != m_optionText) {
-        m_ownText = shown; // or set by the host meanwhile
-    }
-    if (!first && m_optionText.isEmpty()) {
-        return; // left to Qt, which changes the text with what is selected
-    }
-    m_optionText = first ? first->label : QString();
-    m_dialog.setLabelText(QFileDialog::Accept, m_optionText.isEmpty() ? m_ownText : m_optionText);
 }
 
 } // namespace morvane::ui

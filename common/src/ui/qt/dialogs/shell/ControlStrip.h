@@ -3,29 +3,28 @@
 #include "ui/qt/dialogs/shell/Control.h"
 
 #include <QObject>
-#include <QString>
 
 #include <map>
 
 class QAbstractButton;
 class QDialogButtonBox;
-class QFileDialog;
 class QGridLayout;
 class QWidget;
 
 namespace morvane::ui {
 
 class AcceptMenu;
+class FileDialogWindow;
 
 /**
- * The widgets of the custom controls in one QFileDialog made of widgets: a row below the file types, the prominent push
+ * The widgets of the custom controls in one dialog made of widgets: a row below the file types, the prominent push
  * button below the dialog's own buttons, and the menu on the accept button, which carries the text of the menu's first
  * item then. A child of the dialog.
  */
 class ControlStrip : public QObject
 {
 public:
-    ControlStrip(QFileDialog& dialog, ControlActions actions);
+    ControlStrip(FileDialogWindow& dialog, ControlActions actions);
     ~ControlStrip() override;
 
     /** Makes the widgets look like @p controls; safe while one of them is being worked. */
@@ -36,17 +35,14 @@ private:
     void addToRow(QAbstractButton& button);
     void place(const Control& control, QAbstractButton& button);
     void updateAcceptMenu(const Control& control);
-    void nameAcceptButton(const Control& dropDown);
 
-    QFileDialog& m_dialog;
+    FileDialogWindow& m_dialog;
     const ControlActions m_actions;
     QDialogButtonBox* m_buttonBox;
     QWidget* m_row;
     QGridLayout* m_rowLayout;
     std::map<DWORD, QAbstractButton*> m_buttons;
     AcceptMenu* m_acceptMenu = nullptr;
-    QString m_ownText;    ///< of the accept button, while it carries that of an item
-    QString m_optionText; ///< of the item; empty when the button carries its own
 };
 
 } // namespace morvane::ui

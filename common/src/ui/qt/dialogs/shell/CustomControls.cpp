@@ -1,8 +1,7 @@
 #include "ui/qt/dialogs/shell/CustomControls.h"
 
+#include "ui/qt/dialogs/shell/FileDialogWindow.h"
 #include "ui/qt/dialogs/shell/ShellText.h"
-
-#include <QFileDialog>
 
 #include <algorithm>
 #include <utility>
@@ -26,7 +25,7 @@ CustomControls::CustomControls(IUnknown& owner, ControlActions actions) : m_owne
 
 CustomControls::~CustomControls() = default;
 
-void CustomControls::showIn(QFileDialog& window)
+void CustomControls::showIn(FileDialogWindow& window)
 {
     for (Control& control : m_controls) {
         control.selectedItem.reset();

@@ -43,6 +43,7 @@ FileDialogWindow::FileDialogWindow(QWidget* owner, const FileDialogSettings& set
     m_typeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
     m_model = findChild<QFileSystemModel*>();
     if (consistsOfWidgets()) {
+        m_acceptText = labelText(QFileDialog::Accept);
         setUpWidgets();
         setUpTypeCombo();
         watchWidgets();
@@ -81,10 +82,18 @@ void FileDialogWindow::setTexts(const QString& title, const QString& acceptLabel
     }
     if (!acceptLabel.isEmpty()) {
         setLabelText(QFileDialog::Accept, acceptLabel);
+        m_acceptText = acceptLabel;
     }
     if (!fileNameLabel.isEmpty()) {
         setLabelText(QFileDialog::FileName, fileNameLabel);
     }
+    keepAcceptText();
+}
+
+void FileDialogWindow::setOptionText(const QString& text)
+{
+    m_optionText = text;
+    keepAcceptText();
 }
 
 void FileDialogWindow::setUpWidgets()
@@ -167,6 +176,7 @@ void FileDialogWindow::watchWidgets()
     });
     if (auto* const view = findChild<QAbstractItemView*>(QStringLiteral("listView"))) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+            keepAcceptText();
             m_selectionPending = true;
             deliverLater();
         });
@@ -253,13 +263,27 @@ void FileDialogWindow::applyPatterns()
     }
 }
 
-void FileDialogWindow::updateAcceptButton()
+QAbstractButton* FileDialogWindow::acceptButton() const
 {
     const auto* const box = findChild<QDialogButtonBox*>();
-    for (QAbstractButton* const button : box->buttons()) {
-        if (box->buttonRole(button) == QDialogButtonBox::AcceptRole) {
-            button->setEnabled(m_settings.picksFolders || !m_nameEdit->text().isEmpty());
-        }
+    const QList<QAbstractButton*> buttons = box->buttons();
+    const auto found = std::find_if(buttons.begin(), buttons.end(),
+        [box](QAbstractButton* button) { return box->buttonRole(button) == QDialogButtonBox::AcceptRole; });
+    return *found;
+}
+
+void FileDialogWindow::updateAcceptButton()
+{
+    acceptButton()->setEnabled(m_settings.picksFolders || !m_nameEdit->text().isEmpty());
+    keepAcceptText();
+}
+
+void FileDialogWindow::keepAcceptText()
+{
+    // Qt writes "Open" on it while a folder is selected, which is not what it does here: the name decides.
+    const QString& text = m_optionText.isEmpty() ? m_acceptText : m_optionText;
+    if (consistsOfWidgets() && !text.isEmpty() && acceptButton()->text() != text) {
+        acceptButton()->setText(text);
     }
 }
 
@@ -294,6 +318,7 @@ void FileDialogWindow::deliverLater()
 void FileDialogWindow::deliver()
 {
     const QPointer<FileDialogWindow> self(this);
+    keepAcceptText();
     if (m_folderPending) {
         deliverFolder();
     }

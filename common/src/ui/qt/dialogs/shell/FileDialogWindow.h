@@ -6,6 +6,7 @@
 
 #include <vector>
 
+class QAbstractButton;
 class QComboBox;
 class QFileSystemModel;
 class QLineEdit;
@@ -89,6 +90,9 @@ public:
     QStringList selectedPaths() const;
     void setTexts(const QString& title, const QString& acceptLabel, const QString& fileNameLabel);
 
+    /** Gives the accept button this text in place of its own one; empty: its own again. */
+    void setOptionText(const QString& text);
+
     void accept() override;
     using QFileDialog::done;
 
@@ -103,7 +107,9 @@ private:
     void filterByWildcard();
     bool enterFolderOfWildcard();
     void forgetWildcard();
+    QAbstractButton* acceptButton() const;
     void updateAcceptButton();
+    void keepAcceptText();
     void onTypePicked(int index);
     void onNativeTypePicked(const QString& filter);
     void deliverLater();
@@ -121,6 +127,8 @@ private:
     QLineEdit* m_nameEdit = nullptr;
     QComboBox* m_typeCombo = nullptr;
     QFileSystemModel* m_model = nullptr;
+    QString m_acceptText; ///< of the accept button itself
+    QString m_optionText; ///< in its place, unless empty
     QString m_folder;
     QString m_editedName;        ///< as the user has left it, until a name is set by others
     QStringList m_typedPatterns; ///< in place of those of the type

@@ -2,8 +2,6 @@
 
 #include <QDir>
 
-#include <algorithm>
-
 namespace morvane::ui {
 
 namespace {
@@ -17,11 +15,6 @@ QString absolutePath(QString name, const QString& folder)
     // Qt takes a colon in front for something within the program itself.
     const bool ordinary = name.startsWith(QLatin1Char(':'));
     return QDir::cleanPath(ordinary ? folder + QLatin1Char('/') + name : QDir(folder).absoluteFilePath(name));
-}
-
-bool isWildcard(const QString& piece)
-{
-    return piece.contains(QLatin1Char('*')) || piece.contains(QLatin1Char('?'));
 }
 
 QStringList quotedNames(const QString& text)
@@ -54,19 +47,6 @@ QStringList pathsOfTypedText(const QString& text, const QString& folder, bool se
         }
     }
     return paths;
-}
-
-QStringList patternsOfTypedText(const QString& text)
-{
-    QStringList patterns;
-    for (const QString& part : QString(text).remove(QLatin1Char('"')).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-        const QStringList pieces = part.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        const bool separate = std::all_of(pieces.begin(), pieces.end(), isWildcard);
-        patterns += separate ? pieces : QStringList(part.trimmed());
-    }
-    // Qt takes it for names with a dot.
-    std::replace(patterns.begin(), patterns.end(), QStringLiteral("*.*"), QStringLiteral("*"));
-    return patterns;
 }
 
 QString typedTextOfNames(const QStringList& names)

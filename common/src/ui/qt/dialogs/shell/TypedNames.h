@@ -10,12 +10,6 @@ namespace morvane::ui {
  */
 QStringList pathsOfTypedText(const QString& text, const QString& folder, bool severalAllowed);
 
-/**
- * The patterns of a typed wildcard. Semicolons separate them, and so do blanks where each piece is a wildcard: a blank
- * may be one of a name. `*.*` is every file.
- */
-QStringList patternsOfTypedText(const QString& text);
-
 /** The text that means @p names: one name as it is, several in double quotes. */
 QString typedTextOfNames(const QStringList& names);
 
