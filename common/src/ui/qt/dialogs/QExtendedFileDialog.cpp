@@ -190,14 +190,21 @@ void QExtendedFileDialog::onDirectoryLoaded(const QString& path)
 {
     m_readFolders.insert(keyOf(path));
     restoreCursor();
+    // What ended the wait may have been another folder, read for the suggestions.
+    if (isVisible() && m_shownFolder == m_model->rootPath() && isBeingRead(m_shownFolder)) {
+        waitForFolder();
+    }
 }
 
 void QExtendedFileDialog::onRootPathChanged(const QString& path)
 {
-    // The model reads the folder that it leaves once more when it comes back there, and no other one twice.
-    m_readFolders.remove(keyOf(m_shownFolder));
-    m_shownFolder = path;
-    if (isBeingRead(path)) {
+    const bool again = path == m_shownFolder;
+    if (!again) {
+        // The model reads the folder that it leaves once more when it comes back there, and no other one twice.
+        m_readFolders.remove(keyOf(m_shownFolder));
+        m_shownFolder = path;
+    }
+    if (again ? QFileInfo(path).isDir() : isBeingRead(path)) {
         waitForFolder();
     }
 }
