@@ -3,12 +3,15 @@
 #include "ui/qt/MorvaneUiExport.h"
 
 #include <QFileDialog>
+#include <QSet>
 #include <QSize>
+#include <QString>
 #include <QStringList>
 
 #include <string>
 
 class QComboBox;
+class QFileSystemModel;
 class QLineEdit;
 
 /**
@@ -114,6 +117,9 @@ private:
     void saveSizeAndPosition();
     void restoreSizeAndPosition();
     void restoreCursor();
+    void waitForFolder();
+    bool isBeingRead(const QString& folder) const;
+    QString keyOf(const QString& folder) const;
 
     QLineEdit* m_fileNameEdit = nullptr;
     QComboBox* m_fileTypeCombo = nullptr;
@@ -124,4 +130,7 @@ private:
     std::string m_helpTopic;
     std::string m_geometryPersistenceKey;
     QSize m_defaultSize = QSize(-1, -1);
+    QFileSystemModel* m_model = nullptr;
+    QString m_shownFolder;
+    QSet<QString> m_readFolders;
 };

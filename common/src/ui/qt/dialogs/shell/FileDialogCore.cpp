@@ -107,6 +107,7 @@ void FileDialogCore::run(QWidget* owner)
     }
     if (m_window) {
         m_fileName = m_window->typedName();
+        m_settings.fileNameIsTyped = m_window->holdsWildcard();
     }
 }
 
@@ -279,6 +280,7 @@ HRESULT FileDialogCore::getSelectedItems(IShellItemArray** items) const
 HRESULT FileDialogCore::setFileName(LPCWSTR name)
 {
     m_fileName = toQString(name);
+    m_settings.fileNameIsTyped = false;
     if (m_window) {
         m_window->setTypedName(*m_fileName);
     }
