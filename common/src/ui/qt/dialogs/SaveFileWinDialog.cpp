@@ -30,7 +30,7 @@ struct SaveFileWinDialog::Impl : SaveFileState
     }
 
     void setNameFilters(const QStringList& filters) override { m_dialog->setNameFilters(filters); }
-    void selectNameFilter(const QString& filter) override { m_dialog->selectNameFilter(filter); }
+    void selectNameFilter(int position) override { m_dialog->currentFilterIndex()->setValue(position + 1); }
     void finishDialog() override
     {
         m_dialog->selectFile(QString::fromStdString(m_filename));
@@ -40,9 +40,10 @@ struct SaveFileWinDialog::Impl : SaveFileState
     bool run() override { return m_dialog->exec() == QDialog::Accepted; }
     QStringList selectedFiles() override { return m_dialog->selectedFiles(); }
     QStringList nameFilters() override { return m_dialog->nameFilters(); }
-    QString selectedFilter() override { return nameFilters().value(m_dialog->currentFilterIndex()->value() - 1); }
+    int selectedPosition() override { return m_dialog->currentFilterIndex()->value() - 1; }
+    QString selectedFilter() override { return nameFilters().value(selectedPosition()); }
     QWidget* messageParent() override { return m_dialog->parent(); }
-    bool isAlive() override { return m_parent || !m_hasParent; }
+    bool hasDialog() override { return m_parent || !m_hasParent; }
 
     ExtendedWinFileDialog* m_dialog = nullptr;
     bool m_hasParent = false;
@@ -58,7 +59,7 @@ SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic,
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
     m_impl->setUp(filter, helpTopic);
 }
@@ -74,16 +75,20 @@ SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
     m_impl->setUp(writerFilters, selectedWriterIndex, helpTopic);
 }
 
-SaveFileWinDialog::~SaveFileWinDialog() = default;
+SaveFileWinDialog::~SaveFileWinDialog()
+{
+    m_impl->abandon();
+}
 
 bool SaveFileWinDialog::launch()
 {
-    return m_impl->launch();
+    const std::shared_ptr<Impl> impl = m_impl; // this object may go while the dialog is open
+    return impl->launch();
 }
 
 std::string SaveFileWinDialog::selectedFilename()
