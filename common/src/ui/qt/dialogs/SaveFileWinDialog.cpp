@@ -1,19 +1,28 @@
 #include "ui/qt/dialogs/SaveFileWinDialog.h"
 
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
-#include "ui/qt/dialogs/ExtendedWinFileDialog.h"
+#include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
+#include "ui/qt/dialogs/SaveFileKeptDialogs.h"
 #include "ui/qt/dialogs/SaveFileLoop.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
-/** The dialogs that outlive their save flow, on purpose; here they stay reachable. */
-ExtendedWinFileDialog* keepForever(ExtendedWinFileDialog* dialog)
+/** A dialog that outlives its save flow, on purpose, and the Shell's own that belongs to it. */
+struct Kept
 {
-    static auto* const kept = new std::vector<ExtendedWinFileDialog*>;
-    kept->push_back(dialog);
-    return dialog;
+    ExtendedWinFileDialog* dialog;
+    const IFileDialog* shellDialog;
+};
+
+/** Here they stay reachable. */
+std::vector<Kept>& keptDialogs()
+{
+    static auto* const kept = new std::vector<Kept>;
+    return *kept;
 }
 
 } // namespace
@@ -25,8 +34,9 @@ struct SaveFileWinDialog::Impl : SaveFileState
     void createDialog(const std::string& filter, const std::string& helpTopic) override
     {
         m_hasParent = m_parent;
-        m_dialog = keepForever(new ExtendedWinFileDialog(
-            m_parent.data(), m_caption, m_directory, filter, helpTopic, QFileDialog::AcceptSave, false));
+        m_dialog = new ExtendedWinFileDialog(
+            m_parent.data(), m_caption, m_directory, filter, helpTopic, QFileDialog::AcceptSave, false);
+        keptDialogs().push_back({m_dialog, m_dialog->m_impl->m_dialog.get()});
     }
 
     void setNameFilters(const QStringList& filters) override { m_dialog->setNameFilters(filters); }
@@ -109,4 +119,10 @@ int SaveFileWinDialog::selectedWriter() const
 ExtendedWinFileDialog* SaveFileWinDialog::dialog()
 {
     return m_impl->m_dialog;
+}
+
+bool morvane::ui::isKeptForSaveFlow(const IFileDialog& dialog)
+{
+    const auto& kept = keptDialogs();
+    return std::any_of(kept.begin(), kept.end(), [&dialog](const Kept& one) { return one.shellDialog == &dialog; });
 }
