@@ -12,9 +12,11 @@
  * link stays. Files are made exclusively, so that what was there before is never removed, also when its status cannot
  * be read.
  *
- * When another process renames a file onto the name during the attempt, that file stays. On Windows what was made goes
- * with its own handle. Elsewhere it is compared with what has the name; that is moved to a name of its own, compared
- * again there, and removed, or given its name back. For that moment the name may be missing.
+ * What another process renames onto the name during the attempt stays. On Windows what was made goes with its own
+ * handle, and the renaming may be refused meanwhile. Elsewhere what was made is compared with what has the name; that
+ * is moved to a name of its own, compared again there, and removed, or given its name back. For that moment the name
+ * may be missing. A process that opens the very file that was made is refused on Windows; elsewhere the file is removed
+ * if it is still empty, and what is written later goes with it.
  */
 bool checkWriteAccess(const boost::filesystem::path& target);
 
