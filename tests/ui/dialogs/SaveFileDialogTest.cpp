@@ -202,8 +202,8 @@ TEST_P(SaveFlow, takesAWriterOutsideTheListForNone)
 
 TEST_P(SaveFlow, findsItsWriterWhateverBlanksTheTextsHave)
 {
-    const std::vector<std::string> writers = {"Text (*.txt)", " Long  table ( *.csv  *.tsv ) ", "Page\t(*.html)",
-        "Page (*.html)", "Page (*.html)"};
+    const std::vector<std::string> writers = {
+        "Text (*.txt)", " Long  table ( *.csv  *.tsv ) ", "Page\t(*.html)", "Page (*.html)", "Page (*.html)"};
     for (int index = 0; index < 5; ++index) {
         const int expected = std::min(index, 3); // of equal ones the first
         const auto flow = makeFlow(writers, index);

@@ -186,9 +186,8 @@ TEST_P(SaveFlow, asksNothingMoreWhenTheParentGoesInAnyOperationOfTheHandler)
             m_parent = new QWidget;
         }
         int calls = 0;
-        const auto flow = makeFlow("Data files (*.dat)",
-            std::make_unique<ActingHandler>(
-                operation, [this] { delete m_parent; }, calls));
+        const auto flow = makeFlow("Data files (*.dat)", std::make_unique<ActingHandler>(
+                                                             operation, [this] { delete m_parent; }, calls));
         ModalScript user;
         user.on<QFileDialog>([&](QFileDialog& dialog) { acceptName(dialog, operation == 3 ? refused("one") : "old"); });
         EXPECT_FALSE(flow->launch());
@@ -206,9 +205,8 @@ TEST_P(SaveFlow, asksNothingMoreWhenItIsDestroyedItself)
         SCOPED_TRACE(operation);
         int calls = 0;
         std::unique_ptr<SaveFileDialog> flow;
-        flow = makeFlow("Data files (*.dat)",
-            std::make_unique<ActingHandler>(
-                operation, [&flow] { flow.reset(); }, calls));
+        flow = makeFlow("Data files (*.dat)", std::make_unique<ActingHandler>(
+                                                  operation, [&flow] { flow.reset(); }, calls));
         ModalScript user;
         user.on<QFileDialog>([&](QFileDialog& dialog) {
             if (operation == 0) {
