@@ -48,22 +48,56 @@ bool isNotThere(Error error)
     return error == ERROR_FILE_NOT_FOUND;
 }
 
-/** Opens the file for reading and writing, and for @p furtherAccess, and closes it. @return 0, or why it failed */
-Error openAndClose(fs::path path, DWORD furtherAccess, DWORD shared, DWORD disposition, DWORD flags)
+/** A file that is open for reading and writing, or why it is not. */
+class OpenFile
 {
-    const std::wstring name = morvane::utf8ToWideString(pathToUtf8(path.make_preferred()));
-    const HANDLE file = CreateFileW(name.c_str(), GENERIC_READ | GENERIC_WRITE | furtherAccess, shared, nullptr,
-        disposition, FILE_ATTRIBUTE_NORMAL | flags, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        return GetLastError();
+public:
+    OpenFile(fs::path path, DWORD furtherAccess, DWORD shared, DWORD disposition, DWORD flags)
+        : m_handle(CreateFileW(morvane::utf8ToWideString(pathToUtf8(path.make_preferred())).c_str(),
+              GENERIC_READ | GENERIC_WRITE | furtherAccess, shared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL | flags,
+              nullptr)),
+          m_error(m_handle == INVALID_HANDLE_VALUE ? GetLastError() : ERROR_SUCCESS)
+    {
     }
-    CloseHandle(file);
-    return ERROR_SUCCESS;
-}
+    ~OpenFile()
+    {
+        if (m_error == ERROR_SUCCESS) {
+            CloseHandle(m_handle);
+        }
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    Error error() const { return m_error; }
+
+    /** Once it is closed, if that is allowed. */
+    void remove() const
+    {
+        const DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+        const HANDLE again = ReOpenFile(m_handle, DELETE, everything, FILE_FLAG_DELETE_ON_CLOSE);
+        if (again != INVALID_HANDLE_VALUE) {
+            CloseHandle(again);
+        }
+    }
+
+private:
+    const HANDLE m_handle;
+    const Error m_error;
+};
 
 Error openExisting(const fs::path& path)
 {
-    return openAndClose(path, 0, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING, 0);
+    return OpenFile(path, 0, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING, 0).error();
+}
+
+/** Where files may be made and not be deleted. Also after somebody else's file was in the way and has just gone. */
+Error makeAndTryToRemove(const fs::path& path)
+{
+    const OpenFile file(path, 0, FILE_SHARE_DELETE, CREATE_NEW, 0);
+    if (file.error() == ERROR_SUCCESS) {
+        file.remove();
+    }
+    return file.error();
 }
 
 /**
@@ -72,9 +106,8 @@ Error openExisting(const fs::path& path)
  */
 Error makeAndRemove(const fs::path& path)
 {
-    const Error error = openAndClose(path, DELETE, FILE_SHARE_DELETE, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE);
-    // There are folders where files may be made and not be deleted. There the file has to stay.
-    return error == ERROR_ACCESS_DENIED ? openAndClose(path, 0, 0, CREATE_NEW, 0) : error;
+    const Error error = OpenFile(path, DELETE, FILE_SHARE_DELETE, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE).error();
+    return error == ERROR_ACCESS_DENIED ? makeAndTryToRemove(path) : error;
 }
 
 /** Creating goes through links by itself. */
@@ -128,14 +161,10 @@ public:
 
     Error error() const { return m_error; }
 
-    /** Whether @p path leads to this file, and nobody has written to it. */
-    bool isEmptyAndNamed(const fs::path& path) const
+    /** Of the file itself, whatever its name leads to by now. @return whether it is known */
+    bool readStatus(struct stat& status) const
     {
-        struct stat mine = {};
-        struct stat named = {};
-        return uninterrupted([&] { return ::fstat(m_descriptor, &mine); }) == 0 &&
-               uninterrupted([&] { return ::lstat(path.c_str(), &named); }) == 0 && mine.st_dev == named.st_dev &&
-               mine.st_ino == named.st_ino && named.st_size == 0;
+        return uninterrupted([&] { return ::fstat(m_descriptor, &status); }) == 0;
     }
 
 private:
@@ -169,20 +198,28 @@ void putBack(const fs::path& scratch, const fs::path& path)
     }
 }
 
-/**
- * Removes @p made if it still is what @p path leads to. Another file may get the name after that was seen. So whatever
- * has the name is moved aside in one step and looked at again there.
- */
-void removeMade(const fs::path& path, const OpenFile& made)
+/** Whether @p path leads to the file that was made, and nobody has written to it. */
+bool isStill(const struct stat& made, const fs::path& path)
 {
-    if (!made.isEmptyAndNamed(path)) {
+    struct stat named = {};
+    return uninterrupted([&] { return ::lstat(path.c_str(), &named); }) == 0 && made.st_dev == named.st_dev &&
+           made.st_ino == named.st_ino && named.st_size == 0;
+}
+
+/**
+ * Removes the file that was made if it still is what @p path leads to. Another file may get the name after that was
+ * seen. So whatever has the name is moved aside in one step and looked at again there.
+ */
+void removeMade(const fs::path& path, const struct stat& made)
+{
+    if (!isStill(made, path)) {
         return;
     }
     boost::system::error_code error;
     const fs::path scratch = path.parent_path() / scratchName(error);
-    if (error || renameFile(path, scratch) != 0) {
+    if (error || (renameFile(path, scratch) != 0 && !isNotThere(errno))) {
         removeName(path); // no place aside
-    } else if (made.isEmptyAndNamed(scratch)) {
+    } else if (isStill(made, scratch)) {
         removeName(scratch);
     } else {
         putBack(scratch, path);
@@ -193,8 +230,9 @@ void removeMade(const fs::path& path, const OpenFile& made)
 Error makeAndRemove(const fs::path& path)
 {
     const OpenFile file(path, O_CREAT | O_EXCL);
-    if (file.error() == 0) {
-        removeMade(path, file); // the file stays open meanwhile: no other can have its number then
+    struct stat made = {};
+    if (file.error() == 0 && file.readStatus(made)) {
+        removeMade(path, made); // the file stays open meanwhile: no other can have its number then
     }
     return file.error();
 }
