@@ -154,6 +154,9 @@ void QExtendedFileDialog::accept()
     m_fileTypeCombo->blockSignals(true);
     setNameFilters(filters);
     selectNameFilter(m_modifiedNameFilter);
+    if (position >= 0) {
+        m_fileTypeCombo->setCurrentIndex(position); // it may read like another one now
+    }
     m_fileTypeCombo->blockSignals(false);
     connect(m_fileTypeCombo, SIGNAL(activated(QString)), this, SLOT(revertModifiedFilterAndSelect(QString)),
         Qt::UniqueConnection);
