@@ -22,6 +22,7 @@ int main(int argc, char** argv)
     capacitance->setSuffix(" F");
     capacitance->setRange(1e-15, 1);
     capacitance->setDecimals(4); // significant digits, not places behind the point
+    capacitance->setOwnValidation(true); // what another spin box refuses is none of its business
     capacitance->setValue(4.7e-7);
     //! [number]
     form->addRow("&Capacitance:", capacitance);

@@ -192,6 +192,15 @@ TYPED_TEST(SpinBoxSteps, partsOfANotchAddUpToOneStep)
     EXPECT_EQ(this->ups, 2) << "two notches in one turn are one step of the host";
 }
 
+TYPED_TEST(SpinBoxSteps, partOfANotchLeavesTypedTextAlone)
+{
+    this->window.type("50");
+    this->window.turnWheel(60);
+    EXPECT_EQ(this->window.shown(), "50");
+    this->window.commit();
+    EXPECT_EQ(this->spin.value(), 50);
+}
+
 TYPED_TEST(SpinBoxSteps, aTurnBackGivesThePartOfANotchUp)
 {
     this->window.turnWheel(60);
