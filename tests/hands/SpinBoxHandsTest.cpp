@@ -93,8 +93,8 @@ protected:
         const QPoint centre = spin.rect().center();
         QWindow* const window = form.window.windowHandle();
         const QPointF local = spin.mapTo(&form.window, centre) * form.window.devicePixelRatioF();
-        QWindowSystemInterface::handleWheelEvent(window, local, QPointF(onScreen(spin, centre)), QPoint(), angle, held,
-            phase, Qt::MouseEventNotSynthesized);
+        QWindowSystemInterface::handleWheelEvent(
+            window, local, QPointF(onScreen(spin, centre)), QPoint(), angle, held, phase, Qt::MouseEventNotSynthesized);
         settle();
     }
 
@@ -378,7 +378,8 @@ protected:
 
     void edit(int row)
     {
-        click(*table.viewport(), table.viewport()->rect().bottomRight()); // so that no earlier click counts with the next
+        // Elsewhere first, so that no earlier click counts with the next ones.
+        click(*table.viewport(), table.viewport()->rect().bottomRight());
         click(table, table.model()->index(row, 0));
         click(table, table.model()->index(row, 0));
         ASSERT_TRUE(editor() && editor()->hasFocus());
@@ -515,7 +516,7 @@ TYPED_TEST(SpinBoxHands, aNumberFromASpreadsheetIsPastedWhateverWhiteSpaceIsArou
     for (const bool affixes : {false, true}) {
         this->spin.setPrefix(affixes ? QStringLiteral("n = ") : QString());
         this->spin.setSuffix(affixes ? QStringLiteral(" m") : QString());
-        for (const char* const text : {"15\n", "15\r\n", "\t15", " 15  ", "\xc2\xa0""15\t\n"}) {
+        for (const char* const text : {"15\n", "15\r\n", "\t15", " 15  ", "\u00a015\t\n"}) {
             this->spin.setValue(1);
             QApplication::clipboard()->setText(QString::fromUtf8(text));
             this->press({Key::Control}, 'a');

@@ -66,9 +66,9 @@ QStandardItem* makeName(const QString& name)
 
 NumbersTablePage::NumbersTablePage()
     : Page(QStringLiteral("numbers-in-a-table"), tr("Numbers in a table"),
-          tr("Double-click a number, or choose it with the arrow keys and type. Return, Tab and a click elsewhere store "
-             "what you have typed; Escape gives the old number back. The table uses Qt's own delegate, with the spin "
-             "boxes as its editors.")),
+          tr("Double-click a number, or choose it with the arrow keys and type. Return, Tab and a click elsewhere "
+             "store what you have typed; Escape gives the old number back. The table uses Qt's own delegate, with the "
+             "spin boxes as its editors.")),
       m_parts(new QStandardItemModel(0, ColumnCount, this)),
       m_table(new QTableView),
       m_editors(std::make_unique<NumberEditors>())

@@ -245,8 +245,8 @@ TYPED_TEST(SpinBoxSteps, theDirectionIsTheOneThatTheSystemReports)
 {
     QSpinBox other;
     other.setValue(10);
-    QWheelEvent natural(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
-        Qt::NoScrollPhase, true);
+    QWheelEvent natural(
+        QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, true);
     QApplication::sendEvent(&other, &natural);
     ASSERT_EQ(other.value(), 11);
     this->window.turnWheel(QPoint(0, 120), QPoint(), true);
@@ -256,8 +256,8 @@ TYPED_TEST(SpinBoxSteps, theDirectionIsTheOneThatTheSystemReports)
 TYPED_TEST(SpinBoxSteps, everyTurnIsTakenAndNoneScrollsTheFormAround)
 {
     for (const QPoint angle : {QPoint(0, 15), QPoint(0, 120), QPoint(120, 0), QPoint()}) {
-        QWheelEvent turn(QPointF(5, 5), QPointF(5, 5), QPoint(), angle, Qt::NoButton, Qt::NoModifier,
-            Qt::NoScrollPhase, false);
+        QWheelEvent turn(
+            QPointF(5, 5), QPointF(5, 5), QPoint(), angle, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         turn.ignore();
         QApplication::sendEvent(&this->spin, &turn);
         EXPECT_TRUE(turn.isAccepted());

@@ -22,7 +22,8 @@ void dropAffixes(QString& text, int& pos, const QDoubleSpinBox& spinBox)
 
 void trim(QString& text, int& pos)
 {
-    const auto start = std::find_if_not(text.cbegin(), text.cend(), [](QChar character) { return character.isSpace(); });
+    const auto start =
+        std::find_if_not(text.cbegin(), text.cend(), [](QChar character) { return character.isSpace(); });
     pos -= static_cast<int>(start - text.cbegin());
     text = std::move(text).trimmed();
     pos = qBound(0, pos, text.size());
