@@ -42,6 +42,7 @@ WidgetDescription scientificSpinBox()
     widget.whatsThis = QStringLiteral("A spin box for numbers such as 1.5E-07. Set its range, step and value as text: "
                                       "minimumText, maximumText, singleStepText, valueText.");
     widget.size = QSize(200, 32);
+    widget.properties = QStringLiteral("<property name=\"ownValidation\"><bool>true</bool></property>");
     widget.create = create<morvane::ui::QScientificSpinBox>;
     return widget;
 }

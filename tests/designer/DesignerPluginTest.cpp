@@ -83,6 +83,7 @@ TEST_F(LoadedForm, hasAScientificSpinBoxWithNumbersThatDoublesInFormsCannotHold)
     EXPECT_EQ(current->value(), 2.5e-15);
     EXPECT_EQ(current->decimals(), 4);
     EXPECT_EQ(current->text(), "2.5E-15 A");
+    EXPECT_TRUE(current->hasOwnValidation());
 }
 
 TEST_F(LoadedForm, hasAnIntegerSpinBoxWhoseStepsCanBeTaken)
@@ -113,6 +114,23 @@ TEST_F(LoadedForm, hasACommandLinkThatKeepsItsSize)
     EXPECT_EQ(start->text(), "S&tart");
     EXPECT_EQ(start->description(), "Measures with these settings.");
     EXPECT_EQ(start->minimumSizeHint(), static_cast<QWidget*>(start)->sizeHint());
+}
+
+// What dropping it on a form does.
+TEST(ANewScientificSpinBox, validatesByItselfAndCanBeToldNotTo)
+{
+    QPluginLoader plugin(pluginFile());
+    auto* const collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
+    ASSERT_TRUE(collection) << plugin.errorString().toStdString();
+    QBuffer form;
+    form.setData(collection->customWidgets().at(1)->domXml().toUtf8());
+    ASSERT_TRUE(form.open(QIODevice::ReadOnly));
+    const std::unique_ptr<QWidget> widget = load(form);
+    auto* const spinBox = dynamic_cast<QScientificSpinBox*>(widget.get());
+    ASSERT_TRUE(spinBox);
+    EXPECT_TRUE(spinBox->hasOwnValidation());
+    EXPECT_TRUE(spinBox->setProperty("ownValidation", false));
+    EXPECT_FALSE(spinBox->hasOwnValidation());
 }
 
 std::string lastPart(const ::testing::TestParamInfo<int>& info)
