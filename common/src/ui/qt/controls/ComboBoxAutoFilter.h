@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QCompleter>
 
+#include <memory>
+
 class ctkCompleter;
 
 namespace morvane::ui {
@@ -42,8 +44,18 @@ class MORVANE_UI_EXPORT ComboBoxAutoFilter : public QComboBox
     Q_OBJECT
     /** Whether entries are filtered. Here for forms made with Qt Designer; set after the property `editable`. */
     Q_PROPERTY(bool filtering READ isFiltering WRITE setFiltering)
+    /** What the combo box is there for. */
+    Q_PROPERTY(EditMode editMode READ editMode WRITE setEditMode)
 
 public:
+    /** What the combo box is there for. */
+    enum EditMode
+    {
+        SingleEdit, ///< it is made for one edit, and closes itself with the outcome
+        FormField   ///< it stays, and each edit has an outcome of its own
+    };
+    Q_ENUM(EditMode)
+
     /** @param parent owner; null for a window of its own that the caller deletes */
     explicit ComboBoxAutoFilter(QWidget* parent);
     ~ComboBoxAutoFilter() override;
@@ -82,6 +94,10 @@ public:
      */
     void setFiltering(bool on);
 
+    /** SingleEdit at first. To be set before an edit begins. */
+    EditMode editMode() const;
+    void setEditMode(EditMode mode);
+
     /**
      * Makes the first entry current that contains the line's text, whatever its case; of an empty text that is the
      * first entry of all. So a picked "Car" gives way to a "Scar" above it.
@@ -110,10 +126,16 @@ Q_SIGNALS:
     void editingCanceled();
 
 protected:
-    /** Gives Tab to the line. */
+    /** Gives Tab to the line, or ends the edit of a form field with it. */
     bool event(QEvent* event) override;
     /** Watches the keys and clicks in the two popups. */
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /** Marks what fits the text that an input method brings. */
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    /** Ends the edit of a form field. */
+    void focusOutEvent(QFocusEvent* event) override;
 
 private Q_SLOTS:
     void onItemClicked(const QModelIndex& index);
@@ -129,25 +151,48 @@ private:
         Held,
         Due
     };
+    struct Impl;
 
     void keyPressEvent(QKeyEvent* event) override;
     void finishEditing();
 
     void init(bool editable, QCompleter::CompletionMode mode, Qt::CaseSensitivity cs, Qt::TextElideMode elide,
         Qt::MatchFlag match);
-    int findLineText() const;
+    void connectLine();
+    void followModel();
+
+    QModelIndex currentEntry() const;
+    QAbstractItemView* suggestions() const;
+    bool hasUnfinishedEdit() const;
+    int findOutcome() const;
+    bool takeOutcome();
+    void takeRow(int row);
+    void announceActivation();
     void closeSelf();
+    void cancelEdit();
+    void watchFocusFromAway();
+
+    bool resend(QObject& receiver, QEvent& event);
+    bool resendOutside(QObject& viewport, const QMouseEvent& event);
     bool filterListKey(QKeyEvent& event);
-    bool filterListRelease(QObject& viewport, QEvent& event);
+    bool filterListTab(QKeyEvent& event);
+    bool filterListRelease(QObject& viewport, QMouseEvent& event);
+    bool filterSuggestions(QObject& viewport, QEvent& event);
+    bool filterSuggestionRelease(QObject& viewport, QMouseEvent& event);
     bool filterCompleterKey(QObject& popup, QKeyEvent& event);
     void moveCompleterMark(QObject& popup, QKeyEvent& event);
+    void followCompleterMark();
+    void markOutcome();
+    bool handleFieldKey(QKeyEvent& event);
+    bool handleFieldReturn(QKeyEvent& event);
 
     bool m_itemClicked = false;
     bool m_escapePressed = false;
     int m_indexBeforeEdit = -1;
     ctkCompleter* m_completer = nullptr;
     Announcement m_announcement = Announcement::AtOnce;
-    bool m_isResending = false;
+    const QEvent* m_resent = nullptr;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace morvane::ui
