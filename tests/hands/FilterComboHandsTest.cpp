@@ -697,6 +697,32 @@ TEST_F(FilterComboFieldHands, clicksInBothListsTakeTheEntryAndTheFieldStays)
     expectOutcome(3, 0);
 }
 
+TEST_F(FilterComboFieldHands, openingTheListDoesNotFinish)
+{
+    open({"Cargo", "Car", "Dog"});
+    type("xyz");
+    openList();
+    expectOutcome(0, 0);
+    press(Key::Down);
+    press(Key::Escape);
+    EXPECT_EQ(line(), "Cargo");
+    EXPECT_EQ(rejected, 0);
+    expectOutcome(0, 1);
+    typeText("do");
+    press({Key::Alt}, Key::Down);
+    press({Key::Control}, 'a');
+    press(Key::Escape);
+    EXPECT_EQ(entry(), "Cargo");
+    expectOutcome(0, 2);
+    openList();
+    press(Key::Down);
+    press(Key::Return);
+    EXPECT_EQ(outcome, "Car");
+    EXPECT_EQ(accepted, 0);
+    expectOutcome(1, 2);
+    EXPECT_TRUE(box->hasFocus());
+}
+
 TEST_F(FilterComboFieldHands, tabInTheListTakesTheEntryAndMovesOn)
 {
     open({"Cargo", "Car", "Dog"});

@@ -22,6 +22,7 @@ struct ComboBoxAutoFilter::Impl
     EditMode mode = SingleEdit;
     std::shared_ptr<AutoFilterEdit> edit = std::make_shared<AutoFilterEdit>();
     AutoFilterPick pick;
+    QPersistentModelIndex current;
     /** Watches where the focus goes while another window, a menu or a popup has it. */
     QMetaObject::Connection away;
     QPointer<QAbstractItemModel> followedModel;
@@ -76,8 +77,7 @@ bool leavesAtEnd(const QAbstractItemView& popup, int key)
 /** Reasons after which the focus comes back by itself. */
 bool isAwayOnly(Qt::FocusReason reason)
 {
-    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason
-        || reason == Qt::MenuBarFocusReason;
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
 }
 
 } // namespace
@@ -99,7 +99,10 @@ ComboBoxAutoFilter::ComboBoxAutoFilter(QWidget* parent) : QComboBox(parent), m_i
     connect(this, SIGNAL(activated(int)), this, SLOT(onItemActivated(int)));
     connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
         followModel();
-        if (!m_impl->edit->isInStep()) {
+        const QModelIndex entry = currentEntry();
+        const bool hasOnlyMoved = entry.isValid() && entry == m_impl->current;
+        m_impl->current = entry;
+        if (!hasOnlyMoved && !m_impl->edit->isInStep()) {
             m_impl->edit->end();
         }
     });
@@ -239,8 +242,8 @@ int ComboBoxAutoFilter::findOutcome() const
     if (isField && currentIndex() >= 0 && text == itemText(currentIndex())) {
         return currentIndex();
     }
-    return findEntry(*model(), modelColumn(), rootModelIndex(), text,
-        isField ? EntryPreference::Equal : EntryPreference::First);
+    return findEntry(
+        *model(), modelColumn(), rootModelIndex(), text, isField ? EntryPreference::Equal : EntryPreference::First);
 }
 
 void ComboBoxAutoFilter::takeRow(int row)
@@ -329,15 +332,15 @@ QAbstractItemView* ComboBoxAutoFilter::suggestions() const
 
 bool ComboBoxAutoFilter::hasUnfinishedEdit() const
 {
-    return m_impl->edit->isBegun()
-        || (lineEdit() && lineEdit()->text() != itemText(currentIndex()).left(lineEdit()->maxLength()));
+    return m_impl->edit->isBegun() ||
+           (lineEdit() && lineEdit()->text() != itemText(currentIndex()).left(lineEdit()->maxLength()));
 }
 
 bool ComboBoxAutoFilter::event(QEvent* event)
 {
     const bool isField = m_impl->mode == FormField;
-    if (isField && event->type() == QEvent::ShortcutOverride && hasUnfinishedEdit()
-        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    if (isField && event->type() == QEvent::ShortcutOverride && hasUnfinishedEdit() &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         event->accept();
         return true;
     }
@@ -742,7 +745,10 @@ void ComboBoxAutoFilter::focusOutEvent(QFocusEvent* event)
     if (AutoFilterLineEdit* const line = ownLine(*this)) {
         line->showUnfocused(*event);
     }
-    if (isAwayOnly(event->reason())) {
+    // QComboBox gives its own list the focus as if it were any other widget.
+    const QWidget* const now = QApplication::focusWidget();
+    const bool isInList = now && view()->window()->isAncestorOf(now) && view()->window() != window();
+    if (isInList || isAwayOnly(event->reason())) {
         watchFocusFromAway();
     } else if (hasUnfinishedEdit()) {
         onEditingFinished();

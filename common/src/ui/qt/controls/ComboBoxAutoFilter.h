@@ -12,30 +12,62 @@ class ctkCompleter;
 namespace morvane::ui {
 
 /**
- * An editable combo box that narrows its entries to those that contain what is typed, and that finishes itself: when an
- * entry is picked, or the editing is ended or cancelled with a key, it closes its own widget and announces the outcome.
- * Good as an editor that lives for one edit, in a table cell for instance, and as a field of a form.
+ * An editable combo box that narrows its entries to those that contain what is typed, and that announces what became of
+ * the editing: an entry was taken, or the editing was cancelled. What it is there for is its edit mode.
  *
- * | where                   | key                            | outcome                                               |
- * |-------------------------|--------------------------------|-------------------------------------------------------|
- * | line, completer's popup | Return, Enter, Tab             | selectionComplete(): first entry with the line's text |
- * | line, completer's popup | Escape                         | editingCanceled(): the current entry stays            |
- * | line                    | Shift+Tab, losing the focus    | none: text and entry stay as they are                 |
- * | completer's popup       | Up, Down                       | none: marks an entry and leaves the line alone        |
- * | popup list              | Up, Down                       | none: the entry becomes current                       |
- * | popup list              | Return, Enter, a clicked entry | selectionComplete(), as Return in the line            |
- * | popup list              | Escape                         | editingCanceled(): back to the entry before the edit  |
+ * SingleEdit, at first: an editor that lives for one edit, in a table cell for instance. With the outcome it closes its
+ * own widget.
  *
- * Each of these announces once. A slot on either signal may delete the combo box. In an item view the delegate sees Tab
- * first; let its setModelData() call validateEntry().
+ * | where       | what a user does               | outcome                                               |
+ * |-------------|--------------------------------|-------------------------------------------------------|
+ * | line        | types                          | none: the first entry that fits is marked             |
+ * | line        | Return, Enter, Tab             | selectionComplete(): first entry with the line's text |
+ * | line        | Escape                         | editingCanceled(): the current entry stays            |
+ * | line        | Up, Down, wheel                | none: the entry becomes current                       |
+ * | line        | Shift+Tab, leaves it           | none: text and entry stay as they are                 |
+ * | suggestions | Up, Down, Page Up, Page Down   | none: the marked entry is written into the line       |
+ * | suggestions | Ctrl+Home, Ctrl+End            | the same                                              |
+ * | suggestions | Return, Enter, Tab after these | selectionComplete(): exactly the marked entry         |
+ * | suggestions | Return, Enter, Tab otherwise   | selectionComplete(), as in the line                   |
+ * | suggestions | a click, letting the mouse go  | selectionComplete(): exactly this entry               |
+ * | suggestions | Escape                         | editingCanceled(), as in the line                     |
+ * | popup list  | Up, Down                       | none: the entry becomes current                       |
+ * | popup list  | Return, Enter                  | selectionComplete(): exactly this entry               |
+ * | popup list  | a click; arrow, drag, let go   | selectionComplete(): exactly this entry               |
+ * | popup list  | Escape                         | editingCanceled(): back to the entry before the edit  |
  *
- * Set it up with setListModel(), or with setList() and then setCompleterAttributes(). Until then nothing is filtered,
- * and there is no line to finish in.
+ * FormField: a field that stays, for many edits. The same roads lead to the same entries, with these differences:
+ *
+ * | where       | what a user does           | outcome                                                   |
+ * |-------------|----------------------------|-----------------------------------------------------------|
+ * | line        | Return, Enter              | selectionComplete(), or editingCanceled() if nothing fits |
+ * | line        | leaves it after an edit    | the same; so with Tab, Shift+Tab, a click elsewhere       |
+ * | line        | leaves it without an edit  | none                                                      |
+ * | line        | another window, a menu     | none: the edit goes on afterwards                         |
+ * | line        | Escape during an edit      | editingCanceled()                                         |
+ * | line        | Return, Enter, Escape else | the dialog around gets the key, too                       |
+ * | suggestions | Escape                     | editingCanceled()                                         |
+ * | popup list  | Tab, Shift+Tab             | selectionComplete(): exactly this entry; moves on         |
+ *
+ * In a FormField, a text that equals an entry, whatever the case, stands for this entry before one that merely contains
+ * it, and an empty text stands for none. An edit begins with what a user types, marks or steps to. Whenever one is
+ * cancelled, the entry from before it is current again, and the line shows its text. Reading the combo box during an
+ * edit, for instance from a shortcut that leaves the focus where it is, starts with validateEntry().
+ *
+ * In both modes: an entry that was picked or marked is taken even where another one has the same text or contains it.
+ * Typing on after that goes by the line's text again. What is open is closed with the outcome, and the dialog around
+ * never gets a key that has made one, but for a Return without an edit. No road leads a user to a disabled entry. Each
+ * outcome is announced once, and a slot on either signal may delete the combo box. In an item view the delegate sees
+ * Tab first; let its setModelData() call validateEntry() and store the text of the entry, not currentText(), which is
+ * what stands in the line.
+ *
+ * Set it up with setListModel(), or with setList() and then setCompleterAttributes(). Until then nothing is filtered.
+ * Suggestions come from the model and from the column that the combo box shows, also when these change later.
  *
  * @snippet 07-filter-a-list/main.cpp filter
  *
- * "The entry before the edit" is the current one when the list was first opened or an entry first activated in the life
- * of the combo box, for all edits: make a new one for each edit where that matters.
+ * "The entry before the edit" is, in a SingleEdit, the current one when the list was first opened or an entry first
+ * activated in the life of the combo box, for all edits: make a new one for each edit, or a FormField.
  *
  * GUI thread only.
  */
@@ -44,7 +76,7 @@ class MORVANE_UI_EXPORT ComboBoxAutoFilter : public QComboBox
     Q_OBJECT
     /** Whether entries are filtered. Here for forms made with Qt Designer; set after the property `editable`. */
     Q_PROPERTY(bool filtering READ isFiltering WRITE setFiltering)
-    /** What the combo box is there for. */
+    /** SingleEdit at first; new ones in Qt Designer are FormFields. */
     Q_PROPERTY(EditMode editMode READ editMode WRITE setEditMode)
 
 public:
@@ -99,11 +131,13 @@ public:
     void setEditMode(EditMode mode);
 
     /**
-     * Makes the first entry current that contains the line's text, whatever its case; of an empty text that is the
-     * first entry of all. So a picked "Car" gives way to a "Scar" above it.
+     * Makes the entry current that the line stands for: the one that a user has picked or marked, as long as the line
+     * shows it; otherwise the first one that contains the line's text, whatever its case, which of an empty text is the
+     * first of all. So a "Car" that is typed gives way to a "Scar" above it. In a FormField an entry that equals the
+     * text goes first, and an empty text stands for no other. Disabled entries do not count. Announces nothing.
      *
-     * @return false, with everything left alone, when no entry contains the text or there is no line; true otherwise,
-     * and always, with everything left alone, once Escape has been pressed in the combo box
+     * @return false, with everything left alone, when there is no such entry or no line; true otherwise, and in a
+     * SingleEdit always, with everything left alone, once Escape has been pressed in the combo box
      */
     bool validateEntry();
 
@@ -116,13 +150,16 @@ public:
     /** Makes the first entry current whose Qt::UserRole data equals the value; without one, nothing happens. */
     void setFromValue(const QVariant& value);
 
-    /** Opens the popup list, at the first entry that contains the line's text when there is one. */
+    /** Opens the whole list, at the entry that the line stands for when there is one. It is current then. */
     void showPopup() override;
 
 Q_SIGNALS:
-    /** An entry was picked or the editing ended, and the widget has closed itself. currentIndex() is the outcome. */
+    /**
+     * An entry was picked or the editing ended. A SingleEdit has closed itself. currentIndex() is the outcome; in a
+     * SingleEdit it is what it was before when no entry fits the line's text.
+     */
     void selectionComplete();
-    /** The editing was cancelled, and the widget has closed itself. */
+    /** The editing was cancelled. A SingleEdit has closed itself; a FormField shows the entry from before the edit. */
     void editingCanceled();
 
 protected:
