@@ -107,6 +107,16 @@ TEST_F(ComboBoxField, validatingFromTheProgramLeavesTheOutcomeToBeAnnounced)
     expectOutcome(1, 0);
 }
 
+TEST_F(ComboBoxField, whatTheProgramHasValidatedIsNotCancelled)
+{
+    setUp({"Dog", "Bar", "Car"});
+    typeAndKeep("ca");
+    EXPECT_TRUE(box->validateEntry());
+    pressKey(Qt::Key_Escape);
+    EXPECT_EQ(box->currentText(), "Car");
+    expectOutcome(0, 1);
+}
+
 TEST_F(ComboBoxField, cancelsToNoEntryWhereNoneWasCurrent)
 {
     setUp({"Dog", "Bar", "Car"});

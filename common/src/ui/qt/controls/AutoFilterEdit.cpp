@@ -23,8 +23,17 @@ void AutoFilterEdit::begin(const QModelIndex& current)
         return;
     }
     m_isBegun = true;
-    m_before = isInStep() ? m_atStep : QPersistentModelIndex(current);
-    m_hadEntry = isInStep() ? m_hadEntryAtStep : current.isValid();
+    setBefore(current);
+    if (isInStep()) {
+        m_before = m_atStep;
+        m_hadEntry = m_hadEntryAtStep;
+    }
+}
+
+void AutoFilterEdit::setBefore(const QModelIndex& entry)
+{
+    m_before = entry;
+    m_hadEntry = entry.isValid();
 }
 
 int AutoFilterEdit::rowBefore(int rowIfGone) const

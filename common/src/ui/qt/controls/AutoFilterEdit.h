@@ -39,6 +39,8 @@ public:
      */
     void begin(const QModelIndex& current);
     void end() { m_isBegun = false; }
+    /** Makes another entry the one from before the edit. */
+    void setBefore(const QModelIndex& entry);
 
     /** The row of the entry before the edit; -1 for none, the other one when the entry is gone. */
     int rowBefore(int rowIfGone) const;

@@ -225,6 +225,8 @@ bool ComboBoxAutoFilter::validateEntry()
         return false;
     }
     takeRow(index);
+    // The program goes on with this entry, and so does a user who cancels.
+    m_impl->edit->setBefore(currentEntry());
     return true;
 }
 

@@ -134,7 +134,8 @@ public:
      * Makes the entry current that the line stands for: the one that a user has picked or marked, as long as the line
      * shows it; otherwise the first one that contains the line's text, whatever its case, which of an empty text is the
      * first of all. So a "Car" that is typed gives way to a "Scar" above it. In a FormField an entry that equals the
-     * text goes first, and an empty text stands for no other. Disabled entries do not count. Announces nothing.
+     * text goes first, and an empty text stands for no other. Disabled entries do not count. Announces nothing;
+     * an edit in a FormField goes on, and is cancelled to this entry.
      *
      * @return false, with everything left alone, when there is no such entry or no line; true otherwise, and in a
      * SingleEdit always, with everything left alone, once Escape has been pressed in the combo box
