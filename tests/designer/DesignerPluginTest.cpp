@@ -11,6 +11,8 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QLineEdit>
+#include <QMetaEnum>
+#include <QMetaProperty>
 #include <QPluginLoader>
 #include <QTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
@@ -68,6 +70,7 @@ TEST_F(LoadedForm, hasAComboBoxThatFiltersItsEntries)
     ASSERT_TRUE(box);
     EXPECT_EQ(box->count(), 3);
     EXPECT_TRUE(box->isFiltering());
+    EXPECT_EQ(box->editMode(), ComboBoxAutoFilter::FormField);
     ASSERT_TRUE(box->completer());
     box->completer()->setCompletionPrefix("ene");
     EXPECT_EQ(box->completer()->completionCount(), 1);
@@ -181,6 +184,35 @@ TEST_P(EachWidget, comesOutOfItsOwnDescriptionWithASizeThatShowsItWhole)
     EXPECT_FALSE(widget->objectName().isEmpty());
     EXPECT_GE(widget->width(), widget->minimumSizeHint().width());
     EXPECT_GE(widget->height(), widget->minimumSizeHint().height());
+}
+
+TEST(NewComboBox, isAFieldOfAForm)
+{
+    QPluginLoader plugin(pluginFile());
+    const auto* const collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
+    ASSERT_TRUE(collection);
+    QByteArray description = collection->customWidgets().at(0)->domXml().toUtf8();
+    const auto made = [](QByteArray& xml) {
+        QBuffer form(&xml);
+        EXPECT_TRUE(form.open(QIODevice::ReadOnly));
+        return load(form);
+    };
+    const auto isField = [](const std::unique_ptr<QWidget>& widget) {
+        const auto* const box = dynamic_cast<ComboBoxAutoFilter*>(widget.get());
+        return box && box->editMode() == ComboBoxAutoFilter::FormField;
+    };
+    EXPECT_TRUE(isField(made(description)));
+    description.replace("FormField", "SingleEdit");
+    EXPECT_FALSE(isField(made(description))) << "the property decides";
+}
+
+// Designer's property editor offers the names of an enumeration.
+TEST(NewComboBox, offersItsModesByName)
+{
+    const QMetaObject& type = ComboBoxAutoFilter::staticMetaObject;
+    const QMetaProperty mode = type.property(type.indexOfProperty("editMode"));
+    EXPECT_TRUE(mode.isWritable() && mode.isDesignable() && mode.isStored() && mode.isEnumType());
+    EXPECT_EQ(QByteArray(mode.enumerator().valueToKeys(ComboBoxAutoFilter::FormField)), "FormField");
 }
 
 TEST_P(EachWidget, isMadeWithTheParentThatIsGiven)

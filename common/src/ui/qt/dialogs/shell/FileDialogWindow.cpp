@@ -178,7 +178,6 @@ void FileDialogWindow::watchWidgets()
     if (auto* const view = findChild<QAbstractItemView*>(QStringLiteral("listView"))) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
             updateAcceptButton(); // Qt goes by the typed text, which need not change
-            keepAcceptText();
             m_selectionPending = true;
             deliverLater();
         });
