@@ -6,11 +6,21 @@ namespace morvane::test {
 
 namespace {
 
-INPUT button(DWORD flags)
+/** A position as mouse events have it: the screen is 65536 wide and high. */
+LONG normalized(LONG position, int metric)
+{
+    const LONGLONG extent = GetSystemMetrics(metric);
+    return static_cast<LONG>((static_cast<LONGLONG>(position) * 65536 + extent / 2) / extent);
+}
+
+/** With its position, so that no other movement comes in between. */
+INPUT button(POINT position, DWORD flags)
 {
     INPUT input{};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
+    input.mi.dx = normalized(position.x, SM_CXSCREEN);
+    input.mi.dy = normalized(position.y, SM_CYSCREEN);
+    input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
     return input;
 }
 
@@ -27,8 +37,7 @@ INPUT control(DWORD flags)
 
 void clickAt(POINT position, bool withControl)
 {
-    SetCursorPos(position.x, position.y);
-    std::vector<INPUT> inputs{button(MOUSEEVENTF_LEFTDOWN), button(MOUSEEVENTF_LEFTUP)};
+    std::vector<INPUT> inputs{button(position, MOUSEEVENTF_LEFTDOWN), button(position, MOUSEEVENTF_LEFTUP)};
     if (withControl) {
         inputs.insert(inputs.begin(), control(0));
         inputs.push_back(control(KEYEVENTF_KEYUP));
