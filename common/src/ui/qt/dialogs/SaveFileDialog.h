@@ -36,8 +36,8 @@ public:
      * - `filename` is the name to start with; may be empty.
      * - `filter` holds name filters such as `Data (*.dat)`, joined by `;;`.
      * - `writerFilters` has one name filter for each way of writing the file, instead of `filter`.
-     * - `selectedWriterIndex` is the position in `writerFilters` of the one to start with; outside of it the first
-     *   one is.
+     * - `selectedWriterIndex` is the position in `writerFilters` of the one to start with; outside of it none is
+     *   selected.
      * - `helpTopic` adds a Help button that hands it to morvane::HelpLauncher. Empty: no button.
      * - `handler` words the questions and is taken over. Null or left out: morvane::DefaultSaveFileMessageHandler.
      */
