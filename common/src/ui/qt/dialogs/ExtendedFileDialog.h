@@ -54,7 +54,10 @@ public:
     /** Runs the dialog modally; QDialog::Accepted or QDialog::Rejected. */
     int exec();
 
-    /** Puts a file into the name field; the native dialog takes its last component only. */
+    /**
+     * Puts a file, or a list of files in double quotes with blanks in between, into the name field; the native dialog
+     * takes the last component of each only.
+     */
     void selectFile(const QString& file);
     /** The chosen paths after an accepted exec(), in the form of the dialog (native paths on the native one). */
     QStringList selectedFiles();

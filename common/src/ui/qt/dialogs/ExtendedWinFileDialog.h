@@ -27,21 +27,26 @@ class QWidget;
  *
  * Make it, configure it, run it with exec() one or more times, read it, destroy it. Settings reach the dialog at the
  * first exec(); controls and accept options reach it at once and may be added between runs. Between runs the dialog
- * keeps folder, typed name and file type.
+ * keeps the folder and the file type as the user left them, and a save dialog the accepted name as it was typed.
  *
  * All `std::string` arguments are UTF-8. A name filter is a description, one blank, and blank-separated patterns in
- * parentheses, `Images (*.png *.jpg)`; several are joined by `;;`. In a save dialog, opening it and choosing another
- * file type give the typed name the extension of the chosen type, or none when its first pattern is not of the form
- * `*.extension`. Give each type of a save dialog one pattern: of several, everything after the first `*.` becomes the
- * extension, as in `image.png *.jpg`.
+ * parentheses, `Images (*.png *.jpg)`; several are joined by `;;`.
+ *
+ * In a save dialog, choosing another file type gives the typed name the extension of that type, or none when its first
+ * pattern is not of the form `*.extension`. A type whose extension is a wildcard, `All files (*.*)`, leaves the name
+ * alone. Give each type of a save dialog one pattern: of several, everything after the first `*.` becomes the
+ * extension, as in `image.png *.jpg`. A list of names in quotes is never changed. Opening the dialog chooses no type: a
+ * name that has an extension stays as it is, and one that has none gets that of a type with one pattern, the first
+ * time.
  *
  * @snippet 02-native-controls/main.cpp dialog
  *
  * Failures of the platform are not reported. When it cannot make a dialog at all, every operation is safe, exec()
  * returns `Rejected` and selectedFiles() is empty.
  *
- * GUI thread only; the constructor joins it to a single-threaded COM apartment and the destructor leaves it. Callbacks
- * run nested in exec(). The object must not be destroyed while exec() runs; its parent may be.
+ * GUI thread only; the constructor joins it to a single-threaded COM apartment, and leaves it again when it throws; the
+ * destructor leaves it. Callbacks run nested in exec(). The object must not be destroyed while exec() runs; its parent
+ * may be.
  */
 class MORVANE_UI_EXPORT ExtendedWinFileDialog
 {
@@ -71,11 +76,16 @@ public:
      */
     QDialog::DialogCode exec();
 
-    /** Puts the last component of @p file into the name field; the folder part is dropped. */
+    /**
+     * Puts the last component of @p file into the name field; the folder part is dropped. @p file may be a list of
+     * paths in double quotes with blanks in between, `"/x/a.dat" "/x/b.dat"`: each is reduced to its last component and
+     * stays in quotes, and one alone stands without them.
+     */
     void selectFile(const QString& file);
     /**
      * The chosen paths in the platform's form, after an exec() that the user accepted; none when close() ended it.
-     * Otherwise whatever the platform reports.
+     * Otherwise whatever the platform reports. Several under `ExistingFiles`; a save dialog gives several where the
+     * platform takes several names there, and else the one that was chosen.
      */
     QStringList selectedFiles();
 

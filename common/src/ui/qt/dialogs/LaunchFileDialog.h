@@ -21,12 +21,16 @@ namespace morvane::ui {
  *                           typing a wildcard keeps its position.
  * @param caption            window title
  * @param nameFilters        one filter an entry, `Images (*.png *.jpg)`; with none the function returns false at once
- * @param initialSelection   paths to start at; the dialog opens in the directory of the first. May be empty.
+ * @param initialSelection   paths to start at; the dialog opens in the directory of the first, which is named in it,
+ *                           or all of them when several may be picked; by the native dialog without their directories.
+ *                           The files may have gone; for a directory that has gone the dialog chooses one. May be
+ *                           empty.
  * @param saveMode           a save dialog; the file need not exist
- * @param allowMultiple      lets the user pick several existing files, in save mode too
+ * @param allowMultiple      lets the user pick several existing files; in save mode as many as the dialog takes there,
+ *                           at least one
  * @param initialFilterIndex position in @p nameFilters of the filter to start with; outside of it the dialog starts
  *                           with the first one
- * @return whether the user accepted
+ * @return whether the user accepted; @p files then has at least one file
  */
 MORVANE_UI_EXPORT bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const std::string& caption,
     const std::vector<std::string>& nameFilters, const std::vector<std::string>& initialSelection, bool saveMode,

@@ -145,7 +145,7 @@ FileDialogSettings FileDialogCore::settingsForRun() const
     const bool validates = !has(FOS_NOVALIDATE);
     FileDialogSettings settings = m_settings;
     settings.picksFolders = has(FOS_PICKFOLDERS);
-    settings.allowsSeveral = has(FOS_ALLOWMULTISELECT) && !m_settings.saving;
+    settings.allowsSeveral = has(FOS_ALLOWMULTISELECT);
     settings.fileMustExist = has(FOS_FILEMUSTEXIST) && validates;
     settings.pathMustExist = has(FOS_PATHMUSTEXIST) && validates;
     settings.asksBeforeOverwriting = has(FOS_OVERWRITEPROMPT);

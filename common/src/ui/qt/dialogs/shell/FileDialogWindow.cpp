@@ -1,5 +1,6 @@
 #include "ui/qt/dialogs/shell/FileDialogWindow.h"
 
+#include "ui/qt/dialogs/shell/TypedNames.h"
 #include "ui/qt/util/FileDialogAccess.h"
 #include "ui/qt/util/FileDialogLayout.h"
 
@@ -62,7 +63,7 @@ void FileDialogWindow::applySettings()
 {
     setAcceptMode(m_settings.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     // Whether files must exist is checked in accept(): Qt would disable the button without saying why.
-    const bool several = m_settings.allowsSeveral && !m_settings.usesWidgets;
+    const bool several = m_settings.allowsSeveral && !m_settings.saving && !m_settings.usesWidgets;
     setFileMode(m_settings.picksFolders ? QFileDialog::Directory
                 : several               ? QFileDialog::ExistingFiles
                                         : QFileDialog::AnyFile);
@@ -98,7 +99,7 @@ void FileDialogWindow::setOptionText(const QString& text)
 
 void FileDialogWindow::setUpWidgets()
 {
-    if (m_settings.allowsSeveral) {
+    if (m_settings.allowsSeveral && !m_settings.saving) {
         for (const char* const name : {"listView", "treeView"}) {
             if (auto* const view = findChild<QAbstractItemView*>(QLatin1String(name))) {
                 view->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -176,7 +177,7 @@ void FileDialogWindow::watchWidgets()
     });
     if (auto* const view = findChild<QAbstractItemView*>(QStringLiteral("listView"))) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-            keepAcceptText();
+            updateAcceptButton(); // Qt goes by the typed text, which need not change
             m_selectionPending = true;
             deliverLater();
         });
@@ -207,8 +208,13 @@ void FileDialogWindow::setTypedName(const QString& name)
         // A wildcard that is given another ending, as for another type, is still no name of a file.
         m_editedName = holdsWildcard() ? name : m_editedName;
         m_nameEdit->setText(name);
-    } else if (!name.isEmpty()) {
-        selectFile(name);
+        return;
+    }
+    const QStringList listed = quotedNames(name);
+    for (const QString& file : listed.isEmpty() ? QStringList(name) : listed) {
+        if (!file.isEmpty()) {
+            selectFile(file);
+        }
     }
 }
 

@@ -25,7 +25,7 @@ struct FileDialogSettings
 {
     bool saving = false;
     bool picksFolders = false;
-    bool allowsSeveral = false;
+    bool allowsSeveral = false; ///< when saving, a list of names can be typed, but not picked
     bool fileMustExist = false;
     bool pathMustExist = false;
     bool asksBeforeOverwriting = false;
@@ -118,6 +118,7 @@ private:
     QStringList chosenPaths() const;
     bool enterFolderAmong(const QStringList& paths);
     bool exist(const QStringList& paths);
+    bool mayReplaceAll(const QStringList& paths);
     bool mayReplace(const QString& path);
     QMessageBox::StandardButton ask(
         const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton);

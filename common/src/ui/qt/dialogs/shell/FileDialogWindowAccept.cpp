@@ -42,7 +42,7 @@ void FileDialogWindow::accept()
     if (paths.isEmpty() || (consistsOfWidgets() && (enterFolderAmong(paths) || !exist(paths)))) {
         return;
     }
-    if (!self || (consistsOfWidgets() && m_settings.saving && !mayReplace(paths.first())) || !self) {
+    if (!self || (consistsOfWidgets() && m_settings.saving && !mayReplaceAll(paths)) || !self) {
         return;
     }
     const bool accepted = m_observer.mayAccept(paths);
@@ -148,6 +148,13 @@ bool FileDialogWindow::exist(const QStringList& paths)
         }
     }
     return true;
+}
+
+bool FileDialogWindow::mayReplaceAll(const QStringList& paths)
+{
+    const QPointer<FileDialogWindow> self(this);
+    return std::all_of(
+        paths.begin(), paths.end(), [this, &self](const QString& path) { return self && mayReplace(path); });
 }
 
 bool FileDialogWindow::mayReplace(const QString& path)
