@@ -63,11 +63,14 @@ public:
     QStringList selectedFiles();
     /** What is asked for: a file that exists, several of them, any name, or a directory. */
     void setFileMode(QFileDialog::FileMode mode);
-    /** The directory that the dialog shows, or showed last. */
+    /** The directory that the dialog shows, or showed last. Before the first run the one to start in. */
     QDir directory();
     /** Sets the directory to start in. */
     void setDirectory(const QString& directory);
-    /** Chooses a filter by its exact text. */
+    /**
+     * Chooses a filter by its exact text. For a text that is not in the list the Qt dialog keeps the chosen one; the
+     * native dialog chooses none, and opens with the first.
+     */
     void selectNameFilter(const QString& filter);
     /** The name filters, one an entry. */
     QStringList nameFilters();

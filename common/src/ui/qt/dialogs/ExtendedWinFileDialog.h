@@ -22,7 +22,8 @@ class QWidget;
  * do: push buttons and check boxes of the host inside the dialog, and a menu of options on the accept button.
  *
  * On Windows this is the Shell's common item dialog. Elsewhere the same interface is served by Qt's dialog, controls
- * included.
+ * included. There a wildcard that the user types filters what is listed and is never returned; where no controls were
+ * added, the desktop's own dialog may appear and does it its own way.
  *
  * Make it, configure it, run it with exec() one or more times, read it, destroy it. Settings reach the dialog at the
  * first exec(); controls and accept options reach it at once and may be added between runs. Between runs the dialog
@@ -53,7 +54,8 @@ public:
     /**
      * @param parent        the dialog is modal to its window
      * @param caption       window title; may be empty
-     * @param directory     start folder; for an existing file its folder; empty or missing: the platform chooses
+     * @param directory     start folder; for an existing file its folder; empty or missing: the platform chooses, and
+     *                      elsewhere than on Windows that is the process's current directory
      * @param filter        name filters joined by `;;`; empty for none
      * @param helpTopic     adds a button "&Help" that hands it to morvane::HelpLauncher; empty for no button
      * @param acceptMode    open or save
@@ -90,12 +92,18 @@ public:
     /** What is asked for; initially `AnyFile`. `Directory` picks a folder; `DirectoryOnly` counts as `AnyFile`. */
     void setFileMode(QFileDialog::FileMode mode);
 
-    /** The folder that the dialog starts in, and, once it has run, the one that it was left in. */
+    /**
+     * The folder that was set, and, once the dialog has run, the one that it was left in. `.` when none was set and it
+     * has not run.
+     */
     QDir directory();
     /** Takes the text as it is, without looking whether the directory exists. */
     void setDirectory(const QString& dir);
 
-    /** Chooses the file type with exactly this text; a text that is not in the list chooses none. */
+    /**
+     * Chooses the file type with exactly this text. A text that is not in the list chooses none; the dialog then opens
+     * with the first type, and that one is the chosen one from then on.
+     */
     void selectNameFilter(const QString& filter);
     /** The file types, one an entry. */
     QStringList nameFilters();
@@ -125,7 +133,8 @@ public:
      */
     QWidget* addCustomCheckBox(const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked);
     /**
-     * Adds an entry to the menu of the accept button; needs `useAcceptMenu`.
+     * Adds an entry to the menu of the accept button; needs `useAcceptMenu`. The button itself takes on the text of the
+     * first entry, and stands for it.
      * @param text  its label
      * @param value what selectedAcceptMenuOption() reports once the user accepted with this entry
      * @return a stand-in for the entry, see addCustomButton()
@@ -133,7 +142,10 @@ public:
     QWidget* addAcceptButtonOption(const std::string& text, int value);
     /** Removes all entries of the menu, and destroys their stand-ins. */
     void clearAcceptMenuOptions();
-    /** The value of the entry that was selected when the last run ended, be it by cancel; 255 before. */
+    /**
+     * The value of the entry that was selected when the last run ended, also by Cancel. 255 before the first run. Where
+     * the user picked no entry it is the first that is visible and enabled, whose text the accept button carries.
+     */
     int selectedAcceptMenuOption() const;
 
     /**
