@@ -413,6 +413,10 @@ TEST(QScientificSpinBoxTyping, onlyANumberIsTypedOverTheSpecialValueText)
     EXPECT_EQ(window.shown(), "4 J");
     window.commit();
     EXPECT_EQ(window.spin.value(), 4);
+    window.spin.setValue(0);
+    EXPECT_EQ(window.shown(), "auto");
+    window.type("4");
+    EXPECT_EQ(window.shown(), "4 J") << "the number from before";
 }
 
 TEST(QScientificSpinBoxTyping, readOnlyTakesNoKeysAndNoSteps)
