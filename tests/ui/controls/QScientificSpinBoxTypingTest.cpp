@@ -369,6 +369,21 @@ TEST(QScientificSpinBoxTyping, whiteSpaceAroundAPastedNumberIsLeftOut)
     }
 }
 
+TEST(QScientificSpinBoxTyping, theCursorStaysBehindWhatWasPutIn)
+{
+    Window window;
+    window.spin.setPrefix("E = ");
+    window.spin.setValue(12);
+    window.spin.lineEdit()->setCursorPosition(5);
+    QTest::keyClicks(&window.spin, "34");
+    EXPECT_EQ(window.shown(), "E = 1342");
+    QApplication::clipboard()->setText("\t5");
+    window.spin.lineEdit()->setCursorPosition(4);
+    QTest::keyClick(&window.spin, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClicks(&window.spin, "6");
+    EXPECT_EQ(window.shown(), "E = 561342");
+}
+
 TEST(QScientificSpinBoxTyping, whiteSpaceAloneDeletesNothing)
 {
     Window window;
@@ -413,6 +428,10 @@ TEST(QScientificSpinBoxTyping, onlyANumberIsTypedOverTheSpecialValueText)
     EXPECT_EQ(window.shown(), "4 J");
     window.commit();
     EXPECT_EQ(window.spin.value(), 4);
+    window.spin.setValue(0);
+    EXPECT_EQ(window.shown(), "auto");
+    window.type("4");
+    EXPECT_EQ(window.shown(), "4 J") << "the number from before";
 }
 
 TEST(QScientificSpinBoxTyping, readOnlyTakesNoKeysAndNoSteps)

@@ -229,6 +229,15 @@ TYPED_TEST(SpinBoxSteps, thePartOfANotchIsForgottenWhenThePointerOrTheFocusLeave
     EXPECT_EQ(this->spin.value(), 15);
 }
 
+TYPED_TEST(SpinBoxSteps, withControlANotchIsTenSteps)
+{
+    this->spin.setSingleStep(1);
+    QWheelEvent turn(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::ControlModifier,
+        Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&this->spin, &turn);
+    EXPECT_EQ(this->spin.value(), 20);
+}
+
 TYPED_TEST(SpinBoxSteps, turnsThatLeadNowhereStepNothing)
 {
     this->countSteps();

@@ -221,3 +221,38 @@ TEST(ScientificValueProperty, asksTheSharedAnswerAsReturnDoes)
     window.spin.setOwnValidation(true);
     EXPECT_EQ(window.spin.property("value"), 50.5);
 }
+
+TEST(ScientificValueProperty, isBroughtIntoTheRangeAsByReturnWhereTheSharedAnswerIsOfAWiderOne)
+{
+    SpinBoxWindow<ScientificSpinBox> window;
+    const ScientificSpinBox wide(nullptr);
+    window.spin.setRange(2, 10);
+    for (const bool wrapping : {false, true}) {
+        for (QString text : {QString("1.125"), QString("50.125")}) {
+            window.spin.setWrapping(wrapping);
+            window.spin.setValue(3);
+            window.type(text);
+            int pos = text.size();
+            EXPECT_EQ(wide.validate(text, pos), QValidator::Acceptable);
+            const QVariant read = window.spin.property("value");
+            window.commit();
+            EXPECT_EQ(read, window.spin.value());
+            EXPECT_EQ(window.spin.value(), (text == "1.125") == wrapping ? 10 : 2);
+        }
+    }
+}
+
+TEST(ScientificValueProperty, isWhatReturnTakesOfATextThatAProgramHasPutIntoTheLine)
+{
+    SpinBoxWindow<ScientificSpinBox> window;
+    window.spin.setOwnValidation(true);
+    window.spin.setValue(3);
+    for (int cursor = 0; cursor <= 5; ++cursor) {
+        window.spin.lineEdit()->setText(" 1..5");
+        window.spin.lineEdit()->setCursorPosition(cursor);
+        const QVariant read = window.spin.property("value");
+        window.commit();
+        EXPECT_EQ(read, window.spin.value()) << "cursor at " << cursor;
+        window.spin.setValue(3);
+    }
+}
