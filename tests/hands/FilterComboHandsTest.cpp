@@ -622,6 +622,7 @@ TEST_F(FilterComboFieldHands, returnWithoutAnEditPressesTheDefaultButton)
     typeText("ca");
     press(Key::Return);
     EXPECT_EQ(accepted, 0);
+    EXPECT_TRUE(box->hasFocus());
     press(Key::Return);
     EXPECT_EQ(accepted, 1);
     EXPECT_EQ(outcome, "Car");
@@ -658,6 +659,7 @@ TEST_F(FilterComboFieldHands, switchingWindowsDoesNotFinish)
     expectOutcome(0, 0);
     press(Key::Tab);
     EXPECT_EQ(outcome, "Car");
+    EXPECT_TRUE(box->isVisible());
     expectOutcome(1, 0);
 }
 

@@ -246,6 +246,20 @@ TEST_F(ComboBoxModel, withTheCompleterStandInAMillionRowsAreFilteredAndEnded)
     expectOutcome(1, 0);
 }
 
+TEST_F(ComboBoxModel, aMillionRowsAreFilteredAndEndedInAFormField)
+{
+    NumberModel model(1000000);
+    box->setEditMode(morvane::ui::ComboBoxAutoFilter::FormField);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setUpModel(&model);
+    box->lineEdit()->clear();
+    type("Entry 99999");
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "entry 99999");
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), 99999);
+    expectOutcome(1, 0);
+}
+
 TEST_F(ComboBoxModel, aMillionRowsOpenInTheList)
 {
     NumberModel model(1000000);
