@@ -576,10 +576,12 @@ TEST_F(ScientificLineHands, pastesANumberInScientificNotationWithALineBreak)
 TEST_F(ScientificLineHands, takesWhatIsTypedOverPrefixNumberAndSuffix)
 {
     begin(QStringLiteral("E = "), QStringLiteral(" J"));
-    for (int number = 0; number < 3; ++number) { // the third click in a row selects all of the line
+    const QString whole = QStringLiteral("E = 9 J");
+    // The third click in a row selects all of the line; the one that gave it the focus may count.
+    for (int number = 0; number < 3 && lineOf(spin).selectedText() != whole; ++number) {
         click(lineOf(spin));
     }
-    EXPECT_EQ(lineOf(spin).selectedText(), "E = 9 J");
+    EXPECT_EQ(lineOf(spin).selectedText(), whole);
     type(QStringLiteral("1.5E3"));
     EXPECT_EQ(spin.text(), "E = 1.5E3 J");
     press(Key::Return);

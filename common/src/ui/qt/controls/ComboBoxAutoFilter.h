@@ -125,8 +125,9 @@ public:
      */
     void setFiltering(bool on);
 
-    /** SingleEdit at first. To be set before an edit begins. */
+    /** SingleEdit at first. */
     EditMode editMode() const;
+    /** To be called before an edit begins. */
     void setEditMode(EditMode mode);
 
     /**
@@ -169,7 +170,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     /** Marks what fits the text that an input method brings. */
     void inputMethodEvent(QInputMethodEvent* event) override;
+    /** Makes the next entry current, as QComboBox does; an edit of a form field without the focus ends with it. */
     void wheelEvent(QWheelEvent* event) override;
+    /** Goes on with an edit. */
     void focusInEvent(QFocusEvent* event) override;
     /** Ends the edit of a form field. */
     void focusOutEvent(QFocusEvent* event) override;

@@ -178,7 +178,9 @@ public:
     boost::signals2::signal<void()> signalDecrement; ///< a step down, or by nothing, that is left to the host
 
 protected:
+    /** Forgets the part of a notch that is left over when the focus or the pointer leaves. */
     bool event(QEvent* event) override;
+    /** Steps by whole notches; parts of them add up. */
     void wheelEvent(QWheelEvent* event) override;
 
 private:
