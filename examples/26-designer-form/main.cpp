@@ -16,7 +16,7 @@ int main(int argc, char** argv)
 
     // The widgets have the names that they were given in Designer.
     QObject::connect(form.start, &QAbstractButton::clicked, &window, [&] {
-        // Alt+T comes here without leaving the field, so that takes in what has been typed so far.
+        // With suggestions closed, Alt+T does not leave the field: takes in what has been typed so far.
         form.substance->validateEntry();
         QMessageBox::information(&window, "Measurement",
             QString("%1 samples of %2 at %3 A")

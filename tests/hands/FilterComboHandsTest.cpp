@@ -699,6 +699,28 @@ TEST_F(FilterComboFieldHands, clicksInBothListsTakeTheEntryAndTheFieldStays)
     expectOutcome(3, 0);
 }
 
+TEST_F(FilterComboFieldHands, losingTheFocusToAnotherFieldWithSuggestionsOpenFinishes)
+{
+    open({"Bar", "Car", "Dog"});
+    typeText("dog");
+    after.setFocus();
+    settle();
+    EXPECT_EQ(outcome, "Dog");
+    EXPECT_FALSE(suggestions().isVisible());
+    expectOutcome(1, 0);
+}
+
+TEST_F(FilterComboFieldHands, tabStaysWhereASlotHasMovedTheFocus)
+{
+    open({"Bar", "Car", "Dog"});
+    QObject::connect(box, &ComboBoxAutoFilter::selectionComplete, &before, [this] { before.setFocus(); });
+    typeText("og");
+    press(Key::Tab);
+    EXPECT_EQ(outcome, "Dog");
+    EXPECT_TRUE(before.hasFocus());
+    expectOutcome(1, 0);
+}
+
 TEST_F(FilterComboFieldHands, openingTheListDoesNotFinish)
 {
     open({"Cargo", "Car", "Dog"});

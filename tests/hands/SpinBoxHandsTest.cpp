@@ -588,6 +588,20 @@ TEST_F(ScientificLineHands, takesWhatIsTypedOverPrefixNumberAndSuffix)
     EXPECT_EQ(spin.value(), 1500);
 }
 
+TEST_F(ScientificLineHands, takesANumberThatBeginsWithTheOneItReplaces)
+{
+    begin(QStringLiteral("$"), QStringLiteral(" F"));
+    const QString whole = QStringLiteral("$9 F");
+    for (int number = 0; number < 3 && lineOf(spin).selectedText() != whole; ++number) {
+        click(lineOf(spin));
+    }
+    EXPECT_EQ(lineOf(spin).selectedText(), whole);
+    type(QStringLiteral("95"));
+    EXPECT_EQ(spin.text(), "$95 F");
+    press(Key::Return);
+    EXPECT_EQ(spin.value(), 95);
+}
+
 TEST_F(ScientificLineHands, keepsPrefixAndSuffixWhateverIsDeleted)
 {
     begin(QStringLiteral("E = "), QStringLiteral("%"));

@@ -138,6 +138,28 @@ TEST_F(QuestionScriptTest, endsABoxWithoutTheButtonAndWithoutEscape)
     EXPECT_FALSE(user.isFinished());
 }
 
+TEST_F(QuestionScriptTest, endsABoxWhoseButtonIsDisabled)
+{
+    QuestionScript user;
+    user.answers(QString(), QMessageBox::Ok);
+    QMessageBox box(QMessageBox::Question, QString(), QStringLiteral("Which?"), QMessageBox::Ok | QMessageBox::Cancel);
+    box.button(QMessageBox::Ok)->setEnabled(false);
+    EXPECT_EQ(box.exec(), QMessageBox::Cancel);
+    EXPECT_FALSE(user.isFinished());
+}
+
+TEST_F(QuestionScriptTest, endsABoxWithoutAnyUsableButton)
+{
+    QuestionScript user;
+    QMessageBox box(
+        QMessageBox::Question, QString(), QStringLiteral("Which?"), QMessageBox::Yes | QMessageBox::YesToAll);
+    for (QAbstractButton* const button : box.buttons()) {
+        button->setEnabled(false);
+    }
+    box.exec();
+    EXPECT_FALSE(user.isFinished());
+}
+
 TEST_F(QuestionScriptTest, leavesBoxesAloneOnceItIsGone)
 {
     {

@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace morvane::test {
 
 namespace {
@@ -18,8 +20,16 @@ void clickLater(QAbstractButton& button)
 void closeLater(QMessageBox& box)
 {
     QTimer::singleShot(0, &box, [&box] {
-        if (!box.close() && !box.buttons().isEmpty()) {
-            box.buttons().first()->click();
+        if (box.close()) {
+            return;
+        }
+        const auto buttons = box.buttons();
+        const auto usable =
+            std::find_if(buttons.begin(), buttons.end(), [](const QAbstractButton* one) { return one->isEnabled(); });
+        if (usable != buttons.end()) {
+            (*usable)->click();
+        } else {
+            box.done(QMessageBox::NoButton);
         }
     });
 }
@@ -57,7 +67,7 @@ void QuestionScript::meet(QMessageBox& box)
     if (!m_answers.empty() && box.text().contains(m_answers.front().text)) {
         button = box.button(m_answers.front().button);
     }
-    if (!button) {
+    if (!button || !button->isEnabled()) {
         m_wasSurprised = true;
         closeLater(box);
         return;

@@ -16,9 +16,9 @@ namespace morvane::test {
  * @snippet 28-test-your-save-flow/main.cpp questions
  *
  * From construction to destruction it serves every QMessageBox that the program shows. A question that is not the next
- * one in the script is closed as with Escape (or, where the box does not let that happen, with its first button), so
- * that no test waits for a person; isFinished() is false then. GUI thread only, a QApplication must be there, and one
- * script at a time.
+ * one in the script is closed as with Escape (or, where the box does not let that happen, with its first usable
+ * button), so that no test waits for a person; isFinished() is false then. GUI thread only, a QApplication must be
+ * there, and one script at a time.
  */
 class QuestionScript : public QObject
 {
@@ -29,7 +29,7 @@ public:
     /**
      * Adds an answer to the end of the script.
      * @param text   part of the question's text; empty: any question
-     * @param button the button that is clicked; the box must have it
+     * @param button the button that is clicked; the box must have it, enabled
      */
     QuestionScript& answers(const QString& text, QMessageBox::StandardButton button);
 

@@ -1,9 +1,12 @@
 #include "testing/RecordingControls.h"
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingItems.h"
+#include "ui/qt/dialogs/shell/TypedNames.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace morvane::test {
 
@@ -56,12 +59,16 @@ void RecordingDialog::userAccepts()
         return;
     }
     const bool mustExist = (m_options & FOS_FILEMUSTEXIST) != 0 && m_shell.script.results.isEmpty();
-    if (mustExist && !QFileInfo::exists(paths.first())) {
+    const auto exists = [](const QString& path) { return QFileInfo::exists(path); };
+    if (mustExist && !std::all_of(paths.begin(), paths.end(), exists)) {
         return;
     }
     if (m_saving && (m_options & FOS_OVERWRITEPROMPT) && QFileInfo::exists(paths.first()) &&
         (!mayReplace(paths.first()) || m_outcome)) {
         return;
+    }
+    if (m_saving && paths.size() > 1) {
+        m_fileName = ui::typedTextOfNames(paths); // a save dialog has no list of results
     }
     m_results = paths;
     const HRESULT answer = fire([this](IFileDialogEvents& sink) { return sink.OnFileOk(this); });
@@ -166,8 +173,15 @@ QStringList RecordingDialog::chosenPaths() const
     if (!m_shell.script.results.isEmpty()) {
         return m_shell.script.results;
     }
-    const QString name = fileName();
-    return name.isEmpty() ? QStringList() : QStringList(QDir(folder()).absoluteFilePath(name));
+    const bool isSeveralAllowed = (m_options & FOS_ALLOWMULTISELECT) != 0;
+    const QStringList listed = isSeveralAllowed ? ui::quotedNames(fileName()) : QStringList();
+    QStringList paths;
+    for (const QString& name : listed.isEmpty() ? QStringList(fileName()) : listed) {
+        if (!name.isEmpty()) {
+            paths.append(QDir(folder()).absoluteFilePath(name));
+        }
+    }
+    return paths;
 }
 
 } // namespace morvane::test

@@ -23,7 +23,33 @@ protected:
     }
 };
 
+/** Shows its texts with a unit, and takes them without. */
+class ModelWithUnit : public QStringListModel
+{
+public:
+    using QStringListModel::QStringListModel;
+
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        const QVariant text = QStringListModel::data(index, role);
+        return role == Qt::DisplayRole ? text.toString() + QStringLiteral(" V") : text;
+    }
+};
+
 } // namespace
+
+TEST_F(ComboBoxField, goesByTheTextThatItsLineShows)
+{
+    ModelWithUnit model(QStringList{QStringLiteral("12"), QStringLiteral("2")});
+    box->setListModel(
+        &model, true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
+    box->setCurrentIndex(0);
+    box->lineEdit()->setText(QStringLiteral("2"));
+    EXPECT_TRUE(box->validateEntry());
+    EXPECT_EQ(box->currentIndex(), 1);
+    box->lineEdit()->setText(QStringLiteral("2 V"));
+    EXPECT_FALSE(box->validateEntry()) << "no line shows this";
+}
 
 TEST_F(ComboBoxField, isAPropertyThatStartsAsASingleEdit)
 {

@@ -202,6 +202,24 @@ TEST_F(LaunchFileDialogNative, givesTheFileOfASaveDialogThatAllowsSeveral)
     EXPECT_THAT(files, ElementsAre("/a.dat"));
 }
 
+TEST_F(LaunchFileDialogNative, givesTheFilesThatItStartedWithWhenTheUserOnlyAccepts)
+{
+    const QTemporaryDir folder;
+    Texts paths;
+    for (const char* const name : {"a.dat", "b.dat"}) {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        paths.push_back(file.fileName().toStdString());
+    }
+    m_shell.script.duringShow = [](RecordingDialog& user) { user.userAccepts(); };
+    EXPECT_TRUE(launch(paths, false, true, 0));
+    EXPECT_EQ(files.size(), 2U);
+    m_shell.script.duringShow = nullptr;
+    m_shell.script.results = QStringList({QStringLiteral("/a.dat"), QStringLiteral("/b.dat")});
+    EXPECT_TRUE(launch({}, true, true, 0)) << "saving has no list of results";
+    EXPECT_EQ(files.size(), 2U);
+}
+
 TEST_F(LaunchFileDialogNative, reportsTheFirstOfEqualFiltersAndNoneForNone)
 {
     filters = {"Data (*.dat)", "Text (*.txt)", "Text (*.txt)"};

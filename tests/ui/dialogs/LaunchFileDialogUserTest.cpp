@@ -37,6 +37,38 @@ TEST_P(LaunchFileDialogUser, opensTheTypedFile)
     EXPECT_EQ(filterIndex, 0);
 }
 
+TEST_P(LaunchFileDialogUser, reportsTheChosenFilterWhateverWildcardWasTyped)
+{
+    filters = {"Data (*.dat)", "Data (*.csv)"};
+    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogPage& page) {
+        page.enterName(QStringLiteral("*.dat"));
+        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+        page.enterName(QStringLiteral("b.dat"));
+    }));
+    EXPECT_THAT(files, ElementsAre(reported("b.dat")));
+    EXPECT_EQ(filterIndex, 1);
+}
+
+TEST_P(LaunchFileDialogUser, startsWithTheFilterWhateverBlanksItsTextHas)
+{
+    filters = {"Text (*.txt)", "Table  (*.dat )"};
+    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogPage& page) {
+        EXPECT_EQ(page.typeCombo().currentIndex(), 1);
+        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+        page.enterName(QStringLiteral("b.dat"));
+    }));
+    EXPECT_EQ(filterIndex, 1);
+}
+
+TEST_P(LaunchFileDialogUser, startsSavingWithTheNamesOfSeveralFilesAsTheyAre)
+{
+    filters = {"Text (*.txt)", "Data (*.dat)"};
+    launch({text("a.dat"), text("b.dat")}, true, true, 0, [](FileDialogPage& page) {
+        EXPECT_EQ(page.name().count(QLatin1Char('"')), 4) << page.name().toStdString();
+        EXPECT_EQ(page.name().count(QStringLiteral(".dat\"")), 2) << page.name().toStdString();
+    });
+}
+
 TEST_P(LaunchFileDialogUser, opensTheClickedFileOfThePickedType)
 {
     EXPECT_TRUE(launch({text("a.dat")}, false, false, 0, [](FileDialogPage& page) {

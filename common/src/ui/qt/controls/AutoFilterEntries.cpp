@@ -10,12 +10,14 @@ int findEntry(const QAbstractItemModel& entries, int column, const QModelIndex& 
 {
     // What findText(text, Qt::MatchContains) finds, with the text prepared once instead of for each entry.
     const QStringMatcher contained(text, Qt::CaseInsensitive);
+    // A form field goes by what its line shows, which is the edit role.
+    const int role = preference == EntryPreference::Equal ? Qt::EditRole : Qt::DisplayRole;
     const int last = qMin(entries.rowCount(root), rows);
     int equal = -1;
     int containing = -1;
     for (int row = 0; row < last; ++row) {
         const QModelIndex entry = entries.index(row, column, root);
-        const QString candidate = entry.data().toString();
+        const QString candidate = entry.data(role).toString();
         if (contained.indexIn(candidate) < 0 || !isEnabledEntry(entry)) {
             continue;
         }

@@ -168,6 +168,10 @@ void ComboBoxAutoFilter::connectLine()
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
         m_impl->pick.clear();
         m_impl->edit->begin(currentEntry());
+        if (m_impl->mode == FormField) {
+            // While the suggestions are open, the completer keeps the loss of the focus to itself.
+            watchFocusFromAway();
+        }
     });
 }
 
@@ -349,9 +353,13 @@ bool ComboBoxAutoFilter::event(QEvent* event)
     // The combo box has the focus for its line, and QWidget would hand Tab to the focus chain before the line sees it.
     if (AutoFilterLineEdit::isTabPress(*event) && (isField || ownLine(*this))) {
         const QPointer<ComboBoxAutoFilter> self(this);
+        const QWidget* const focused = window()->focusWidget();
         keyPressEvent(static_cast<QKeyEvent*>(event));
-        if (isField && self) {
+        if (isField) {
             event->accept();
+        }
+        // A slot may have moved it, by hiding or disabling the field for instance.
+        if (isField && self && window()->focusWidget() == focused) {
             focusNextPrevChild(true);
         }
         return true;
@@ -425,11 +433,12 @@ bool ComboBoxAutoFilter::filterListTab(QKeyEvent& event)
     }
     const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
     const QPointer<ComboBoxAutoFilter> self(this);
+    const QWidget* const focused = window()->focusWidget();
     if (view()->currentIndex().isValid()) {
         onCurrentIndexChanged(view()->currentIndex());
     }
     onEditingFinished();
-    if (self) {
+    if (self && window()->focusWidget() == focused) {
         focusNextPrevChild(!isBack);
     }
     return true;

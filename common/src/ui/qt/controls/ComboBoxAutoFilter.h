@@ -42,6 +42,7 @@ namespace morvane::ui {
  * | line        | Return, Enter              | selectionComplete(), or editingCanceled() if nothing fits |
  * | line        | leaves it after an edit    | the same; so with Tab, Shift+Tab, a click elsewhere       |
  * | line        | leaves it without an edit  | none                                                      |
+ * | line        | wheel, without the focus   | selectionComplete(): exactly this entry                   |
  * | line        | another window, a menu     | none: the edit goes on afterwards                         |
  * | line        | Escape during an edit      | editingCanceled()                                         |
  * | line        | Return, Enter, Escape else | the dialog around gets the key, too                       |
@@ -49,8 +50,9 @@ namespace morvane::ui {
  * | popup list  | Tab, Shift+Tab             | selectionComplete(): exactly this entry; moves on         |
  *
  * In a FormField, a text that equals an entry, whatever the case, stands for this entry before one that merely contains
- * it, and an empty text stands for none. An edit begins with what a user types, marks or steps to. Whenever one is
- * cancelled, the entry from before it is current again, and the line shows its text. Reading the combo box during an
+ * it, and an empty text stands for none. An edit begins with what a user types, marks or steps to; a text that the
+ * program has put into the line, and that is not the current entry's, counts as one, too. Whenever one is cancelled,
+ * the entry from before it is current again, and the line shows its text. Reading the combo box during an
  * edit, for instance from a shortcut that leaves the focus where it is, starts with validateEntry().
  *
  * In both modes: an entry that was picked or marked is taken even where another one has the same text or contains it.

@@ -1,6 +1,7 @@
 #include "ui/qt/controls/NumberLineValidator.h"
 
 #include <QDoubleSpinBox>
+#include <QLineEdit>
 
 #include <algorithm>
 #include <utility>
@@ -35,6 +36,15 @@ NumberLineValidator::NumberLineValidator(QDoubleSpinBox* spinBox) : QDoubleValid
 
 NumberLineValidator::~NumberLineValidator() = default;
 
+void NumberLineValidator::follow(const QLineEdit& line)
+{
+    connect(&line, &QLineEdit::selectionChanged, this, [this, &line] {
+        // It comes after the change that has taken the selection away was validated.
+        m_isNumberSelected = line.hasSelectedText() && line.selectionEnd() > m_spinBox.prefix().size() &&
+                             line.selectionStart() < line.text().size() - m_spinBox.suffix().size();
+    });
+}
+
 QValidator::State NumberLineValidator::validate(QString& input, int& pos) const
 {
     if (!input.isEmpty() && input == m_spinBox.specialValueText()) {
@@ -48,7 +58,8 @@ QValidator::State NumberLineValidator::validate(QString& input, int& pos) const
     trim(number, cursor);
     const QString line = m_spinBox.prefix() + number + m_spinBox.suffix();
     const State state = QDoubleValidator::validate(number, cursor);
-    if (state == Invalid || (wasTyped && number.isEmpty()) || (line == m_line && line != input)) {
+    const bool onlyAffixesChange = line == m_line && line != input && !m_isNumberSelected;
+    if (state == Invalid || (wasTyped && number.isEmpty()) || onlyAffixesChange) {
         return Invalid;
     }
     input = line;

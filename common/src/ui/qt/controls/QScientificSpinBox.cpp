@@ -57,7 +57,7 @@ public:
     int m_decimals = mostDigits;
     QChar m_delimiter = QLatin1Char('.');
     QChar m_groupSeparator = QLatin1Char(',');
-    QDoubleValidator* m_validator;
+    NumberLineValidator* m_validator;
     QDoubleSpinBox* m_spinBox;
     boost::signals2::signal<void()>* m_increment;
     boost::signals2::signal<void()>* m_decrement;
@@ -120,6 +120,7 @@ QScientificSpinBox::QScientificSpinBox(QWidget* parent)
     expectGuiThread("QScientificSpinBox");
     // Before anything that shows the value anew: the validator of the base class would ask validate() each time.
     lineEdit()->setValidator(m_private->m_validator);
+    m_private->m_validator->follow(*lineEdit());
     setLocale(english());
     QDoubleSpinBox::setDecimals(allDigits);
     m_private->m_decimals = initialDigits;

@@ -3,6 +3,8 @@
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 
+#include <QComboBox>
+
 bool ExtendedFileDialog::m_useNativeFileDialog = true;
 
 bool ExtendedFileDialog::useNativeFileDialog()
@@ -104,6 +106,16 @@ void ExtendedFileDialog::setNameFilters(const QStringList& filters)
     } else if (m_qtDialog) {
         m_qtDialog->setNameFilters(filters);
     }
+}
+
+int ExtendedFileDialog::chosenFilter()
+{
+    if (m_qtDialog && !m_qtDialog->m_savedNameFilters.isEmpty()) {
+        // A filter that was edited by a typed wildcard may read like another one.
+        const QStringList& given = m_qtDialog->m_savedNameFilters;
+        return given.indexOf(given.value(m_qtDialog->m_fileTypeCombo->currentIndex()));
+    }
+    return nameFilters().indexOf(selectedNameFilter());
 }
 
 QString ExtendedFileDialog::selectedNameFilter()

@@ -86,6 +86,9 @@ public:
 private:
     friend struct morvane::ui::ParentlessFileDialog;
 
+    /** The position of the chosen filter in the host's list, of equal ones the first; -1 without. */
+    int chosenFilter();
+
     // For callers that may have no parent.
     ExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode);

@@ -20,6 +20,8 @@ struct ParentlessFileDialog
     {
         return ExtendedFileDialog(parent, caption, std::string(), filter, std::string(), acceptMode);
     }
+
+    static int chosenFilter(ExtendedFileDialog& dialog) { return dialog.chosenFilter(); }
 };
 
 namespace {
@@ -65,7 +67,9 @@ QString selectionText(const std::vector<std::string>& selection, bool allowMulti
 void selectFilter(ExtendedFileDialog& dialog, const std::vector<std::string>& nameFilters, int index)
 {
     if (static_cast<std::size_t>(index) < nameFilters.size()) {
-        dialog.selectNameFilter(fromUtf8(nameFilters[static_cast<std::size_t>(index)]));
+        // The Qt dialog has simplified the blanks.
+        const QString given = fromUtf8(nameFilters[static_cast<std::size_t>(index)]);
+        dialog.selectNameFilter(dialog.nameFilters().contains(given) ? given : given.simplified());
     }
 }
 
@@ -95,6 +99,10 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
     }
     if (!filterFirst) {
         selectFilter(dialog, nameFilters, initialFilterIndex);
+        if (saveMode && allowMultiple && !initialSelection.empty()) {
+            // Qt gives the filter's extension to the end of the list, whatever stands there.
+            dialog.selectFile(selectionText(initialSelection, allowMultiple));
+        }
     }
 
     if (dialog.exec() != QDialog::Accepted) {
@@ -108,7 +116,7 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
     for (int i = 0; i < selected.size(); ++i) {
         files[static_cast<std::size_t>(i)] = selected[i].toUtf8().toStdString();
     }
-    filterIndex = dialog.nameFilters().indexOf(dialog.selectedNameFilter());
+    filterIndex = ParentlessFileDialog::chosenFilter(dialog);
     return true;
 }
 

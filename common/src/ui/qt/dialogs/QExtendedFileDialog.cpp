@@ -146,7 +146,10 @@ void QExtendedFileDialog::accept()
     const QString description = selected.left(selected.indexOf(QLatin1Char('(')));
     // setNameFilters() simplifies white space, and selectNameFilter() wants the very text that it shows.
     m_modifiedNameFilter = QString(description + QLatin1Char('(') + text + QLatin1Char(')')).simplified();
-    const int position = filters.indexOf(selected);
+    // Found in the caller's list: an edited filter may read like another one.
+    const int position = m_savedNameFilters.size() == filters.size()
+                             ? m_savedNameFilters.indexOf(m_savedNameFilters.value(m_fileTypeCombo->currentIndex()))
+                             : filters.indexOf(selected);
     if (position >= 0) {
         filters[position] = m_modifiedNameFilter;
     }
@@ -158,6 +161,7 @@ void QExtendedFileDialog::accept()
         m_fileTypeCombo->setCurrentIndex(position); // it may read like another one now
     }
     m_fileTypeCombo->blockSignals(false);
+    m_fileNameEdit->setText(text); // Qt has given it the extension of the filter
     connect(m_fileTypeCombo, SIGNAL(activated(QString)), this, SLOT(revertModifiedFilterAndSelect(QString)),
         Qt::UniqueConnection);
 }

@@ -16,7 +16,8 @@
  * handle, and the renaming may be refused meanwhile. Elsewhere what was made is compared with what has the name; that
  * is moved to a name of its own, compared again there, and removed, or given its name back. For that moment the name
  * may be missing. A process that opens the very file that was made is refused on Windows; elsewhere the file is removed
- * if it is still empty, and what is written later goes with it.
+ * if it is still empty, and what is written later goes with it. Without hard links, or without a place for another name
+ * in the same folder, a file that arrives at that very moment may be lost.
  */
 bool checkWriteAccess(const boost::filesystem::path& target);
 
