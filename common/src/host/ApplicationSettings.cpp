@@ -51,6 +51,8 @@ bool isMissingOrFile(const QString& fileName)
 // QLockFile's own waiting backs off to seconds, which starves a process among busy ones.
 bool acquire(QLockFile& lock, const QDeadlineTimer& deadline)
 {
+    // A process that is killed while it makes its lock leaves an empty file. Qt takes no lock from a living process.
+    lock.setStaleLockTime(longestWaitMs / 2);
     while (!lock.tryLock(0)) {
         if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired()) {
             return false;
