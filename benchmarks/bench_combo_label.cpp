@@ -296,7 +296,7 @@ void elidedLabelPaint(benchmark::State& state)
 
 void plainLabelPaint(benchmark::State& state)
 {
-    paint<QxtLabel>(state);
+    paint<morvane::compat::QxtLabel>(state);
 }
 
 MORVANE_BENCHMARK(comboFirstKey)->UseManualTime()->Iterations(1)->Repetitions(31);

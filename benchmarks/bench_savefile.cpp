@@ -89,4 +89,4 @@ MORVANE_BENCHMARK(probeNewName);
 MORVANE_BENCHMARK(openCloseRemove);
 
 MORVANE_RATIO(extension_rule, ruleByHand, ruleByExpressions, 0.2);
-MORVANE_RATIO(write_probe, probeNewName, openCloseRemove, 2);
+MORVANE_RATIO(write_probe, probeNewName, openCloseRemove, 2.5);

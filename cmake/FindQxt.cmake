@@ -1,21 +1,28 @@
-# Finds the widgets of Qxt, which brings no CMake package of its own, and makes the target Qxt::Widgets.
-# The library is called QxtWidgets in newer and QxtGui in older releases, and its header directory likewise.
+# Finds the widgets of Qxt, which brings no CMake package of its own, and makes the targets Qxt::Widgets and Qxt::Core.
+# The libraries are called QxtWidgets and QxtCore, in older releases QxtGui and QxtCore, and so are the header directories.
 # Qxt_ROOT leads the search to a prefix.
 find_path(Qxt_INCLUDE_DIR NAMES QxtLabel PATH_SUFFIXES QxtWidgets qxt/QxtWidgets QxtGui qxt/QxtGui)
 find_library(Qxt_LIBRARY NAMES QxtWidgets QxtWidgets-qt5 QxtGui QxtGui-qt5)
-mark_as_advanced(Qxt_INCLUDE_DIR Qxt_LIBRARY)
+# The headers of the widgets include those of the core, which stand in a sibling directory.
+get_filename_component(Qxt_parent "${Qxt_INCLUDE_DIR}" DIRECTORY)
+find_path(Qxt_CORE_INCLUDE_DIR NAMES qxtglobal.h HINTS ${Qxt_parent}/QxtCore PATH_SUFFIXES QxtCore qxt/QxtCore)
+find_library(Qxt_CORE_LIBRARY NAMES QxtCore QxtCore-qt5)
+unset(Qxt_parent)
+mark_as_advanced(Qxt_INCLUDE_DIR Qxt_LIBRARY Qxt_CORE_INCLUDE_DIR Qxt_CORE_LIBRARY)
 
 include(FindPackageHandleStandardArgs)
-find_package_handle_standard_args(Qxt REQUIRED_VARS Qxt_LIBRARY Qxt_INCLUDE_DIR)
+find_package_handle_standard_args(Qxt
+    REQUIRED_VARS Qxt_LIBRARY Qxt_INCLUDE_DIR Qxt_CORE_LIBRARY Qxt_CORE_INCLUDE_DIR)
 
 if(Qxt_FOUND AND NOT TARGET Qxt::Widgets)
-    cmake_path(GET Qxt_INCLUDE_DIR PARENT_PATH Qxt_parent)
+    add_library(Qxt::Core UNKNOWN IMPORTED)
+    set_target_properties(Qxt::Core PROPERTIES
+        IMPORTED_LOCATION "${Qxt_CORE_LIBRARY}"
+        INTERFACE_INCLUDE_DIRECTORIES "${Qxt_CORE_INCLUDE_DIR}")
+    # A program loads the core itself: what QxtWidgets needs stands where only the program is told to look.
     add_library(Qxt::Widgets UNKNOWN IMPORTED)
     set_target_properties(Qxt::Widgets PROPERTIES
         IMPORTED_LOCATION "${Qxt_LIBRARY}"
-        INTERFACE_INCLUDE_DIRECTORIES "${Qxt_INCLUDE_DIR}")
-    # Its headers include those of QxtCore, a sibling directory.
-    if(EXISTS "${Qxt_parent}/QxtCore")
-        set_property(TARGET Qxt::Widgets APPEND PROPERTY INTERFACE_INCLUDE_DIRECTORIES "${Qxt_parent}/QxtCore")
-    endif()
+        INTERFACE_INCLUDE_DIRECTORIES "${Qxt_INCLUDE_DIR}"
+        INTERFACE_LINK_LIBRARIES Qxt::Core)
 endif()

@@ -10,13 +10,18 @@ if(MORVANE_BUILD_TESTING_LIBRARY)
     install(TARGETS morvane-testing EXPORT MorvaneTestingTargets
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Testing)
     install(EXPORT MorvaneTestingTargets NAMESPACE Morvane:: DESTINATION ${package_dir} COMPONENT Testing)
+    export(EXPORT MorvaneTestingTargets NAMESPACE Morvane:: FILE ${PROJECT_BINARY_DIR}/MorvaneTestingTargets.cmake)
 endif()
+
+# The same package straight from the build directory: -DMorvane_DIR=...
+export(EXPORT MorvaneTargets NAMESPACE Morvane:: FILE ${PROJECT_BINARY_DIR}/MorvaneTargets.cmake)
 
 get_property(uses_qxt GLOBAL PROPERTY MORVANE_USES_QXT)
 set(MORVANE_PACKAGE_NEEDS_QXT FALSE)
 if(uses_qxt)
     set(MORVANE_PACKAGE_NEEDS_QXT TRUE)
     install(FILES ${CMAKE_CURRENT_LIST_DIR}/FindQxt.cmake DESTINATION ${package_dir} COMPONENT Development)
+    configure_file(${CMAKE_CURRENT_LIST_DIR}/FindQxt.cmake ${PROJECT_BINARY_DIR}/FindQxt.cmake COPYONLY)
 endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/MorvaneConfig.cmake.in
     ${PROJECT_BINARY_DIR}/MorvaneConfig.cmake INSTALL_DESTINATION ${package_dir})

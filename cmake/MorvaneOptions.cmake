@@ -17,9 +17,17 @@ option(MORVANE_BUILD_FUZZERS "Build the fuzzing harnesses with libFuzzer (clang)
 option(MORVANE_INSTALL "Provide the install rules" ${PROJECT_IS_TOP_LEVEL})
 set(MORVANE_HOST_LIBRARY "" CACHE STRING
     "CMake target or library file that implements the host services in place of libmorvane-host")
-set(MORVANE_WITH_CTK AUTO CACHE STRING "ctkCompleter from CTK: AUTO (where found), ON (required) or OFF (the stand-in)")
-set(MORVANE_WITH_QXT AUTO CACHE STRING "QxtLabel from Qxt: AUTO (where found), ON (required) or OFF (the stand-in)")
-set_property(CACHE MORVANE_BUILD_DESIGNER MORVANE_WITH_CTK MORVANE_WITH_QXT PROPERTY STRINGS AUTO ON OFF)
+set_property(CACHE MORVANE_BUILD_DESIGNER PROPERTY STRINGS AUTO ON OFF)
+option(MORVANE_WITH_CTK "Take ctkCompleter from CTK instead of the stand-in" OFF)
+option(MORVANE_WITH_QXT "Take QxtLabel from Qxt instead of the stand-in" OFF)
+foreach(switch IN ITEMS MORVANE_WITH_CTK MORVANE_WITH_QXT)
+    # What these switches held initially in earlier versions: build directories of that time still have it.
+    if(${switch} STREQUAL "AUTO")
+        message(WARNING "${switch} no longer knows AUTO and is OFF now: the stand-in is used. ON takes the package.")
+        set(${switch} OFF CACHE BOOL "" FORCE)
+        set(${switch} OFF)
+    endif()
+endforeach()
 
 # They are written with it.
 if(MORVANE_BUILD_TESTS OR MORVANE_BUILD_EXAMPLES OR MORVANE_BUILD_BENCHMARKS OR MORVANE_BUILD_FUZZERS)

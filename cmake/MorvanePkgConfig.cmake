@@ -1,48 +1,78 @@
-# The same packages for builds without CMake. The files hold no path of the place that they are installed to.
+# The same packages for builds without CMake: one to install, which holds no path of the place that it is installed to, and
+# one for the build directory, which pkg-config prefers where it finds both.
 
-# morvane_pkg_config(NAME name DESCRIPTION text [COMPONENT name] [REQUIRES ...] [CFLAGS ...] [LIBS ...])
+# morvane_pkg_config(NAME name DESCRIPTION text [COMPONENT name] [LIBRARY target] [REQUIRES ...] [CFLAGS ...] [LIBS ...])
+# LIBRARY is what the package links, before LIBS; none for headers alone.
 function(morvane_pkg_config)
-    cmake_parse_arguments(pc "" "NAME;DESCRIPTION;COMPONENT" "REQUIRES;CFLAGS;LIBS" ${ARGN})
+    cmake_parse_arguments(pc "" "NAME;DESCRIPTION;COMPONENT;LIBRARY" "REQUIRES;CFLAGS;LIBS" ${ARGN})
     if(NOT pc_COMPONENT)
         set(pc_COMPONENT Development)
     endif()
+    set(pc_directory)
+    if(pc_LIBRARY)
+        set(pc_directory $<TARGET_FILE_DIR:${pc_LIBRARY}>)
+        list(PREPEND pc_LIBS -L\${libdir} -l${pc_LIBRARY})
+    endif()
+    list(JOIN pc_REQUIRES " " pc_REQUIRES)
+    list(JOIN pc_LIBS " " pc_LIBS)
+
     file(RELATIVE_PATH prefix_from_pc /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
     string(REGEX REPLACE "/$" "" prefix_from_pc ${prefix_from_pc})
-    list(PREPEND pc_CFLAGS -I\${includedir}/morvane)
-    foreach(list pc_REQUIRES pc_CFLAGS pc_LIBS)
-        list(JOIN ${list} " " ${list})
-    endforeach()
-    set(pc_name ${pc_NAME})
-    set(pc_description ${pc_DESCRIPTION})
-    set(pc_requires ${pc_REQUIRES})
-    set(pc_cflags ${pc_CFLAGS})
-    set(pc_libs ${pc_LIBS})
-    configure_file(${PROJECT_SOURCE_DIR}/cmake/morvane.pc.in ${PROJECT_BINARY_DIR}/pkgconfig/${pc_NAME}.pc @ONLY)
+    morvane_write_pkg_config(${pc_NAME}.pc
+        \${pcfiledir}/${prefix_from_pc} \${prefix}/${CMAKE_INSTALL_LIBDIR} \${prefix}/${CMAKE_INSTALL_INCLUDEDIR}
+        \${includedir}/morvane)
     install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${pc_NAME}.pc
             DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT ${pc_COMPONENT})
+
+    get_property(compat_includes GLOBAL PROPERTY MORVANE_COMPAT_INCLUDES)
+    morvane_write_pkg_config(${pc_NAME}-uninstalled.pc
+        ${PROJECT_BINARY_DIR} "${pc_directory}" ${PROJECT_SOURCE_DIR}/common/src
+        \${includedir} \${prefix}/generated ${compat_includes})
 endfunction()
 
-set(host_libs -L\${libdir} -lmorvane-host)
+# morvane_write_pkg_config(FILE PREFIX LIBDIR INCLUDEDIR INCLUDE...): a part of the above.
+function(morvane_write_pkg_config file pc_PREFIX pc_LIBDIR pc_INCLUDEDIR)
+    set(pc_INCLUDES ${ARGN})
+    list(TRANSFORM pc_INCLUDES PREPEND -I)
+    list(JOIN pc_INCLUDES " " pc_INCLUDES)
+    list(JOIN pc_CFLAGS " " pc_CFLAGS)
+    file(READ ${PROJECT_SOURCE_DIR}/cmake/morvane.pc.in template)
+    string(CONFIGURE "${template}" content @ONLY)
+    file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/pkgconfig/${file} CONTENT "${content}")
+endfunction()
+
+set(host_library morvane-host)
 if(MORVANE_HOST_LIBRARY)
-    set(host_libs) # what implements the services is the host's own affair
+    set(host_library) # what implements the services is the host's own affair
 endif()
+# Qxt has no place in the system: a program must be told where to compile with it, link it and load it. Its headers are
+# system headers, as they are to CMake, because compilers warn of them.
 set(label_cflags)
 set(label_libs)
 if(MORVANE_PACKAGE_NEEDS_QXT)
-    set(label_cflags -I${Qxt_INCLUDE_DIR})
-    set(label_libs ${Qxt_LIBRARY})
-else()
-    set(label_cflags -I\${includedir}/morvane/compat/qxt)
+    set(label_cflags -isystem${Qxt_INCLUDE_DIR} -isystem${Qxt_CORE_INCLUDE_DIR})
+    foreach(library IN ITEMS ${Qxt_LIBRARY} ${Qxt_CORE_LIBRARY})
+        cmake_path(GET library PARENT_PATH directory)
+        cmake_path(GET library STEM name)
+        string(REGEX REPLACE "^lib" "" name ${name})
+        if(NOT directory IN_LIST CMAKE_CXX_IMPLICIT_LINK_DIRECTORIES)
+            list(APPEND label_libs -L${directory})
+            if(NOT WIN32)
+                list(APPEND label_libs -Wl,-rpath,${directory})
+            endif()
+        endif()
+        list(APPEND label_libs -l${name})
+    endforeach()
+    list(REMOVE_DUPLICATES label_libs)
 endif()
 
 morvane_pkg_config(NAME morvane-host DESCRIPTION "Services that Morvane calls in its host"
-    REQUIRES Qt5Core LIBS ${host_libs})
+    LIBRARY ${host_library} REQUIRES Qt5Core)
 morvane_pkg_config(NAME morvane-property DESCRIPTION "Observable, validated values"
     REQUIRES morvane-host)
 morvane_pkg_config(NAME morvane-ui DESCRIPTION "${PROJECT_DESCRIPTION}"
-    REQUIRES morvane-host morvane-property Qt5Widgets
-    CFLAGS ${label_cflags} LIBS -L\${libdir} -lmorvane-ui ${label_libs})
+    LIBRARY morvane-ui REQUIRES morvane-host morvane-property Qt5Widgets CFLAGS ${label_cflags} LIBS ${label_libs})
 if(MORVANE_BUILD_TESTING_LIBRARY)
     morvane_pkg_config(NAME morvane-testing DESCRIPTION "For tests of code that opens Morvane's dialogs"
-        COMPONENT Testing REQUIRES morvane-ui LIBS -L\${libdir} -lmorvane-testing)
+        LIBRARY morvane-testing COMPONENT Testing REQUIRES morvane-ui)
 endif()

@@ -40,7 +40,10 @@ endif()
 
 # Compiles TARGET the way all of Morvane's own code is compiled.
 function(morvane_own_code target)
-    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:morvane-build-flags>)
+    # Taken over one by one rather than linked: a static library would hand what it links on to those who use it.
+    target_compile_definitions(${target} PRIVATE $<TARGET_PROPERTY:morvane-build-flags,INTERFACE_COMPILE_DEFINITIONS>)
+    target_compile_options(${target} PRIVATE $<TARGET_PROPERTY:morvane-build-flags,INTERFACE_COMPILE_OPTIONS>)
+    target_link_options(${target} PRIVATE $<TARGET_PROPERTY:morvane-build-flags,INTERFACE_LINK_OPTIONS>)
     target_compile_features(${target} PUBLIC cxx_std_17)
     set_target_properties(${target} PROPERTIES
         CXX_EXTENSIONS OFF AUTOMOC ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)

@@ -23,10 +23,12 @@ WidgetDescription comboBox()
     widget.header = QStringLiteral("ui/qt/controls/ComboBoxAutoFilter.h");
     widget.icon = QStringLiteral("combobox");
     widget.toolTip = QStringLiteral("Filtering Combo Box");
-    widget.whatsThis = QStringLiteral("A combo box that offers the entries that contain what is typed, and that closes "
-                                      "itself when an entry is picked or the editing is cancelled.");
+    widget.whatsThis = QStringLiteral("A combo box that offers the entries that contain what is typed. With editMode "
+                                      "FormField it stays for many edits; with SingleEdit it closes itself after one.");
     widget.size = QSize(160, 32);
-    widget.properties = QStringLiteral("<property name=\"filtering\"><bool>true</bool></property>");
+    widget.properties = QStringLiteral("<property name=\"filtering\"><bool>true</bool></property>"
+                                       "<property name=\"editMode\">"
+                                       "<enum>morvane::ui::ComboBoxAutoFilter::FormField</enum></property>");
     widget.create = create<morvane::ui::ComboBoxAutoFilter>;
     return widget;
 }
@@ -42,6 +44,7 @@ WidgetDescription scientificSpinBox()
     widget.whatsThis = QStringLiteral("A spin box for numbers such as 1.5E-07. Set its range, step and value as text: "
                                       "minimumText, maximumText, singleStepText, valueText.");
     widget.size = QSize(200, 32);
+    widget.properties = QStringLiteral("<property name=\"ownValidation\"><bool>true</bool></property>");
     widget.create = create<morvane::ui::QScientificSpinBox>;
     return widget;
 }

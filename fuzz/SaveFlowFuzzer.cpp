@@ -82,7 +82,7 @@ public:
     // The flow is fuzzed without a dialog.
     void createDialog(const std::string&, const std::string&) override {}
     void setNameFilters(const QStringList&) override {}
-    void selectNameFilter(const QString&) override {}
+    void selectNameFilter(int) override {}
     void finishDialog() override {}
 
     bool run() override
@@ -96,9 +96,10 @@ public:
     }
     QStringList selectedFiles() override { return m_files; }
     QStringList nameFilters() override { return QStringList(m_filter); }
+    int selectedPosition() override { return 0; }
     QString selectedFilter() override { return m_filter; }
     QWidget* messageParent() override { return nullptr; }
-    bool isAlive() override { return true; }
+    bool hasDialog() override { return true; }
 
 private:
     FuzzInput& m_input;

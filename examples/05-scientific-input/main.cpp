@@ -21,7 +21,8 @@ int main(int argc, char** argv)
     auto* const capacitance = new QScientificSpinBox(&window);
     capacitance->setSuffix(" F");
     capacitance->setRange(1e-15, 1);
-    capacitance->setDecimals(4); // significant digits, not places behind the point
+    capacitance->setDecimals(4);         // significant digits, not places behind the point
+    capacitance->setOwnValidation(true); // spin boxes share what they refuse otherwise
     capacitance->setValue(4.7e-7);
     //! [number]
     form->addRow("&Capacitance:", capacitance);

@@ -22,11 +22,13 @@ int main(int argc, char** argv)
     box->setCompleterAttributes(
         true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
 
-    // Return, Tab or a click end the editing, Escape cancels it. Either way the combo box has closed itself by then.
-    QObject::connect(box, &ComboBoxAutoFilter::selectionComplete, outcome,
-        [=] { outcome->setText("Chosen: " + box->currentText()); });
-    QObject::connect(box, &ComboBoxAutoFilter::editingCanceled, outcome,
-        [=] { outcome->setText("Cancelled, still " + box->currentText()); });
+    // Return, Tab or a click end the editing, Escape cancels it. Either way the combo box has closed itself by then,
+    // and the current entry is the outcome; currentText() is what was typed.
+    const auto entry = [=] { return box->itemText(box->currentIndex()); };
+    QObject::connect(
+        box, &ComboBoxAutoFilter::selectionComplete, outcome, [=] { outcome->setText("Chosen: " + entry()); });
+    QObject::connect(
+        box, &ComboBoxAutoFilter::editingCanceled, outcome, [=] { outcome->setText("Cancelled, still " + entry()); });
     //! [filter]
 
     auto* const layout = new QVBoxLayout(&window);

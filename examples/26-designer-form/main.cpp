@@ -16,8 +16,13 @@ int main(int argc, char** argv)
 
     // The widgets have the names that they were given in Designer.
     QObject::connect(form.start, &QAbstractButton::clicked, &window, [&] {
+        // Alt+T comes here without leaving the field, so that takes in what has been typed so far.
+        form.substance->validateEntry();
         QMessageBox::information(&window, "Measurement",
-            QString("%1 samples at %2 A").arg(form.samples->value()).arg(form.current->value()));
+            QString("%1 samples of %2 at %3 A")
+                .arg(form.samples->value())
+                .arg(form.substance->itemText(form.substance->currentIndex()))
+                .arg(form.current->value()));
     });
     //! [form]
     window.show();

@@ -2,27 +2,46 @@
 cmake_minimum_required(VERSION 3.25)
 file(REMOVE_RECURSE ${WORK_DIR})
 
-# Enough of the two packages to be found.
+# Enough of the two packages to be found. CTK's names a part of Qt and does not look for it, as the real one does.
+function(write_ctk prefix needed)
+    file(WRITE ${prefix}/lib/cmake/ctk-0.1/CTKConfig.cmake
+        "add_library(CTKCore SHARED IMPORTED)\n"
+        "add_library(CTKWidgets SHARED IMPORTED)\n"
+        "set_target_properties(CTKCore CTKWidgets PROPERTIES IMPORTED_LOCATION ${prefix}/lib/libCTKWidgets.so)\n"
+        "set_target_properties(CTKWidgets PROPERTIES INTERFACE_LINK_LIBRARIES \"CTKCore;Qt5::Widgets;${needed}\")\n")
+endfunction()
 set(prefix ${WORK_DIR}/prefix)
-file(WRITE ${prefix}/lib/cmake/ctk-0.1/CTKConfig.cmake
-    "add_library(CTKWidgets SHARED IMPORTED)\n"
-    "set_target_properties(CTKWidgets PROPERTIES IMPORTED_LOCATION ${prefix}/lib/libCTKWidgets.so)\n")
-file(WRITE ${prefix}/include/QxtWidgets/QxtLabel "")
-file(WRITE ${prefix}/lib/libQxtWidgets.so "")
-set(without_widgets ${WORK_DIR}/without_widgets)
-file(WRITE ${without_widgets}/lib/cmake/ctk-0.1/CTKConfig.cmake "add_library(CTKCore SHARED IMPORTED)\n")
-
+write_ctk(${prefix} Qt5::Xml)
+foreach(file IN ITEMS include/QxtWidgets/QxtLabel include/QxtCore/qxtglobal.h lib/libQxtWidgets.so lib/libQxtCore.so)
+    file(WRITE ${prefix}/${file} "")
+endforeach()
 set(there -DCMAKE_PREFIX_PATH=${prefix})
 set(not_there -DCMAKE_DISABLE_FIND_PACKAGE_CTK=ON -DCMAKE_DISABLE_FIND_PACKAGE_Qxt=ON)
 
-# expect(RESULT MESSAGES... WITH options...): RESULT is `works` or `fails`, and each of MESSAGES is printed.
+set(without_widgets ${WORK_DIR}/without_widgets)
+file(WRITE ${without_widgets}/lib/cmake/ctk-0.1/CTKConfig.cmake "add_library(CTKCore SHARED IMPORTED)\n")
+file(WRITE ${without_widgets}/include/QxtCore/qxtglobal.h "")
+file(WRITE ${without_widgets}/lib/libQxtCore.so "")
+set(without_qt ${WORK_DIR}/without_qt)
+write_ctk(${without_qt} Qt5::NoPartOfQt)
+set(without_core ${WORK_DIR}/without_core)
+file(WRITE ${without_core}/include/QxtWidgets/QxtLabel "")
+file(WRITE ${without_core}/lib/libQxtWidgets.so "")
+set(broken ${WORK_DIR}/broken)
+file(WRITE ${broken}/lib/cmake/ctk-0.1/CTKConfig.cmake "message(FATAL_ERROR broken)\n")
+
+# expect(RESULT MESSAGES... [NOT MESSAGES...] WITH options...): RESULT is `works` or `fails`; each of MESSAGES is printed, and
+# none of those behind NOT. FROM_BEFORE keeps what the build directory knows.
 function(expect result)
-    cmake_parse_arguments(arg "" "" "WITH" ${ARGN})
-    # What was found before must not count; the compiler may stay known.
+    cmake_parse_arguments(arg "FROM_BEFORE" "" "NOT;WITH" ${ARGN})
+    set(forget -U CTK_* -U Qxt_* -U CMAKE_PREFIX_PATH -U CMAKE_DISABLE_FIND_PACKAGE_* -U MORVANE_WITH_*)
+    if(arg_FROM_BEFORE)
+        set(forget)
+    endif()
     execute_process(
         COMMAND ${CMAKE_COMMAND} -S ${MORVANE_SOURCE_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
                 -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DMORVANE_BUILD_TESTS=OFF -DMORVANE_BUILD_EXAMPLES=OFF
-                -U CTK_* -U Qxt_* -U CMAKE_PREFIX_PATH -U CMAKE_DISABLE_FIND_PACKAGE_* -U MORVANE_WITH_* ${arg_WITH}
+                ${forget} ${arg_WITH}
         RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE output)
     # Messages are wrapped where the paths in them end.
     string(REGEX REPLACE "[ \n]+" " " output "${output}")
@@ -40,24 +59,41 @@ function(expect result)
             message(SEND_ERROR "with ${arg_WITH} nothing says \"${message}\":\n${output}")
         endif()
     endforeach()
+    foreach(message IN LISTS arg_NOT)
+        string(FIND "${output}" "${message}" place)
+        if(NOT place EQUAL -1)
+            message(SEND_ERROR "with ${arg_WITH} something says \"${message}\":\n${output}")
+        endif()
+    endforeach()
 endfunction()
 
 set(ctk_stand_in "ctkCompleter: the stand-in")
 set(qxt_stand_in "QxtLabel: the stand-in")
+set(qxt "QxtLabel: ${prefix}/lib/libQxtWidgets.so")
 
+# Who asks for nothing gets the stand-ins, whatever is installed.
 expect(works ${ctk_stand_in} ${qxt_stand_in} WITH ${not_there})
-expect(works "ctkCompleter: CTK" "QxtLabel: ${prefix}/lib/libQxtWidgets.so" WITH ${there})
-expect(works ${ctk_stand_in} ${qxt_stand_in} WITH ${there} -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=OFF)
-expect(works "ctkCompleter: CTK" ${qxt_stand_in} WITH ${there} -DMORVANE_WITH_CTK=ON -DMORVANE_WITH_QXT=OFF)
-expect(works ${ctk_stand_in} "QxtLabel: ${prefix}" WITH ${there} -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=ON)
+expect(works ${ctk_stand_in} ${qxt_stand_in} NOT Warning WITH ${there})
+expect(works ${ctk_stand_in} NOT Warning WITH -DCMAKE_PREFIX_PATH=${broken})
+
+expect(works "ctkCompleter: CTK" ${qxt} WITH ${there} -DMORVANE_WITH_CTK=ON -DMORVANE_WITH_QXT=ON)
+expect(works "ctkCompleter: CTK" ${qxt_stand_in} WITH ${there} -DMORVANE_WITH_CTK=yes -DMORVANE_WITH_QXT=no)
+expect(works ${ctk_stand_in} ${qxt} WITH ${there} -DMORVANE_WITH_CTK=0 -DMORVANE_WITH_QXT=1)
+expect(works ${qxt} WITH -DQxt_ROOT=${prefix} -DMORVANE_WITH_QXT=ON)
+expect(works "ctkCompleter: CTK" WITH -DCTK_DIR=${prefix}/lib/cmake/ctk-0.1 -DMORVANE_WITH_CTK=ON)
 
 set(ctk_missing "MORVANE_WITH_CTK is ON, but CTK with its widgets was not found; set CTK_DIR")
-expect(fails ${ctk_missing} WITH ${not_there} -DMORVANE_WITH_CTK=ON)
-expect(fails "MORVANE_WITH_QXT is ON, but Qxt was not found; set Qxt_ROOT" WITH ${not_there} -DMORVANE_WITH_QXT=ON)
+set(qxt_missing "MORVANE_WITH_QXT is ON, but Qxt was not found; set Qxt_ROOT")
+foreach(machine IN ITEMS "${not_there}" -DCMAKE_PREFIX_PATH=${without_widgets})
+    expect(fails ${ctk_missing} WITH ${machine} -DMORVANE_WITH_CTK=ON)
+    expect(fails ${qxt_missing} WITH ${machine} -DMORVANE_WITH_QXT=ON)
+endforeach()
+expect(fails ${qxt_missing} WITH -DCMAKE_PREFIX_PATH=${without_core} -DMORVANE_WITH_QXT=ON)
+expect(fails Qt5NoPartOfQt WITH -DCMAKE_PREFIX_PATH=${without_qt} -DMORVANE_WITH_CTK=ON)
 
-set(no_widgets -DCMAKE_PREFIX_PATH=${without_widgets})
-expect(fails ${ctk_missing} WITH ${no_widgets} -DMORVANE_WITH_CTK=ON)
-expect(works ${ctk_stand_in} WITH ${no_widgets})
-
-expect(fails "MORVANE_WITH_CTK is 'YES'; it can be AUTO, ON or OFF" WITH ${not_there} -DMORVANE_WITH_CTK=YES)
-expect(fails "MORVANE_WITH_QXT is '0'; it can be AUTO, ON or OFF" WITH ${not_there} -DMORVANE_WITH_QXT=0)
+# A build directory of the time when the switches were initially AUTO is told once what it has now.
+foreach(package IN ITEMS CTK QXT)
+    set(gone "MORVANE_WITH_${package} no longer knows AUTO and is OFF now: the stand-in is used. ON takes the package.")
+    expect(works ${gone} ${ctk_stand_in} ${qxt_stand_in} WITH ${there} -DMORVANE_WITH_${package}:STRING=AUTO)
+    expect(works ${ctk_stand_in} ${qxt_stand_in} NOT AUTO WITH ${there} FROM_BEFORE)
+endforeach()

@@ -9,6 +9,8 @@
 
 #include <memory>
 
+using morvane::compat::ctkCompleter;
+
 namespace {
 
 QStringList offered(const ctkCompleter& completer)

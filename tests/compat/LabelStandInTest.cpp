@@ -1,4 +1,4 @@
-#include <QxtLabel>
+#include "ui/qt/compat/QxtLabel.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +9,8 @@
 #include <QTest>
 
 #include <functional>
+
+using morvane::compat::QxtLabel;
 
 namespace {
 

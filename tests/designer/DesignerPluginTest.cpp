@@ -11,6 +11,8 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QLineEdit>
+#include <QMetaEnum>
+#include <QMetaProperty>
 #include <QPluginLoader>
 #include <QTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
@@ -68,6 +70,7 @@ TEST_F(LoadedForm, hasAComboBoxThatFiltersItsEntries)
     ASSERT_TRUE(box);
     EXPECT_EQ(box->count(), 3);
     EXPECT_TRUE(box->isFiltering());
+    EXPECT_EQ(box->editMode(), ComboBoxAutoFilter::FormField);
     ASSERT_TRUE(box->completer());
     box->completer()->setCompletionPrefix("ene");
     EXPECT_EQ(box->completer()->completionCount(), 1);
@@ -83,6 +86,7 @@ TEST_F(LoadedForm, hasAScientificSpinBoxWithNumbersThatDoublesInFormsCannotHold)
     EXPECT_EQ(current->value(), 2.5e-15);
     EXPECT_EQ(current->decimals(), 4);
     EXPECT_EQ(current->text(), "2.5E-15 A");
+    EXPECT_TRUE(current->hasOwnValidation());
 }
 
 TEST_F(LoadedForm, hasAnIntegerSpinBoxWhoseStepsCanBeTaken)
@@ -113,6 +117,23 @@ TEST_F(LoadedForm, hasACommandLinkThatKeepsItsSize)
     EXPECT_EQ(start->text(), "S&tart");
     EXPECT_EQ(start->description(), "Measures with these settings.");
     EXPECT_EQ(start->minimumSizeHint(), static_cast<QWidget*>(start)->sizeHint());
+}
+
+// What dropping it on a form does.
+TEST(ANewScientificSpinBox, validatesByItselfAndCanBeToldNotTo)
+{
+    QPluginLoader plugin(pluginFile());
+    auto* const collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
+    ASSERT_TRUE(collection) << plugin.errorString().toStdString();
+    QBuffer form;
+    form.setData(collection->customWidgets().at(1)->domXml().toUtf8());
+    ASSERT_TRUE(form.open(QIODevice::ReadOnly));
+    const std::unique_ptr<QWidget> widget = load(form);
+    auto* const spinBox = dynamic_cast<QScientificSpinBox*>(widget.get());
+    ASSERT_TRUE(spinBox);
+    EXPECT_TRUE(spinBox->hasOwnValidation());
+    EXPECT_TRUE(spinBox->setProperty("ownValidation", false));
+    EXPECT_FALSE(spinBox->hasOwnValidation());
 }
 
 std::string lastPart(const ::testing::TestParamInfo<int>& info)
@@ -163,6 +184,35 @@ TEST_P(EachWidget, comesOutOfItsOwnDescriptionWithASizeThatShowsItWhole)
     EXPECT_FALSE(widget->objectName().isEmpty());
     EXPECT_GE(widget->width(), widget->minimumSizeHint().width());
     EXPECT_GE(widget->height(), widget->minimumSizeHint().height());
+}
+
+TEST(NewComboBox, isAFieldOfAForm)
+{
+    QPluginLoader plugin(pluginFile());
+    const auto* const collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
+    ASSERT_TRUE(collection);
+    QByteArray description = collection->customWidgets().at(0)->domXml().toUtf8();
+    const auto made = [](QByteArray& xml) {
+        QBuffer form(&xml);
+        EXPECT_TRUE(form.open(QIODevice::ReadOnly));
+        return load(form);
+    };
+    const auto isField = [](const std::unique_ptr<QWidget>& widget) {
+        const auto* const box = dynamic_cast<ComboBoxAutoFilter*>(widget.get());
+        return box && box->editMode() == ComboBoxAutoFilter::FormField;
+    };
+    EXPECT_TRUE(isField(made(description)));
+    description.replace("FormField", "SingleEdit");
+    EXPECT_FALSE(isField(made(description))) << "the property decides";
+}
+
+// Designer's property editor offers the names of an enumeration.
+TEST(NewComboBox, offersItsModesByName)
+{
+    const QMetaObject& type = ComboBoxAutoFilter::staticMetaObject;
+    const QMetaProperty mode = type.property(type.indexOfProperty("editMode"));
+    EXPECT_TRUE(mode.isWritable() && mode.isDesignable() && mode.isStored() && mode.isEnumType());
+    EXPECT_EQ(QByteArray(mode.enumerator().valueToKeys(ComboBoxAutoFilter::FormField)), "FormField");
 }
 
 TEST_P(EachWidget, isMadeWithTheParentThatIsGiven)

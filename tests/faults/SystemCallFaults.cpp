@@ -4,6 +4,7 @@
 #include <cstdarg>
 #include <cstddef>
 #include <cstdio>
+#include <utility>
 
 #include <dlfcn.h>
 #include <sys/types.h>
@@ -21,10 +22,21 @@ struct Plan
     int error = 0;
     int count = 0;
     const char* names[mostCalls] = {};
+    std::string awaited{};
+    std::function<void()> action{};
 };
 
 // Per thread: what other threads do with files meanwhile is none of the test's business.
 thread_local Plan plan;
+
+void actBefore(const char* name)
+{
+    if (plan.action && plan.awaited == name) {
+        plan.active = false;
+        std::exchange(plan.action, nullptr)();
+        plan.active = true;
+    }
+}
 
 /** Whether this call is the one that fails; sets errno then. */
 bool fails(const char* name)
@@ -32,6 +44,7 @@ bool fails(const char* name)
     if (!plan.active || plan.count == mostCalls) {
         return false;
     }
+    actBefore(name);
     plan.names[plan.count++] = name;
     if (plan.count != plan.failing) {
         return false;
@@ -53,9 +66,17 @@ SystemCallFaults::SystemCallFaults(int failing, int error)
     plan = Plan{true, failing, error};
 }
 
+SystemCallFaults::SystemCallFaults(std::string call, std::function<void()> action)
+{
+    plan = Plan{true};
+    plan.awaited = std::move(call);
+    plan.action = std::move(action);
+}
+
 SystemCallFaults::~SystemCallFaults()
 {
     plan.active = false;
+    plan.action = nullptr;
 }
 
 std::vector<std::string> SystemCallFaults::calls()
@@ -74,8 +95,15 @@ extern "C" {
 MORVANE_TEST_EXPORT int stat64(const char* path, void* status);
 MORVANE_TEST_EXPORT int lstat64(const char* path, void* status);
 MORVANE_TEST_EXPORT int fstat64(int file, void* status);
+MORVANE_TEST_EXPORT int stat(const char* path, void* status);
+MORVANE_TEST_EXPORT int lstat(const char* path, void* status);
+MORVANE_TEST_EXPORT int fstat(int file, void* status);
+MORVANE_TEST_EXPORT int open(const char* path, int flags, ...);
 MORVANE_TEST_EXPORT int open64(const char* path, int flags, ...);
+MORVANE_TEST_EXPORT int close(int file);
 MORVANE_TEST_EXPORT int unlink(const char* path);
+MORVANE_TEST_EXPORT int rename(const char* from, const char* to);
+MORVANE_TEST_EXPORT int link(const char* from, const char* to);
 MORVANE_TEST_EXPORT int rmdir(const char* path);
 MORVANE_TEST_EXPORT ssize_t readlink(const char* path, char* buffer, std::size_t size);
 MORVANE_TEST_EXPORT ssize_t getrandom(void* buffer, std::size_t size, unsigned flags);
@@ -99,10 +127,22 @@ MORVANE_TEST_EXPORT int fclose(std::FILE* file)
     return result;
 }
 
+int stat(const char* path, void* status)
+{
+    static auto* const next = original(&stat, "stat");
+    return fails("stat") ? -1 : next(path, status);
+}
+
 int stat64(const char* path, void* status)
 {
     static auto* const next = original(&stat64, "stat64");
     return fails("stat") ? -1 : next(path, status);
+}
+
+int lstat(const char* path, void* status)
+{
+    static auto* const next = original(&lstat, "lstat");
+    return fails("lstat") ? -1 : next(path, status);
 }
 
 int lstat64(const char* path, void* status)
@@ -111,10 +151,39 @@ int lstat64(const char* path, void* status)
     return fails("lstat") ? -1 : next(path, status);
 }
 
+int fstat(int file, void* status)
+{
+    static auto* const next = original(&fstat, "fstat");
+    return fails("fstat") ? -1 : next(file, status);
+}
+
 int fstat64(int file, void* status)
 {
     static auto* const next = original(&fstat64, "fstat64");
     return fails("fstat") ? -1 : next(file, status);
+}
+
+int open(const char* path, int flags, ...)
+{
+    static auto* const next = original(&open, "open");
+    va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = va_arg(arguments, unsigned);
+    va_end(arguments);
+    return fails("open") ? -1 : next(path, flags, mode);
+}
+
+int close(int file)
+{
+    static auto* const next = original(&close, "close");
+    const bool failing = fails("close");
+    const int error = errno;
+    const int result = next(file);
+    if (failing) {
+        errno = error;
+        return -1;
+    }
+    return result;
 }
 
 int open64(const char* path, int flags, ...)
@@ -131,6 +200,18 @@ int unlink(const char* path)
 {
     static auto* const next = original(&unlink, "unlink");
     return fails("unlink") ? -1 : next(path);
+}
+
+int rename(const char* from, const char* to)
+{
+    static auto* const next = original(&rename, "rename");
+    return fails("rename") ? -1 : next(from, to);
+}
+
+int link(const char* from, const char* to)
+{
+    static auto* const next = original(&link, "link");
+    return fails("link") ? -1 : next(from, to);
 }
 
 int rmdir(const char* path)

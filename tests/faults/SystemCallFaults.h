@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,7 +13,8 @@ namespace morvane::test {
  *
  * The functions stand in a shared library of their own, which comes before the C library when symbols are looked up, so
  * that calls of other libraries are seen too. Calls that the C library makes within itself are not: fopen() is one
- * call. fclose() closes its file also when it fails; every other function does nothing then. One object at a time.
+ * call. close() and fclose() close their file also when they fail; every other function does nothing then. One object
+ * at a time.
  */
 class MORVANE_TEST_EXPORT SystemCallFaults
 {
@@ -22,6 +24,12 @@ public:
      * @param error   what errno is then
      */
     explicit SystemCallFaults(int failing = 0, int error = 0);
+    /**
+     * What somebody else does just before a call.
+     * @param call   the name of the call; its first time counts
+     * @param action its own calls are not noted
+     */
+    SystemCallFaults(std::string call, std::function<void()> action);
     ~SystemCallFaults();
     SystemCallFaults(const SystemCallFaults&) = delete;
     SystemCallFaults& operator=(const SystemCallFaults&) = delete;

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -105,7 +106,7 @@ TEST_P(WriteAccessProbeFaults, answersWhicheverCallFailsAndHarmsNothing)
             }
             EXPECT_TRUE(GetParam().writable || !answer) << "a refused place";
             // What is made to try a place cannot go when the system does not remove it; nothing else changes.
-            const bool removing = (call == "unlink" || call == "lstat") && error != EINTR;
+            const bool removing = (call == "unlink" || call == "lstat" || call == "fstat") && error != EINTR;
             if (!removing) {
                 EXPECT_EQ(DiskState(m_directory.path()).text(), before.text());
             } else {
@@ -130,7 +131,7 @@ TEST_P(WriteAccessProbeFaults, isNotMisledByAnInterruption)
 TEST_P(WriteAccessProbeFaults, refusesWhenTheFileCannotBeOpened)
 {
     const Names calls = callsWithoutFault();
-    const auto opening = std::find(calls.begin(), calls.end(), "fopen");
+    const auto opening = std::find(calls.begin(), calls.end(), "open");
     if (opening == calls.end()) {
         return; // refused before
     }
@@ -141,13 +142,136 @@ TEST_P(WriteAccessProbeFaults, refusesWhenTheFileCannotBeOpened)
     }
 }
 
+namespace {
+
+/** Somebody else at work between two calls of the probe. */
+class WriteAccessProbeRival : public testing::Test
+{
+protected:
+    QString path(const char* name) const { return m_directory.filePath(QLatin1String(name)); }
+    bool probe(const char* name) const { return checkWriteAccess(path(name).toStdString()); }
+    QStringList entries() const { return QDir(m_directory.path()).entryList(QDir::Files | QDir::System); }
+
+    void write(const char* name, const QByteArray& content) const
+    {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(content), content.size());
+    }
+    QByteArray contentOf(const char* name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    }
+    /** Writes the content under another name and renames that onto this one, as careful programs do. */
+    void renameOnto(const char* name) const
+    {
+        write("theirs", "theirs");
+        fs::rename(path("theirs").toStdString(), path(name).toStdString());
+    }
+
+    const QTemporaryDir m_directory;
+};
+
+} // namespace
+
+TEST_F(WriteAccessProbeRival, keepsAFileThatItRenamesOntoTheName)
+{
+    for (const char* const call : {"fstat", "lstat", "rename"}) {
+        SCOPED_TRACE(call);
+        const SystemCallFaults rival(call, [this] { renameOnto("new"); });
+        EXPECT_TRUE(probe("new"));
+        EXPECT_EQ(contentOf("new"), "theirs");
+        EXPECT_EQ(entries(), QStringList("new"));
+        fs::remove(path("new").toStdString());
+    }
+}
+
+TEST_F(WriteAccessProbeRival, keepsWhatItWritesIntoTheFileThatTheProbeMade)
+{
+    const SystemCallFaults rival("fstat", [this] { write("new", "theirs"); });
+    EXPECT_TRUE(probe("new"));
+    EXPECT_EQ(contentOf("new"), "theirs");
+}
+
+TEST_F(WriteAccessProbeRival, keepsTheLaterOfTwoFilesThatItRenamesOntoTheName)
+{
+    std::unique_ptr<SystemCallFaults> next;
+    const auto renameTwice = [&] {
+        renameOnto("new");
+        next = std::make_unique<SystemCallFaults>("link", [this] {
+            write("later", "later");
+            fs::rename(path("later").toStdString(), path("new").toStdString());
+        });
+    };
+    const SystemCallFaults rival("rename", renameTwice);
+    EXPECT_TRUE(probe("new"));
+    EXPECT_EQ(contentOf("new"), "later");
+    EXPECT_EQ(entries(), QStringList("new"));
+}
+
+TEST_F(WriteAccessProbeRival, getsItsNameBackWhereThereAreNoHardLinks)
+{
+    std::unique_ptr<SystemCallFaults> next;
+    const auto renameWithoutLinks = [&] {
+        renameOnto("new");
+        next = std::make_unique<SystemCallFaults>(3, EPERM); // rename, lstat, link
+    };
+    const SystemCallFaults rival("rename", renameWithoutLinks);
+    EXPECT_TRUE(probe("new"));
+    EXPECT_EQ(SystemCallFaults::calls(), (Names{"rename", "lstat", "link", "rename", "close"}));
+    EXPECT_EQ(contentOf("new"), "theirs");
+    EXPECT_EQ(entries(), QStringList("new"));
+}
+
+TEST_F(WriteAccessProbeRival, mayTakeTheFileAwayThatTheProbeMade)
+{
+    const SystemCallFaults rival("lstat", [this] { fs::remove(path("new").toStdString()); });
+    EXPECT_TRUE(probe("new"));
+    EXPECT_EQ(entries(), QStringList());
+}
+
+TEST_F(WriteAccessProbeRival, keepsAFileThatItMakesBeforeTheProbeDoes)
+{
+    const SystemCallFaults rival("open", [this] { renameOnto("new"); });
+    EXPECT_TRUE(probe("new"));
+    EXPECT_EQ(contentOf("new"), "theirs");
+}
+
+TEST_F(WriteAccessProbeRival, seesItsFileVanishAgainAndTheProbeLeavesNothing)
+{
+    write("old", "content");
+    const SystemCallFaults rival("open", [this] { fs::remove(path("old").toStdString()); });
+    EXPECT_TRUE(probe("old")) << "the name was there when its status was read";
+    EXPECT_EQ(entries(), QStringList());
+}
+
+TEST_F(WriteAccessProbeRival, removesTheNameBetweenTwoLooksAtIt)
+{
+    write("new", "content");
+    const SystemCallFaults rival("readlink", [this] { fs::remove(path("new").toStdString()); });
+    EXPECT_TRUE(probeOpenForAppend(path("new").toStdString(), true));
+    EXPECT_EQ(entries(), QStringList());
+}
+
+TEST_F(WriteAccessProbeRival, isNoReasonToTakeAnUnreadableStatusForAnAbsentFile)
+{
+    write("old", "content");
+    const SystemCallFaults faults(1, EIO);
+    EXPECT_TRUE(probe("old"));
+    EXPECT_EQ(SystemCallFaults::calls().front(), "stat");
+    EXPECT_EQ(contentOf("old"), "content");
+}
+
 INSTANTIATE_TEST_SUITE_P(Places, WriteAccessProbeFaults,
-    testing::Values(Scenario{"aNewName", "new", true, {"stat", "fopen", "fclose", "lstat", "unlink"}},
-        Scenario{"aFile", "file", true, {"stat", "fopen", "fclose"}},
-        Scenario{"aFolder", "folder", true, {"stat", "getrandom", "fopen", "fclose", "lstat", "unlink"}},
-        Scenario{
-            "aLinkToNothing", "dangling", true, {"stat", "fopen", "readlink", "fopen", "fclose", "lstat", "unlink"}},
-        Scenario{"aMissingFolder", "missing/new", false, {"stat", "fopen"}}),
+    testing::Values(Scenario{"aNewName", "new", true,
+                        {"stat", "open", "fstat", "lstat", "getrandom", "rename", "lstat", "unlink", "close"}},
+        Scenario{"aFile", "file", true, {"stat", "open", "close"}},
+        Scenario{"aFolder", "folder", true,
+            {"stat", "getrandom", "open", "fstat", "lstat", "getrandom", "rename", "lstat", "unlink", "close"}},
+        Scenario{"aLinkToNothing", "dangling", true,
+            {"stat", "open", "readlink", "open", "fstat", "lstat", "getrandom", "rename", "lstat", "unlink", "close"}},
+        Scenario{"aMissingFolder", "missing/new", false, {"stat", "open"}}),
     [](const auto& place) { return place.param.name; });
 
 } // namespace morvane::test

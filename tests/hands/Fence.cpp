@@ -116,6 +116,18 @@ Fence::Fence() : m_impl(std::make_unique<Impl>()) {}
 
 Fence::~Fence() = default;
 
+bool Fence::isAt(const QWidget& window, QPoint position) const
+{
+    int x = 0;
+    int y = 0;
+    Window child = None;
+    constexpr int nearEnough = 4; // positions are rounded where the screen is scaled
+    ::Display* const display = m_impl->display;
+    return XTranslateCoordinates(display, static_cast<Window>(window.internalWinId()), DefaultRootWindow(display), 0, 0,
+               &x, &y, &child) &&
+           (QPoint(x, y) - position).manhattanLength() < nearEnough;
+}
+
 void Fence::pass()
 {
     EXPECT_TRUE(m_impl->waitForWindowManager()) << "the window manager does not answer";

@@ -2,6 +2,9 @@
 
 #include <memory>
 
+class QPoint;
+class QWidget;
+
 namespace morvane::test {
 
 /**
@@ -19,6 +22,9 @@ public:
 
     /** Processes events until all that came before this call is taken in; fails the test when that takes too long. */
     void pass();
+
+    /** Whether the server has this window, which shows, at this place of the screen. */
+    bool isAt(const QWidget& window, QPoint position) const;
 
 private:
     struct Impl;

@@ -12,6 +12,8 @@ namespace {
 
 /** Set for the program that runs the cases, by the one that has made the desktop for it. */
 constexpr const char* onDesktop = "MORVANE_HANDS_DESKTOP";
+/** How dense the screen is that the cases are to find; a factor such as 2. */
+constexpr const char* scale = "MORVANE_HANDS_SCALE";
 
 QStringList argumentsOf(int argc, char** argv)
 {
@@ -60,6 +62,9 @@ int runOnOwnDesktop(int argc, char** argv)
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     }
     environment.insert(QString::fromLatin1(onDesktop), QStringLiteral("1"));
+    if (qEnvironmentVariableIsSet(scale)) {
+        environment.insert(QStringLiteral("QT_SCALE_FACTOR"), qEnvironmentVariable(scale));
+    }
     // What libraries of the X11 platform hold when they are unloaded would count as leaks.
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
     const int result = runCases(arguments, environment);

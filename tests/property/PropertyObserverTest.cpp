@@ -51,12 +51,30 @@ TEST_F(PropertyObserverTest, toldInTheOrderOfConnectionWithTheUntypedOnesFirst)
     EXPECT_THAT(m_told, ElementsAre("untyped a", "untyped b", "typed a 1", "typed b 1"));
 }
 
-TEST_F(PropertyObserverTest, toldBeforeTheUntypedOnesOnlyWhenConnectedAtTheFront)
+TEST_F(PropertyObserverTest, toldBeforeTheUntypedOnesOnlyWhenConnectedAtTheFrontOrInAGroup)
+{
+    using boost::signals2::at_back;
+    using boost::signals2::at_front;
+    const auto note = [this](const char* name) { return [this, name](int) { m_told.push_back(name); }; };
+    observeUntyped("untyped");
+    m_property.signalValueChanged.connect(note("back"), at_back);
+    m_property.signalValueChanged.connect(1, note("group, back"), at_back);
+    m_property.signalValueChanged.connect(1, note("group, front"), at_front);
+    m_property.signalValueChanged.connect(note("front"), at_front);
+    m_property.setValue(1);
+    EXPECT_THAT(m_told, ElementsAre("front", "group, front", "group, back", "untyped", "back"));
+}
+
+TEST_F(PropertyObserverTest, keepsTheUntypedOnesFromBeingToldWhenItThrowsBeforeThem)
 {
     observeUntyped("untyped");
-    m_property.signalValueChanged.connect([this](int) { m_told.push_back("front"); }, boost::signals2::at_front);
-    m_property.setValue(1);
-    EXPECT_THAT(m_told, ElementsAre("front", "untyped"));
+    const auto thrower = m_property.signalValueChanged.connect(
+        [](int) { throw std::runtime_error("observer"); }, boost::signals2::at_front);
+    EXPECT_THROW(m_property.setValue(1), std::runtime_error);
+    EXPECT_TRUE(m_told.empty());
+    thrower.disconnect();
+    m_property.setValue(2);
+    EXPECT_THAT(m_told, ElementsAre("untyped"));
 }
 
 TEST_F(PropertyObserverTest, toldByABareEmissionOfTheTypedSignalToo)

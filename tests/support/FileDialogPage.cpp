@@ -5,10 +5,15 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QListView>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
+#include <QTreeView>
+
+#include <algorithm>
 
 namespace morvane::test {
 
@@ -137,6 +142,28 @@ void FileDialogPage::doubleClickFile(const QString& name) const
     const QPoint place = rectangleOf(name).center();
     QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, place);
     QTest::mouseDClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
+QStringList FileDialogPage::cutParts() const
+{
+    QStringList parts;
+    const auto check = [&parts](const QString& what, int needed, int given) {
+        if (needed > given) {
+            parts.append(QStringLiteral("%1 needs %2 and has %3").arg(what).arg(needed).arg(given));
+        }
+    };
+    const QAbstractItemView& sidebar = *m_dialog.findChild<QListView*>(QStringLiteral("sidebar"));
+    check(QStringLiteral("sidebar"), sidebar.sizeHintForColumn(0), sidebar.viewport()->width());
+    const auto& tree = *m_dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    const QAbstractItemView& files = tree;
+    for (int column = 1; column < tree.header()->count(); ++column) {
+        const int needed = std::max(files.sizeHintForColumn(column), tree.header()->sectionSizeHint(column));
+        check(QStringLiteral("column %1").arg(column), needed, tree.columnWidth(column));
+    }
+    const QString title = tree.model()->headerData(0, Qt::Horizontal).toString();
+    check(title, tree.fontMetrics().horizontalAdvance(title), tree.columnWidth(0));
+    check(QStringLiteral("list"), tree.header()->length(), tree.viewport()->width());
+    return parts;
 }
 
 QComboBox& FileDialogPage::typeCombo() const

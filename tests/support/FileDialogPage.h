@@ -42,6 +42,9 @@ public:
     void clickFile(const QString& name, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     void doubleClickFile(const QString& name) const;
 
+    /** What of the sidebar and of the columns is not to be seen whole, described; the names may be elided. */
+    QStringList cutParts() const;
+
     QComboBox& typeCombo() const;
     QStringList types() const;
     QString currentType() const;

@@ -38,6 +38,7 @@ protected:
         ASSERT_EQ(customize->AddCheckButton(1, text("Check").c_str(), TRUE), S_OK);
         ASSERT_EQ(dialog->SetFileName(text("name").c_str()), S_OK);
         ASSERT_EQ(dialog->SetFolder(item.get()), S_OK);
+        shell.script.showResult = S_OK;
         ASSERT_EQ(dialog->Show(nullptr), S_OK);
         ASSERT_EQ(dialog->GetResults(items.put()), S_OK);
     }

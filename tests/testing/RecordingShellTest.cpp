@@ -6,6 +6,7 @@
 #include "property/Property.h"
 #include "support/QtPrinters.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
+#include "ui/qt/dialogs/SaveFileDialog.h"
 #include "ui/qt/dialogs/shell/ShellText.h"
 
 #include <gmock/gmock.h>
@@ -257,6 +258,86 @@ TEST_F(RecordingShellTest, makesASingleCallFail)
     int shown = 0;
     run([&](RecordingDialog&) { ++shown; });
     EXPECT_EQ(shown, 1);
+}
+
+TEST(RecordingShellScript, isCancelledWhereItDoesNothing)
+{
+    RecordingShell shell;
+    const ui::ShellOverride guard(shell);
+    QWidget window;
+    ExtendedWinFileDialog dialog(window, "Save", "", "", "", QFileDialog::AcceptSave, false);
+    dialog.selectFile(QStringLiteral("proposal.dat"));
+    EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+    EXPECT_TRUE(dialog.selectedFiles().isEmpty());
+}
+
+TEST(RecordingShellScript, isCancelledWhereItStopsEarly)
+{
+    RecordingShell shell;
+    const ui::ShellOverride guard(shell);
+    QWidget window;
+    ExtendedWinFileDialog saving(window, "Save", "", "", "", QFileDialog::AcceptSave, false);
+    shell.script.duringShow = [](RecordingDialog& shown) { shown.userTypesName(QStringLiteral("typed.dat")); };
+    EXPECT_EQ(saving.exec(), QDialog::Rejected);
+    ExtendedWinFileDialog opening(window, "Open", "", "", "", QFileDialog::AcceptOpen, false);
+    opening.setFileMode(QFileDialog::ExistingFile);
+    shell.script.duringShow = [](RecordingDialog& shown) {
+        shown.userTypesName(QStringLiteral("/no/such/file"));
+        shown.userAccepts(); // and the dialog stays
+    };
+    EXPECT_EQ(opening.exec(), QDialog::Rejected);
+    EXPECT_TRUE(opening.selectedFiles().isEmpty());
+}
+
+TEST(RecordingShellScript, acceptsWhereItHasResults)
+{
+    RecordingShell shell;
+    const ui::ShellOverride guard(shell);
+    QWidget window;
+    ExtendedWinFileDialog dialog(window, "Open", "", "", "", QFileDialog::AcceptOpen, false);
+    shell.script.results = QStringList(QDir::toNativeSeparators(QStringLiteral("/no/such/file")));
+    EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+    EXPECT_EQ(dialog.selectedFiles(), shell.script.results);
+    shell.script.duringShow = [](RecordingDialog& shown) { shown.userEntersFolder(QDir::rootPath()); };
+    EXPECT_EQ(dialog.exec(), QDialog::Accepted) << "also where it does something else";
+    shell.script.duringShow = [](RecordingDialog& shown) { shown.userCancels(); };
+    EXPECT_EQ(dialog.exec(), QDialog::Rejected) << "but not against the user";
+    shell.script.duringShow = nullptr;
+    shell.script.showResult = E_ABORT;
+    EXPECT_EQ(dialog.exec(), QDialog::Rejected) << "nor against the script";
+}
+
+TEST(RecordingShellLeaks, leaveOutTheDialogThatASaveFlowKeeps)
+{
+    RecordingShell shell;
+    const ui::ShellOverride guard(shell);
+    QWidget window;
+    {
+        SaveFileDialog flow(&window, "Save", "", "new", "Data (*.dat)", "");
+        EXPECT_FALSE(flow.launch());
+        EXPECT_EQ(shell.leakedObjects(), 0);
+    }
+    EXPECT_EQ(shell.liveObjects(), 1);
+    EXPECT_EQ(shell.leakedObjects(), 0);
+}
+
+TEST(RecordingShellLeaks, showWhatAHostForgets)
+{
+    RecordingShell shell;
+    const ui::ShellOverride guard(shell);
+    QWidget window;
+    {
+        SaveFileDialog flow(&window, "Save", "", "new", "Data (*.dat)", "");
+    }
+    auto forgotten =
+        std::make_unique<ExtendedWinFileDialog>(window, "Open", "", "", "", QFileDialog::AcceptOpen, false);
+    EXPECT_EQ(shell.leakedObjects(), 1);
+    ui::ComPtr<IShellItem> folder;
+    ASSERT_EQ(shell.dialog()->GetFolder(folder.put()), S_OK);
+    EXPECT_EQ(shell.leakedObjects(), 2);
+    folder.reset();
+    forgotten.reset();
+    EXPECT_EQ(shell.leakedObjects(), 0);
 }
 
 TEST(RecordingShellLeaks, areCounted)

@@ -1,5 +1,7 @@
 #include "windows/NativeDialog.h"
 
+#include "windows/Mouse.h"
+
 #include <commctrl.h>
 
 #include <chrono>
@@ -226,31 +228,73 @@ void NativeDialog::chooseType(int index) const
     send(GetParent(combo), WM_COMMAND, MAKEWPARAM(Types, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
 }
 
-int NativeDialog::listedFiles() const
+HWND NativeDialog::list() const
 {
     HWND list = nullptr;
     EnumChildWindows(m_window, matchList, reinterpret_cast<LPARAM>(&list));
-    return static_cast<int>(send(list, LVM_GETITEMCOUNT));
+    return list;
 }
 
-bool NativeDialog::selectFile(const std::wstring& name) const
+int NativeDialog::listedFiles() const
 {
-    HWND list = nullptr;
-    EnumChildWindows(m_window, matchList, reinterpret_cast<LPARAM>(&list));
-    for (int i = 0; i < listedFiles(); ++i) {
+    return static_cast<int>(send(list(), LVM_GETITEMCOUNT));
+}
+
+int NativeDialog::positionOf(const std::wstring& name) const
+{
+    const int count = listedFiles();
+    for (int i = 0; i < count; ++i) {
         wchar_t text[260] = {};
         LVITEMW item{};
         item.pszText = text;
         item.cchTextMax = 260;
-        SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
-        if (name != text) {
-            continue;
+        send(list(), LVM_GETITEMTEXTW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+        if (name == text) {
+            return i;
         }
-        item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-        item.state = item.stateMask;
-        return SendMessageW(list, LVM_SETITEMSTATE, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item)) != 0;
     }
-    return false;
+    return -1;
+}
+
+bool NativeDialog::lists(const std::wstring& name) const
+{
+    return positionOf(name) >= 0;
+}
+
+bool NativeDialog::selectFile(const std::wstring& name) const
+{
+    const int position = positionOf(name);
+    if (position < 0) {
+        return false;
+    }
+    LVITEMW item{};
+    item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    item.state = item.stateMask;
+    return SendMessageW(list(), LVM_SETITEMSTATE, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&item)) != 0;
+}
+
+void NativeDialog::clickOn(int control) const
+{
+    RECT area{};
+    GetWindowRect(find(control), &area);
+    clickAt({(area.left + area.right) / 2, (area.top + area.bottom) / 2}, false);
+}
+
+bool NativeDialog::clickFile(const std::wstring& name, bool withControl) const
+{
+    const int position = positionOf(name);
+    if (position < 0) {
+        return false;
+    }
+    const HWND files = list();
+    send(files, LVM_ENSUREVISIBLE, static_cast<WPARAM>(position), FALSE);
+    RECT area{};
+    area.left = LVIR_LABEL;
+    send(files, LVM_GETITEMRECT, static_cast<WPARAM>(position), reinterpret_cast<LPARAM>(&area));
+    POINT middle{(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+    ClientToScreen(files, &middle);
+    clickAt(middle, withControl);
+    return true;
 }
 
 bool NativeDialog::exists(int control) const

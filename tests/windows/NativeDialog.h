@@ -61,6 +61,16 @@ public:
      */
     bool selectFile(const std::wstring& name) const;
 
+    /** Whether the list shows an entry of this name. */
+    bool lists(const std::wstring& name) const;
+
+    /**
+     * Clicks with the mouse, by events in the system's input queue: on a control, or on an entry of the list, with the
+     * key Control held down or not. False when the entry is not listed.
+     */
+    void clickOn(int control) const;
+    bool clickFile(const std::wstring& name, bool withControl = false) const;
+
     bool exists(int control) const;
     std::wstring text(int control) const;
     void press(int control) const;
@@ -84,6 +94,9 @@ public:
     void answer(int button) const;
 
 private:
+    HWND list() const;
+    /** Counted from 0; -1 when it is not listed. */
+    int positionOf(const std::wstring& name) const;
     HWND find(int control) const;
     HWND question() const;
 

@@ -119,6 +119,19 @@ TEST_F(NativeDialogResult, folderThatTheUserEntersReachesTheDirectory)
     EXPECT_EQ(dialog->directory().path(), QDir(path(folder)).path());
 }
 
+TEST_F(NativeDialogResult, closeGivesNoFileOfTheRunBefore)
+{
+    makeFile(QStringLiteral("one.dat"));
+    const auto dialog = makeDialog(QFileDialog::AcceptOpen);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->addCustomButton("Close", [&dialog] { dialog->close(); });
+    EXPECT_EQ(run(*dialog, [](NativeDialog& shown) { shown.accept(L"one.dat"); }), QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("one.dat"))));
+    const auto result = run(*dialog, [](NativeDialog& shown) { shown.press(NativeDialog::customControl(0)); });
+    EXPECT_EQ(result, QDialog::Accepted);
+    EXPECT_TRUE(dialog->selectedFiles().isEmpty());
+}
+
 TEST_F(NativeDialogResult, secondRunKeepsTypeAndControls)
 {
     const auto dialog = makeDialog(QFileDialog::AcceptOpen, "Data (*.dat);;Text (*.txt)");

@@ -59,6 +59,28 @@ TEST_F(NativeDialogType, onlyTheLastExtensionIsReplaced)
     });
 }
 
+TEST_F(NativeDialogType, nameIsOpenedWithAsItWasGiven)
+{
+    struct Opening
+    {
+        const char* filter;
+        const char* given;
+        const wchar_t* opened;
+    };
+    for (const Opening& opening : {Opening{"All files (*.*);;Data (*.dat)", "report2.txt", L"report2.txt"},
+             Opening{"All files (*.*);;Data (*.dat)", "report2", L"report2"},
+             Opening{"Data (*.dat);;All (*)", "report2.txt", L"report2.txt"},
+             Opening{"Data (*.dat);;All (*)", "report2", L"report2.dat"},
+             Opening{"Images (*.png *.jpg)", "photo", L"photo"}}) {
+        const auto dialog = makeDialog(QFileDialog::AcceptSave, opening.filter);
+        dialog->selectFile(QString::fromUtf8(opening.given));
+        run(*dialog, [&opening](NativeDialog& shown) {
+            EXPECT_EQ(shown.name(), opening.opened) << opening.filter;
+            shown.cancel();
+        });
+    }
+}
+
 TEST_F(NativeDialogType, nameStaysInAnOpenDialog)
 {
     const auto dialog = makeDialog(QFileDialog::AcceptOpen, "Data (*.dat);;All (*)");

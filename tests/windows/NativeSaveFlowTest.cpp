@@ -152,6 +152,31 @@ TEST_F(NativeSaveFlow, noShowsTheDialogAgainAndYesReplaces)
     EXPECT_EQ(contentOf(QStringLiteral("old.dat")), "old content") << "replacing is the host's part";
 }
 
+TEST_F(NativeSaveFlow, noBringsTheDialogBackAsTheUserLeftIt)
+{
+    ASSERT_TRUE(QDir(m_directory.path()).mkdir(QStringLiteral("inner")));
+    write(path(QStringLiteral("inner/old.csv")), "old content");
+    write(path(QStringLiteral("inner/mark.csv")), "so that there are two files");
+    for (const wchar_t* const name : {L"old", L"old.csv"}) {
+        const auto flow = makeFlow();
+        const auto leave = [name](NativeDialog& shown) {
+            shown.accept(L"inner");
+            EXPECT_TRUE(waitUntil([&shown] { return shown.listedFiles() == 2; }));
+            shown.chooseType(1);
+            shown.setName(name);
+            shown.accept();
+        };
+        const auto comeBack = [name](NativeDialog& shown) {
+            EXPECT_EQ(shown.name(), name);
+            EXPECT_EQ(shown.typeIndex(), 1);
+            EXPECT_TRUE(waitUntil([&shown] { return shown.listedFiles() == 2; }));
+            shown.accept(L"new");
+        };
+        EXPECT_TRUE(launch(*flow, {leave, comeBack}, {Qt::Key_N}));
+        EXPECT_EQ(flow->selectedFilename(), path(QStringLiteral("inner/new.csv")).toStdString());
+    }
+}
+
 TEST_F(NativeSaveFlow, refusedPlaceIsToldAndAnotherIsAskedFor)
 {
     const QString locked = QStringLiteral(u"閉 \U0001F512.dat");

@@ -17,8 +17,10 @@ namespace morvane {
  *
  * Hold it as `boost::shared_ptr<PropertyAbstract<T>>`; whoever lets go of the last pointer destroys it. Property is the
  * concrete class. To observe it, connect to signalValueChanged, or to signalPropertyChanged when the type does not
- * matter. Each fires exactly once for each change, after the value is stored; signalPropertyChanged fires from within
- * signalValueChanged, before the slots that were connected to the latter.
+ * matter. Each fires exactly once for each change, after the value is stored. signalPropertyChanged fires from within
+ * signalValueChanged, as its slot that was connected first. So its slots come before those of signalValueChanged that
+ * are connected as usual, at the back and without a group, and after those that are connected with
+ * boost::signals2::at_front or in a group. If one of these throws, signalPropertyChanged does not fire for that change.
  *
  * An observer may set the property again: the inner change is stored and announced before the outer announcement goes
  * on, and the observers that are still to be called for the outer one receive the outer value. Observers that need the

@@ -95,9 +95,21 @@ void RecordingDialog::play()
         m_shell.script.duringShow(*this);
     }
     if (!m_outcome) {
-        finish(m_shell.script.showResult);
-        m_results = m_outcome == S_OK ? chosenPaths() : QStringList();
+        endByItself();
     }
+}
+
+void RecordingDialog::endByItself()
+{
+    if (const auto scripted = m_shell.script.showResult) {
+        m_results = *scripted == S_OK ? chosenPaths() : QStringList();
+        finish(*scripted);
+        return;
+    }
+    if (!m_shell.script.results.isEmpty()) {
+        userAccepts();
+    }
+    finish(HRESULT_FROM_WIN32(ERROR_CANCELLED)); // unless it was accepted
 }
 
 void RecordingDialog::announceOpening()

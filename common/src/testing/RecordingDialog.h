@@ -12,7 +12,7 @@ class RecordingControls;
 /**
  * The dialog of a RecordingShell, of either kind. Its `user…` operations do what a user does while Show runs; what the
  * host hears of that, it hears inside them. Call them in ShellScript::duringShow. A dialog that was neither accepted
- * nor cancelled there ends with ShellScript::showResult.
+ * nor cancelled there is cancelled, unless the script gives results or another end (ShellScript).
  *
  * It belongs to those who hold references to it, in the end to the dialog class of the library; do not keep a pointer
  * to it beyond the life of that.
@@ -128,6 +128,7 @@ private:
     std::optional<HRESULT> record(const char* method, const std::string& arguments = std::string());
     void announceOpening();
     void play();
+    void endByItself();
     void finish(HRESULT outcome);
     QStringList chosenPaths() const;
     bool mayReplace(const QString& path);

@@ -2,6 +2,7 @@
 
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingItems.h"
+#include "ui/qt/dialogs/SaveFileKeptDialogs.h"
 #include "ui/qt/dialogs/shell/ShellText.h"
 
 #include <QDir>
@@ -35,6 +36,13 @@ int RecordingShell::count(const std::string& name) const
 {
     const auto names = callNames();
     return static_cast<int>(std::count(names.begin(), names.end(), name));
+}
+
+int RecordingShell::leakedObjects() const
+{
+    const auto kept = std::count_if(
+        m_dialogs.begin(), m_dialogs.end(), [](RecordingDialog* dialog) { return ui::isKeptForSaveFlow(*dialog); });
+    return m_liveObjects - static_cast<int>(kept);
 }
 
 void RecordingShell::failNothing()

@@ -30,11 +30,17 @@ struct ShellScript
     FILEOPENDIALOGOPTIONS saveOptions =
         FOS_NOREADONLYRETURN | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR | FOS_OVERWRITEPROMPT;
 
-    /** Plays the user (and anything else) while Show runs; may be empty. */
+    /**
+     * Plays the user (and anything else) while Show runs. Empty: the user does nothing. A dialog that is still open
+     * when it returns ends as showResult says.
+     */
     std::function<void(RecordingDialog&)> duringShow;
-    /** What Show returns when the user has neither accepted nor cancelled and nobody has called Close. */
-    HRESULT showResult = S_OK;
-    /** The chosen paths when Show ends with S_OK in either way; empty: the typed name in the folder. */
+    /**
+     * What Show returns when the user has neither accepted nor cancelled and nobody has called Close. Empty: the dialog
+     * is cancelled, unless there are results; then it is accepted as by RecordingDialog::userAccepts().
+     */
+    std::optional<HRESULT> showResult;
+    /** The chosen paths when Show ends with S_OK in any way; empty: the typed name in the folder. */
     QStringList results;
     /** What GetSelectedControlItem reports; empty: the picked or else the first item that is enabled and visible. */
     std::optional<DWORD> selectedItem;
@@ -58,7 +64,7 @@ struct ShellScript
  * Calls are written as `Interface::Method(arguments)`, for instance `IFileDialog::SetTitle("Open")`, and numbered from
  * 1. QueryInterface is recorded; AddRef and Release are not. Any call can be made to fail, by its number or its name;
  * it then has no effect and returns null in its out parameters. Objects may outlive the Shell only in their bugs: the
- * destructor of the Shell does not wait for them, so check liveObjects() before.
+ * destructor of the Shell does not wait for them, so check leakedObjects() before.
  */
 class RecordingShell : public ui::Shell
 {
@@ -88,8 +94,16 @@ public:
     /** The dialog made last; null when there is none or it is gone. */
     RecordingDialog* dialog() const { return m_dialogs.empty() ? nullptr : m_dialogs.back(); }
 
-    /** Dialogs, items and arrays that somebody still holds; 0 when all was released. */
+    /**
+     * Dialogs, items and arrays that somebody still holds; 0 when all was released. The native dialog of a save flow
+     * (SaveFileDialog, SaveFileWinDialog) counts here to the end of the process, since the flow leaves it alive.
+     */
     int liveObjects() const { return m_liveObjects; }
+    /**
+     * As liveObjects(), without the dialogs that belong to save flows, those that have ended included. 0 after every
+     * dialog of the library when all was released; what a host forgets to delete counts.
+     */
+    int leakedObjects() const;
     /** Strings that were given out and not freed with coTaskMemFree(). */
     int liveStrings() const { return static_cast<int>(m_liveStrings.size()); }
     /** How often the thread has joined an apartment less how often it has left; below 0 when it left too often. */

@@ -35,13 +35,14 @@ void FileNameDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, 
     // Tab reaches the view before the editor and commits what was typed so far.
     auto* const box = static_cast<ComboBoxAutoFilter*>(editor);
     if (box->validateEntry()) {
-        model->setData(index, box->currentText());
+        model->setData(index, box->itemText(box->currentIndex()));
     }
 }
 
 void FileNameDelegate::finish(QWidget* editor)
 {
-    Q_EMIT reported(tr("In the table, selectionComplete: %1").arg(static_cast<QComboBox*>(editor)->currentText()));
+    const auto* const box = static_cast<QComboBox*>(editor);
+    Q_EMIT reported(tr("In the table, selectionComplete: %1").arg(box->itemText(box->currentIndex())));
     Q_EMIT commitData(editor);
     Q_EMIT closeEditor(editor);
 }

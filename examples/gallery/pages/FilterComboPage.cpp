@@ -81,7 +81,7 @@ void FilterComboPage::addField()
     m_field->setListModel(
         m_names, true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideMiddle, Qt::MatchContains);
     connect(m_field, &ComboBoxAutoFilter::selectionComplete, this,
-        [this] { Q_EMIT reported(tr("selectionComplete: %1").arg(m_field->currentText())); });
+        [this] { Q_EMIT reported(tr("selectionComplete: %1").arg(m_field->itemText(m_field->currentIndex()))); });
     connect(m_field, &ComboBoxAutoFilter::editingCanceled, this, [this] { Q_EMIT reported(tr("editingCanceled")); });
     m_fieldRow->insertWidget(0, m_field);
     m_field->show();

@@ -61,7 +61,6 @@ void IntegralSpinBoxPage::stepToPower(bool up)
 {
     Q_EMIT reported(up ? tr("A step up is left to the program") : tr("A step down is left to the program"));
     m_size->setValue(neighbouringPower(m_size->value(), up));
-    m_size->selectAll();
 }
 
 void IntegralSpinBoxPage::showSize(int size)

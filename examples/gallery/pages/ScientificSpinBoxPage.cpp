@@ -81,6 +81,7 @@ QWidget* ScientificSpinBoxPage::makeConstantsGroup()
 
 QWidget* ScientificSpinBoxPage::makeValidationGroup()
 {
+    m_pressure->setOwnValidation(true);
     m_pressure->setRange(lowestPressure, highestPressure);
     m_pressure->setMinimumWidth(fieldWidth(*m_pressure));
 
@@ -98,6 +99,7 @@ ScientificSpinBoxPage::SpinBox* ScientificSpinBoxPage::addConstant(
     QFormLayout& form, const QString& label, double value, const QString& unit)
 {
     auto* const field = new SpinBox;
+    field->setOwnValidation(true);
     field->setSuffix(unit);
     field->setValue(value);
     field->setMinimumWidth(fieldWidth(*field));
@@ -117,10 +119,7 @@ void ScientificSpinBoxPage::stepByDecades(bool decades)
         return;
     }
     for (SpinBox* const field : m_constants) {
-        const auto multiply = [field](double factor) {
-            field->setValue(field->value() * factor);
-            field->selectAll();
-        };
+        const auto multiply = [field](double factor) { field->setValue(field->value() * factor); };
         m_decadeSteps.emplace_back(field->signalIncrement.connect([multiply] { multiply(10); }));
         m_decadeSteps.emplace_back(field->signalDecrement.connect([multiply] { multiply(0.1); }));
     }

@@ -92,32 +92,65 @@ TEST_F(ComboBoxCompleter, theCompletersCurrentRowIsMarkedWithTheNextKey)
     EXPECT_EQ(box->lineEdit()->text(), "ar");
 }
 
-TEST_F(ComboBoxCompleter, movingThroughTheListMarksEntriesAndLeavesTheLineAlone)
+TEST_F(ComboBoxCompleter, movingThroughTheListWritesTheMarkedEntry)
 {
     setUp({"Dog", "Bar", "Car", "Scar"});
     typeInto("ar");
+    const auto expectMark = [this](const char* text) {
+        EXPECT_EQ(completerPopup()->currentIndex().data().toString(), text);
+        EXPECT_EQ(box->lineEdit()->text(), text);
+    };
     pressKey(Qt::Key_Down);
-    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Car");
-    EXPECT_EQ(box->lineEdit()->text(), "ar");
+    expectMark("Car");
     pressKey(Qt::Key_Down);
-    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Scar");
+    expectMark("Scar");
     pressKey(Qt::Key_Up);
-    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Car");
+    expectMark("Car");
     pressKey(Qt::Key_PageDown);
-    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Scar");
-    EXPECT_EQ(box->lineEdit()->text(), "ar");
+    expectMark("Scar");
+    pressKey(Qt::Key_PageUp);
+    expectMark("Bar");
+    pressKey(Qt::Key_End, Qt::ControlModifier);
+    expectMark("Scar");
+    pressKey(Qt::Key_Home, Qt::ControlModifier);
+    expectMark("Bar");
     expectOutcome(0, 0);
 }
 
-TEST_F(ComboBoxCompleter, controlHomeAndControlEndMarkTheFirstAndTheLastEntry)
+TEST_F(ComboBoxCompleter, aKeyThatMovesNothingKeepsTheMark)
 {
-    setUp({"Dog", "Bar", "Car", "Far"});
+    setUp({"Dog", "Bar", "Car", "Scar"}, Qt::CaseInsensitive, QCompleter::UnfilteredPopupCompletion);
     typeInto("ar");
-    pressKey(Qt::Key_End, Qt::ControlModifier);
-    EXPECT_EQ(completerPopup()->currentIndex().row(), 2);
-    pressKey(Qt::Key_Home, Qt::ControlModifier);
-    EXPECT_EQ(completerPopup()->currentIndex().row(), 0);
+    pressKey(Qt::Key_Down);
+    const QString marked = completerPopup()->currentIndex().data().toString();
+    EXPECT_EQ(box->lineEdit()->text(), marked);
+    for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Left}) {
+        pressKey(key);
+        EXPECT_EQ(completerPopup()->currentIndex().data().toString(), marked);
+        EXPECT_EQ(box->lineEdit()->text(), marked);
+    }
+}
+
+TEST_F(ComboBoxCompleter, aTextFromAnInputMethodMarksLikeATypedOne)
+{
+    setUp({"Dog", "Bar", "Car"});
+    box->lineEdit()->clear();
+    QInputMethodEvent composing("ar", {});
+    QCoreApplication::sendEvent(box, &composing);
+    EXPECT_FALSE(completerPopup()->isVisible());
+    QInputMethodEvent committed;
+    committed.setCommitString("ar");
+    QCoreApplication::sendEvent(box, &committed);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return completerPopup()->isVisible(); }));
     EXPECT_EQ(box->lineEdit()->text(), "ar");
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Bar");
+    EXPECT_TRUE(completerPopup()->selectionModel()->isSelected(completerPopup()->currentIndex()));
+    pressKey(Qt::Key_Down);
+    EXPECT_EQ(box->lineEdit()->text(), "Car");
+    QInputMethodEvent more;
+    more.setCommitString("x");
+    QCoreApplication::sendEvent(box, &more);
+    EXPECT_EQ(box->lineEdit()->text(), "Carx");
 }
 
 TEST_F(ComboBoxCompleter, homeAloneGoesToTheBeginningOfTheLine)
@@ -159,18 +192,48 @@ TEST_F(ComboBoxCompleter, tabClosesTheListOfALineThatTheHostHasPutIn)
     expectOutcome(0, 0);
 }
 
-TEST_F(ComboBoxCompleter, returnTakesTheTextAndNotTheMark)
+TEST_F(ComboBoxCompleter, returnTakesTheMarkedEntryAndActivatesItOnce)
 {
-    setUp({"Dog", "Bar", "Car"});
+    setUp({"Dog", "Scar", "Car"});
     QSignalSpy activated(box.data(), SIGNAL(activated(int)));
+    QSignalSpy textActivated(box.data(), SIGNAL(activated(QString)));
     typeInto("ar");
     pressKey(Qt::Key_Down);
+    EXPECT_EQ(box->currentIndex(), 0);
     pressKey(Qt::Key_Return);
-    EXPECT_EQ(box->currentText(), "Bar");
+    EXPECT_EQ(box->currentIndex(), 2);
     EXPECT_FALSE(completerPopup()->isVisible());
     EXPECT_FALSE(box->isVisible());
-    EXPECT_LE(activated.count(), 1);
+    ASSERT_EQ(activated.count(), 1);
+    EXPECT_EQ(activated.at(0).at(0).toInt(), 2);
+    EXPECT_EQ(textActivated.count(), 1);
     expectOutcome(1, 0);
+    EXPECT_TRUE(box->validateEntry());
+    EXPECT_EQ(box->currentIndex(), 2) << "for the delegate that asks again";
+}
+
+TEST_F(ComboBoxCompleter, aTypedTextOutdoesWhatWasMarkedBefore)
+{
+    setUp({"Dog", "Scar", "Car"});
+    typeInto("ar");
+    pressKey(Qt::Key_Down);
+    box->lineEdit()->setText("sc");
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentText(), "Scar");
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxCompleter, anEntryThatTheProgramMakesCurrentOutdoesThePickedOne)
+{
+    setUp({"Car", "Car", "Dog"});
+    typeInto("ca");
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Return);
+    ASSERT_EQ(box->currentIndex(), 1);
+    box->setCurrentIndex(2);
+    box->setCurrentIndex(0);
+    EXPECT_TRUE(box->validateEntry());
+    EXPECT_EQ(box->currentIndex(), 0);
 }
 
 TEST_F(ComboBoxCompleter, tabEndsTheEditingFromTheList)
@@ -194,14 +257,28 @@ TEST_F(ComboBoxCompleter, escapeCancelsFromTheList)
     expectOutcome(0, 1);
 }
 
-TEST_F(ComboBoxCompleter, anEntryClickedInTheListIsWrittenAndTheEditingGoesOn)
+TEST_F(ComboBoxCompleter, anEntryClickedInTheListIsTaken)
 {
-    setUp({"Dog", "Bar", "Car"});
+    setUp({"Dog", "Scar", "Car"});
+    QSignalSpy activated(box.data(), SIGNAL(activated(int)));
     typeInto("ar");
     const QModelIndex car = box->completer()->completionModel()->index(1, 0);
     QTest::mouseClick(completerPopup()->viewport(), Qt::LeftButton, {}, completerPopup()->visualRect(car).center());
     EXPECT_EQ(box->lineEdit()->text(), "Car");
     EXPECT_EQ(box->currentIndex(), 2);
+    EXPECT_FALSE(box->isVisible());
+    EXPECT_EQ(activated.count(), 1);
+    expectOutcome(1, 0);
+    EXPECT_TRUE(box->validateEntry());
+    EXPECT_EQ(box->currentIndex(), 2);
+}
+
+TEST_F(ComboBoxCompleter, theRightButtonTakesNothing)
+{
+    setUp({"Dog", "Scar", "Car"});
+    typeInto("ar");
+    const QModelIndex car = box->completer()->completionModel()->index(1, 0);
+    QTest::mouseClick(completerPopup()->viewport(), Qt::RightButton, {}, completerPopup()->visualRect(car).center());
     EXPECT_TRUE(box->isVisible());
     expectOutcome(0, 0);
 }
@@ -226,7 +303,7 @@ TEST_F(ComboBoxCompleter, inlineCompletionHasNoListAndEndsTheSame)
     expectOutcome(1, 0);
 }
 
-TEST_F(ComboBoxCompleter, unfilteredCompletionOffersEveryEntry)
+TEST_F(ComboBoxCompleter, withTheCompleterStandInUnfilteredCompletionOffersEveryEntry)
 {
     setUp({"Dog", "Bar", "Car"}, Qt::CaseInsensitive, QCompleter::UnfilteredPopupCompletion);
     typeInto("ca");
@@ -234,10 +311,15 @@ TEST_F(ComboBoxCompleter, unfilteredCompletionOffersEveryEntry)
     EXPECT_EQ(box->lineEdit()->text(), "ca");
 }
 
-TEST_F(ComboBoxCompleter, theListShortensItsEntriesAsToldAndFindsWildcardsAsText)
+TEST_F(ComboBoxCompleter, theListShortensItsEntriesAsTold)
+{
+    setUp({"Dog", "Bar", "Car"});
+    EXPECT_EQ(completerPopup()->textElideMode(), Qt::ElideRight);
+}
+
+TEST_F(ComboBoxCompleter, withTheCompleterStandInWildcardsAreText)
 {
     setUp({"Dog", "a*b", "a[b", "ab"});
-    EXPECT_EQ(completerPopup()->textElideMode(), Qt::ElideRight);
     typeInto("*");
     EXPECT_EQ(offered(), QStringList({"a*b"}));
     typeInto("[");

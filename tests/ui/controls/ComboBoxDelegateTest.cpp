@@ -43,7 +43,7 @@ public:
     {
         auto* const box = static_cast<ComboBoxAutoFilter*>(widget);
         if (box->validateEntry()) {
-            model->setData(index, box->currentText());
+            model->setData(index, box->itemText(box->currentIndex()));
         }
     }
 

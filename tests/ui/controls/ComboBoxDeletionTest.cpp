@@ -86,6 +86,13 @@ TEST_P(ComboBoxDeletion, onEscapeInTheCompleter)
     pressKey(Qt::Key_Escape);
 }
 
+TEST_P(ComboBoxDeletion, onAClickedSuggestion)
+{
+    openCompleter();
+    const QModelIndex car = box->completer()->completionModel()->index(1, 0);
+    QTest::mouseClick(completerPopup()->viewport(), Qt::LeftButton, {}, completerPopup()->visualRect(car).center());
+}
+
 TEST_P(ComboBoxDeletion, onReturnInTheList)
 {
     openList();

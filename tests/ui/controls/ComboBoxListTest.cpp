@@ -2,6 +2,7 @@
 
 #include <QListView>
 #include <QMetaMethod>
+#include <QStandardItemModel>
 
 using morvane::test::pressKey;
 
@@ -85,21 +86,48 @@ TEST_F(ComboBoxList, theMouseIsAnnouncedAfterAllThatTheComboBoxItselfAnnounces)
     EXPECT_EQ(order, QStringList({"Bar", "complete"}));
 }
 
-TEST_F(ComboBoxList, aPickedEntryGivesWayToAnEarlierOneThatContainsIt)
+TEST_F(ComboBoxList, aPickedEntryIsTakenThoughAnEarlierOneContainsIt)
 {
     setUp({"Scar", "Bar", "Car"});
     openList();
     clickEntry(2);
-    EXPECT_EQ(box->currentText(), "Scar");
+    EXPECT_EQ(box->currentText(), "Car");
+    EXPECT_TRUE(box->validateEntry());
+    EXPECT_EQ(box->currentText(), "Car");
+    show();
+    openList();
+    EXPECT_EQ(box->currentText(), "Car") << "opening is no pick";
 }
 
-TEST_F(ComboBoxList, ofEqualEntriesTheFirstIsPicked)
+TEST_F(ComboBoxList, ofEqualEntriesTheOneThatWasClickedIsPicked)
 {
     setUp({"Dog", "Car", "Car"});
     openList();
     clickEntry(2);
-    EXPECT_EQ(box->currentIndex(), 1);
+    EXPECT_EQ(box->currentIndex(), 2);
     expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxList, keysPickTheEntryThoughAnEarlierOneContainsIt)
+{
+    setUp({"Scar", "Bar", "Car"});
+    openList();
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), 2);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxList, aReleaseOverADisabledEntryPicksNothing)
+{
+    setUp({"Dog", "Bar", "Car"});
+    qobject_cast<QStandardItemModel*>(box->model())->item(1)->setEnabled(false);
+    openList();
+    clickEntry(1);
+    EXPECT_EQ(box->currentIndex(), 0);
+    EXPECT_TRUE(box->view()->isVisible());
+    expectOutcome(0, 0);
 }
 
 TEST_F(ComboBoxList, downAndReturnAnnounceOnce)
@@ -256,7 +284,7 @@ TEST_F(ComboBoxList, worksAgainAfterAPickWithTheMouse)
     QTest::keyClick(window.windowHandle(), 'a');
     ASSERT_TRUE(QTest::qWaitFor([this] { return completerPopup()->isVisible(); }));
     pressKey(Qt::Key_Down);
-    EXPECT_EQ(box->lineEdit()->text(), "a");
+    EXPECT_EQ(box->lineEdit()->text(), "Car");
     EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "Car");
 }
 

@@ -186,7 +186,7 @@ TEST_F(ComboBoxModel, rowsRemovedWhileTheCompleterIsOpenAreGoneFromIt)
     model.removeRows(1, 2);
     ASSERT_EQ(box->completer()->completionModel()->rowCount(), 1);
     pressKey(Qt::Key_Down);
-    EXPECT_EQ(box->lineEdit()->text(), "ar");
+    EXPECT_EQ(box->lineEdit()->text(), "Jar");
     pressKey(Qt::Key_Return);
     EXPECT_EQ(box->currentText(), "Jar");
     expectOutcome(1, 0);
@@ -233,7 +233,7 @@ TEST_F(ComboBoxModel, anEmptyModelHasNoListAndEndsWithNothing)
     EXPECT_FALSE(box->validateEntry());
 }
 
-TEST_F(ComboBoxModel, aMillionRowsAreFilteredAndEnded)
+TEST_F(ComboBoxModel, withTheCompleterStandInAMillionRowsAreFilteredAndEnded)
 {
     NumberModel model(1000000);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -241,6 +241,20 @@ TEST_F(ComboBoxModel, aMillionRowsAreFilteredAndEnded)
     box->lineEdit()->clear();
     type("99999");
     EXPECT_EQ(box->completer()->completionCount(), 19);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), 99999);
+    expectOutcome(1, 0);
+}
+
+TEST_F(ComboBoxModel, aMillionRowsAreFilteredAndEndedInAFormField)
+{
+    NumberModel model(1000000);
+    box->setEditMode(morvane::ui::ComboBoxAutoFilter::FormField);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setUpModel(&model);
+    box->lineEdit()->clear();
+    type("Entry 99999");
+    EXPECT_EQ(completerPopup()->currentIndex().data().toString(), "entry 99999");
     pressKey(Qt::Key_Return);
     EXPECT_EQ(box->currentIndex(), 99999);
     expectOutcome(1, 0);
@@ -318,6 +332,72 @@ TEST_F(ComboBoxModel, theColumnThatIsShownIsSearched)
     box->lineEdit()->setText("car");
     EXPECT_TRUE(box->validateEntry());
     EXPECT_EQ(box->currentIndex(), 1);
+}
+
+TEST_F(ComboBoxModel, aDisabledEntryIsNotValidated)
+{
+    QStandardItemModel model;
+    for (const char* const text : {"Dog", "Car", "Bar"}) {
+        model.appendRow(new QStandardItem(text));
+    }
+    model.item(1)->setEnabled(false);
+    setUpModel(&model);
+    QSignalSpy activated(box.data(), SIGNAL(activated(int)));
+    box->lineEdit()->setText("Car");
+    EXPECT_FALSE(box->validateEntry());
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(box->currentIndex(), 0);
+    EXPECT_EQ(activated.count(), 0);
+    expectOutcome(1, 0);
+    box->lineEdit()->setText("ar");
+    EXPECT_TRUE(box->validateEntry());
+    EXPECT_EQ(box->currentIndex(), 2);
+    box->setSelectedText("Car");
+    EXPECT_EQ(box->currentIndex(), 1);
+}
+
+TEST_F(ComboBoxModel, theExactTextOfAnEntryActivatesIt)
+{
+    setUp({"Dog", "Bar", "Car"});
+    QSignalSpy activated(box.data(), SIGNAL(activated(int)));
+    QSignalSpy textActivated(box.data(), SIGNAL(textActivated(QString)));
+    box->lineEdit()->setText("Car");
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(activated.count(), 1);
+    EXPECT_EQ(textActivated.count(), 1);
+    show();
+    box->lineEdit()->setText("ba");
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(activated.count(), 1) << "a part of its text does not";
+    expectOutcome(2, 0);
+}
+
+TEST_F(ComboBoxModel, suggestionsFollowTheColumnAndTheModel)
+{
+    QStandardItemModel first(1, 2);
+    first.setItem(0, 0, new QStandardItem("Car"));
+    first.setItem(0, 1, new QStandardItem("Dog"));
+    setUpModel(&first);
+    box->setModelColumn(1);
+    box->completer()->setCompletionPrefix("og");
+    EXPECT_EQ(box->completer()->currentCompletion(), "Dog");
+    QStringListModel second({"Jar", "Star"});
+    box->setModelColumn(0);
+    box->setModel(&second);
+    box->completer()->setCompletionPrefix("ar");
+    EXPECT_EQ(box->completer()->completionCount(), 2);
+    delete box;
+}
+
+TEST_F(ComboBoxModel, aColumnThatTheProgramGivesToTheCompleterStays)
+{
+    QStandardItemModel model(2, 2);
+    model.setItem(0, 0, new QStandardItem("Car"));
+    model.setItem(0, 1, new QStandardItem("Dog"));
+    setUpModel(&model);
+    box->completer()->setCompletionColumn(1);
+    box->setCurrentIndex(1);
+    EXPECT_EQ(box->completer()->completionColumn(), 1);
 }
 
 TEST_F(ComboBoxModel, setSelectedTextFindsTheExactTextAndSelectsItsLength)

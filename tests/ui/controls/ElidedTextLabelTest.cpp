@@ -10,6 +10,7 @@ namespace {
 
 const QString ellipsis(QChar(0x2026));
 const QString path("measurements/2024/run-17/pressure.dat");
+const QString hebrew = QString::fromUtf8("מדידות/לחץ/טמפרטורה/תוצאות");
 
 bool isBlank(const QImage& image)
 {
@@ -92,7 +93,7 @@ TEST_F(ElidedLabel, startsAtTheLeftAndElidesThere)
     EXPECT_EQ(fresh.alignment(), Qt::AlignLeft);
     EXPECT_EQ(fresh.elideMode(), Qt::ElideLeft);
     EXPECT_EQ(fresh.text(), "");
-    EXPECT_TRUE(fresh.inherits("QxtLabel"));
+    EXPECT_TRUE(qobject_cast<const morvane::compat::QxtLabel*>(&fresh));
     QWidget parent;
     const ElidedTextLabel child(&parent, Qt::Window);
     EXPECT_EQ(child.parentWidget(), &parent);
@@ -133,6 +134,14 @@ TEST_F(ElidedLabel, theFrameTakesFromTheRoom)
     label.setFrameStyle(QFrame::Box);
     label.grab();
     EXPECT_EQ(label.toolTip(), path);
+    label.resize(label.width() + 2 * label.frameWidth(), label.height());
+    label.grab();
+    EXPECT_EQ(label.toolTip(), "");
+}
+
+TEST_F(ElidedLabel, withTheLabelStandInTheSizeHintHasRoomForTheFrame)
+{
+    label.setFrameStyle(QFrame::Box);
     label.resize(label.sizeHint());
     label.grab();
     EXPECT_EQ(label.toolTip(), "");
@@ -202,11 +211,19 @@ TEST_F(ElidedLabel, paintingNeverAsksForPainting)
     }
 }
 
-TEST_F(ElidedLabel, rightToLeftTextKeepsItsEnd)
+TEST_F(ElidedLabel, rightToLeftTextIsWholeOrInTheToolTip)
 {
-    const QString hebrew = QString::fromUtf8("מדידות/לחץ/טמפרטורה/תוצאות");
     setText(hebrew);
     EXPECT_EQ(picture(), drawn(hebrew));
+    EXPECT_EQ(label.toolTip(), "");
+    narrow();
+    EXPECT_NE(picture(), drawn(hebrew));
+    EXPECT_EQ(label.toolTip(), hebrew);
+}
+
+TEST_F(ElidedLabel, withTheLabelStandInRightToLeftTextKeepsItsEnd)
+{
+    setText(hebrew);
     narrow();
     const QString shown = label.fontMetrics().elidedText(hebrew, Qt::ElideLeft, label.width());
     ASSERT_TRUE(shown.startsWith(ellipsis));
@@ -222,7 +239,7 @@ TEST_F(ElidedLabel, rightToLeftTextKeepsItsEnd)
     EXPECT_EQ(label.toolTip(), hebrew);
 }
 
-TEST_F(ElidedLabel, aRightToLeftWindowPutsTheTextToTheRight)
+TEST_F(ElidedLabel, withTheLabelStandInARightToLeftWindowPutsTheTextToTheRight)
 {
     setText("x");
     label.resize(100, label.height());

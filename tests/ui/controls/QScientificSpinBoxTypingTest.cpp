@@ -294,15 +294,107 @@ TEST(QScientificSpinBoxTyping, typingBetweenPrefixAndSuffix)
     EXPECT_EQ(window.spin.cleanText(), "1.5E-07");
 }
 
-TEST(QScientificSpinBoxTyping, aDoubledPointBetweenPrefixAndSuffixCountsOnce)
+TEST(QScientificSpinBoxTyping, theSameKeysAreRefusedBetweenPrefixAndSuffix)
+{
+    Window window;
+    window.spin.setPrefix("E = ");
+    window.spin.setSuffix(" J");
+    window.type("1x.5y");
+    EXPECT_EQ(window.shown(), "E = 1.5 J");
+    window.type("1..5");
+    EXPECT_EQ(window.shown(), "E = 1.5 J");
+    window.type(" 2 ");
+    EXPECT_EQ(window.shown(), "E = 2 J");
+    EXPECT_TRUE(window.spin.hasAcceptableInput());
+}
+
+TEST(QScientificSpinBoxTyping, prefixAndSuffixThatAreTypedOverComeBack)
+{
+    Window window;
+    window.spin.setPrefix("E = ");
+    window.spin.setSuffix(" J");
+    window.spin.lineEdit()->selectAll();
+    QTest::keyClicks(&window.spin, "12");
+    EXPECT_EQ(window.shown(), "E = 12 J");
+    EXPECT_EQ(window.spin.lineEdit()->cursorPosition(), 6);
+    window.spin.lineEdit()->selectAll();
+    QTest::keyClick(&window.spin, Qt::Key_Delete);
+    EXPECT_EQ(window.shown(), "E =  J");
+    QTest::keyClicks(&window.spin, "3");
+    EXPECT_EQ(window.shown(), "E = 3 J");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 3);
+}
+
+TEST(QScientificSpinBoxTyping, aKeyAtAnEdgeOfTheNumberThatOnlyTouchesTheSuffixChangesNothing)
+{
+    Window window;
+    window.spin.setSuffix("%");
+    window.spin.setValue(1.23456789012);
+    window.spin.lineEdit()->setCursorPosition(9);
+    QTest::keyClick(&window.spin, Qt::Key_Delete);
+    QTest::keyClicks(&window.spin, " ");
+    EXPECT_EQ(window.shown(), "1.2345679%");
+    QTest::keyClick(&window.spin, Qt::Key_Tab);
+    EXPECT_EQ(window.spin.value(), 1.23456789012) << "nothing was typed, so no digit is lost";
+}
+
+TEST(QScientificSpinBoxTyping, undoWorksBetweenPrefixAndSuffix)
 {
     Window window;
     window.spin.setSuffix(" J");
-    window.type("1..5");
-    EXPECT_EQ(window.shown(), "1..5 J") << "stays as typed";
-    window.spin.lineEdit()->setCursorPosition(2);
-    window.commit();
-    EXPECT_EQ(window.spin.value(), 1.5);
+    window.spin.setValue(5);
+    window.type("1");
+    QTest::keyClick(&window.spin, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(window.shown(), "5 J");
+}
+
+TEST(QScientificSpinBoxTyping, whiteSpaceAroundAPastedNumberIsLeftOut)
+{
+    Window window;
+    for (const QString& affix : {QString(), QString(" J")}) {
+        window.spin.setSuffix(affix);
+        for (const QString& text : {QString("1.5E3\n"), QString("1.5E3\r\n"), QString("\t1.5E3"), QString("  1.5E3  "),
+                 QString(QChar(0xa0)) + "1.5E3\t\n"}) {
+            window.spin.setValue(3);
+            QApplication::clipboard()->setText(text);
+            window.spin.selectAll();
+            QTest::keyClick(&window.spin, Qt::Key_V, Qt::ControlModifier);
+            EXPECT_EQ(window.shown(), "1.5E3" + affix);
+            EXPECT_EQ(window.spin.lineEdit()->cursorPosition(), 5);
+            QTest::keyClick(&window.spin, Qt::Key_Tab);
+            EXPECT_EQ(window.spin.value(), 1500);
+            window.spin.setFocus();
+        }
+    }
+}
+
+TEST(QScientificSpinBoxTyping, theCursorStaysBehindWhatWasPutIn)
+{
+    Window window;
+    window.spin.setPrefix("E = ");
+    window.spin.setValue(12);
+    window.spin.lineEdit()->setCursorPosition(5);
+    QTest::keyClicks(&window.spin, "34");
+    EXPECT_EQ(window.shown(), "E = 1342");
+    QApplication::clipboard()->setText("\t5");
+    window.spin.lineEdit()->setCursorPosition(4);
+    QTest::keyClick(&window.spin, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClicks(&window.spin, "6");
+    EXPECT_EQ(window.shown(), "E = 561342");
+}
+
+TEST(QScientificSpinBoxTyping, whiteSpaceAloneDeletesNothing)
+{
+    Window window;
+    for (const QString& affix : {QString(), QString(" J")}) {
+        window.spin.setSuffix(affix);
+        window.spin.setValue(3);
+        QApplication::clipboard()->setText(" \t\n");
+        window.spin.selectAll();
+        QTest::keyClick(&window.spin, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(window.shown(), "3" + affix);
+    }
 }
 
 TEST(QScientificSpinBoxTyping, specialValueTextStandsForTheMinimum)
@@ -321,6 +413,25 @@ TEST(QScientificSpinBoxTyping, specialValueTextStandsForTheMinimum)
     window.type("0");
     window.commit();
     EXPECT_EQ(window.shown(), "auto");
+}
+
+TEST(QScientificSpinBoxTyping, onlyANumberIsTypedOverTheSpecialValueText)
+{
+    Window window;
+    window.spin.setRange(0, 10);
+    window.spin.setSuffix(" J");
+    window.spin.setSpecialValueText("auto");
+    window.spin.setValue(0);
+    window.type("x");
+    EXPECT_EQ(window.shown(), "auto");
+    window.type("4");
+    EXPECT_EQ(window.shown(), "4 J");
+    window.commit();
+    EXPECT_EQ(window.spin.value(), 4);
+    window.spin.setValue(0);
+    EXPECT_EQ(window.shown(), "auto");
+    window.type("4");
+    EXPECT_EQ(window.shown(), "4 J") << "the number from before";
 }
 
 TEST(QScientificSpinBoxTyping, readOnlyTakesNoKeysAndNoSteps)

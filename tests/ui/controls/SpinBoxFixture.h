@@ -56,11 +56,12 @@ struct SpinBoxWindow
     void commit() { QTest::keyClick(&spin, Qt::Key_Return); }
 
     /** Turns the wheel over the spin box; 120 are a notch up. */
-    void turnWheel(int angle)
+    void turnWheel(int angle) { turnWheel(QPoint(0, angle)); }
+    void turnWheel(QPoint angle, QPoint pixels = QPoint(), bool inverted = false)
     {
         const QPointF centre(spin.rect().center());
-        QWheelEvent event(centre, spin.mapToGlobal(centre.toPoint()), QPoint(), QPoint(0, angle), Qt::NoButton,
-            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent event(centre, spin.mapToGlobal(centre.toPoint()), pixels, angle, Qt::NoButton, Qt::NoModifier,
+            Qt::NoScrollPhase, inverted);
         QApplication::sendEvent(&spin, &event);
     }
 

@@ -175,8 +175,131 @@ TYPED_TEST(SpinBoxSteps, stepByNothingIsAStepDown)
     this->spin.stepBy(0);
     EXPECT_EQ(this->downs, 1);
     EXPECT_EQ(this->ups, 0);
-    this->window.turnWheel(15);
-    EXPECT_EQ(this->downs, 2) << "less than a notch";
+}
+
+TYPED_TEST(SpinBoxSteps, partsOfANotchAddUpToOneStep)
+{
+    this->countSteps();
+    for (int part = 0; part < 8; ++part) {
+        EXPECT_EQ(this->ups, 0) << "after part " << part;
+        this->window.turnWheel(15);
+    }
+    EXPECT_EQ(this->ups, 1);
+    EXPECT_EQ(this->downs, 0);
+    this->window.turnWheel(119);
+    EXPECT_EQ(this->ups, 1);
+    this->window.turnWheel(121);
+    EXPECT_EQ(this->ups, 2) << "two notches in one turn are one step of the host";
+}
+
+TYPED_TEST(SpinBoxSteps, partOfANotchLeavesTypedTextAlone)
+{
+    this->window.type("50");
+    this->window.turnWheel(60);
+    EXPECT_EQ(this->window.shown(), "50");
+    this->window.commit();
+    EXPECT_EQ(this->spin.value(), 50);
+}
+
+TYPED_TEST(SpinBoxSteps, aTurnBackGivesThePartOfANotchUp)
+{
+    this->window.turnWheel(60);
+    this->window.turnWheel(-60);
+    EXPECT_EQ(this->spin.value(), 10);
+    this->window.turnWheel(-60);
+    EXPECT_EQ(this->spin.value(), 5);
+    this->window.turnWheel(90);
+    this->window.turnWheel(90);
+    EXPECT_EQ(this->spin.value(), 10);
+    this->window.turnWheel(-120);
+    EXPECT_EQ(this->spin.value(), 5) << "a whole notch, from wherever it begins";
+}
+
+TYPED_TEST(SpinBoxSteps, thePartOfANotchIsForgottenWhenThePointerOrTheFocusLeaves)
+{
+    this->window.turnWheel(60);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&this->spin, &leave);
+    this->window.turnWheel(60);
+    EXPECT_EQ(this->spin.value(), 10);
+    this->window.other.setFocus();
+    this->window.turnWheel(60);
+    EXPECT_EQ(this->spin.value(), 10);
+    this->window.turnWheel(60);
+    EXPECT_EQ(this->spin.value(), 15);
+}
+
+TYPED_TEST(SpinBoxSteps, withControlANotchIsTenSteps)
+{
+    this->spin.setSingleStep(1);
+    QWheelEvent turn(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::ControlModifier,
+        Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&this->spin, &turn);
+    EXPECT_EQ(this->spin.value(), 20);
+}
+
+TYPED_TEST(SpinBoxSteps, turnsThatLeadNowhereStepNothing)
+{
+    this->countSteps();
+    this->window.turnWheel(QPoint());
+    this->window.turnWheel(QPoint(), QPoint(0, 40));
+    this->window.turnWheel(QPoint(120, 0));
+    this->window.turnWheel(QPoint(-240, 120));
+    EXPECT_EQ(this->ups + this->downs, 0);
+    this->window.turnWheel(QPoint(-120, 120));
+    EXPECT_EQ(this->ups, 1) << "no more sideways than up";
+}
+
+TYPED_TEST(SpinBoxSteps, theDirectionIsTheOneThatTheSystemReports)
+{
+    QSpinBox other;
+    other.setValue(10);
+    QWheelEvent natural(
+        QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, true);
+    QApplication::sendEvent(&other, &natural);
+    ASSERT_EQ(other.value(), 11);
+    this->window.turnWheel(QPoint(0, 120), QPoint(), true);
+    EXPECT_EQ(this->spin.value(), 15) << "as in the spin box of Qt beside it";
+}
+
+TYPED_TEST(SpinBoxSteps, everyTurnIsTakenAndNoneScrollsTheFormAround)
+{
+    for (const QPoint angle : {QPoint(0, 15), QPoint(0, 120), QPoint(120, 0), QPoint()}) {
+        QWheelEvent turn(
+            QPointF(5, 5), QPointF(5, 5), QPoint(), angle, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        turn.ignore();
+        QApplication::sendEvent(&this->spin, &turn);
+        EXPECT_TRUE(turn.isAccepted());
+    }
+}
+
+TYPED_TEST(SpinBoxSteps, everyStepSelectsTheNumber)
+{
+    this->spin.setPrefix("n = ");
+    this->spin.setSuffix(" m");
+    const auto selects = [this](const char* number) {
+        EXPECT_EQ(this->spin.lineEdit()->selectedText(), number);
+        this->spin.lineEdit()->deselect();
+    };
+    this->spin.stepBy(0);
+    selects("10");
+    this->spin.stepUp();
+    selects("15");
+    this->spin.stepBy(100);
+    selects("99");
+    this->spin.signalDecrement.connect([this] { this->spin.setValue(7); });
+    this->spin.stepBy(-1);
+    selects("7");
+    this->spin.stepBy(0);
+    selects("7");
+}
+
+TYPED_TEST(SpinBoxSteps, aStepToTheSpecialValueTextSelectsItWhole)
+{
+    this->spin.setSpecialValueText("none");
+    this->spin.stepBy(-2);
+    EXPECT_EQ(this->window.shown(), "none");
+    EXPECT_EQ(this->spin.lineEdit()->selectedText(), "none");
 }
 
 TYPED_TEST(SpinBoxSteps, noStepIsTakenOverAtTheEndOfTheRange)
@@ -247,6 +370,7 @@ TYPED_TEST(SpinBoxSteps, exceptionOfASlotReachesTheCaller)
     EXPECT_THROW(this->spin.keyPressEvent(&press), std::runtime_error);
     EXPECT_EQ(this->spin.value(), 10);
     EXPECT_EQ(this->window.shown(), "10");
+    EXPECT_FALSE(this->spin.lineEdit()->hasSelectedText());
     connection.disconnect();
     this->spin.stepBy(1);
     EXPECT_EQ(this->spin.value(), 15);

@@ -45,7 +45,7 @@ TEST_F(ExtendedFileDialogTest, keepsItsKindWhenTheSwitchIsTurned)
 {
     const auto native = make(true);
     const auto widgets = make(false);
-    EXPECT_EQ(native->exec(), QDialog::Accepted);
+    EXPECT_EQ(native->exec(), QDialog::Rejected);
     EXPECT_EQ(m_shell.count("IFileDialog::Show"), 1);
     ExtendedFileDialog::setUseNativeFileDialog(true);
     m_shell.clearCalls();

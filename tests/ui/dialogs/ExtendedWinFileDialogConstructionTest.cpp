@@ -211,6 +211,36 @@ TEST_F(ExtendedWinFileDialogConstruction, leavesTheApartmentEvenWhenJoiningFaile
     EXPECT_THAT(callsOf([&] { dialog.reset(); }), ElementsAre("CoUninitialize()"));
 }
 
+/** Throws where it is asked for a dialog, before there is one or after. */
+class ThrowingShell : public ShellWithWitness
+{
+public:
+    explicit ThrowingShell(bool makesDialog) : m_makesDialog(makesDialog) {}
+
+    HRESULT coCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD context, REFIID iid, void** object) override
+    {
+        if (m_makesDialog) {
+            ShellWithWitness::coCreateInstance(clsid, outer, context, iid, object);
+        }
+        throw std::runtime_error("no dialog");
+    }
+
+private:
+    const bool m_makesDialog;
+};
+
+TEST_F(ExtendedWinFileDialogConstruction, leavesTheApartmentWhenItThrows)
+{
+    for (const bool makesDialog : {false, true}) {
+        ThrowingShell shell(makesDialog);
+        const ui::ShellOverride override(shell);
+        EXPECT_THROW(openDialog(), std::runtime_error);
+        EXPECT_EQ(shell.apartments(), 0);
+        EXPECT_THAT(shell.objectsAtTheEnd, ElementsAre(makesDialog ? 1 : 0)) << "the dialog itself is left to the end";
+        EXPECT_EQ(shell.liveObjects(), 0);
+    }
+}
+
 TEST_F(ExtendedWinFileDialogConstruction, staysWithTheShellThatItWasMadeIn)
 {
     auto dialog = openDialog();

@@ -103,6 +103,36 @@ TEST_F(ExtendedWinFileDialogExec, readsNoSettingAfterTheFirstRun)
     EXPECT_EQ(dialog->nameFilters().size(), 2);
 }
 
+TEST_F(ExtendedWinFileDialogExec, tellsTheShellBeforeTheNextRunWhatTheUserHasLeft)
+{
+    QDir(QString::fromStdString(folder())).mkdir(QStringLiteral("inner"));
+    m_shell.script.announcesOpening = true;
+    Arguments arguments;
+    arguments.directory = folder();
+    arguments.filter = "Data (*.dat);;All (*)";
+    arguments.saving = true;
+    const auto dialog = make(arguments);
+    dialog->selectFile(QStringLiteral("first.dat"));
+    run(*dialog, [&](RecordingDialog& user) {
+        user.userEntersFolder(path(QStringLiteral("inner")));
+        user.userPicksType(2);
+        user.userTypesName(QStringLiteral("old.txt"));
+        user.userAccepts();
+    });
+    Calls calls = callsOf([&] {
+        run(*dialog, [&](RecordingDialog& user) {
+            EXPECT_EQ(user.folder(), path(QStringLiteral("inner")));
+            EXPECT_EQ(user.typeIndex(), 2u);
+            EXPECT_EQ(user.fileName(), QStringLiteral("old.txt"));
+        });
+    });
+    const std::string inner = path(QStringLiteral("inner")).toStdString();
+    EXPECT_THAT(calls, Contains("IFileDialog::SetFolder(" + inner + ")"));
+    EXPECT_THAT(calls, Contains("IFileDialog::SetFileTypeIndex(2)"));
+    EXPECT_THAT(calls, Contains("IFileDialog::SetFileName(\"old.txt\")"));
+    EXPECT_THAT(callsOf([&] { run(*dialog); }), Not(Contains(HasSubstr("::Set")))) << "nothing was left since";
+}
+
 TEST_F(ExtendedWinFileDialogExec, makesNoShellCallForASetting)
 {
     const auto dialog = openDialog("Data (*.dat);;All (*)");
@@ -177,13 +207,54 @@ TEST_F(ExtendedWinFileDialogExec, asksTheDialogItselfWhetherItHoldsSeveral)
     EXPECT_EQ(m_shell.count("IFileDialog::GetResult"), 0);
 }
 
-TEST_F(ExtendedWinFileDialogExec, givesNoSeveralResultsOfASaveDialog)
+TEST_F(ExtendedWinFileDialogExec, givesTheOneResultOfASaveDialogThatAllowsSeveral)
 {
     const auto dialog = saveDialog();
     dialog->setFileMode(QFileDialog::ExistingFiles);
     m_shell.script.results = QStringList(native(QStringLiteral("/a")));
-    run(*dialog, [](RecordingDialog& user) { user.userAccepts(); });
-    EXPECT_THAT(dialog->selectedFiles(), IsEmpty()) << "the Shell has no such interface for saving";
+    EXPECT_EQ(run(*dialog, [](RecordingDialog& user) { user.userAccepts(); }), QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedFiles(), m_shell.script.results);
+}
+
+TEST_F(ExtendedWinFileDialogExec, givesTheAcceptedNamesWhereASaveDialogHasNoResultForSeveral)
+{
+    makeFile(QStringLiteral("a b.dat"));
+    makeFile(QStringLiteral("c.dat"));
+    Arguments arguments;
+    arguments.directory = folder();
+    arguments.saving = true;
+    const auto dialog = make(arguments);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    m_shell.failCalls("IFileDialog::GetResult"); // as the Shell does for several
+    m_shell.script.results = QStringList(nativePath(QStringLiteral("c.dat")));
+    const auto accept = [](RecordingDialog& user) {
+        user.userTypesName(QStringLiteral("\"a b.dat\" \"c.dat\""));
+        user.userAccepts();
+    };
+    EXPECT_EQ(run(*dialog, accept), QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedFiles(),
+        QStringList({nativePath(QStringLiteral("a b.dat")), nativePath(QStringLiteral("c.dat"))}));
+    EXPECT_EQ(run(*dialog, [](RecordingDialog& user) { user.userCancels(); }), QDialog::Rejected);
+    EXPECT_THAT(dialog->selectedFiles(), IsEmpty()) << "a cancelled run has no names";
+}
+
+TEST_F(ExtendedWinFileDialogExec, givesNothingAfterCloseThoughTheShellKeepsTheResultOfTheRunBefore)
+{
+    const auto dialog = openDialog();
+    m_shell.script.results = QStringList(native(QStringLiteral("/a")));
+    ASSERT_EQ(run(*dialog, [](RecordingDialog& user) { user.userAccepts(); }), QDialog::Accepted);
+    // The Shell goes on to accept, as one does that is closed while it asks about the choice.
+    EXPECT_EQ(run(*dialog,
+                  [&](RecordingDialog& user) {
+                      m_shell.failCalls("IFileDialog::Close", S_OK);
+                      dialog->close();
+                      user.userAccepts();
+                  }),
+        QDialog::Accepted);
+    EXPECT_THAT(dialog->selectedFiles(), IsEmpty());
+    m_shell.failNothing();
+    ASSERT_EQ(run(*dialog, [](RecordingDialog& user) { user.userAccepts(); }), QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedFiles(), m_shell.script.results) << "the next run is a new one";
 }
 
 TEST_F(ExtendedWinFileDialogExec, reportsWhatTheShellDoesAfterCancelling)
@@ -202,6 +273,27 @@ TEST_F(ExtendedWinFileDialogExec, keepsTheLastComponentOfASelectedFile)
         dialog->selectFile(QString::fromUtf8(file));
         run(*dialog);
         EXPECT_THAT(m_shell.calls(), Contains(std::string("IFileDialog::SetFileName(\"") + name + "\")")) << file;
+    }
+}
+
+TEST_F(ExtendedWinFileDialogExec, keepsTheLastComponentOfEachPathInAList)
+{
+    struct List
+    {
+        const char* text;
+        const char* name;
+    };
+    for (const List& list :
+        {List{R"("/x/a.dat" )", "a.dat"}, List{R"("/x/a.dat" "/y/z w/b c.dat" )", R"("a.dat" "b c.dat" )"},
+            List{R"("a.dat" "b.dat" "c.dat")", R"("a.dat" "b.dat" "c.dat")"}, List{R"("/x/" "/x/a.dat" )", "a.dat"},
+            List{R"("/x/" )", ""}, List{"\"/x/\xC3\xBC \xF0\x9F\x93\x81.dat\" ", "\xC3\xBC \xF0\x9F\x93\x81.dat"},
+            List{R"("/x/he said "hi".dat" )", R"(he said "hi".dat)"}, List{R"("/x/"q".dat" )", R"(""q".dat")"},
+            List{R"(/x/"q".dat)", R"("q".dat)"}}) {
+        const auto dialog = openDialog();
+        dialog->selectFile(QString::fromUtf8(list.text));
+        run(*dialog);
+        EXPECT_THAT(m_shell.calls(), Contains(std::string("IFileDialog::SetFileName(\"") + list.name + "\")"))
+            << list.text;
     }
 }
 

@@ -101,10 +101,12 @@ TEST_F(LaunchFileDialogNative, choosesTheModeFromTheArguments)
 
 TEST_F(LaunchFileDialogNative, quotesEachOfSeveralNamesAndEndsInABlank)
 {
-    launch({"a b.dat", "", "\xC3\xBC.dat"}, false, true, 0);
+    launch({"/x y/a b.dat", "", "/x y/\xC3\xBC.dat"}, false, true, 0);
     EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::SetFileName(\"\"a b.dat\" \"\xC3\xBC.dat\" \")"));
-    launch({"a b.dat"}, false, true, 0);
-    EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::SetFileName(\"\"a b.dat\" \")"));
+    launch({"/x y/a b.dat"}, false, true, 0);
+    EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::SetFileName(\"a b.dat\")"));
+    launch({"/x/he said \"hi\".dat"}, false, true, 0);
+    EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::SetFileName(\"he said \"hi\".dat\")"));
     launch({"", ""}, false, true, 0);
     EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::SetFileName(\"\")"));
 }
@@ -185,8 +187,19 @@ TEST_F(LaunchFileDialogNative, writesFewerAndMoreFilesThanThereWere)
                            "/\xC3\xBC"
                            "4"));
     m_shell.failCalls("IFileDialog::GetResult");
-    EXPECT_TRUE(launch({}, false, false, 0));
-    EXPECT_THAT(files, IsEmpty()) << "accepted, but without a file";
+    EXPECT_FALSE(launch({}, false, false, 0)) << "accepted, but without a file";
+    EXPECT_EQ(files.size(), 5u) << "left alone";
+}
+
+TEST_F(LaunchFileDialogNative, givesTheFileOfASaveDialogThatAllowsSeveral)
+{
+    m_shell.script.results = QStringList(QStringLiteral("/a.dat"));
+    EXPECT_TRUE(launch({}, true, true, 0));
+    EXPECT_THAT(files, ElementsAre("/a.dat"));
+    m_shell.script.results.clear();
+    m_shell.script.duringShow = [](RecordingDialog& user) { user.userTypesName(QString()); };
+    EXPECT_FALSE(launch({}, true, true, 0)) << "the Shell accepts, but has no file";
+    EXPECT_THAT(files, ElementsAre("/a.dat"));
 }
 
 TEST_F(LaunchFileDialogNative, reportsTheFirstOfEqualFiltersAndNoneForNone)

@@ -111,6 +111,29 @@ TEST_P(LaunchFileDialogUser, acceptsTheInitialSelectionOfSeveralAsItStands)
     EXPECT_THAT(files, UnorderedElementsAre(reported("a.dat"), reported("b.dat")));
 }
 
+TEST_P(LaunchFileDialogUser, startsElsewhereWhenTheFolderHasGone)
+{
+    for (const bool several : {false, true}) {
+        EXPECT_TRUE(launch({text("gone/a.dat")}, false, several, 0, [this](FileDialogPage& page) {
+            EXPECT_TRUE(page.dialog().directory().exists());
+            page.enterName(path("b.dat"));
+        }));
+        EXPECT_THAT(files, ElementsAre(reported("b.dat")));
+    }
+}
+
+TEST_P(LaunchFileDialogUser, startsWithFilesOfWhichOneHasGone)
+{
+    EXPECT_TRUE(launch({text("gone.dat"), text("a.dat")}, false, true, 0, [this](FileDialogPage& page) {
+        EXPECT_EQ(page.dialog().directory().path(), path(""));
+        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+        page.clickFile(QStringLiteral("b.dat"));
+        EXPECT_EQ(page.name(), QStringLiteral("b.dat"));
+        page.click(QDialogButtonBox::Open);
+    }));
+    EXPECT_THAT(files, ElementsAre(reported("b.dat")));
+}
+
 TEST_P(LaunchFileDialogUser, savesANewName)
 {
     EXPECT_TRUE(launch({text("inner/new.dat")}, true, false, 0, [this](FileDialogPage& page) {

@@ -35,6 +35,18 @@ class SplitNameFilter : public testing::TestWithParam<SplitCase>
 {
 };
 
+TEST(NameFilterText, tellsAWildcardFromAnExtension)
+{
+    for (const char* const wildcard : {"*", "?", "*?*", "* *.dat", "*;*.dat"}) {
+        EXPECT_TRUE(isBareWildcard(wildcard)) << wildcard;
+    }
+    for (const char* const extension : {"", "dat", "h*", "tar.*", "png *", " *"}) {
+        EXPECT_FALSE(isBareWildcard(extension)) << extension;
+    }
+    EXPECT_TRUE(isBareWildcard(extensionOfNameFilter("All files (*.*)")));
+    EXPECT_TRUE(isBareWildcard(std::string(1 << 20, '*')));
+}
+
 } // namespace
 
 TEST_P(SplitNameFilter, givesDescriptionPatternsAndExtension)

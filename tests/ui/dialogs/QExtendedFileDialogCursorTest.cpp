@@ -1,7 +1,9 @@
 #include "FileDialogTest.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFileSystemModel>
+#include <QSignalSpy>
 
 using namespace morvane::test;
 
@@ -11,6 +13,21 @@ using Cursors = std::vector<Qt::CursorShape>;
 
 class QExtendedFileDialogCursor : public FileDialogTest
 {
+};
+
+/** The cursors at the moment when the dialog was last shown. */
+class AtShow : public QObject
+{
+public:
+    explicit AtShow(QWidget& window) { window.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show) {
+            cursors = overrideCursors();
+        }
+        return false;
+    }
+    Cursors cursors;
 };
 
 } // namespace
@@ -165,4 +182,120 @@ TEST_F(QExtendedFileDialogCursor, enteringAndLeavingFoldersWaitsUntilTheyAreRead
         }
         EXPECT_TRUE(waitUntil(onlyArrow));
     });
+}
+
+TEST_F(QExtendedFileDialogCursor, directorySetBeforeTheRunLeavesAnArrowOnceItIsRead)
+{
+    makeFolder(QStringLiteral("inner"));
+    makeFile(QStringLiteral("inner/a.dat"));
+    const Dialog dialog = openDialog();
+    dialog->setDirectory(path(QStringLiteral("inner")));
+    EXPECT_EQ(overrideCursors(), Cursors({Qt::WaitCursor}));
+
+    run(*dialog, [&](FileDialogPage& page) {
+        EXPECT_TRUE(page.waitForListed({QStringLiteral("a.dat")}));
+        EXPECT_TRUE(waitUntil([] { return overrideCursors() == Cursors({Qt::ArrowCursor}); }));
+    });
+
+    EXPECT_EQ(overrideCursors(), Cursors());
+}
+
+TEST_F(QExtendedFileDialogCursor, waitStandsAboveTheArrowFromTheBeginningWhileTheFolderIsRead)
+{
+    const Dialog dialog = openDialog();
+    AtShow atShow(*dialog); // no event has told yet that the folder is read
+
+    run(*dialog, [](FileDialogPage&) {
+        EXPECT_TRUE(waitUntil([] { return overrideCursors() == Cursors({Qt::ArrowCursor}); }));
+    });
+    EXPECT_EQ(atShow.cursors, Cursors({Qt::ArrowCursor, Qt::WaitCursor}));
+
+    run(*dialog, [](FileDialogPage&) {});
+    EXPECT_EQ(atShow.cursors, Cursors({Qt::ArrowCursor})) << "read already";
+}
+
+TEST_F(QExtendedFileDialogCursor, typedFolderThatIsReadAlreadyStartsNoWait)
+{
+    makeFolder(QStringLiteral("sub"));
+    makeFile(QStringLiteral("sub/a.dat"));
+    const Dialog dialog = openDialog();
+    QSignalSpy loaded(&fileSystemModel(*dialog), &QFileSystemModel::directoryLoaded);
+
+    run(*dialog, [&](FileDialogPage& page) {
+        for (int round = 0; round < 2; ++round) {
+            EXPECT_TRUE(page.waitForListed({QStringLiteral("sub")}));
+            page.typeName(QStringLiteral("sub/"));
+            EXPECT_TRUE(waitUntil([&] { return loaded.contains({path(QStringLiteral("sub"))}); })) << "for completion";
+            page.pressEnter();
+            EXPECT_TRUE(page.waitForListed({QStringLiteral("a.dat")}));
+            EXPECT_TRUE(waitUntil([] { return overrideCursors() == Cursors({Qt::ArrowCursor}); })) << round;
+            page.dialog().setDirectory(folder());
+            EXPECT_TRUE(waitUntil([] { return overrideCursors() == Cursors({Qt::ArrowCursor}); })) << round;
+        }
+    });
+
+    EXPECT_EQ(overrideCursors(), Cursors());
+}
+
+TEST_F(QExtendedFileDialogCursor, endOfTheRunEndsTheWaitToo)
+{
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    const Dialog dialog = openDialog();
+
+    run(*dialog, [&](FileDialogPage& page) {
+        EXPECT_TRUE(waitUntil([] { return overrideCursors().size() == 2; }));
+        Q_EMIT fileSystemModel(*dialog).rootPathChanged(folder());
+        EXPECT_EQ(overrideCursors(), Cursors({Qt::BusyCursor, Qt::ArrowCursor, Qt::WaitCursor}));
+        page.dialog().reject();
+    });
+    EXPECT_EQ(overrideCursors(), Cursors({Qt::BusyCursor}));
+
+    Q_EMIT fileSystemModel(*dialog).directoryLoaded(folder());
+    EXPECT_EQ(overrideCursors(), Cursors({Qt::BusyCursor}));
+    QApplication::restoreOverrideCursor();
+}
+
+TEST_F(QExtendedFileDialogCursor, cursorsOfTheHostStayWhateverIsTakenOffBelowThem)
+{
+    const Dialog dialog = openDialog();
+    dialog->setDirectory(QStringLiteral("/"));
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    EXPECT_EQ(overrideCursors(), Cursors({Qt::WaitCursor, Qt::BusyCursor}));
+
+    run(*dialog, [&](FileDialogPage&) {
+        const Cursors afterwards = {Qt::BusyCursor, Qt::ArrowCursor};
+        EXPECT_TRUE(waitUntil([&] { return overrideCursors() == afterwards; }));
+        QApplication::setOverrideCursor(Qt::ForbiddenCursor);
+    });
+
+    EXPECT_EQ(overrideCursors(), Cursors({Qt::BusyCursor, Qt::ForbiddenCursor}));
+    QApplication::restoreOverrideCursor();
+    QApplication::restoreOverrideCursor();
+}
+
+TEST_F(QExtendedFileDialogCursor, runAfterRunLeavesNothing)
+{
+    makeFolder(QStringLiteral("inner"));
+    const Dialog dialog = openDialog();
+    for (int round = 0; round < 3; ++round) {
+        dialog->setDirectory(round % 2 == 0 ? path(QStringLiteral("inner")) : folder());
+        run(*dialog, [](FileDialogPage&) {}); // ends before or after the folder is read
+        EXPECT_EQ(overrideCursors(), Cursors()) << round;
+    }
+}
+
+TEST_F(QExtendedFileDialogCursor, dialogThatGoesWhileItRunsTakesBothAlong)
+{
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    auto* const dialog =
+        new QExtendedFileDialog(*m_parent, "", folder().toStdString(), "", "", QFileDialog::AcceptOpen);
+    QTimer::singleShot(0, m_parent.get(), [&] {
+        Q_EMIT fileSystemModel(*dialog).rootPathChanged(folder());
+        m_parent.reset();
+    });
+
+    EXPECT_EQ(dialog->exec(), QDialog::Rejected);
+
+    EXPECT_EQ(overrideCursors(), Cursors({Qt::BusyCursor}));
+    QApplication::restoreOverrideCursor();
 }

@@ -2,6 +2,10 @@
 
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 
+#include <QComboBox>
+
+#include <algorithm>
+
 using namespace morvane::test;
 
 namespace {
@@ -194,6 +198,40 @@ TEST_P(SaveFlow, takesAWriterOutsideTheListForNone)
         EXPECT_EQ(flow->selectedWriter(), 0) << index;
     }
     EXPECT_NE(makeFlow(std::vector<std::string>(), 0), nullptr);
+}
+
+TEST_P(SaveFlow, findsItsWriterWhateverBlanksTheTextsHave)
+{
+    const std::vector<std::string> writers = {
+        "Text (*.txt)", " Long  table ( *.csv  *.tsv ) ", "Page\t(*.html)", "Page (*.html)", "Page (*.html)"};
+    for (int index = 0; index < 5; ++index) {
+        const int expected = std::min(index, 3); // of equal ones the first
+        const auto flow = makeFlow(writers, index);
+        EXPECT_EQ(flow->selectedWriter(), expected);
+        ModalScript user;
+        user.on<QFileDialog>([&](QFileDialog& dialog) {
+            EXPECT_EQ(FileDialogPage(dialog).typeCombo().currentIndex(), expected);
+            acceptName(dialog, "new");
+        });
+        EXPECT_TRUE(flow->launch());
+        EXPECT_EQ(flow->selectedWriter(), expected);
+    }
+}
+
+TEST_P(SaveFlow, givesTheNameAsItWasTypedWithoutAFilter)
+{
+    for (const char* const filter : {"", " "}) {
+        const auto flow = makeFlow(filter);
+        ModalScript user;
+        user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "new"); });
+        EXPECT_TRUE(flow->launch());
+        EXPECT_EQ(flow->selectedFilename(), unchanged("new"));
+    }
+    const auto flow = makeFlow(std::vector<std::string>(), 0);
+    ModalScript user;
+    user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "new"); });
+    EXPECT_TRUE(flow->launch());
+    EXPECT_EQ(flow->selectedFilename(), unchanged("new"));
 }
 
 TEST_P(SaveFlow, runsAgain)

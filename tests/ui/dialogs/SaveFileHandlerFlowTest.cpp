@@ -5,6 +5,7 @@
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/SaveFileWinDialog.h"
 
+#include <functional>
 #include <stdexcept>
 
 using namespace morvane::test;
@@ -146,24 +147,92 @@ TEST_P(SaveFlow, ownsItsHandler)
     EXPECT_EQ(destroyed, 1);
 }
 
-TEST_P(SaveFlow, savesNothingWhenTheParentGoesWhileTheHandlerIsAsked)
+namespace {
+
+/** Does something in one of the operations that the flow calls, and counts them all. */
+class ActingHandler : public morvane::DefaultSaveFileMessageHandler
 {
-    struct Leaving : morvane::DefaultSaveFileMessageHandler
+public:
+    ActingHandler(int operation, std::function<void()> action, int& calls)
+        : m_operation(operation), m_action(std::move(action)), m_calls(calls)
     {
-        explicit Leaving(QPointer<QWidget>& leaving) : parent(leaving) {}
-        std::string filenameToCheck(const std::string& filename) override
-        {
-            delete parent;
-            return filename;
+    }
+    std::string filenameToCheck(const std::string& filename) override { return act(1), filename; }
+    std::string okToOverwriteMessage() override { return act(2), "Replace it?"; }
+    std::string unableToOverwriteMessage() override { return act(3), "Try again?"; }
+
+private:
+    void act(int operation)
+    {
+        ++m_calls;
+        if (operation == m_operation) {
+            m_action();
         }
-        QPointer<QWidget>& parent;
-    };
-    const auto flow = makeFlow("Data files (*.dat)", std::make_unique<Leaving>(m_parent));
+    }
+
+    const int m_operation;
+    const std::function<void()> m_action;
+    int& m_calls;
+};
+
+} // namespace
+
+TEST_P(SaveFlow, asksNothingMoreWhenTheParentGoesInAnyOperationOfTheHandler)
+{
+    makeFile("old.dat");
+    for (int operation = 1; operation <= 3; ++operation) {
+        SCOPED_TRACE(operation);
+        if (!m_parent) {
+            m_parent = new QWidget;
+        }
+        int calls = 0;
+        const auto flow = makeFlow("Data files (*.dat)", std::make_unique<ActingHandler>(
+                                                             operation, [this] { delete m_parent; }, calls));
+        ModalScript user;
+        user.on<QFileDialog>([&](QFileDialog& dialog) { acceptName(dialog, operation == 3 ? refused("one") : "old"); });
+        EXPECT_FALSE(flow->launch());
+        EXPECT_TRUE(user.finished());
+        EXPECT_EQ(calls, operation == 1 ? 1 : 2);
+        EXPECT_FALSE(flow->launch()) << "and never again";
+    }
+    EXPECT_EQ(entries(), QStringList("old.dat"));
+}
+
+TEST_P(SaveFlow, asksNothingMoreWhenItIsDestroyedItself)
+{
+    makeFile("old.dat");
+    for (int operation = 0; operation <= 3; ++operation) {
+        SCOPED_TRACE(operation);
+        int calls = 0;
+        std::unique_ptr<SaveFileDialog> flow;
+        flow = makeFlow("Data files (*.dat)", std::make_unique<ActingHandler>(
+                                                  operation, [&flow] { flow.reset(); }, calls));
+        ModalScript user;
+        user.on<QFileDialog>([&](QFileDialog& dialog) {
+            if (operation == 0) {
+                flow.reset();
+            }
+            acceptName(dialog, operation == 3 ? refused("one") : "old");
+        });
+        EXPECT_FALSE(flow->launch());
+        EXPECT_TRUE(user.finished());
+        EXPECT_EQ(calls, operation < 2 ? operation : 2);
+    }
+}
+
+TEST_P(SaveFlow, endsWithItsOwnDialogWhenItIsDestroyedWithoutAParent)
+{
+    auto flow = std::make_unique<SaveFileDialog>(nullptr, "Save data", directory(), "", "Data files (*.dat)", "");
     ModalScript user;
-    user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "new"); });
+    user.on<QFileDialog>([&](QFileDialog& dialog) {
+        const QPointer<QFileDialog> open(&dialog);
+        flow.reset();
+        EXPECT_EQ(!open, !GetParam()) << "nobody else owns the Qt dialog";
+        if (open) {
+            pressCancel(dialog);
+        }
+    });
     EXPECT_FALSE(flow->launch());
-    EXPECT_TRUE(user.finished());
-    EXPECT_EQ(entries(), QStringList());
 }
 
 TEST(SaveFlowWithoutAFile, savesNothingWhenTheShellAcceptsWithoutAResult)

@@ -7,6 +7,7 @@
 namespace {
 
 using morvane::ui::pathsOfTypedText;
+using morvane::ui::quotedNames;
 using morvane::ui::typedTextOfNames;
 
 struct Typed
@@ -37,8 +38,8 @@ TEST(TypedNames, areOneNameOrSeveralInQuotes)
     const Typed table[] = {{"a.txt", false, {a}}, {"a.txt", true, {a}}, {"b c.txt", true, {b}},
         {"\"a.txt\"", false, {a}}, {"\"a.txt\"", true, {a}}, {" \"a.txt\" ", false, {a}},
         {"\"a.txt\" \"b c.txt\"", true, {a, b}}, {"\"a.txt\" \"\" \"b c.txt\"", true, {a, b}},
-        {"\"a.txt\" \"  \"", true, {a}}, {"\"a.txt", true, {a}}, {"\"\"", true, {}}, {"\"\"", false, {}},
-        {"", false, {}}, {"  ", true, {}}};
+        {"\"a.txt\" \"  \"", true, {a}}, {"\"a.txt", true, {a}}, {"\"a.txt\" \"b c.txt", true, {a, b}},
+        {"\"\"", true, {}}, {"\"\"", false, {}}, {"", false, {}}, {"  ", true, {}}};
     for (const Typed& row : table) {
         EXPECT_EQ(paths(row.text, row.severalAllowed), inFolder(row.paths)) << row.text << " " << row.severalAllowed;
     }
@@ -48,6 +49,29 @@ TEST(TypedNames, keepTheirQuotesWhereOneNameIsAllowed)
 {
     for (const char* const text : {"\"a\" \"b\"", "\"a\"b", "\"a", "a\"b\""}) {
         EXPECT_EQ(paths(text, false), inFolder({QString::fromUtf8(text)})) << text;
+    }
+}
+
+TEST(TypedNames, mayHaveQuotesOfTheirOwn)
+{
+    const QString said = QStringLiteral("he said \"hi\".txt");
+    const QString first = QStringLiteral("\"q\".txt");
+    for (const QStringList& names : {QStringList({said}), QStringList({first}), QStringList({QStringLiteral("\"q\"")}),
+             QStringList({said, first, QStringLiteral("a.txt")})}) {
+        const QString text = typedTextOfNames(names);
+        EXPECT_EQ(paths(text.toUtf8().constData(), true), inFolder(names)) << text.toStdString();
+    }
+    EXPECT_EQ(paths("\"q\".txt", true), inFolder({first})) << "as a click on the file writes it";
+}
+
+TEST(TypedNames, areListedOnlyWhereTheWholeTextIsAList)
+{
+    EXPECT_EQ(quotedNames(QStringLiteral("\"/x y/a.txt\" \"b.txt\" ")),
+        QStringList({QStringLiteral("/x y/a.txt"), QStringLiteral("b.txt")}));
+    EXPECT_EQ(quotedNames(QStringLiteral("\"a.txt\"   \"b.txt\"")),
+        QStringList({QStringLiteral("a.txt"), QStringLiteral("b.txt")}));
+    for (const char* const text : {"", "\"", "a.txt", "/x/\"a\" \"b\"", "\"a.txt\" b.txt", "\"a\".txt"}) {
+        EXPECT_TRUE(quotedNames(QString::fromUtf8(text)).isEmpty()) << text;
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <cstdlib>
 #include <memory>
 #include <set>
 
@@ -30,6 +31,16 @@ protected:
     }
     static QAbstractButton& button(QFileDialog& window) { return *WidgetUser(window).acceptButton(); }
     static QToolButton& arrow(QFileDialog& window) { return *button(window).findChild<QToolButton*>(); }
+    static void expectNoButtonBelow(const QMenu& menu, QFileDialog& window)
+    {
+        const auto place = [](const QWidget& widget) { return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size()); };
+        for (const QAbstractButton* const other : window.findChildren<QAbstractButton*>()) {
+            EXPECT_FALSE(other->isVisible() && place(*other).intersects(menu.geometry()))
+                << other->text().toStdString();
+        }
+        const QRect accept = place(*WidgetUser(window).acceptButton());
+        EXPECT_LE(std::abs(menu.geometry().bottom() - accept.top()), 2) << "it hangs together with the button";
+    }
     /** Opens the menu with the space bar and presses keys in it. */
     static void pressInMenu(QFileDialog& window, const std::vector<Qt::Key>& keys)
     {
@@ -54,6 +65,80 @@ TEST_F(WidgetShellAcceptMenu, isCalledByItsPurpose)
         EXPECT_EQ(arrow(window).accessibleName(), QStringLiteral("More ways to accept"));
         window.reject();
     });
+}
+
+TEST_F(WidgetShellAcceptMenu, givesTheButtonTheTextOfItsFirstItemThatCanBeChosen)
+{
+    const auto textOf = [](QFileDialog& window) { return button(window).text(); };
+    show([&](QFileDialog& window) {
+        EXPECT_EQ(textOf(window), QStringLiteral("Open as copy"));
+        WidgetUser(window).typeName(QStringLiteral("b.txt")); // Qt gives the button its text anew
+        WidgetUser(window).clickFile(QStringLiteral("inner"), Qt::NoModifier);
+        EXPECT_EQ(textOf(window), QStringLiteral("Open as copy"));
+        EXPECT_EQ(customize->SetControlItemState(0, 1, CDCS_VISIBLE), S_OK);
+        EXPECT_EQ(textOf(window), QStringLiteral("Open read-only"));
+        EXPECT_EQ(customize->SetControlItemText(0, 2, text("Look at it").c_str()), S_OK);
+        EXPECT_EQ(textOf(window), QStringLiteral("Look at it"));
+        EXPECT_EQ(customize->RemoveAllControlItems(0), S_OK);
+        EXPECT_EQ(textOf(window), QStringLiteral("&Open")) << "its own again";
+        EXPECT_EQ(customize->AddControlItem(0, 9, text("Ninth").c_str()), S_OK);
+        EXPECT_EQ(dialog->SetOkButtonLabel(text("Take").c_str()), S_OK);
+        EXPECT_EQ(textOf(window), QStringLiteral("Ninth"));
+        EXPECT_EQ(customize->SetControlState(0, CDCS_ENABLED), S_OK);
+        EXPECT_EQ(textOf(window), QStringLiteral("Take")) << "the host's own while there is no menu";
+        window.reject();
+    });
+}
+
+TEST_F(WidgetShellAcceptMenu, leavesTheButtonToQtWhileItHasNoItem)
+{
+    make(CLSID_FileSaveDialog);
+    ASSERT_EQ(customize->EnableOpenDropDown(0), S_OK);
+    show([&](QFileDialog& window) {
+        EXPECT_EQ(button(window).text(), QStringLiteral("&Save"));
+        window.reject();
+    });
+}
+
+TEST_F(WidgetShellAcceptMenu, isForgottenWhenItsChoiceIsRefused)
+{
+    DWORD item = 0;
+    sink.on["OnFileOk"] = [&] {
+        EXPECT_EQ(customize->GetSelectedControlItem(0, &item), S_OK);
+        return sink.count("OnFileOk") == 1 ? S_FALSE : S_OK;
+    };
+    EXPECT_EQ(show([&](QFileDialog& window) {
+        pressInMenu(window, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+        EXPECT_EQ(item, 2u) << "while it is decided";
+        ASSERT_TRUE(window.isVisible());
+        WidgetUser(window).pressAccept();
+    }),
+        S_OK);
+    EXPECT_EQ(item, 1u) << "what the button says";
+    EXPECT_EQ(customize->GetSelectedControlItem(0, &item), S_OK);
+    EXPECT_EQ(item, 1u);
+}
+
+TEST_F(WidgetShellAcceptMenu, opensWhereItCoversNoButton)
+{
+    ASSERT_EQ(customize->AddPushButton(5, text("Help me").c_str()), S_OK);
+    ASSERT_EQ(customize->MakeProminent(5), S_OK);
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        show([direction](QFileDialog& window) {
+            window.setLayoutDirection(direction);
+            QMenu& menu = *arrow(window).menu();
+            QTimer poll;
+            QObject::connect(&poll, &QTimer::timeout, &menu, [&] {
+                if (menu.isVisible()) {
+                    expectNoButtonBelow(menu, window);
+                    menu.close();
+                }
+            });
+            poll.start(1);
+            arrow(window).showMenu();
+            window.reject();
+        });
+    }
 }
 
 TEST_F(WidgetShellAcceptMenu, staysAtTheEndOfTheButtonWhateverItsSizeAndDirection)

@@ -4,6 +4,7 @@
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <QSignalBlocker>
 
 namespace morvane::ui {
 
@@ -21,13 +22,12 @@ QMetaMethod lineSlot(const char* signature)
     return type.method(type.indexOfSlot(signature));
 }
 
-/** How QLineEdit follows a completer. Looked up once, because it is cut and mended with every key. */
+/** How a line follows a completer with a popup. Looked up once, because it is cut and mended with every key. */
 struct CompleterConnections
 {
     const QMetaMethod activated = completerSignal("activated(QString)");
-    const QMetaMethod setText = lineSlot("setText(QString)");
     const QMetaMethod highlighted = completerSignal("highlighted(QString)");
-    const QMetaMethod showHighlighted = lineSlot("_q_completionHighlighted(QString)");
+    const QMetaMethod setText = lineSlot("setText(QString)");
 };
 
 const CompleterConnections& completerConnections()
@@ -46,9 +46,10 @@ bool isMarked(const QAbstractItemView& popup, const QModelIndex& entry)
 AutoFilterLineEdit::CompleterDetached::CompleterDetached(QLineEdit& line, QCompleter& completer)
     : m_line(&line), m_completer(&completer)
 {
+    // Whatever the slots are: QLineEdit connects to a private one, which not every version of Qt has.
     const CompleterConnections& both = completerConnections();
-    QObject::disconnect(m_completer, both.activated, m_line, both.setText);
-    QObject::disconnect(m_completer, both.highlighted, m_line, both.showHighlighted);
+    QObject::disconnect(m_completer, both.activated, m_line, QMetaMethod());
+    QObject::disconnect(m_completer, both.highlighted, m_line, QMetaMethod());
 }
 
 AutoFilterLineEdit::CompleterDetached::~CompleterDetached()
@@ -56,8 +57,13 @@ AutoFilterLineEdit::CompleterDetached::~CompleterDetached()
     if (m_line && m_completer) {
         const CompleterConnections& both = completerConnections();
         QObject::connect(m_completer, both.activated, m_line, both.setText);
-        QObject::connect(m_completer, both.highlighted, m_line, both.showHighlighted);
+        QObject::connect(m_completer, both.highlighted, m_line, both.setText);
     }
+}
+
+AutoFilterLineEdit::AutoFilterLineEdit(QWidget* parent) : QLineEdit(parent)
+{
+    connect(this, &QLineEdit::textEdited, this, [this] { m_keepsMark = false; });
 }
 
 bool AutoFilterLineEdit::isTabPress(const QEvent& event)
@@ -97,24 +103,50 @@ void AutoFilterLineEdit::keyPressEvent(QKeyEvent* event)
     }
 }
 
+void AutoFilterLineEdit::inputMethodEvent(QInputMethodEvent* event)
+{
+    const QPointer<AutoFilterLineEdit> self(this);
+    const bool brings = !event->commitString().isEmpty();
+    QLineEdit::inputMethodEvent(event);
+    if (self && brings) {
+        markCurrentCompletion();
+    }
+}
+
 void AutoFilterLineEdit::focusOutEvent(QFocusEvent*) {}
+
+void AutoFilterLineEdit::showUnfocused(QFocusEvent& event)
+{
+    const QSignalBlocker editingGoesOn(this);
+    QLineEdit::focusOutEvent(&event);
+}
 
 void AutoFilterLineEdit::markCurrentCompletion()
 {
-    QCompleter* const completer = this->completer();
-    if (!completer || !completer->model() || completer->model()->rowCount() == 0) {
+    const QCompleter* const completer = this->completer();
+    if (m_keepsMark || !completer || !completer->model() || completer->model()->rowCount() == 0) {
         return;
     }
-    QAbstractItemView* const popup = completer->popup();
-    const QModelIndex current = completer->currentIndex();
-    if (popup && isMarked(*popup, current)) {
-        return;
+    if (const QAbstractItemView* const popup = completer->popup()) {
+        const QModelIndex current = completer->currentIndex();
+        if (!isMarked(*popup, current)) {
+            const CompleterDetached detached(*this, *this->completer());
+            popup->selectionModel()->select(current, QItemSelectionModel::Select);
+            this->completer()->popup()->setCurrentIndex(current);
+        }
     }
-    const CompleterDetached detached(*this, *completer);
-    if (popup) {
-        popup->selectionModel()->select(current, QItemSelectionModel::Select);
-        popup->setCurrentIndex(current);
+}
+
+void AutoFilterLineEdit::markSuggestion(const QModelIndex& suggestion)
+{
+    const CompleterDetached detached(*this, *completer());
+    QAbstractItemView& popup = *completer()->popup();
+    if (suggestion.isValid()) {
+        popup.setCurrentIndex(suggestion);
+    } else {
+        popup.selectionModel()->clear();
     }
+    keepMark();
 }
 
 } // namespace morvane::ui

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "ui/qt/compat/QxtLabel.h"
 #include "ui/qt/MorvaneUiExport.h"
-
-#include <QxtLabel>
 
 /**
  * A one-line label for texts whose end matters, such as paths: what does not fit is cut off at the start and stands in
@@ -13,11 +12,13 @@
  *
  * Assistive software is told the whole text, unless the host sets an accessible name.
  *
- * Text and alignment are QxtLabel's: setText(), setAlignment(), setElideMode().
+ * Text and alignment are the base class's: setText(), setAlignment(), setElideMode(). That is Morvane's stand-in for
+ * Qxt's QxtLabel, or QxtLabel itself where Morvane was built with MORVANE_WITH_QXT. ElidedTextLabel::QxtLabel names it
+ * in both cases; its meta-object has another name in each. Style sheets select `ElidedTextLabel`.
  *
  * @snippet 09-long-paths/main.cpp label
  */
-class MORVANE_UI_EXPORT ElidedTextLabel : public QxtLabel
+class MORVANE_UI_EXPORT ElidedTextLabel : public morvane::compat::QxtLabel
 {
     Q_OBJECT
 

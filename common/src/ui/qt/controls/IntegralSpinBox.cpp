@@ -1,7 +1,11 @@
 #include "ui/qt/controls/IntegralSpinBox.h"
 
 #include "ui/qt/controls/StepSignals.h"
+#include "ui/qt/controls/TypedNumber.h"
+#include "ui/qt/controls/WheelNotches.h"
 #include "ui/qt/util/GuiThread.h"
+
+#include <QLineEdit>
 
 namespace morvane::ui {
 
@@ -11,6 +15,8 @@ public:
     QSpinBox* m_spinBox;
     boost::signals2::signal<void()>* m_increment;
     boost::signals2::signal<void()>* m_decrement;
+    TypedText m_typed;
+    WheelNotches m_wheel;
 
     void stepBy(int steps);
 };
@@ -25,10 +31,11 @@ void IntegralSpinBoxPrivate::stepBy(int steps)
 }
 
 IntegralSpinBox::IntegralSpinBox(QWidget* parent)
-    : QSpinBox(parent), m_private(new IntegralSpinBoxPrivate{this, &signalIncrement, &signalDecrement})
+    : QSpinBox(parent), m_private(new IntegralSpinBoxPrivate{this, &signalIncrement, &signalDecrement, {}, {}})
 {
     expectGuiThread("IntegralSpinBox");
     setKeyboardTracking(false);
+    m_private->m_typed.follow(*this, *lineEdit(), QOverload<int>::of(&QSpinBox::valueChanged));
 }
 
 IntegralSpinBox::~IntegralSpinBox() = default;
@@ -36,6 +43,32 @@ IntegralSpinBox::~IntegralSpinBox() = default;
 void IntegralSpinBox::stepBy(int steps)
 {
     m_private->stepBy(steps);
+    selectAll();
+}
+
+bool IntegralSpinBox::event(QEvent* event)
+{
+    if (endsTurn(*event)) {
+        m_private->m_wheel.forgetPart();
+    }
+    return QSpinBox::event(event);
+}
+
+void IntegralSpinBox::wheelEvent(QWheelEvent* event)
+{
+    event->accept();
+    if (const int notches = m_private->m_wheel.add(*event)) {
+        QWheelEvent turn = turnBy(notches, *event);
+        QSpinBox::wheelEvent(&turn);
+    }
+}
+
+int IntegralSpinBox::enteredValue() const
+{
+    if (!m_private->m_typed.isShownBy(*lineEdit())) {
+        return value();
+    }
+    return valueOnReturn(*this, *lineEdit(), [this](const QString& text) { return valueFromText(text); });
 }
 
 void IntegralSpinBox::signalIncrementConnected() const {}

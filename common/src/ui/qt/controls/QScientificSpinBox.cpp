@@ -1,12 +1,15 @@
 #include "ui/qt/controls/QScientificSpinBox.h"
 
+#include "ui/qt/controls/NumberLineValidator.h"
 #include "ui/qt/controls/ScientificNumberText.h"
 #include "ui/qt/controls/StepSignals.h"
+#include "ui/qt/controls/TypedNumber.h"
+#include "ui/qt/controls/WheelNotches.h"
 #include "ui/qt/util/GuiThread.h"
 
-#include <QDoubleValidator>
 #include <QLineEdit>
 #include <QLocale>
+#include <QScopeGuard>
 #include <QVariant>
 
 #include <algorithm>
@@ -21,7 +24,7 @@ constexpr int mostDigits = 12;
 constexpr int initialDigits = 8;
 constexpr int allDigits = 1000;
 
-/** The text validated last, by whichever spin box. */
+/** The text validated last, as it was read, by whichever spin box without validation of its own. */
 struct ValidationCache
 {
     QString cachedText;
@@ -58,6 +61,9 @@ public:
     QDoubleSpinBox* m_spinBox;
     boost::signals2::signal<void()>* m_increment;
     boost::signals2::signal<void()>* m_decrement;
+    bool m_ownValidation = false;
+    TypedText m_typed;
+    WheelNotches m_wheel;
 
 private:
     NumberRules rules() const;
@@ -65,7 +71,7 @@ private:
 
 QScientificSpinBoxPrivate::QScientificSpinBoxPrivate(QScientificSpinBox* spinBox)
     : q(spinBox),
-      m_validator(new QDoubleValidator(spinBox)),
+      m_validator(new NumberLineValidator(spinBox)),
       m_spinBox(spinBox),
       m_increment(&spinBox->signalIncrement),
       m_decrement(&spinBox->signalDecrement)
@@ -83,6 +89,11 @@ NumberRules QScientificSpinBoxPrivate::rules() const
 
 double QScientificSpinBoxPrivate::validateAndInterpret(const QString& input, int& pos, QValidator::State& state) const
 {
+    if (m_ownValidation) {
+        const NumberInterpretation interpretation = interpretNumber(input, pos, rules());
+        state = interpretation.state;
+        return interpretation.value;
+    }
     ValidationCache& cache = validationCache();
     if (!input.isEmpty() && input == cache.cachedText) {
         state = cache.cachedState;
@@ -107,12 +118,14 @@ QScientificSpinBox::QScientificSpinBox(QWidget* parent)
     : QDoubleSpinBox(parent), m_private(new QScientificSpinBoxPrivate(this))
 {
     expectGuiThread("QScientificSpinBox");
-    setLocale(english());
+    // Before anything that shows the value anew: the validator of the base class would ask validate() each time.
     lineEdit()->setValidator(m_private->m_validator);
+    setLocale(english());
     QDoubleSpinBox::setDecimals(allDigits);
     m_private->m_decimals = initialDigits;
     setRange(std::numeric_limits<double>::lowest(), std::numeric_limits<double>::max());
     setKeyboardTracking(false);
+    m_private->m_typed.follow(*this, *lineEdit(), QOverload<double>::of(&QDoubleSpinBox::valueChanged));
 }
 
 QScientificSpinBox::~QScientificSpinBox() = default;
@@ -127,6 +140,16 @@ void QScientificSpinBox::setDecimals(int digits)
     m_private->m_decimals = std::min(digits, mostDigits);
     // Shows the value anew and forgets the size hints, without rounding the value as setValue() does.
     setPrefix(prefix());
+}
+
+bool QScientificSpinBox::hasOwnValidation() const
+{
+    return m_private->m_ownValidation;
+}
+
+void QScientificSpinBox::setOwnValidation(bool own)
+{
+    m_private->m_ownValidation = own;
 }
 
 QString QScientificSpinBox::textFromValue(double value) const
@@ -148,9 +171,43 @@ QValidator::State QScientificSpinBox::validate(QString& input, int& pos) const
     return state;
 }
 
+void QScientificSpinBox::fixup(QString& input) const
+{
+    if (!m_private->m_ownValidation) {
+        QDoubleSpinBox::fixup(input);
+    }
+}
+
 void QScientificSpinBox::stepBy(int steps)
 {
     m_private->stepBy(steps);
+    selectAll();
+}
+
+bool QScientificSpinBox::event(QEvent* event)
+{
+    if (endsTurn(*event)) {
+        m_private->m_wheel.forgetPart();
+    }
+    return QDoubleSpinBox::event(event);
+}
+
+void QScientificSpinBox::wheelEvent(QWheelEvent* event)
+{
+    event->accept();
+    if (const int notches = m_private->m_wheel.add(*event)) {
+        QWheelEvent turn = turnBy(notches, *event);
+        QDoubleSpinBox::wheelEvent(&turn);
+    }
+}
+
+double QScientificSpinBox::enteredValue() const
+{
+    if (!m_private->m_typed.isShownBy(*lineEdit())) {
+        return value();
+    }
+    const auto keepAnswer = qScopeGuard([before = validationCache()] { validationCache() = before; });
+    return valueOnReturn(*this, *lineEdit(), [this](const QString& text) { return valueFromText(text); });
 }
 
 void QScientificSpinBox::signalIncrementConnected() const {}

@@ -54,17 +54,23 @@ public:
     /** Runs the dialog modally; QDialog::Accepted or QDialog::Rejected. */
     int exec();
 
-    /** Puts a file into the name field; the native dialog takes its last component only. */
+    /**
+     * Puts a file, or a list of files in double quotes with blanks in between, into the name field; the native dialog
+     * takes the last component of each only.
+     */
     void selectFile(const QString& file);
     /** The chosen paths after an accepted exec(), in the form of the dialog (native paths on the native one). */
     QStringList selectedFiles();
     /** What is asked for: a file that exists, several of them, any name, or a directory. */
     void setFileMode(QFileDialog::FileMode mode);
-    /** The directory that the dialog shows, or showed last. */
+    /** The directory that the dialog shows, or showed last. Before the first run the one to start in. */
     QDir directory();
     /** Sets the directory to start in. */
     void setDirectory(const QString& directory);
-    /** Chooses a filter by its exact text. */
+    /**
+     * Chooses a filter by its exact text. For a text that is not in the list the Qt dialog keeps the chosen one; the
+     * native dialog chooses none, and opens with the first.
+     */
     void selectNameFilter(const QString& filter);
     /** The name filters, one an entry. */
     QStringList nameFilters();

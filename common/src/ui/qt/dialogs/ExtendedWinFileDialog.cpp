@@ -1,10 +1,33 @@
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 
 #include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
+#include "ui/qt/dialogs/shell/TypedNames.h"
 
 #include <QFileInfo>
 
 #include <utility>
+
+namespace {
+
+/** What stands in the name field for @p file, which may be a list of quoted paths. */
+QString nameFieldText(const QString& file)
+{
+    const QStringList listed = morvane::ui::quotedNames(file);
+    if (listed.isEmpty()) {
+        return QFileInfo(file).fileName();
+    }
+    QStringList names;
+    for (const QString& path : listed) {
+        const QString name = QFileInfo(path).fileName();
+        if (!name.isEmpty()) {
+            names.append(name);
+        }
+    }
+    const QString blanksBehind = names.size() > 1 ? file.mid(file.lastIndexOf(QLatin1Char('"')) + 1) : QString();
+    return names.isEmpty() ? QString() : morvane::ui::typedTextOfNames(names) + blanksBehind;
+}
+
+} // namespace
 
 ExtendedWinFileDialog::ExtendedWinFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
     const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode, bool useAcceptMenu)
@@ -27,7 +50,7 @@ QDialog::DialogCode ExtendedWinFileDialog::exec()
 
 void ExtendedWinFileDialog::selectFile(const QString& file)
 {
-    m_impl->m_fileName->setValue(QFileInfo(file).fileName().toStdString());
+    m_impl->m_fileName->setValue(nameFieldText(file).toStdString());
 }
 
 QStringList ExtendedWinFileDialog::selectedFiles()

@@ -30,8 +30,11 @@ ULONG STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventH
     return static_cast<ULONG>(left);
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnFileOk(IFileDialog*)
+HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnFileOk(IFileDialog* dialog)
 {
+    if (m_impl && dialog) {
+        m_impl->accepting(*dialog);
+    }
     return E_NOTIMPL;
 }
 

@@ -91,10 +91,11 @@ QDialog::DialogCode ExtendedWinFileDialog::Impl::exec()
     }
     const FlagGuard running(m_running);
     const AdvisedHandler<ExtendedWinFileDialogEventHandler> handler(*this, *m_dialog);
-    configureOnce();
+    prepareRun();
     // Qt has the handle as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
     const auto owner = m_parent ? reinterpret_cast<HWND>(m_parent->winId()) : HWND();
     const HRESULT result = m_dialog->Show(owner);
+    m_accepted = result == S_OK && !m_closed;
     if (m_useAcceptMenu) {
         readSelectedAcceptOption();
     }
@@ -114,18 +115,32 @@ void ExtendedWinFileDialog::Impl::readSelectedAcceptOption()
     }
 }
 
-void ExtendedWinFileDialog::Impl::configureOnce()
+void ExtendedWinFileDialog::Impl::prepareRun()
 {
+    m_closed = false;
+    m_accepted = false;
+    m_firstRun = !m_optionsApplied;
     if (m_optionsApplied) {
-        return;
+        bringBackWhatTheUserLeft();
+    } else {
+        m_optionsApplied = true;
+        configure();
     }
-    m_optionsApplied = true;
+    m_openedFolder.clear();
+    m_leftFolder.clear();
+    m_acceptedName.reset();
+}
+
+void ExtendedWinFileDialog::Impl::configure()
+{
     m_dialog->SetTitle(shellText(m_caption).c_str());
     configureOptions();
-    configureFolder();
+    if (!m_directory->value().empty()) {
+        tellFolder(m_directory->value());
+    }
     configureFileTypes();
-    m_dialog->SetFileTypeIndex(static_cast<UINT>(m_currentFilterIndex->value()));
-    m_dialog->SetFileName(shellText(m_fileName->value()).c_str());
+    tellFileType(m_currentFilterIndex->value());
+    tellFileName(*m_dialog, m_fileName->value());
 }
 
 void ExtendedWinFileDialog::Impl::configureOptions()
@@ -138,12 +153,22 @@ void ExtendedWinFileDialog::Impl::configureOptions()
     m_dialog->SetOptions(options);
 }
 
-void ExtendedWinFileDialog::Impl::configureFolder()
+void ExtendedWinFileDialog::Impl::bringBackWhatTheUserLeft()
 {
-    std::string folder = m_directory->value();
-    if (folder.empty()) {
-        return;
+    // Not every Shell keeps it from run to run; to those that do this is nothing new.
+    if (m_leftFolder != m_openedFolder) {
+        tellFolder(m_leftFolder.toStdString());
     }
+    if (m_shownType != m_toldType) {
+        tellFileType(m_shownType);
+    }
+    if (m_acceptedName && *m_acceptedName != m_toldName) {
+        tellFileName(*m_dialog, *m_acceptedName);
+    }
+}
+
+void ExtendedWinFileDialog::Impl::tellFolder(std::string folder)
+{
     std::replace(folder.begin(), folder.end(), '/', '\\');
     ComPtr<IShellItem> item;
     const HRESULT result =
@@ -151,6 +176,21 @@ void ExtendedWinFileDialog::Impl::configureFolder()
     if (SUCCEEDED(result) && item) {
         m_dialog->SetFolder(item.get());
     }
+}
+
+void ExtendedWinFileDialog::Impl::tellFileType(int type)
+{
+    const HRESULT result = m_dialog->SetFileTypeIndex(static_cast<UINT>(type));
+    // The Shell keeps to its list.
+    const int last = m_nameFilters.size();
+    m_toldType = m_nameFilters.isEmpty() ? 0 : FAILED(result) ? 1 : std::clamp(type, 1, last);
+    m_shownType = m_toldType;
+}
+
+void ExtendedWinFileDialog::Impl::tellFileName(IFileDialog& dialog, const std::string& name)
+{
+    m_toldName = name;
+    dialog.SetFileName(shellText(name).c_str());
 }
 
 void ExtendedWinFileDialog::Impl::configureFileTypes()

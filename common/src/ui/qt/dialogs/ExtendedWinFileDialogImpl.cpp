@@ -7,7 +7,10 @@
 #include "ui/qt/dialogs/ExtendedWinFileDialogFakeWidget.h"
 #include "ui/qt/dialogs/FilePath.h"
 #include "ui/qt/dialogs/NameFilterText.h"
+#include "ui/qt/dialogs/shell/TypedNames.h"
 #include "ui/qt/util/GuiThread.h"
+
+#include <QDir>
 
 #include <boost/filesystem/operations.hpp>
 #include <boost/make_shared.hpp>
@@ -19,6 +22,16 @@ using morvane::ui::ComPtr;
 using morvane::ui::iidOf;
 using morvane::ui::Shell;
 using morvane::ui::ShellString;
+
+namespace {
+
+/** What a name may gain without being asked: not the text of several patterns, and no wildcard. */
+bool isOneExtension(const std::string& extension)
+{
+    return !extension.empty() && extension.find_first_of(" ;*?") == std::string::npos;
+}
+
+} // namespace
 
 ExtendedWinFileDialog::Impl::Impl(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode, bool useAcceptMenu)
@@ -36,7 +49,23 @@ ExtendedWinFileDialog::Impl::Impl(QWidget* parent, const std::string& caption, c
     if (FAILED(m_shell.coInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))) {
         return;
     }
-    const CLSID& kind = acceptMode == QFileDialog::AcceptOpen ? CLSID_FileOpenDialog : CLSID_FileSaveDialog;
+    try {
+        init(directory, filter);
+    } catch (...) {
+        m_shell.coUninitialize();
+        throw;
+    }
+}
+
+ExtendedWinFileDialog::Impl::~Impl()
+{
+    // Before the members and, last of all, the dialog go; hosts rely on the order.
+    m_shell.coUninitialize();
+}
+
+void ExtendedWinFileDialog::Impl::init(const std::string& directory, const std::string& filter)
+{
+    const CLSID& kind = m_acceptMode == QFileDialog::AcceptOpen ? CLSID_FileOpenDialog : CLSID_FileSaveDialog;
     m_shell.coCreateInstance(kind, nullptr, CLSCTX_INPROC_SERVER, iidOf<IFileDialog>(), m_dialog.putVoid());
     if (!directory.empty()) {
         initStartFolder(directory);
@@ -50,12 +79,6 @@ ExtendedWinFileDialog::Impl::Impl(QWidget* parent, const std::string& caption, c
     if (!m_helpTopic.empty()) {
         initHelpButton();
     }
-}
-
-ExtendedWinFileDialog::Impl::~Impl()
-{
-    // Before the members and, last of all, the dialog go; hosts rely on the order.
-    m_shell.coUninitialize();
 }
 
 void ExtendedWinFileDialog::Impl::initStartFolder(const std::string& directory)
@@ -100,29 +123,45 @@ QString ExtendedWinFileDialog::Impl::currentNameFilter() const
 
 void ExtendedWinFileDialog::Impl::close()
 {
-    if (m_dialog) {
-        m_dialog->Close(S_OK);
+    if (m_dialog && SUCCEEDED(m_dialog->Close(S_OK))) {
+        m_closed = m_closed || m_running;
     }
 }
 
 QStringList ExtendedWinFileDialog::Impl::selectedFiles()
 {
-    QStringList files;
-    if (!m_dialog) {
-        return files;
+    // Not every Shell forgets what an earlier run has chosen.
+    if (!m_dialog || m_closed) {
+        return {};
     }
     FILEOPENDIALOGOPTIONS options = 0;
     m_dialog->GetOptions(&options);
     if ((options & FOS_ALLOWMULTISELECT) == 0) {
-        ComPtr<IShellItem> item;
-        if (SUCCEEDED(m_dialog->GetResult(item.put())) && item) {
-            appendPath(files, *item);
-        }
-        return files;
+        return oneResult();
     }
-    const auto open = m_dialog.query<IFileOpenDialog>();
+    if (const auto open = m_dialog.query<IFileOpenDialog>()) {
+        return severalResults(*open);
+    }
+    // A save dialog has no list of results.
+    const QStringList files = oneResult();
+    return files.isEmpty() ? acceptedNames() : files;
+}
+
+QStringList ExtendedWinFileDialog::Impl::oneResult()
+{
+    QStringList files;
+    ComPtr<IShellItem> item;
+    if (SUCCEEDED(m_dialog->GetResult(item.put())) && item) {
+        appendPath(files, *item);
+    }
+    return files;
+}
+
+QStringList ExtendedWinFileDialog::Impl::severalResults(IFileOpenDialog& dialog)
+{
+    QStringList files;
     ComPtr<IShellItemArray> items;
-    if (!open || FAILED(open->GetResults(items.put())) || !items) {
+    if (FAILED(dialog.GetResults(items.put())) || !items) {
         return files;
     }
     DWORD count = 0;
@@ -133,6 +172,20 @@ QStringList ExtendedWinFileDialog::Impl::selectedFiles()
         if (item) {
             appendPath(files, *item);
         }
+    }
+    return files;
+}
+
+QStringList ExtendedWinFileDialog::Impl::acceptedNames()
+{
+    QStringList files;
+    ComPtr<IShellItem> folder;
+    if (!m_accepted || !m_acceptedName || FAILED(m_dialog->GetFolder(folder.put())) || !folder) {
+        return files;
+    }
+    const QString name = QString::fromStdString(*m_acceptedName);
+    for (const QString& path : morvane::ui::pathsOfTypedText(name, pathOf(*folder), true)) {
+        files.append(QDir::toNativeSeparators(path));
     }
     return files;
 }
@@ -201,6 +254,16 @@ HRESULT ExtendedWinFileDialog::Impl::requestControl(
     return customize.AddControlItem(m_acceptMenuId, id, label.c_str());
 }
 
+void ExtendedWinFileDialog::Impl::accepting(IFileDialog& dialog)
+{
+    if (m_acceptMode == QFileDialog::AcceptOpen) {
+        return;
+    }
+    if (const auto name = typedName(dialog)) {
+        m_acceptedName = name->toStdString();
+    }
+}
+
 void ExtendedWinFileDialog::Impl::folderChanged(IFileDialog& dialog)
 {
     ComPtr<IShellItem> folder;
@@ -209,34 +272,50 @@ void ExtendedWinFileDialog::Impl::folderChanged(IFileDialog& dialog)
         return;
     }
     const QString path = pathOf(*folder);
-    if (!path.isEmpty()) { // a virtual folder has none
-        m_directory->setValue(path.toStdString());
+    if (path.isEmpty()) { // a virtual folder has none
+        return;
     }
+    m_openedFolder = m_openedFolder.isEmpty() ? path : m_openedFolder;
+    m_leftFolder = path;
+    m_directory->setValue(path.toStdString());
 }
 
 void ExtendedWinFileDialog::Impl::typeChanged(IFileDialog& dialog)
 {
     UINT index = static_cast<UINT>(m_currentFilterIndex->value());
     dialog.GetFileTypeIndex(&index);
-    m_currentFilterIndex->setValue(static_cast<int>(index));
-    if (m_acceptMode != QFileDialog::AcceptSave) {
-        return;
+    // The Shell announces its type when it opens, too.
+    const bool picked = static_cast<int>(index) != m_shownType;
+    m_shownType = static_cast<int>(index);
+    m_currentFilterIndex->setValue(m_shownType);
+    if (m_acceptMode == QFileDialog::AcceptSave && (picked || m_firstRun)) {
+        replaceTypedExtension(dialog, picked);
     }
-    replaceTypedExtension(dialog);
 }
 
-void ExtendedWinFileDialog::Impl::replaceTypedExtension(IFileDialog& dialog)
+void ExtendedWinFileDialog::Impl::replaceTypedExtension(IFileDialog& dialog, bool picked)
+{
+    const QString name = typedName(dialog).value_or(QString());
+    const int index = m_currentFilterIndex->value();
+    if (name.isEmpty() || index < 1 || index > m_nameFilters.size()) {
+        return;
+    }
+    const std::string extension = extensionOfNameFilter(m_nameFilters[index - 1].toStdString());
+    boost::filesystem::path path = pathFromUtf8(name.toStdString());
+    const bool wanted = picked ? !isBareWildcard(extension) : isOneExtension(extension) && !path.has_extension();
+    if (!wanted || !morvane::ui::quotedNames(name).isEmpty()) {
+        return;
+    }
+    path.replace_extension(pathFromUtf8(extension));
+    tellFileName(dialog, pathToGenericUtf8(path));
+}
+
+std::optional<QString> ExtendedWinFileDialog::Impl::typedName(IFileDialog& dialog)
 {
     LPWSTR text = nullptr;
     const HRESULT result = dialog.GetFileName(&text);
     const QString name = takeText(text);
-    const int index = m_currentFilterIndex->value();
-    if (FAILED(result) || name.isEmpty() || index < 1 || index > m_nameFilters.size()) {
-        return;
-    }
-    boost::filesystem::path path = pathFromUtf8(name.toStdString());
-    path.replace_extension(pathFromUtf8(extensionOfNameFilter(m_nameFilters[index - 1].toStdString())));
-    dialog.SetFileName(shellText(pathToGenericUtf8(path)).c_str());
+    return SUCCEEDED(result) ? std::optional<QString>(name) : std::nullopt;
 }
 
 void ExtendedWinFileDialog::Impl::buttonClicked(DWORD control)

@@ -16,6 +16,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -49,21 +50,30 @@ struct ExtendedWinFileDialog::Impl
     void clearAcceptMenuOptions();
 
     // What the event handler hands on.
+    void accepting(IFileDialog& dialog);
     void folderChanged(IFileDialog& dialog);
     void typeChanged(IFileDialog& dialog);
     void buttonClicked(DWORD control);
     void checkButtonToggled(DWORD control, BOOL checked);
 
+    void init(const std::string& directory, const std::string& filter);
     void initStartFolder(const std::string& directory);
     void initAcceptMenu();
     void initHelpButton();
     void showHelp();
 
-    void configureOnce();
+    void prepareRun();
+    void configure();
     void configureOptions();
-    void configureFolder();
     void configureFileTypes();
+    void bringBackWhatTheUserLeft();
+    void tellFolder(std::string folder);
+    void tellFileType(int type);
+    void tellFileName(IFileDialog& dialog, const std::string& name);
     void readSelectedAcceptOption();
+    QStringList severalResults(IFileOpenDialog& dialog);
+    QStringList oneResult();
+    QStringList acceptedNames();
 
     unsigned int addControl(ControlKind kind, const std::string& text, bool prominent, bool checked);
     HRESULT requestControl(
@@ -72,7 +82,9 @@ struct ExtendedWinFileDialog::Impl
     QString takeText(LPWSTR text);
     QString pathOf(IShellItem& item);
     void appendPath(QStringList& files, IShellItem& item);
-    void replaceTypedExtension(IFileDialog& dialog);
+    void replaceTypedExtension(IFileDialog& dialog, bool picked);
+    /** What stands in the name field; nothing when it cannot be read. */
+    std::optional<QString> typedName(IFileDialog& dialog);
 
     // Destroyed from the last to the first, which hosts rely on.
     morvane::ui::Shell& m_shell;
@@ -98,4 +110,19 @@ struct ExtendedWinFileDialog::Impl
     int m_selectedAcceptMenuOption = 255;
     bool m_optionsApplied = false;
     bool m_running = false;
+    bool m_firstRun = true;
+
+    /** The last run was ended by close(), or was accepted by the user. */
+    bool m_closed = false;
+    bool m_accepted = false;
+
+    /** The file type that the Shell shows, counted from 1, and the one that it was told; 0 without types. */
+    int m_shownType = 0;
+    int m_toldType = 0;
+    /** The folder that this run opened in and the one that the user has gone to; empty before they are announced. */
+    QString m_openedFolder;
+    QString m_leftFolder;
+    /** The name that the Shell was told, and the one that the user has accepted in a save dialog. */
+    std::string m_toldName;
+    std::optional<std::string> m_acceptedName;
 };

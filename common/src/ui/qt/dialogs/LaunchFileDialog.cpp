@@ -101,6 +101,9 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
         return false;
     }
     const QStringList selected = dialog.selectedFiles();
+    if (selected.isEmpty()) {
+        return false;
+    }
     files.resize(static_cast<std::size_t>(selected.size()));
     for (int i = 0; i < selected.size(); ++i) {
         files[static_cast<std::size_t>(i)] = selected[i].toUtf8().toStdString();

@@ -60,6 +60,12 @@ std::string extensionOfNameFilter(std::string_view filter)
     return std::string(findEnclosed(filter, " (*.").text);
 }
 
+bool isBareWildcard(std::string_view extension)
+{
+    const std::string_view first = extension.substr(0, extension.find_first_of(" ;"));
+    return !first.empty() && first.find_first_not_of("*?") == std::string_view::npos;
+}
+
 QStringList splitNameFilters(const std::string& filters)
 {
     const QString text = QString::fromUtf8(filters.data(), static_cast<int>(filters.size()));

@@ -30,6 +30,9 @@ FileTypeText splitNameFilter(std::string_view filter);
  */
 std::string extensionOfNameFilter(std::string_view filter);
 
+/** Whether an extension says nothing: `*`, as `All files (*.*)` has it, or a first pattern of wildcards alone. */
+bool isBareWildcard(std::string_view extension);
+
 /**
  * Splits filters joined by `;;` and strips the blanks around each. A piece between two separators that is empty is
  * dropped; one that becomes empty by stripping is kept.

@@ -2,7 +2,9 @@
 
 #include "host/ApplicationSettings.h"
 #include "host/HelpLauncher.h"
+#include "ui/qt/util/CursorStack.h"
 #include "ui/qt/util/FileDialogAccess.h"
+#include "ui/qt/util/FileDialogLayout.h"
 #include "ui/qt/util/GuiThread.h"
 
 #include <QComboBox>
@@ -15,6 +17,7 @@
 #include <QListView>
 #include <QMessageLogger>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -23,16 +26,6 @@
 #include <utility>
 
 namespace {
-
-/** Pushes an override cursor for its lifetime, which may be longer than that of the dialog. */
-class ArrowCursor
-{
-public:
-    ArrowCursor() { QGuiApplication::setOverrideCursor(QCursor(Qt::ArrowCursor)); }
-    ~ArrowCursor() { QGuiApplication::restoreOverrideCursor(); }
-    ArrowCursor(const ArrowCursor&) = delete;
-    ArrowCursor& operator=(const ArrowCursor&) = delete;
-};
 
 QString fromUtf8(const std::string& text)
 {
@@ -100,6 +93,7 @@ void QExtendedFileDialog::show()
     restoreFilters();
     addSidebarUrls();
     morvane::ui::makeListsReachable(*this);
+    morvane::ui::showTypesOfFilesOnly(*this);
     QWidget::show();
     saveSizeAndPosition();
 }
@@ -110,10 +104,23 @@ int QExtendedFileDialog::exec()
     restoreFilters();
     addSidebarUrls();
     morvane::ui::makeListsReachable(*this);
-    const ArrowCursor arrow;
+    morvane::ui::showTypesOfFilesOnly(*this);
     const QPointer<QExtendedFileDialog> self(this);
+    const bool waits = m_overrideCursorSet || isBeingRead(m_model->rootPath());
+    restoreCursor(); // which would lie below the arrow
+    QGuiApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
+    const auto takeOff = qScopeGuard([] { morvane::ui::takeOffOverrideCursor(Qt::ArrowCursor); });
+    const auto endWait = qScopeGuard([self] {
+        if (self) {
+            self->restoreCursor();
+        }
+    });
+    if (waits) {
+        waitForFolder();
+    }
     const int result = QDialog::exec();
     if (self) {
+        restoreCursor();
         saveSizeAndPosition();
     }
     return result;
@@ -147,6 +154,9 @@ void QExtendedFileDialog::accept()
     m_fileTypeCombo->blockSignals(true);
     setNameFilters(filters);
     selectNameFilter(m_modifiedNameFilter);
+    if (position >= 0) {
+        m_fileTypeCombo->setCurrentIndex(position); // it may read like another one now
+    }
     m_fileTypeCombo->blockSignals(false);
     connect(m_fileTypeCombo, SIGNAL(activated(QString)), this, SLOT(revertModifiedFilterAndSelect(QString)),
         Qt::UniqueConnection);
@@ -179,14 +189,44 @@ void QExtendedFileDialog::launchHelp()
     morvane::HelpLauncher::getInstance().showHelp(m_helpTopic);
 }
 
-void QExtendedFileDialog::onDirectoryLoaded(const QString&)
+void QExtendedFileDialog::onDirectoryLoaded(const QString& path)
 {
+    m_readFolders.insert(keyOf(path));
     restoreCursor();
+    // What ended the wait may have been another folder, read for the suggestions.
+    if (isVisible() && m_shownFolder == m_model->rootPath() && isBeingRead(m_shownFolder)) {
+        waitForFolder();
+    }
 }
 
 void QExtendedFileDialog::onRootPathChanged(const QString& path)
 {
-    if (!m_overrideCursorSet && QFileInfo(path).isDir()) {
+    const bool again = path == m_shownFolder;
+    if (!again) {
+        // The model reads the folder that it leaves once more when it comes back there, and no other one twice.
+        m_readFolders.remove(keyOf(m_shownFolder));
+        m_shownFolder = path;
+    }
+    if (again ? QFileInfo(path).isDir() : isBeingRead(path)) {
+        waitForFolder();
+    }
+}
+
+bool QExtendedFileDialog::isBeingRead(const QString& folder) const
+{
+    return QFileInfo(folder).isDir() && !m_readFolders.contains(keyOf(folder));
+}
+
+/** One text for all ways to write the path of a folder. */
+QString QExtendedFileDialog::keyOf(const QString& folder) const
+{
+    const QModelIndex index = m_model->index(folder);
+    return index.isValid() ? m_model->filePath(index) : folder;
+}
+
+void QExtendedFileDialog::waitForFolder()
+{
+    if (!m_overrideCursorSet) {
         QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
         m_overrideCursorSet = true;
     }
@@ -203,9 +243,10 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
     m_fileTypeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
     m_fileNameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     const auto* const view = findChild<QListView*>(QStringLiteral("listView"));
-    const auto* const model = qobject_cast<QFileSystemModel*>(view->model());
-    connect(model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));
-    connect(model, SIGNAL(rootPathChanged(const QString&)), this, SLOT(onRootPathChanged(const QString&)));
+    m_model = qobject_cast<QFileSystemModel*>(view->model());
+    m_shownFolder = m_model->rootPath();
+    connect(m_model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));
+    connect(m_model, SIGNAL(rootPathChanged(const QString&)), this, SLOT(onRootPathChanged(const QString&)));
     // For an empty name Qt's completion selects the open folder itself, out of sight, and a selected row wins over what
     // is typed then: accepting would enter the folder and clear the name.
     connect(m_fileNameEdit, &QLineEdit::textChanged, view, [view](const QString& text) {
@@ -227,6 +268,7 @@ void QExtendedFileDialog::addSidebarUrls()
     if (!morvane::ApplicationSettings::getInstance().getByteArrayValue(m_geometryPersistenceKey).isEmpty()) {
         return;
     }
+    morvane::ui::showListsWhole(*this);
     try {
         QList<QUrl> urls = sidebarUrls();
         for (const auto location :
@@ -261,6 +303,6 @@ void QExtendedFileDialog::restoreCursor()
 {
     if (m_overrideCursorSet) {
         m_overrideCursorSet = false;
-        QGuiApplication::restoreOverrideCursor();
+        morvane::ui::takeOffOverrideCursor(Qt::WaitCursor);
     }
 }

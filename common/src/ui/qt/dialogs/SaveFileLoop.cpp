@@ -15,7 +15,7 @@
 namespace {
 
 /** Asks with No as the default; no answer, because the parent was destroyed, counts as No. */
-bool isConfirmed(QWidget* parent, const std::string& title, const std::string& question)
+bool ask(QWidget* parent, const std::string& title, const std::string& question)
 {
     // On the heap, since the parent may take the box with it.
     const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::Question, QString::fromStdString(title),
@@ -73,7 +73,7 @@ void SaveFileState::setUp(
     const QStringList filters = toNameFilters(writerFilters);
     setNameFilters(filters);
     if (selectedWriterIndex >= 0 && selectedWriterIndex < filters.size()) {
-        selectNameFilter(filters[selectedWriterIndex]);
+        selectNameFilter(filters.indexOf(filters[selectedWriterIndex]));
     }
     finishDialog();
 }
@@ -86,22 +86,47 @@ bool SaveFileState::launch()
         if (files.isEmpty()) {
             return false;
         }
-        m_selectedFilename = applyFilterExtension(files.first().toStdString(), selectedFilter().toStdString());
-
-        const std::string nameToCheck = m_messageHandler->filenameToCheck(m_selectedFilename);
-        if (existsInAnyForm(nameToCheck) &&
-            !isConfirmed(messageParent(), m_caption, m_messageHandler->okToOverwriteMessage())) {
-            continue;
-        }
-        if (!isAlive()) {
-            return false;
-        }
-        if (checkWriteAccess(pathFromUtf8(m_selectedFilename))) {
-            return true;
-        }
-        if (!isConfirmed(messageParent(), m_caption, m_messageHandler->unableToOverwriteMessage())) {
-            return false;
+        m_selectedFilename = applyFilterExtension(files.first().toStdString(), filterForExtension().toStdString());
+        const Verdict verdict = judge();
+        if (verdict != Verdict::ShowAgain) {
+            return verdict == Verdict::Good;
         }
     }
     return false;
+}
+
+// The message handler may destroy the parent, and the dialog with it, in each of its operations.
+SaveFileState::Verdict SaveFileState::judge()
+{
+    const std::string nameToCheck = m_messageHandler->filenameToCheck(m_selectedFilename);
+    if (!isAlive()) {
+        return Verdict::GivenUp;
+    }
+    if (existsInAnyForm(nameToCheck) && !isConfirmed(m_messageHandler->okToOverwriteMessage())) {
+        return Verdict::ShowAgain;
+    }
+    if (!isAlive()) {
+        return Verdict::GivenUp;
+    }
+    if (checkWriteAccess(pathFromUtf8(m_selectedFilename))) {
+        return Verdict::Good;
+    }
+    return isConfirmed(m_messageHandler->unableToOverwriteMessage()) ? Verdict::ShowAgain : Verdict::GivenUp;
+}
+
+bool SaveFileState::isConfirmed(const std::string& question)
+{
+    return isAlive() && ask(messageParent(), m_caption, question);
+}
+
+int SaveFileState::selectedWriter()
+{
+    const QStringList filters = nameFilters();
+    const int position = selectedPosition();
+    return position >= 0 && position < filters.size() ? filters.indexOf(filters[position]) : -1;
+}
+
+QString SaveFileState::filterForExtension()
+{
+    return nameFilters().value(selectedPosition());
 }

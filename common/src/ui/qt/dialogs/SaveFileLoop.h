@@ -25,7 +25,7 @@ struct SaveFileState
 
     /** Makes the dialog with name filters that are joined by `;;`. Comes before anything else. */
     void setUp(const std::string& filter, const std::string& helpTopic);
-    /** Makes the dialog with one name filter a writer; an index outside of the list selects none. */
+    /** Makes the dialog with one name filter a writer; an index outside of the list leaves the first one selected. */
     void setUp(const std::vector<std::string>& writerFilters, int selectedWriterIndex, const std::string& helpTopic);
 
     /**
@@ -33,24 +33,29 @@ struct SaveFileState
      * dialog is destroyed. Returns whether m_selectedFilename may be written to.
      */
     bool launch();
-    /** The position of the chosen filter, or -1. */
-    int selectedWriter() { return nameFilters().indexOf(selectedFilter()); }
+    /** The save-file object is destroyed, perhaps while launch() runs: nothing more is asked then. */
+    virtual void abandon() { m_isAbandoned = true; }
+    /** The position of the chosen filter among the caller's, of equal ones the first; -1 when it is not there. */
+    int selectedWriter();
 
     virtual void createDialog(const std::string& filter, const std::string& helpTopic) = 0;
     virtual void setNameFilters(const QStringList& filters) = 0;
-    /** Selects the first of the filters with this text. */
-    virtual void selectNameFilter(const QString& filter) = 0;
+    virtual void selectNameFilter(int position) = 0;
     /** Names the file to start with, and leaves the question before overwriting to launch(). */
     virtual void finishDialog() = 0;
 
     /** Runs the dialog modally and returns whether the user accepted. */
     virtual bool run() = 0;
     virtual QStringList selectedFiles() = 0;
+    /** The caller's filters, also while a wildcard that the user has typed stands in the place of one of them. */
     virtual QStringList nameFilters() = 0;
+    /** The position of the chosen one among them. */
+    virtual int selectedPosition() = 0;
+    /** The text of the chosen one as the dialog has it. */
     virtual QString selectedFilter() = 0;
     virtual QWidget* messageParent() = 0;
     /** False once the dialog or its parent was destroyed; then launch() asks nothing more of it. */
-    virtual bool isAlive() = 0;
+    virtual bool hasDialog() = 0;
 
     QPointer<QWidget> m_parent;
     std::string m_caption;
@@ -58,4 +63,18 @@ struct SaveFileState
     std::string m_filename;
     std::string m_selectedFilename;
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> m_messageHandler;
+    bool m_isAbandoned = false;
+
+private:
+    enum class Verdict
+    {
+        Good,
+        ShowAgain,
+        GivenUp
+    };
+    /** Asks about m_selectedFilename what there is to ask. */
+    Verdict judge();
+    bool isAlive() { return !m_isAbandoned && hasDialog(); }
+    bool isConfirmed(const std::string& question);
+    QString filterForExtension();
 };

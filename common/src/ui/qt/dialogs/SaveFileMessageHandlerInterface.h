@@ -11,7 +11,8 @@ namespace morvane {
  * default handler does. The save-file object owns its handler and calls it on the GUI thread.
  *
  * All text is UTF-8 and shown as plain text: markup in it is not interpreted. An exception thrown by a handler leaves
- * `launch()`.
+ * `launch()`. An operation may destroy the parent of the dialog, or the save-file object; `launch()` then returns false
+ * without a further question, and the handler is destroyed afterwards.
  *
  * @snippet 14-save-in-your-words/main.cpp handler
  * @snippet 14-save-in-your-words/main.cpp flow

@@ -4,13 +4,23 @@
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileLoop.h"
 
+#include <QComboBox>
+#include <QLineEdit>
+
 #include <utility>
 
 struct SaveFileQtDialog::Impl : SaveFileState
 {
     using SaveFileState::SaveFileState;
 
-    ~Impl() override
+    ~Impl() override { deleteOrphan(); }
+
+    void abandon() override
+    {
+        SaveFileState::abandon();
+        deleteOrphan();
+    }
+    void deleteOrphan()
     {
         if (m_isOrphan) {
             delete m_dialog;
@@ -22,24 +32,67 @@ struct SaveFileQtDialog::Impl : SaveFileState
         m_isOrphan = !m_parent;
         m_dialog = new QExtendedFileDialog(
             m_parent.data(), m_caption, m_directory, filter, helpTopic, QFileDialog::AcceptSave);
+        if (filter.empty()) {
+            m_given = QStringList(QString());
+            m_shown = m_dialog->nameFilters();
+        }
     }
 
-    void setNameFilters(const QStringList& filters) override { m_dialog->setNameFilters(filters); }
-    void selectNameFilter(const QString& filter) override { m_dialog->selectNameFilter(filter); }
+    void setNameFilters(const QStringList& filters) override
+    {
+        m_dialog->setNameFilters(filters);
+        m_given = filters;
+        m_shown = m_dialog->nameFilters();
+    }
+    void selectNameFilter(int position) override
+    {
+        m_dialog->selectNameFilter(m_dialog->nameFilters().at(position));
+        m_dialog->m_fileTypeCombo->setCurrentIndex(position); // where two look alike
+    }
     void finishDialog() override
     {
         m_dialog->selectFile(QString::fromStdString(m_filename));
         m_dialog->setOptions(QFileDialog::DontConfirmOverwrite | QFileDialog::DontUseNativeDialog);
     }
 
-    bool run() override { return m_dialog->exec() == QDialog::Accepted; }
+    bool run() override
+    {
+        takeWildcardBack();
+        return m_dialog->exec() == QDialog::Accepted;
+    }
     QStringList selectedFiles() override { return m_dialog->selectedFiles(); }
-    QStringList nameFilters() override { return m_dialog ? m_dialog->nameFilters() : QStringList(); }
+    QStringList nameFilters() override
+    {
+        if (!m_dialog) {
+            return QStringList();
+        }
+        const QStringList& saved = m_dialog->m_savedNameFilters;
+        const QStringList filters = saved.isEmpty() ? m_dialog->nameFilters() : saved;
+        return filters == m_shown ? m_given : filters;
+    }
+    int selectedPosition() override { return m_dialog ? m_dialog->m_fileTypeCombo->currentIndex() : -1; }
     QString selectedFilter() override { return m_dialog ? m_dialog->selectedNameFilter() : QString(); }
     QWidget* messageParent() override { return m_dialog; }
-    bool isAlive() override { return m_dialog; }
+    bool hasDialog() override { return m_dialog; }
+
+    /** The dialog does so by itself when it is shown, but then selects its first filter and changes the name. */
+    void takeWildcardBack()
+    {
+        if (m_dialog->m_savedNameFilters.isEmpty()) {
+            return;
+        }
+        const int position = selectedPosition();
+        const QString name = m_dialog->m_fileNameEdit->text();
+        m_dialog->restoreFilters();
+        if (position >= 0) {
+            selectNameFilter(position);
+        }
+        m_dialog->m_fileNameEdit->setText(name);
+    }
 
     QPointer<QExtendedFileDialog> m_dialog;
+    QStringList m_given;     // the caller's filters as they were given, one empty text where there are none
+    QStringList m_shown;     // the same as the dialog has them, which simplifies blanks and has one for all files
     bool m_isOrphan = false; // nobody else deletes a dialog without a parent
 };
 
@@ -53,7 +106,7 @@ SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic,
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
     m_impl->setUp(filter, helpTopic);
 }
@@ -69,16 +122,20 @@ SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
     m_impl->setUp(writerFilters, selectedWriterIndex, helpTopic);
 }
 
-SaveFileQtDialog::~SaveFileQtDialog() = default;
+SaveFileQtDialog::~SaveFileQtDialog()
+{
+    m_impl->abandon();
+}
 
 bool SaveFileQtDialog::launch()
 {
-    return m_impl->launch();
+    const std::shared_ptr<Impl> impl = m_impl; // this object may go while the dialog is open
+    return impl->launch();
 }
 
 std::string SaveFileQtDialog::selectedFilename()

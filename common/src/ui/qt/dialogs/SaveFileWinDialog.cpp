@@ -1,19 +1,28 @@
 #include "ui/qt/dialogs/SaveFileWinDialog.h"
 
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
-#include "ui/qt/dialogs/ExtendedWinFileDialog.h"
+#include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
+#include "ui/qt/dialogs/SaveFileKeptDialogs.h"
 #include "ui/qt/dialogs/SaveFileLoop.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
-/** The dialogs that outlive their save flow, on purpose; here they stay reachable. */
-ExtendedWinFileDialog* keepForever(ExtendedWinFileDialog* dialog)
+/** A dialog that outlives its save flow, on purpose, and the Shell's own that belongs to it. */
+struct Kept
 {
-    static auto* const kept = new std::vector<ExtendedWinFileDialog*>;
-    kept->push_back(dialog);
-    return dialog;
+    ExtendedWinFileDialog* dialog;
+    const IFileDialog* shellDialog;
+};
+
+/** Here they stay reachable. */
+std::vector<Kept>& keptDialogs()
+{
+    static auto* const kept = new std::vector<Kept>;
+    return *kept;
 }
 
 } // namespace
@@ -25,12 +34,13 @@ struct SaveFileWinDialog::Impl : SaveFileState
     void createDialog(const std::string& filter, const std::string& helpTopic) override
     {
         m_hasParent = m_parent;
-        m_dialog = keepForever(new ExtendedWinFileDialog(
-            m_parent.data(), m_caption, m_directory, filter, helpTopic, QFileDialog::AcceptSave, false));
+        m_dialog = new ExtendedWinFileDialog(
+            m_parent.data(), m_caption, m_directory, filter, helpTopic, QFileDialog::AcceptSave, false);
+        keptDialogs().push_back({m_dialog, m_dialog->m_impl->m_dialog.get()});
     }
 
     void setNameFilters(const QStringList& filters) override { m_dialog->setNameFilters(filters); }
-    void selectNameFilter(const QString& filter) override { m_dialog->selectNameFilter(filter); }
+    void selectNameFilter(int position) override { m_dialog->currentFilterIndex()->setValue(position + 1); }
     void finishDialog() override
     {
         m_dialog->selectFile(QString::fromStdString(m_filename));
@@ -40,9 +50,10 @@ struct SaveFileWinDialog::Impl : SaveFileState
     bool run() override { return m_dialog->exec() == QDialog::Accepted; }
     QStringList selectedFiles() override { return m_dialog->selectedFiles(); }
     QStringList nameFilters() override { return m_dialog->nameFilters(); }
-    QString selectedFilter() override { return nameFilters().value(m_dialog->currentFilterIndex()->value() - 1); }
+    int selectedPosition() override { return m_dialog->currentFilterIndex()->value() - 1; }
+    QString selectedFilter() override { return nameFilters().value(selectedPosition()); }
     QWidget* messageParent() override { return m_dialog->parent(); }
-    bool isAlive() override { return m_parent || !m_hasParent; }
+    bool hasDialog() override { return m_parent || !m_hasParent; }
 
     ExtendedWinFileDialog* m_dialog = nullptr;
     bool m_hasParent = false;
@@ -58,7 +69,7 @@ SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic,
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
     m_impl->setUp(filter, helpTopic);
 }
@@ -74,16 +85,20 @@ SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_unique<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
 {
     m_impl->setUp(writerFilters, selectedWriterIndex, helpTopic);
 }
 
-SaveFileWinDialog::~SaveFileWinDialog() = default;
+SaveFileWinDialog::~SaveFileWinDialog()
+{
+    m_impl->abandon();
+}
 
 bool SaveFileWinDialog::launch()
 {
-    return m_impl->launch();
+    const std::shared_ptr<Impl> impl = m_impl; // this object may go while the dialog is open
+    return impl->launch();
 }
 
 std::string SaveFileWinDialog::selectedFilename()
@@ -104,4 +119,10 @@ int SaveFileWinDialog::selectedWriter() const
 ExtendedWinFileDialog* SaveFileWinDialog::dialog()
 {
     return m_impl->m_dialog;
+}
+
+bool morvane::ui::isKeptForSaveFlow(const IFileDialog& dialog)
+{
+    const auto& kept = keptDialogs();
+    return std::any_of(kept.begin(), kept.end(), [&dialog](const Kept& one) { return one.shellDialog == &dialog; });
 }

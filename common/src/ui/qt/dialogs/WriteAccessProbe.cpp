@@ -6,10 +6,14 @@
 
 #ifdef _WIN32
 #include "host/StringConversion.h"
+#include "ui/qt/dialogs/shell/ShellInterfaces.h"
+#else
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #endif
 
-#include <cerrno>
-#include <cstdio>
 #include <string>
 #include <utility>
 
@@ -22,90 +26,264 @@ bool isAbsent(fs::file_type type)
     return type == fs::status_error || type == fs::file_not_found;
 }
 
-std::FILE* openFile(const fs::path& path, const char* mode)
+fs::path scratchName(boost::system::error_code& error)
 {
-    fs::path preferred = path;
-    const std::string name = pathToUtf8(preferred.make_preferred());
+    return fs::unique_path("%%%%-%%%%-%%%%-%%%%", error);
+}
+
+// As many links as the kernel of Linux follows; also the limit where somebody else keeps making and removing the name.
+constexpr int maxAttempts = 41;
+
 #ifdef _WIN32
-    return _wfopen(morvane::utf8ToWideString(name).c_str(), morvane::utf8ToWideString(mode).c_str());
-#else
-    std::FILE* file = nullptr;
-    do {
-        file = std::fopen(name.c_str(), mode);
-    } while (!file && errno == EINTR);
-    return file;
-#endif
-}
 
-bool opens(const fs::path& path, const char* mode)
+using Error = DWORD;
+
+bool isTaken(Error error)
 {
-    std::FILE* const file = openFile(path, mode);
-    if (!file) {
-        return false;
-    }
-    static_cast<void>(std::fclose(file)); // nothing was written
-    return true;
+    return error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS;
 }
 
-void removeFile(const fs::path& path)
+bool isNotThere(Error error)
+{
+    return error == ERROR_FILE_NOT_FOUND;
+}
+
+/** A file that is open for reading and writing, or why it is not. */
+class OpenFile
+{
+public:
+    OpenFile(fs::path path, DWORD furtherAccess, DWORD shared, DWORD disposition, DWORD flags)
+        : m_handle(CreateFileW(morvane::utf8ToWideString(pathToUtf8(path.make_preferred())).c_str(),
+              GENERIC_READ | GENERIC_WRITE | furtherAccess, shared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL | flags,
+              nullptr)),
+          m_error(m_handle == INVALID_HANDLE_VALUE ? GetLastError() : ERROR_SUCCESS)
+    {
+    }
+    ~OpenFile()
+    {
+        if (m_error == ERROR_SUCCESS) {
+            CloseHandle(m_handle);
+        }
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    Error error() const { return m_error; }
+
+    /** Once it is closed, if that is allowed. */
+    void remove() const
+    {
+        const DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+        const HANDLE again = ReOpenFile(m_handle, DELETE, everything, FILE_FLAG_DELETE_ON_CLOSE);
+        if (again != INVALID_HANDLE_VALUE) {
+            CloseHandle(again);
+        }
+    }
+
+private:
+    const HANDLE m_handle;
+    const Error m_error;
+};
+
+Error openExisting(const fs::path& path)
+{
+    return OpenFile(path, 0, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING, 0).error();
+}
+
+/** Where files may be made and not be deleted. Also after somebody else's file was in the way and has just gone. */
+Error makeAndTryToRemove(const fs::path& path)
+{
+    const OpenFile file(path, 0, FILE_SHARE_DELETE, CREATE_NEW, 0);
+    if (file.error() == ERROR_SUCCESS) {
+        file.remove();
+    }
+    return file.error();
+}
+
+/**
+ * Makes the file exclusively. It goes with its own handle, so that no other file that got the name meanwhile can go in
+ * its place. Others may rename a file onto the name while it is there, and may not write to it.
+ */
+Error makeAndRemove(const fs::path& path)
+{
+    const Error error = OpenFile(path, DELETE, FILE_SHARE_DELETE, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE).error();
+    return error == ERROR_ACCESS_DENIED ? makeAndTryToRemove(path) : error;
+}
+
+/** Creating goes through links by itself. */
+bool followLink(fs::path&)
+{
+    return false;
+}
+
+#else
+
+using Error = int;
+
+bool isTaken(Error error)
+{
+    return error == EEXIST;
+}
+
+bool isNotThere(Error error)
+{
+    return error == ENOENT;
+}
+
+template <typename Call>
+int uninterrupted(Call call)
+{
+    int result = 0;
+    do {
+        result = call();
+    } while (result == -1 && errno == EINTR);
+    return result;
+}
+
+/** A file that is open for appending, or why it is not. */
+class OpenFile
+{
+public:
+    OpenFile(const fs::path& path, int flags)
+        : m_descriptor(uninterrupted(
+              [&] { return ::open(path.c_str(), O_RDWR | O_APPEND | O_CLOEXEC | O_NOCTTY | flags, 0666); })),
+          m_error(m_descriptor == -1 ? errno : 0)
+    {
+    }
+    ~OpenFile()
+    {
+        if (m_error == 0) {
+            static_cast<void>(::close(m_descriptor)); // nothing was written
+        }
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    Error error() const { return m_error; }
+
+    /** Of the file itself, whatever its name leads to by now. @return whether it is known */
+    bool readStatus(struct stat& status) const
+    {
+        return uninterrupted([&] { return ::fstat(m_descriptor, &status); }) == 0;
+    }
+
+private:
+    const int m_descriptor;
+    const Error m_error;
+};
+
+Error openExisting(const fs::path& path)
+{
+    return OpenFile(path, 0).error();
+}
+
+void removeName(const fs::path& path)
+{
+    uninterrupted([&] { return ::unlink(path.c_str()); });
+}
+
+int renameFile(const fs::path& from, const fs::path& to)
+{
+    return uninterrupted([&] { return ::rename(from.c_str(), to.c_str()); });
+}
+
+/** Gives somebody else's file its name back, unless a later one has the name by now. */
+void putBack(const fs::path& scratch, const fs::path& path)
+{
+    // Unlike rename(), link() replaces nothing. Some file systems do not have it.
+    if (uninterrupted([&] { return ::link(scratch.c_str(), path.c_str()); }) == 0 || errno == EEXIST) {
+        removeName(scratch);
+    } else {
+        renameFile(scratch, path);
+    }
+}
+
+/** Whether @p path leads to the file that was made, and nobody has written to it. */
+bool isStill(const struct stat& made, const fs::path& path)
+{
+    struct stat named = {};
+    return uninterrupted([&] { return ::lstat(path.c_str(), &named); }) == 0 && made.st_dev == named.st_dev &&
+           made.st_ino == named.st_ino && named.st_size == 0;
+}
+
+/**
+ * Removes the file that was made if it still is what @p path leads to. Another file may get the name after that was
+ * seen. So whatever has the name is moved aside in one step and looked at again there.
+ */
+void removeMade(const fs::path& path, const struct stat& made)
+{
+    if (!isStill(made, path)) {
+        return;
+    }
+    boost::system::error_code error;
+    const fs::path scratch = path.parent_path() / scratchName(error);
+    if (error || (renameFile(path, scratch) != 0 && !isNotThere(errno))) {
+        removeName(path); // no place aside
+    } else if (isStill(made, scratch)) {
+        removeName(scratch);
+    } else {
+        putBack(scratch, path);
+    }
+}
+
+/** Makes the file exclusively, and removes it if it is still the one that has the name. */
+Error makeAndRemove(const fs::path& path)
+{
+    const OpenFile file(path, O_CREAT | O_EXCL);
+    struct stat made = {};
+    if (file.error() == 0 && file.readStatus(made)) {
+        removeMade(path, made); // the file stays open meanwhile: no other can have its number then
+    }
+    return file.error();
+}
+
+/** Creating exclusively does not follow links. @return whether it was one, and @p path is what it leads to */
+bool followLink(fs::path& path)
 {
     boost::system::error_code error;
+    fs::path target;
     do {
-        fs::remove(path, error);
+        target = fs::read_symlink(path, error);
     } while (error == boost::system::errc::interrupted);
-}
-
-#ifdef _WIN32
-
-bool probeByCreating(const fs::path& candidate)
-{
-    boost::system::error_code ignored;
-    const bool wasAbsent = isAbsent(fs::symlink_status(candidate, ignored).type());
-    const bool opened = opens(candidate, "a+");
-    if (wasAbsent) {
-        removeFile(candidate);
+    if (!error) {
+        path = fs::absolute(target, path.parent_path());
     }
-    return opened;
+    return !error;
 }
 
-#else
-
-// As many links as the kernel follows.
-constexpr int maxLinks = 40;
+#endif
 
 /** Creating exclusively tells what was made here, and may be removed, from what somebody else made. */
 bool probeByCreating(fs::path path)
 {
-    for (int followed = 0; followed <= maxLinks; ++followed) {
-        if (opens(path, "a+x")) {
-            removeFile(path);
-            return true;
+    for (int attempt = 0; attempt < maxAttempts; ++attempt) {
+        const Error error = makeAndRemove(path);
+        if (!isTaken(error)) {
+            return error == 0;
         }
-        if (errno != EEXIST) {
-            return false;
-        }
-        boost::system::error_code error;
-        const fs::path target = fs::read_symlink(path, error);
-        if (error == boost::system::errc::interrupted) {
+        if (followLink(path)) {
             continue;
         }
-        if (error) {
-            // No link: made by somebody else meanwhile. A link that cannot be read may lead to nothing, which opening
-            // it for appending would make.
-            return error == boost::system::errc::invalid_argument && opens(path, "a+");
+        // Somebody else's, and perhaps removed again by now.
+        const Error existing = openExisting(path);
+        if (!isNotThere(existing)) {
+            return existing == 0;
         }
-        path = fs::absolute(target, path.parent_path());
     }
     return false;
 }
-
-#endif
 
 } // namespace
 
 bool probeOpenForAppend(fs::path candidate, bool removeAfter)
 {
-    return removeAfter ? probeByCreating(std::move(candidate)) : opens(candidate, "a+");
+    if (!removeAfter) {
+        const Error existing = openExisting(candidate);
+        if (!isNotThere(existing)) {
+            return existing == 0;
+        }
+    }
+    return probeByCreating(std::move(candidate));
 }
 
 bool checkWriteAccess(const fs::path& target)
@@ -115,6 +293,7 @@ bool checkWriteAccess(const fs::path& target)
     do {
         type = fs::status(target, error).type();
     } while (error == boost::system::errc::interrupted);
+    // Something may be there although its status cannot be read; creating exclusively finds out.
     if (error || isAbsent(type)) {
         return probeOpenForAppend(target, true);
     }
@@ -122,6 +301,6 @@ bool checkWriteAccess(const fs::path& target)
         return probeOpenForAppend(target, false);
     }
     // Joined afterwards: a per cent sign in the name of the directory is no placeholder.
-    const fs::path scratch = fs::unique_path("%%%%-%%%%-%%%%-%%%%", error);
+    const fs::path scratch = scratchName(error);
     return !error && probeOpenForAppend(target / scratch, true);
 }

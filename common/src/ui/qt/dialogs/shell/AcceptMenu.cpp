@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QMenu>
 #include <QPainter>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleOption>
 
@@ -71,6 +72,10 @@ bool AcceptMenu::eventFilter(QObject* watched, QEvent* event)
 
 bool AcceptMenu::filterMenu(QEvent& event)
 {
+    if (event.type() == QEvent::Show) {
+        placeMenu();
+        return false;
+    }
     if (m_isResending || (event.type() != QEvent::MouseButtonRelease && event.type() != QEvent::KeyPress)) {
         return false;
     }
@@ -125,6 +130,24 @@ void AcceptMenu::fitToButton()
 {
     const int x = m_acceptButton.isRightToLeft() ? 0 : m_acceptButton.width() - arrowWidth;
     setGeometry(x, 0, arrowWidth, m_acceptButton.height());
+}
+
+void AcceptMenu::placeMenu()
+{
+    const QRect button(m_acceptButton.mapToGlobal(QPoint(0, 0)), m_acceptButton.size());
+    const QScreen* const screen = m_acceptButton.screen();
+    const QRect room = screen ? screen->availableGeometry() : QRect();
+    QRect menu(QPoint(), m_menu->size());
+    menu.moveBottomRight(button.topRight() - QPoint(0, 1));
+    if (m_acceptButton.isRightToLeft()) {
+        menu.moveLeft(button.left());
+    }
+    if (screen && menu.top() < room.top()) {
+        // Beside the button, where none of the others is.
+        menu.moveTop(button.top());
+        menu.moveLeft(button.right() + menu.width() < room.right() ? button.right() + 1 : button.left() - menu.width());
+    }
+    m_menu->move(menu.topLeft());
 }
 
 } // namespace morvane::ui

@@ -13,7 +13,8 @@ namespace morvane::ui {
 
 /**
  * The arrow at the right end of the accept button, with the menu of the drop-down's items. The arrow is hidden while
- * there is no item to choose. The button itself works as before.
+ * there is no item to choose. The button itself works as before. The menu opens above the button, since others of the
+ * dialog lie below.
  */
 class AcceptMenu : public QToolButton
 {
@@ -33,6 +34,7 @@ private:
     bool filterMenu(QEvent& event);
     void onTriggered(DWORD item);
     void fitToButton();
+    void placeMenu();
 
     QAbstractButton& m_acceptButton;
     const std::function<void(DWORD)> m_picked;

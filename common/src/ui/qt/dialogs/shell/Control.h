@@ -37,6 +37,8 @@ struct Control
     std::vector<ControlItem> items{};
     std::optional<DWORD> selectedItem{};
 
+    /** What the accept button stands for: the first item that can be chosen. Null without one. */
+    const ControlItem* firstChoice() const;
     bool isEnabled() const { return (state & CDCS_ENABLED) != 0; }
     bool isVisible() const { return (state & CDCS_VISIBLE) != 0; }
 };
@@ -46,8 +48,9 @@ struct ControlActions
 {
     std::function<void(DWORD control)> clicked;
     std::function<void(DWORD control, bool checked)> toggled;
-    std::function<void(DWORD control, DWORD item)> itemPicked; ///< an item of the accept button's drop-down
-    std::function<void(DWORD control)> activating;             ///< the drop-down is about to open
+    /** An item of the accept button's drop-down; returns whether the dialog has ended. */
+    std::function<bool(DWORD control, DWORD item)> itemPicked;
+    std::function<void(DWORD control)> activating; ///< the drop-down is about to open
 };
 
 } // namespace morvane::ui

@@ -1,10 +1,10 @@
 #include "ui/qt/dialogs/shell/ControlStrip.h"
 
 #include "ui/qt/dialogs/shell/AcceptMenu.h"
+#include "ui/qt/dialogs/shell/FileDialogWindow.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -19,8 +19,9 @@ constexpr int controlsPerRow = 4;
 
 } // namespace
 
-ControlStrip::ControlStrip(QFileDialog& dialog, ControlActions actions)
+ControlStrip::ControlStrip(FileDialogWindow& dialog, ControlActions actions)
     : QObject(&dialog),
+      m_dialog(dialog),
       m_actions(std::move(actions)),
       m_buttonBox(dialog.findChild<QDialogButtonBox*>()),
       m_row(new QWidget(&dialog)),
@@ -113,6 +114,8 @@ void ControlStrip::updateAcceptMenu(const Control& control)
         const auto opening = [this, id] { m_actions.activating(id); };
         m_acceptMenu = new AcceptMenu(**accept, picked, opening);
     }
+    const ControlItem* const first = control.isVisible() ? control.firstChoice() : nullptr;
+    m_dialog.setOptionText(first ? first->label : QString());
     m_acceptMenu->update(control);
 }
 

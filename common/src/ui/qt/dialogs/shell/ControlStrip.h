@@ -8,22 +8,23 @@
 
 class QAbstractButton;
 class QDialogButtonBox;
-class QFileDialog;
 class QGridLayout;
 class QWidget;
 
 namespace morvane::ui {
 
 class AcceptMenu;
+class FileDialogWindow;
 
 /**
- * The widgets of the custom controls in one QFileDialog made of widgets: a row below the file types, the prominent push
- * button below the dialog's own buttons, and the menu on the accept button. A child of the dialog.
+ * The widgets of the custom controls in one dialog made of widgets: a row below the file types, the prominent push
+ * button below the dialog's own buttons, and the menu on the accept button, which carries the text of the menu's first
+ * item then. A child of the dialog.
  */
 class ControlStrip : public QObject
 {
 public:
-    ControlStrip(QFileDialog& dialog, ControlActions actions);
+    ControlStrip(FileDialogWindow& dialog, ControlActions actions);
     ~ControlStrip() override;
 
     /** Makes the widgets look like @p controls; safe while one of them is being worked. */
@@ -35,6 +36,7 @@ private:
     void place(const Control& control, QAbstractButton& button);
     void updateAcceptMenu(const Control& control);
 
+    FileDialogWindow& m_dialog;
     const ControlActions m_actions;
     QDialogButtonBox* m_buttonBox;
     QWidget* m_row;

@@ -1,19 +1,14 @@
 #include "ui/qt/dialogs/shell/CustomControls.h"
 
+#include "ui/qt/dialogs/shell/FileDialogWindow.h"
 #include "ui/qt/dialogs/shell/ShellText.h"
 
-#include <QFileDialog>
-
 #include <algorithm>
+#include <utility>
 
 namespace morvane::ui {
 
 namespace {
-
-bool isSelectable(const ControlItem& item)
-{
-    return (item.state & CDCS_ENABLEDVISIBLE) == CDCS_ENABLEDVISIBLE;
-}
 
 template <typename Range>
 auto* findById(Range& range, DWORD id)
@@ -30,14 +25,14 @@ CustomControls::CustomControls(IUnknown& owner, ControlActions actions) : m_owne
 
 CustomControls::~CustomControls() = default;
 
-void CustomControls::showIn(QFileDialog& window)
+void CustomControls::showIn(FileDialogWindow& window)
 {
     for (Control& control : m_controls) {
         control.selectedItem.reset();
     }
     ControlActions actions = m_actions;
     actions.toggled = [this](DWORD id, bool checked) { onToggled(id, checked); };
-    actions.itemPicked = [this](DWORD id, DWORD item) { onItemPicked(id, item); };
+    actions.itemPicked = [this](DWORD id, DWORD item) { return onItemPicked(id, item); };
     m_strip = new ControlStrip(window, std::move(actions));
     m_strip->update(m_controls);
 }
@@ -194,8 +189,8 @@ HRESULT CustomControls::GetSelectedControlItem(DWORD control, DWORD* item)
     if (!found || !item) {
         return E_INVALIDARG;
     }
-    const auto first = std::find_if(found->items.begin(), found->items.end(), isSelectable);
-    if (!found->selectedItem && first == found->items.end()) {
+    const ControlItem* const first = found->firstChoice();
+    if (!found->selectedItem && !first) {
         return E_FAIL;
     }
     *item = found->selectedItem ? *found->selectedItem : first->id;
@@ -265,10 +260,16 @@ void CustomControls::onToggled(DWORD id, bool checked)
     m_actions.toggled(id, checked);
 }
 
-void CustomControls::onItemPicked(DWORD id, DWORD item)
+bool CustomControls::onItemPicked(DWORD id, DWORD item)
 {
-    find(id)->selectedItem = item;
-    m_actions.itemPicked(id, item);
+    const auto before = std::exchange(find(id)->selectedItem, item);
+    const bool ended = m_actions.itemPicked(id, item);
+    Control* const found = find(id);
+    if (!ended && found && found->selectedItem == item) {
+        // The choice was refused. The next press on the button itself is for what the button says.
+        found->selectedItem = before && findItem(id, *before) ? before : std::nullopt;
+    }
+    return ended;
 }
 
 HRESULT CustomControls::updated()

@@ -9,9 +9,9 @@
 
 #include <vector>
 
-class QFileDialog;
-
 namespace morvane::ui {
+
+class FileDialogWindow;
 
 /**
  * The controls that an application adds to the dialog, kept from run to run, and shown in the window while there is
@@ -28,7 +28,7 @@ public:
 
     bool isEmpty() const { return m_controls.empty(); }
     /** Shows the controls in @p window until it is destroyed, and forgets which drop-down item was picked before. */
-    void showIn(QFileDialog& window);
+    void showIn(FileDialogWindow& window);
     /** To be called when what the controls stand beside has changed. */
     void refresh();
 
@@ -70,7 +70,7 @@ private:
     ControlItem* findItem(DWORD control, DWORD item);
     Control* findDropDown(DWORD id);
     void onToggled(DWORD id, bool checked);
-    void onItemPicked(DWORD id, DWORD item);
+    bool onItemPicked(DWORD id, DWORD item);
     HRESULT updated();
 
     IUnknown& m_owner;

@@ -107,6 +107,7 @@ void FileDialogCore::run(QWidget* owner)
     }
     if (m_window) {
         m_fileName = m_window->typedName();
+        m_settings.fileNameIsTyped = m_window->holdsWildcard();
     }
 }
 
@@ -144,7 +145,7 @@ FileDialogSettings FileDialogCore::settingsForRun() const
     const bool validates = !has(FOS_NOVALIDATE);
     FileDialogSettings settings = m_settings;
     settings.picksFolders = has(FOS_PICKFOLDERS);
-    settings.allowsSeveral = has(FOS_ALLOWMULTISELECT) && !m_settings.saving;
+    settings.allowsSeveral = has(FOS_ALLOWMULTISELECT);
     settings.fileMustExist = has(FOS_FILEMUSTEXIST) && validates;
     settings.pathMustExist = has(FOS_PATHMUSTEXIST) && validates;
     settings.asksBeforeOverwriting = has(FOS_OVERWRITEPROMPT);
@@ -279,6 +280,7 @@ HRESULT FileDialogCore::getSelectedItems(IShellItemArray** items) const
 HRESULT FileDialogCore::setFileName(LPCWSTR name)
 {
     m_fileName = toQString(name);
+    m_settings.fileNameIsTyped = false;
     if (m_window) {
         m_window->setTypedName(*m_fileName);
     }

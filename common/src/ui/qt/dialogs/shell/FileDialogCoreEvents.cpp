@@ -107,6 +107,7 @@ ControlActions FileDialogCore::controlActions()
         if (m_window && !m_ended) {
             m_window->accept();
         }
+        return m_ended;
     };
     return actions;
 }

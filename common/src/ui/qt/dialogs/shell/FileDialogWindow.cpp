@@ -1,6 +1,8 @@
 #include "ui/qt/dialogs/shell/FileDialogWindow.h"
 
+#include "ui/qt/dialogs/shell/TypedNames.h"
 #include "ui/qt/util/FileDialogAccess.h"
+#include "ui/qt/util/FileDialogLayout.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -42,6 +44,7 @@ FileDialogWindow::FileDialogWindow(QWidget* owner, const FileDialogSettings& set
     m_typeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
     m_model = findChild<QFileSystemModel*>();
     if (consistsOfWidgets()) {
+        m_acceptText = labelText(QFileDialog::Accept);
         setUpWidgets();
         setUpTypeCombo();
         watchWidgets();
@@ -49,6 +52,9 @@ FileDialogWindow::FileDialogWindow(QWidget* owner, const FileDialogSettings& set
         setUpNative();
     }
     setTypedName(settings.fileName);
+    if (settings.fileNameIsTyped) {
+        m_editedName = settings.fileName;
+    }
 }
 
 FileDialogWindow::~FileDialogWindow() = default;
@@ -57,7 +63,7 @@ void FileDialogWindow::applySettings()
 {
     setAcceptMode(m_settings.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     // Whether files must exist is checked in accept(): Qt would disable the button without saying why.
-    const bool several = m_settings.allowsSeveral && !m_settings.usesWidgets;
+    const bool several = m_settings.allowsSeveral && !m_settings.saving && !m_settings.usesWidgets;
     setFileMode(m_settings.picksFolders ? QFileDialog::Directory
                 : several               ? QFileDialog::ExistingFiles
                                         : QFileDialog::AnyFile);
@@ -77,15 +83,23 @@ void FileDialogWindow::setTexts(const QString& title, const QString& acceptLabel
     }
     if (!acceptLabel.isEmpty()) {
         setLabelText(QFileDialog::Accept, acceptLabel);
+        m_acceptText = acceptLabel;
     }
     if (!fileNameLabel.isEmpty()) {
         setLabelText(QFileDialog::FileName, fileNameLabel);
     }
+    keepAcceptText();
+}
+
+void FileDialogWindow::setOptionText(const QString& text)
+{
+    m_optionText = text;
+    keepAcceptText();
 }
 
 void FileDialogWindow::setUpWidgets()
 {
-    if (m_settings.allowsSeveral) {
+    if (m_settings.allowsSeveral && !m_settings.saving) {
         for (const char* const name : {"listView", "treeView"}) {
             if (auto* const view = findChild<QAbstractItemView*>(QLatin1String(name))) {
                 view->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -156,12 +170,14 @@ void FileDialogWindow::watchWidgets()
 {
     connect(m_typeCombo, QOverload<int>::of(&QComboBox::activated), this, &FileDialogWindow::onTypePicked);
     connect(m_nameEdit, &QLineEdit::textChanged, this, &FileDialogWindow::updateAcceptButton);
+    connect(m_nameEdit, &QLineEdit::textEdited, this, [this](const QString& name) { m_editedName = name; });
     connect(m_model, &QFileSystemModel::rootPathChanged, this, [this] {
         m_folderPending = true;
         deliverLater();
     });
     if (auto* const view = findChild<QAbstractItemView*>(QStringLiteral("listView"))) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+            updateAcceptButton(); // Qt goes by the typed text, which need not change
             m_selectionPending = true;
             deliverLater();
         });
@@ -171,6 +187,9 @@ void FileDialogWindow::watchWidgets()
 void FileDialogWindow::run()
 {
     makeListsReachable(*this);
+    if (consistsOfWidgets()) {
+        showListsWhole(*this);
+    }
     const QPointer<FileDialogWindow> self(this);
     do {
         m_again = false;
@@ -186,14 +205,28 @@ QString FileDialogWindow::typedName() const
 void FileDialogWindow::setTypedName(const QString& name)
 {
     if (m_nameEdit) {
+        // A wildcard that is given another ending, as for another type, is still no name of a file.
+        m_editedName = holdsWildcard() ? name : m_editedName;
         m_nameEdit->setText(name);
-    } else if (!name.isEmpty()) {
-        selectFile(name);
+        return;
     }
+    const QStringList listed = quotedNames(name);
+    for (const QString& file : listed.isEmpty() ? QStringList(name) : listed) {
+        if (!file.isEmpty()) {
+            selectFile(file);
+        }
+    }
+}
+
+bool FileDialogWindow::holdsWildcard() const
+{
+    return m_nameEdit && !m_settings.picksFolders && m_nameEdit->text() == m_editedName &&
+           m_editedName.contains(QLatin1Char('*'));
 }
 
 void FileDialogWindow::setTypeIndex(int index)
 {
+    forgetWildcard();
     m_settings.typeIndex = index;
     m_toldType = index;
     if (m_typeCombo) {
@@ -221,7 +254,7 @@ QStringList FileDialogWindow::selectedPaths() const
             paths.append(m_model->filePath(index));
         }
     }
-    if (paths.isEmpty() && !m_nameEdit->text().isEmpty()) {
+    if (paths.isEmpty() && !m_nameEdit->text().isEmpty() && !holdsWildcard()) {
         paths = chosenPaths();
     }
     return paths;
@@ -229,21 +262,42 @@ QStringList FileDialogWindow::selectedPaths() const
 
 void FileDialogWindow::applyPatterns()
 {
-    m_model->setNameFilters(m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex)).patterns);
+    if (!m_typedPatterns.isEmpty() || m_settings.types.empty()) {
+        m_model->setNameFilters(m_typedPatterns);
+    } else {
+        m_model->setNameFilters(m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex)).patterns);
+    }
+}
+
+QAbstractButton* FileDialogWindow::acceptButton() const
+{
+    const auto* const box = findChild<QDialogButtonBox*>();
+    const QList<QAbstractButton*> buttons = box->buttons();
+    const auto found = std::find_if(buttons.begin(), buttons.end(),
+        [box](QAbstractButton* button) { return box->buttonRole(button) == QDialogButtonBox::AcceptRole; });
+    return *found;
 }
 
 void FileDialogWindow::updateAcceptButton()
 {
-    const auto* const box = findChild<QDialogButtonBox*>();
-    for (QAbstractButton* const button : box->buttons()) {
-        if (box->buttonRole(button) == QDialogButtonBox::AcceptRole) {
-            button->setEnabled(m_settings.picksFolders || !m_nameEdit->text().isEmpty());
-        }
+    acceptButton()->setEnabled(m_settings.picksFolders || !m_nameEdit->text().isEmpty());
+    keepAcceptText();
+}
+
+void FileDialogWindow::keepAcceptText()
+{
+    // Qt writes "Open" on it while a folder is selected, which is not what it does here: the name decides.
+    const QString& text = m_optionText.isEmpty() ? m_acceptText : m_optionText;
+    if (consistsOfWidgets() && !text.isEmpty() && acceptButton()->text() != text) {
+        acceptButton()->setText(text);
     }
 }
 
 void FileDialogWindow::onTypePicked(int index)
 {
+    if (index != m_settings.typeIndex) {
+        forgetWildcard();
+    }
     m_settings.typeIndex = index;
     applyPatterns(); // Qt has just put its placeholder there, also when the same type was picked again
     deliverLater();
@@ -270,6 +324,7 @@ void FileDialogWindow::deliverLater()
 void FileDialogWindow::deliver()
 {
     const QPointer<FileDialogWindow> self(this);
+    keepAcceptText();
     if (m_folderPending) {
         deliverFolder();
     }

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+class QAbstractButton;
 class QComboBox;
 class QFileSystemModel;
 class QLineEdit;
@@ -24,7 +25,7 @@ struct FileDialogSettings
 {
     bool saving = false;
     bool picksFolders = false;
-    bool allowsSeveral = false;
+    bool allowsSeveral = false; ///< when saving, a list of names can be typed, but not picked
     bool fileMustExist = false;
     bool pathMustExist = false;
     bool asksBeforeOverwriting = false;
@@ -35,7 +36,8 @@ struct FileDialogSettings
     QString fileNameLabel;    ///< empty: Qt's own
     QString folder;           ///< of an existing directory
     QString fileName;
-    QString defaultSuffix; ///< added to names without suffix; empty: none
+    bool fileNameIsTyped = false; ///< by the user, in an earlier run
+    QString defaultSuffix;        ///< added to names without suffix; empty: none
     std::vector<FileTypeEntry> types;
     int typeIndex = 0;
 };
@@ -79,12 +81,17 @@ public:
     bool consistsOfWidgets() const { return m_nameEdit != nullptr; }
     QString typedName() const;
     void setTypedName(const QString& name);
+    /** Whether the name is a wildcard that the user has typed. It filters what is listed and is no name of a file. */
+    bool holdsWildcard() const;
     void setTypeIndex(int index);
     /** Goes to @p folder as if the user had; the observer is told before this returns. */
     void setFolder(const QString& folder);
     /** The selected files, or else the one whose name is typed. */
     QStringList selectedPaths() const;
     void setTexts(const QString& title, const QString& acceptLabel, const QString& fileNameLabel);
+
+    /** Gives the accept button this text in place of its own one; empty: its own again. */
+    void setOptionText(const QString& text);
 
     void accept() override;
     using QFileDialog::done;
@@ -97,7 +104,12 @@ private:
     void setUpNativeTypes();
     void watchWidgets();
     void applyPatterns();
+    void filterByWildcard();
+    bool enterFolderOfWildcard();
+    void forgetWildcard();
+    QAbstractButton* acceptButton() const;
     void updateAcceptButton();
+    void keepAcceptText();
     void onTypePicked(int index);
     void onNativeTypePicked(const QString& filter);
     void deliverLater();
@@ -106,6 +118,7 @@ private:
     QStringList chosenPaths() const;
     bool enterFolderAmong(const QStringList& paths);
     bool exist(const QStringList& paths);
+    bool mayReplaceAll(const QStringList& paths);
     bool mayReplace(const QString& path);
     QMessageBox::StandardButton ask(
         const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton);
@@ -115,8 +128,12 @@ private:
     QLineEdit* m_nameEdit = nullptr;
     QComboBox* m_typeCombo = nullptr;
     QFileSystemModel* m_model = nullptr;
+    QString m_acceptText; ///< of the accept button itself
+    QString m_optionText; ///< in its place, unless empty
     QString m_folder;
-    int m_toldType; ///< the type that the observer knows
+    QString m_editedName;        ///< as the user has left it, until a name is set by others
+    QStringList m_typedPatterns; ///< in place of those of the type
+    int m_toldType;              ///< the type that the observer knows
     bool m_folderPending = false;
     bool m_selectionPending = false;
     bool m_again = false; ///< the desktop's dialog has ended with a choice that was refused

@@ -1,7 +1,9 @@
 // What happens between pressing the accept button and the end of the dialog.
 #include "ui/qt/dialogs/shell/FileDialogWindow.h"
 #include "ui/qt/dialogs/shell/TypedNames.h"
+#include "ui/qt/dialogs/shell/TypedPatterns.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -32,11 +34,15 @@ void FileDialogWindow::accept()
     if (!self || !isVisible()) {
         return;
     }
+    if (holdsWildcard()) {
+        filterByWildcard();
+        return;
+    }
     const QStringList paths = consistsOfWidgets() ? chosenPaths() : selectedFiles();
     if (paths.isEmpty() || (consistsOfWidgets() && (enterFolderAmong(paths) || !exist(paths)))) {
         return;
     }
-    if (!self || (consistsOfWidgets() && m_settings.saving && !mayReplace(paths.first())) || !self) {
+    if (!self || (consistsOfWidgets() && m_settings.saving && !mayReplaceAll(paths)) || !self) {
         return;
     }
     const bool accepted = m_observer.mayAccept(paths);
@@ -46,6 +52,50 @@ void FileDialogWindow::accept()
         m_again = true;
         done(QDialog::Rejected);
     }
+}
+
+void FileDialogWindow::filterByWildcard()
+{
+    if (!enterFolderOfWildcard()) {
+        return;
+    }
+    forgetWildcard();
+    m_typedPatterns = patternsOfTypedText(m_nameEdit->text());
+    applyPatterns();
+    if (!m_settings.types.empty()) {
+        const auto& type = m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex));
+        const QString shown = m_typedPatterns.join(QLatin1Char(' '));
+        m_typeCombo->setItemText(m_settings.typeIndex, QStringLiteral("%1 (%2)").arg(type.description, shown));
+    }
+}
+
+/** False when the wildcard names a folder that is not there. */
+bool FileDialogWindow::enterFolderOfWildcard()
+{
+    const QString text = QDir::fromNativeSeparators(m_nameEdit->text()).remove(QLatin1Char('"'));
+    const int end = text.lastIndexOf(QLatin1Char('/')) + 1;
+    if (end == 0) {
+        return true;
+    }
+    const QString folder = pathsOfTypedText(text.left(end), directory().absolutePath(), false).value(0);
+    if (!isFolder(folder)) {
+        ask(tr("%1\nDirectory not found.\nPlease verify the correct directory name was given.")
+                .arg(nameForMessage(folder)),
+            QMessageBox::Ok, QMessageBox::Ok);
+        return false;
+    }
+    setDirectory(folder);
+    setTypedName(text.mid(end));
+    return holdsWildcard();
+}
+
+void FileDialogWindow::forgetWildcard()
+{
+    if (!m_typedPatterns.isEmpty() && !m_settings.types.empty()) {
+        const auto& type = m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex));
+        m_typeCombo->setItemText(m_settings.typeIndex, type.description);
+    }
+    m_typedPatterns.clear();
 }
 
 QStringList FileDialogWindow::chosenPaths() const
@@ -98,6 +148,13 @@ bool FileDialogWindow::exist(const QStringList& paths)
         }
     }
     return true;
+}
+
+bool FileDialogWindow::mayReplaceAll(const QStringList& paths)
+{
+    const QPointer<FileDialogWindow> self(this);
+    return std::all_of(
+        paths.begin(), paths.end(), [this, &self](const QString& path) { return self && mayReplace(path); });
 }
 
 bool FileDialogWindow::mayReplace(const QString& path)

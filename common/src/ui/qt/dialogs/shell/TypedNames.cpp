@@ -1,10 +1,13 @@
 #include "ui/qt/dialogs/shell/TypedNames.h"
 
 #include <QDir>
+#include <QRegularExpression>
 
 namespace morvane::ui {
 
 namespace {
+
+constexpr QLatin1Char quote('"');
 
 QString absolutePath(QString name, const QString& folder)
 {
@@ -17,29 +20,33 @@ QString absolutePath(QString name, const QString& folder)
     return QDir::cleanPath(ordinary ? folder + QLatin1Char('/') + name : QDir(folder).absoluteFilePath(name));
 }
 
-QStringList quotedNames(const QString& text)
+/** The names of a list whose last quote may still be missing; the whole text when it is no list. */
+QStringList typedNames(const QString& text)
 {
-    QStringList names;
-    const QStringList pieces = text.split(QLatin1Char('"'));
-    for (int i = 1; i < pieces.size(); i += 2) {
-        if (!pieces.at(i).isEmpty()) {
-            names.append(pieces.at(i));
-        }
+    const QString list = text.trimmed();
+    QStringList names = quotedNames(list);
+    if (names.isEmpty() && list.startsWith(quote) && list.count(quote) % 2 == 1) {
+        names = quotedNames(list + quote);
     }
-    return names;
+    return names.isEmpty() ? QStringList(text) : names;
 }
 
 } // namespace
 
+QStringList quotedNames(const QString& text)
+{
+    const QString list = text.trimmed();
+    if (list.size() < 2 || !list.startsWith(quote) || !list.endsWith(quote)) {
+        return {};
+    }
+    static const QRegularExpression separator(QStringLiteral("\"\\s+\""));
+    return list.mid(1, list.size() - 2).split(separator);
+}
+
 QStringList pathsOfTypedText(const QString& text, const QString& folder, bool severalAllowed)
 {
-    QStringList names(text);
-    const QString trimmed = text.trimmed();
-    const int quotes = trimmed.count(QLatin1Char('"'));
-    const bool oneQuotedName = quotes == 2 && trimmed.endsWith(QLatin1Char('"'));
-    if (trimmed.startsWith(QLatin1Char('"')) && (severalAllowed || oneQuotedName)) {
-        names = quotedNames(trimmed);
-    }
+    const bool oneQuotedName = text.count(quote) == 2;
+    const QStringList names = severalAllowed || oneQuotedName ? typedNames(text) : QStringList(text);
     QStringList paths;
     for (const QString& name : names) {
         if (!name.trimmed().isEmpty()) {
@@ -51,8 +58,10 @@ QStringList pathsOfTypedText(const QString& text, const QString& folder, bool se
 
 QString typedTextOfNames(const QStringList& names)
 {
-    return names.size() == 1 ? names.first()
-                             : QLatin1Char('"') + names.join(QStringLiteral("\" \"")) + QLatin1Char('"');
+    if (names.size() == 1 && !names.first().startsWith(quote)) {
+        return names.first();
+    }
+    return quote + names.join(QStringLiteral("\" \"")) + quote;
 }
 
 } // namespace morvane::ui

@@ -5,6 +5,8 @@
 #include <QElapsedTimer>
 #include <QFrame>
 
+namespace morvane::compat {
+
 /**
  * Stand-in for Qxt's label of the same name, with the members that Morvane uses: one line of text that is shortened
  * with an ellipsis where it does not fit.
@@ -12,6 +14,9 @@
  * sizeHint() has room for the whole text, minimumSizeHint() for the ellipsis alone (for the whole text under
  * Qt::ElideNone), both with frame and margins and turned with the rotation. A text exactly as wide as the contents
  * rectangle fits. The text is plain: no markup, no mnemonics, line breaks count as blanks.
+ *
+ * The namespace keeps the two classes apart where a host links Qxt, too: for the linker, for QMetaObject and for
+ * style sheets.
  */
 class MORVANE_UI_EXPORT QxtLabel : public QFrame
 {
@@ -78,3 +83,5 @@ private:
     Rotation m_rotation = NoRotation;
     QElapsedTimer m_sincePress;
 };
+
+} // namespace morvane::compat

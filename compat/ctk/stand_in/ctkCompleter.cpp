@@ -2,6 +2,8 @@
 
 #include "WordStartModel.h"
 
+namespace morvane::compat {
+
 ctkCompleter::ctkCompleter(QObject* parent) : QCompleter(parent)
 {
     followCaseSensitivity();
@@ -90,3 +92,5 @@ void ctkCompleter::replaceModel(QAbstractItemModel* model)
         old->setParent(this);
     }
 }
+
+} // namespace morvane::compat

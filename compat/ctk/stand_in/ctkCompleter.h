@@ -4,11 +4,13 @@
 
 #include <memory>
 
+namespace morvane::compat {
+
 class WordStartModel;
 
 /**
  * Stand-in for CTK's completer of the same name, with the members that Morvane uses: a QCompleter that can also keep
- * the entries in which the typed text begins a word.
+ * the entries in which the typed text begins a word. The namespace keeps the two apart where a host links CTK, too.
  *
  * What is typed is text in all three modes, never a pattern. A change of the case sensitivity, of the mode or of the
  * model shows at once in completionModel().
@@ -53,3 +55,5 @@ private:
     Qt::CaseSensitivity m_filteredWith = Qt::CaseSensitive;
     std::unique_ptr<WordStartModel> m_wordStarts;
 };
+
+} // namespace morvane::compat

@@ -2,6 +2,8 @@
 
 #include <QCompleter>
 
+namespace morvane::compat {
+
 namespace {
 
 bool isWordCharacterBefore(const QString& text, int position)
@@ -49,3 +51,5 @@ Qt::ItemFlags WordStartModel::flags(const QModelIndex& index) const
     const bool fits = beginsWord(text, m_completer.completionPrefix(), m_completer.caseSensitivity());
     return fits ? flags : flags & ~Qt::ItemIsSelectable;
 }
+
+} // namespace morvane::compat

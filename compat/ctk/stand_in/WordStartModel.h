@@ -4,6 +4,8 @@
 
 class QCompleter;
 
+namespace morvane::compat {
+
 /**
  * All rows of the source model, of which only those can be selected in which the completer's prefix begins a word.
  *
@@ -23,3 +25,5 @@ public:
 private:
     const QCompleter& m_completer;
 };
+
+} // namespace morvane::compat

@@ -1,10 +1,12 @@
-#include "qxtlabel.h"
+#include "ui/qt/compat/QxtLabel.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+
+namespace morvane::compat {
 
 QxtLabel::QxtLabel(QWidget* parent, Qt::WindowFlags flags) : QFrame(parent, flags) {}
 
@@ -118,3 +120,5 @@ void QxtLabel::mouseReleaseEvent(QMouseEvent* event)
         Q_EMIT clicked();
     }
 }
+
+} // namespace morvane::compat

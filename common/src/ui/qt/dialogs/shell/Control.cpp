@@ -1,0 +1,14 @@
+#include "ui/qt/dialogs/shell/Control.h"
+
+#include <algorithm>
+
+namespace morvane::ui {
+
+const ControlItem* Control::firstChoice() const
+{
+    const auto first = std::find_if(items.begin(), items.end(),
+        [](const ControlItem& item) { return (item.state & CDCS_ENABLEDVISIBLE) == CDCS_ENABLEDVISIBLE; });
+    return first == items.end() ? nullptr : &*first;
+}
+
+} // namespace morvane::ui

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStringList>
+
+namespace morvane::ui {
+
+/**
+ * The patterns of a typed wildcard. Semicolons separate them, and so do blanks where each piece is a wildcard: a blank
+ * may be one of a name. `*.*` is every file.
+ */
+QStringList patternsOfTypedText(const QString& text);
+
+} // namespace morvane::ui

@@ -1,0 +1,31 @@
+#include "ui/qt/util/CursorStack.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <vector>
+
+namespace morvane::ui {
+
+void takeOffOverrideCursor(Qt::CursorShape shape)
+{
+    // Qt shows and takes off the top only, so what lies above is taken off and put back.
+    std::vector<QCursor> above;
+    bool found = false;
+    while (const QCursor* const top = QGuiApplication::overrideCursor()) {
+        above.push_back(*top);
+        QGuiApplication::restoreOverrideCursor();
+        found = above.back().shape() == shape;
+        if (found) {
+            break;
+        }
+    }
+    if (!above.empty()) {
+        above.erase(found ? above.end() - 1 : above.begin());
+    }
+    std::for_each(
+        above.rbegin(), above.rend(), [](const QCursor& cursor) { QGuiApplication::setOverrideCursor(cursor); });
+}
+
+} // namespace morvane::ui

@@ -1,0 +1,10 @@
+#pragma once
+
+class ctkCompleter;
+
+namespace morvane::compat {
+
+/** The completer of ComboBoxAutoFilter: CTK's, because this Morvane was built with MORVANE_WITH_CTK. */
+using ::ctkCompleter;
+
+} // namespace morvane::compat

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace morvane::compat {
+
+/** The completer of ComboBoxAutoFilter: Morvane's stand-in for CTK's class of that name, a QCompleter. */
+class ctkCompleter;
+
+} // namespace morvane::compat

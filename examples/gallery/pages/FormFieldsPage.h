@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Page.h"
+
+class QLabel;
+class QLineEdit;
+
+namespace morvane::ui {
+class ComboBoxAutoFilter;
+class IntegralSpinBox;
+} // namespace morvane::ui
+
+namespace gallery {
+
+/** Combo boxes that filter, among the other fields of a form: they stay, and Tab moves on. */
+class FormFieldsPage : public Page
+{
+    Q_OBJECT
+
+public:
+    FormFieldsPage();
+
+    std::vector<TourStep> tourSteps(const TourWorkspace& workspace) override;
+
+private:
+    void prepareField(morvane::ui::ComboBoxAutoFilter& field, const QStringList& entries);
+    void showForm();
+
+    QLineEdit* m_operator;
+    morvane::ui::ComboBoxAutoFilter* m_substance;
+    morvane::ui::ComboBoxAutoFilter* m_device;
+    morvane::ui::IntegralSpinBox* m_samples;
+    QLabel* m_held;
+};
+
+} // namespace gallery

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QCompleter>
+
+#include <array>
+
+/** Has the name of CTK's completer and what the program uses of it, and another layout. */
+class ctkCompleter : public QCompleter
+{
+    Q_OBJECT
+
+public:
+    enum ModelFiltering : qint64
+    {
+        FilterContains = 7
+    };
+    Q_ENUM(ModelFiltering)
+
+    explicit ctkCompleter(const QStringList& completions, QObject* parent = nullptr);
+    ~ctkCompleter() override;
+
+    virtual void setModelFiltering(ModelFiltering filtering);
+
+private:
+    std::array<double, 64> m_ballast = {};
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QFrame>
+
+#include <array>
+
+/** Has the name of Qxt's label and what the program uses of it, and another layout and other virtual functions. */
+class QxtLabel : public QFrame
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+
+public:
+    enum Rotation : qint64
+    {
+        NoRotation
+    };
+    Q_ENUM(Rotation)
+
+    explicit QxtLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
+    explicit QxtLabel(const QString& text, QWidget* parent = nullptr, Qt::WindowFlags flags = {});
+    ~QxtLabel() override;
+
+    virtual QString text() const;
+    virtual void setText(const QString& text);
+    QSize sizeHint() const override;
+
+private:
+    std::array<double, 64> m_ballast = {};
+    QString m_text;
+};

@@ -1,0 +1,413 @@
+// The native dialog and the launcher, used with keyboard and mouse.
+#include "hands/HandsTest.h"
+#include "support/FileDialogPage.h"
+#include "support/ModalScript.h"
+#include "support/RecordingSettings.h"
+
+#include "host/InstanceOverride.h"
+#include "ui/qt/dialogs/ExtendedFileDialog.h"
+#include "ui/qt/dialogs/ExtendedWinFileDialog.h"
+#include "ui/qt/dialogs/LaunchFileDialog.h"
+#include "ui/qt/dialogs/SaveFileDialog.h"
+
+#include <gmock/gmock.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+
+#include "e2e/Eventually.h"
+
+#include <algorithm>
+
+namespace morvane::test {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::UnorderedElementsAreArray;
+
+class NativeDialogHands : public HandsTest
+{
+protected:
+    NativeDialogHands()
+    {
+        for (const char* const name : {"a.dat", "b b.dat", "\xC3\xBC\xE2\x82\xAC\xF0\x9F\x93\x81.csv", "old.txt"}) {
+            QFile file(path(name));
+            EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        }
+    }
+    ~NativeDialogHands() override { ExtendedFileDialog::setUseNativeFileDialog(true); }
+
+    QString folder() const { return m_folder.path(); }
+    QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
+    std::string text(const char* name) const { return path(name).toStdString(); }
+    static QAbstractItemView& view(const FileDialogPage& page)
+    {
+        const bool details = page.dialog().viewMode() == QFileDialog::Detail;
+        return *page.dialog().findChild<QAbstractItemView*>(details ? "treeView" : "listView");
+    }
+
+    /** The next dialog, once it takes keys. */
+    void onDialog(ModalScript& user, const std::function<void(FileDialogPage&)>& act)
+    {
+        user.on<QFileDialog>([this, act](QFileDialog& dialog) {
+            const QPointer<QFileDialog> open(&dialog);
+            ASSERT_TRUE(eventually([&] { return dialog.isActiveWindow(); }));
+            settle();
+            FileDialogPage page(dialog);
+            act(page);
+            if (open && open->isVisible()) {
+                ADD_FAILURE() << "the dialog is still open, with " << page.name().toStdString();
+                dialog.reject();
+            }
+        });
+    }
+    /** Clicks on the files, the second and later ones with Control. */
+    void pick(FileDialogPage& page, const std::vector<const char*>& names)
+    {
+        for (const char* const name : names) {
+            const QString label = QString::fromUtf8(name);
+            ASSERT_TRUE(eventually([&] { return page.listed().contains(label) && isSorted(view(page)); })) << name;
+            settle();
+            const QModelIndex index = indexOf(view(page), label);
+            if (name == names.front()) {
+                click(view(page), index);
+            } else {
+                screen().click(onScreen(view(page), index), Key::Control);
+                settle();
+            }
+        }
+    }
+    void pressAccept(FileDialogPage& page)
+    {
+        const bool saving = page.dialog().acceptMode() == QFileDialog::AcceptSave;
+        QAbstractButton* const button = page.button(saving ? QDialogButtonBox::Save : QDialogButtonBox::Open);
+        ASSERT_TRUE(eventually([&] { return button->isEnabled(); })) << page.name().toStdString();
+        click(*button);
+    }
+    void enterName(FileDialogPage& page, const QString& name)
+    {
+        click(page.nameEdit());
+        press({Key::Control}, 'a');
+        type(name);
+    }
+    /** Takes a row of the list of types. */
+    void pickType(FileDialogPage& page, int row)
+    {
+        click(page.typeCombo());
+        QAbstractItemView& list = *page.typeCombo().view();
+        ASSERT_TRUE(eventually([&] { return list.isVisible(); }));
+        press(Key::Home);
+        for (int step = 0; step < row; ++step) {
+            press(Key::Down);
+        }
+        press(Key::Return);
+        ASSERT_TRUE(eventually([&] { return !list.isVisible(); }));
+        settle();
+    }
+    void answerQuestion(ModalScript& user, QMessageBox::StandardButton answer)
+    {
+        user.on<QMessageBox>([this, answer](QMessageBox& box) {
+            ASSERT_TRUE(eventually([&] { return box.isActiveWindow(); }));
+            click(*box.button(answer));
+        });
+    }
+
+private:
+    /** The names come in as the folder is read, and are put in order a moment later. */
+    static bool isSorted(const QAbstractItemView& files)
+    {
+        QStringList names;
+        for (int row = 0; row < files.model()->rowCount(files.rootIndex()); ++row) {
+            names.append(files.model()->index(row, 0, files.rootIndex()).data().toString());
+        }
+        return std::is_sorted(names.begin(), names.end(),
+            [](const QString& left, const QString& right) { return QString::localeAwareCompare(left, right) < 0; });
+    }
+    static QModelIndex indexOf(QAbstractItemView& files, const QString& label)
+    {
+        for (int row = 0; row < files.model()->rowCount(files.rootIndex()); ++row) {
+            const QModelIndex index = files.model()->index(row, 0, files.rootIndex());
+            if (index.data().toString() == label) {
+                files.scrollTo(index);
+                return index;
+            }
+        }
+        return {};
+    }
+
+    QTemporaryDir m_folder{QDir::tempPath() + QStringLiteral("/Mess reihe XXXXXX")};
+    RecordingSettings m_settings;
+    InstanceOverride<ApplicationSettings> m_settingsOverride{m_settings};
+};
+
+const char* const csv = "\xC3\xBC\xE2\x82\xAC\xF0\x9F\x93\x81.csv";
+
+class ReadmeSample : public NativeDialogHands, public ::testing::WithParamInterface<bool>
+{
+protected:
+    void SetUp() override
+    {
+        NativeDialogHands::SetUp();
+        ExtendedFileDialog::setUseNativeFileDialog(GetParam());
+    }
+
+    /** What a person does in each dialog that the button of the sample opens, and the files that are listed then. */
+    struct Click
+    {
+        std::function<void(FileDialogPage&)> act;
+        std::vector<const char*> listed;
+    };
+
+    void clickThrough(const std::vector<Click>& clicks)
+    {
+        QWidget window;
+        auto* const button = new QPushButton(QStringLiteral("&Open"));
+        auto* const list = new QListWidget;
+        auto* const type = new QLabel;
+        // What the README shows.
+#include "OpenFilesSnippet.inc"
+        auto* const layout = new QVBoxLayout(&window);
+        layout->addWidget(button);
+        layout->addWidget(list);
+        layout->addWidget(type);
+        window.resize(480, 320);
+        show(window);
+        for (const Click& step : clicks) {
+            ModalScript user;
+            onDialog(user, [&](FileDialogPage& page) {
+                if (list->count() == 0) {
+                    page.dialog().setDirectory(folder()); // nothing was chosen that it could start at
+                }
+                step.act(page);
+            });
+            click(*button);
+            EXPECT_TRUE(user.finished());
+            EXPECT_THAT(textsOf(*list), UnorderedElementsAreArray(pathsOf(step.listed)));
+            EXPECT_EQ(type->text(), QStringLiteral("Measurements (*.dat *.csv)"));
+        }
+    }
+
+private:
+    static std::vector<QString> textsOf(const QListWidget& list)
+    {
+        std::vector<QString> texts;
+        for (int row = 0; row < list.count(); ++row) {
+            texts.push_back(list.item(row)->text());
+        }
+        return texts;
+    }
+    std::vector<QString> pathsOf(const std::vector<const char*>& names) const
+    {
+        std::vector<QString> paths;
+        for (const char* const name : names) {
+            paths.push_back(path(name));
+        }
+        return paths;
+    }
+};
+
+TEST_P(ReadmeSample, opensAFileTenTimesInARow)
+{
+    std::vector<Click> clicks;
+    for (const char* const name : {"b b.dat", csv, "a.dat"}) {
+        clicks.push_back({[this, name](FileDialogPage& page) {
+                              pick(page, {name});
+                              pressAccept(page);
+                          },
+            {name}});
+        // The dialog starts with the file of the time before.
+        clicks.push_back({[this](FileDialogPage& page) { pressAccept(page); }, {name}});
+        clicks.push_back({[this](FileDialogPage&) { press(Key::Return); }, {name}});
+    }
+    clicks.push_back(clicks.front());
+    clickThrough(clicks);
+}
+
+TEST_P(ReadmeSample, opensThreeFilesTenTimesInARow)
+{
+    const std::vector<const char*> files{"a.dat", "b b.dat", csv};
+    const Click three{[this, files](FileDialogPage& page) {
+                          pick(page, files);
+                          pressAccept(page);
+                      },
+        files};
+    clickThrough(std::vector<Click>(10, three));
+}
+
+TEST_P(ReadmeSample, goesOnWhenTheFileHasGoneMeanwhile)
+{
+    clickThrough({{[this](FileDialogPage& page) {
+                       pick(page, {"a.dat"});
+                       pressAccept(page);
+                       ASSERT_TRUE(QFile::rename(path("a.dat"), path("moved.dat")));
+                   },
+                      {"a.dat"}},
+        {[this](FileDialogPage& page) {
+             pick(page, {"moved.dat"});
+             pressAccept(page);
+         },
+            {"moved.dat"}},
+        {[this](FileDialogPage& page) {
+             enterName(page, QStringLiteral("b b.dat"));
+             press(Key::Return);
+         },
+            {"b b.dat"}}});
+}
+
+INSTANTIATE_TEST_SUITE_P(Dialogs, ReadmeSample, ::testing::Bool(),
+    [](const auto& tested) { return std::string(tested.param ? "native" : "qt"); });
+
+class LauncherHands : public NativeDialogHands, public ::testing::WithParamInterface<bool>
+{
+protected:
+    void SetUp() override
+    {
+        NativeDialogHands::SetUp();
+        ExtendedFileDialog::setUseNativeFileDialog(GetParam());
+        show(m_window);
+    }
+    bool launch(const std::vector<const char*>& selection, bool save, bool several)
+    {
+        std::vector<std::string> start;
+        for (const char* const name : selection) {
+            start.push_back(text(name));
+        }
+        return ui::LaunchFileDialog(
+            files, filter, "Launch", {"All files (*.*)", "Data (*.dat)"}, start, save, several, 0);
+    }
+    std::vector<std::string> paths(const std::vector<const char*>& names) const
+    {
+        std::vector<std::string> result;
+        for (const char* const name : names) {
+            result.push_back(text(name));
+        }
+        return result;
+    }
+
+    QWidget m_window;
+    std::vector<std::string> files;
+    int filter = -1;
+};
+
+TEST_P(LauncherHands, startsWithSeveralFilesAndOpensThemByTheButtonAlone)
+{
+    ModalScript user;
+    onDialog(user, [this](FileDialogPage& page) { pressAccept(page); });
+    EXPECT_TRUE(launch({"a.dat", "b b.dat", csv}, false, true));
+    EXPECT_THAT(files, UnorderedElementsAreArray(paths({"a.dat", "b b.dat", csv})));
+}
+
+TEST_P(LauncherHands, givesTheFileThatWasPickedToBeSavedWhereSeveralAreAllowed)
+{
+    for (int time = 0; time < 2; ++time) {
+        ModalScript user;
+        onDialog(user, [this, &user](FileDialogPage& page) {
+            pick(page, {"b b.dat"});
+            if (GetParam()) {
+                answerQuestion(user, QMessageBox::Yes);
+            }
+            pressAccept(page);
+        });
+        EXPECT_TRUE(launch({"a.dat"}, true, true));
+        EXPECT_TRUE(user.finished());
+        EXPECT_THAT(files, ElementsAre(text("b b.dat")));
+    }
+}
+
+TEST_P(LauncherHands, givesTheSeveralFilesThatItStartedWithToBeSaved)
+{
+    ModalScript user;
+    onDialog(user, [this, &user](FileDialogPage& page) {
+        if (GetParam()) {
+            answerQuestion(user, QMessageBox::Yes);
+            answerQuestion(user, QMessageBox::Yes);
+        }
+        pressAccept(page);
+    });
+    EXPECT_TRUE(launch({"b b.dat", "a.dat"}, true, true));
+    EXPECT_THAT(files, UnorderedElementsAreArray(paths({"b b.dat", "a.dat"})));
+}
+
+TEST_P(LauncherHands, opensFilesWithQuotesInTheirNames)
+{
+    const char* const said = "he said \"hi\".dat";
+    const char* const quoted = "\"q\".dat";
+    for (const char* const name : {said, quoted}) {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    for (const char* const name : {said, quoted, said}) {
+        ModalScript user;
+        onDialog(user, [this, name](FileDialogPage& page) {
+            pick(page, {name});
+            pressAccept(page);
+        });
+        EXPECT_TRUE(launch({name}, false, true));
+        EXPECT_THAT(files, ElementsAre(text(name)));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Dialogs, LauncherHands, ::testing::Bool(),
+    [](const auto& tested) { return std::string(tested.param ? "native" : "qt"); });
+
+using NativeSaveHands = NativeDialogHands;
+
+TEST_F(NativeSaveHands, opensWithTheNameAsItWasGiven)
+{
+    QWidget window;
+    show(window);
+    ExtendedWinFileDialog dialog(window, "Save", folder().toStdString(),
+        "All files (*.*);;Data (*.dat);;Everything (*)", "", QFileDialog::AcceptSave, false);
+    dialog.selectFile(QStringLiteral("report2.txt"));
+    ModalScript user;
+    onDialog(user, [this](FileDialogPage& page) {
+        EXPECT_EQ(page.name(), QStringLiteral("report2.txt"));
+        pickType(page, 1);
+        EXPECT_EQ(page.name(), QStringLiteral("report2.dat")) << "a type that was picked";
+        pickType(page, 0);
+        EXPECT_EQ(page.name(), QStringLiteral("report2.dat")) << "a wildcard is no extension";
+        pickType(page, 2);
+        EXPECT_EQ(page.name(), QStringLiteral("report2"));
+        enterName(page, QStringLiteral("report2.raw"));
+        pressAccept(page);
+    });
+    EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+    EXPECT_EQ(dialog.selectedFiles(), QStringList(path("report2.raw")));
+}
+
+TEST_F(NativeSaveHands, comesBackWithTheNameAsItWasTypedWhenItIsNotToBeReplaced)
+{
+    QWidget window;
+    show(window);
+    SaveFileDialog dialog(&window, "Save", folder().toStdString(), "new.dat", "Data (*.dat);;Text (*.txt)", "");
+    for (int time = 0; time < 2; ++time) {
+        ModalScript user;
+        onDialog(user, [this](FileDialogPage& page) {
+            enterName(page, QStringLiteral("old.txt"));
+            pressAccept(page);
+        });
+        answerQuestion(user, QMessageBox::No);
+        onDialog(user, [this](FileDialogPage& page) {
+            EXPECT_EQ(page.name(), QStringLiteral("old.txt"));
+            enterName(page, QStringLiteral("free.txt"));
+            press(Key::Return);
+        });
+        EXPECT_TRUE(dialog.launch());
+        EXPECT_EQ(dialog.selectedFilename(), text("free.txt"));
+    }
+}
+
+} // namespace
+
+} // namespace morvane::test

@@ -1,0 +1,126 @@
+// What one sees of the dialog at its first opening.
+#include "FileDialogTest.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QSettings>
+#include <QSplitter>
+#include <QTreeView>
+
+using namespace morvane::test;
+
+namespace {
+
+class QExtendedFileDialogLooks : public FileDialogTest
+{
+protected:
+    QExtendedFileDialogLooks()
+    {
+        makeFiles({QStringLiteral("a.dat"), QStringLiteral("b.csv"),
+            QStringLiteral("a name that is so long that no list of this width would ever show it whole.dat")});
+        makeFolder(QStringLiteral("inner"));
+        // Where Qt keeps the widths that a user has left, in any program.
+        QSettings(QSettings::UserScope, QStringLiteral("QtProject")).remove(QStringLiteral("FileDialog"));
+    }
+
+    static void waitForWhole(const FileDialogPage& page)
+    {
+        EXPECT_TRUE(waitUntil([&] { return page.listed().size() >= 3 && page.cutParts().isEmpty(); }))
+            << page.cutParts().join(QStringLiteral("; ")).toStdString();
+    }
+};
+
+} // namespace
+
+TEST_F(QExtendedFileDialogLooks, firstOpeningCutsNeitherPlacesNorColumns)
+{
+    const Dialog dialog = openDialog("All (*)");
+    run(*dialog, [](FileDialogPage& page) { waitForWhole(page); });
+}
+
+TEST_F(QExtendedFileDialogLooks, firstOpeningInABiggerFontCutsNothingEither)
+{
+    const Dialog dialog = openDialog("All (*)");
+    QFont font = dialog->font();
+    font.setPointSizeF(font.pointSizeF() * 1.3);
+    dialog->setFont(font);
+    dialog->setDefaultSize(QSize(900, 500));
+    run(*dialog, [](FileDialogPage& page) {
+        waitForWhole(page);
+        EXPECT_EQ(page.dialog().size(), QSize(900, 500));
+    });
+}
+
+TEST_F(QExtendedFileDialogLooks, columnsAreFittedWhenTheyAreShownLater)
+{
+    const Dialog dialog = openDialog("All (*)");
+    dialog->setViewMode(QFileDialog::List);
+    run(*dialog, [](FileDialogPage& page) {
+        EXPECT_TRUE(waitUntil([&] { return page.listed().size() == 4; }));
+        page.dialog().setViewMode(QFileDialog::Detail);
+        waitForWhole(page);
+    });
+}
+
+TEST_F(QExtendedFileDialogLooks, widthsAreTheUsersOnceTheFolderIsRead)
+{
+    const Dialog dialog = openDialog("All (*)");
+    makeFiles({QStringLiteral("inner/c.dat"), QStringLiteral("inner/d.dat"), QStringLiteral("inner/e.dat")});
+    run(*dialog, [&](FileDialogPage& page) {
+        waitForWhole(page);
+        auto& tree = *page.dialog().findChild<QTreeView*>();
+        auto& splitter = *page.dialog().findChild<QSplitter*>();
+        tree.setColumnWidth(0, 250);
+        tree.setColumnWidth(3, 40);
+        splitter.setSizes({60, 500});
+        const QList<int> sizes = splitter.sizes();
+        page.dialog().setDirectory(path(QStringLiteral("inner")));
+        page.waitForListed({QStringLiteral("c.dat"), QStringLiteral("d.dat"), QStringLiteral("e.dat")});
+        page.dialog().setViewMode(QFileDialog::List);
+        page.dialog().setViewMode(QFileDialog::Detail);
+        EXPECT_EQ(tree.columnWidth(0), 250);
+        EXPECT_EQ(tree.columnWidth(3), 40);
+        EXPECT_EQ(splitter.sizes(), sizes);
+    });
+}
+
+TEST_F(QExtendedFileDialogLooks, widthsOfALaterOpeningAreLeftAlone)
+{
+    m_settings.values["QExtendedFileDialog/Geometry_v2"] = QWidget().saveGeometry();
+    const Dialog dialog = openDialog("All (*)");
+    auto& tree = *dialog->findChild<QTreeView*>();
+    tree.setColumnWidth(3, 40);
+    run(*dialog, [&](FileDialogPage& page) {
+        EXPECT_TRUE(waitUntil([&] { return page.listed().size() == 4; }));
+        EXPECT_EQ(tree.columnWidth(3), 40);
+    });
+}
+
+TEST_F(QExtendedFileDialogLooks, typesAreNotShownWhereFoldersArePicked)
+{
+    const Dialog dialog = openDialog("All (*)");
+    const auto isShown = [&] {
+        const bool list = dialog->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->isVisible();
+        EXPECT_EQ(dialog->findChild<QLabel*>(QStringLiteral("fileTypeLabel"))->isVisible(), list);
+        return list;
+    };
+    for (const auto mode : {QFileDialog::Directory, QFileDialog::ExistingFile, QFileDialog::Directory,
+             QFileDialog::ExistingFiles, QFileDialog::AnyFile}) {
+        dialog->setFileMode(mode);
+        run(*dialog, [&](FileDialogPage&) { EXPECT_EQ(isShown(), mode != QFileDialog::Directory) << mode; });
+        dialog->show();
+        EXPECT_EQ(isShown(), mode != QFileDialog::Directory) << mode;
+        dialog->hide();
+    }
+}
+
+TEST_F(QExtendedFileDialogLooks, listOfTypesThatTheHostHasHiddenStaysHidden)
+{
+    const Dialog dialog = openDialog("All (*)");
+    auto& types = *dialog->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    types.hide();
+    for (const auto mode : {QFileDialog::ExistingFile, QFileDialog::Directory, QFileDialog::AnyFile}) {
+        dialog->setFileMode(mode);
+        run(*dialog, [&](FileDialogPage&) { EXPECT_FALSE(types.isVisible()) << mode; });
+    }
+}

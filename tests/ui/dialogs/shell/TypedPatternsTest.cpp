@@ -1,0 +1,25 @@
+#include "ui/qt/dialogs/shell/TypedPatterns.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Typed
+{
+    const char* text;
+    const char* patterns; ///< with bars in between
+};
+
+TEST(TypedPatterns, areSeparatedBySemicolonsAndByBlanksBetweenWildcards)
+{
+    const Typed table[] = {{"*.dat", "*.dat"}, {" *.dat ", "*.dat"}, {"*.dat *.csv", "*.dat|*.csv"},
+        {"*.dat;*.csv", "*.dat|*.csv"}, {"*.dat; ;b?.csv", "*.dat|b?.csv"}, {"my rep*", "my rep*"},
+        {"my rep*;*.csv a?", "my rep*|*.csv|a?"}, {"\"my rep*\"", "my rep*"}, {"*.*", "*"}, {"*.*;*.dat", "*|*.dat"},
+        {"*", "*"}, {";*", "*"}};
+    for (const Typed& row : table) {
+        const QStringList patterns = morvane::ui::patternsOfTypedText(QString::fromLatin1(row.text));
+        EXPECT_EQ(patterns.join(QLatin1Char('|')).toStdString(), row.patterns) << row.text;
+    }
+}
+
+} // namespace
