@@ -1,10 +1,7 @@
 #include "host/SettingsFixture.h"
 #include "support/MessageLog.h"
 
-#include <QDir>
-
 #include <random>
-#include <vector>
 
 using morvane::ApplicationSettings;
 using morvane::test::MessageLog;
@@ -14,102 +11,68 @@ namespace {
 class ApplicationSettingsDamageTest : public morvane::test::SettingsFixture
 {
 protected:
-    QString aside() const { return m_file + QStringLiteral(".damaged"); }
-
-    /** A file that holds "first" under "one" and a value full of traps under "two". */
+    /** A file that holds "first" under "one" and "second" under "two". */
     QByteArray smallFile()
     {
         ApplicationSettings settings(m_file);
         settings.depositValue("one", "first");
-        settings.depositValue("two", QByteArray("a)b)\n=\0\"", 8));
+        settings.depositValue("two", "second");
         return read(m_file);
     }
 
     MessageLog m_log;
 };
 
-const QByteArray damagedContents[] = {QByteArray(1, '\0'), QByteArray(4096, '\0'), "no equals sign", "[values",
-    "[values]\nkey", "[values]\n_61=", "[values]\n_61=12", "[values]\n_61=@ByteArray(x)",
-    "[values]\n_61=@Variant(\\0\\0\\0\\x1c\\xff\\xff\\xff\\xff)", "[values]\n_61=text", "[values]\n=", "[values]\n_61",
-    "\xFF\xFE[\0v\0", "<xml/>", "[values]\n_61=00000000", "[values]\n_61=0123456789\n\"open"};
-
 } // namespace
 
 TEST_F(ApplicationSettingsDamageTest, givesEmptyOrRightValuesForAFileCutAtAnyLength)
 {
     const QByteArray whole = smallFile();
-    const QByteArray two("a)b)\n=\0\"", 8);
     for (int length = 0; length < whole.size(); ++length) {
         write(m_file, whole.left(length));
         const QByteArray readOne = onDisk("one");
         const QByteArray readTwo = onDisk("two");
         EXPECT_TRUE(readOne.isEmpty() || readOne == "first") << length << ' ' << readOne.constData();
-        EXPECT_TRUE(readTwo.isEmpty() || readTwo == two) << length << ' ' << readTwo.toHex().constData();
+        EXPECT_TRUE(readTwo.isEmpty() || readTwo == "second") << length << ' ' << readTwo.constData();
     }
 }
 
-TEST_F(ApplicationSettingsDamageTest, givesEmptyOrRightValuesForAFileWithAnyOneByteChanged)
+TEST_F(ApplicationSettingsDamageTest, storesIntoAFileWithAnyOneByteChanged)
 {
     const QByteArray whole = smallFile();
-    const QByteArray two("a)b)\n=\0\"", 8);
     for (int position = 0; position < whole.size(); ++position) {
-        for (const char replacement : {'\0', 'a', '_', '=', '\n', '"', '\xFF'}) {
+        for (const char replacement : {'\0', '\n', '['}) {
             QByteArray damaged = whole;
             damaged[position] = replacement;
             write(m_file, damaged);
-            const QByteArray readOne = onDisk("one");
-            const QByteArray readTwo = onDisk("two");
-            EXPECT_TRUE(readOne.isEmpty() || readOne == "first") << position << ' ' << readOne.constData();
-            EXPECT_TRUE(readTwo.isEmpty() || readTwo == two) << position << ' ' << readTwo.toHex().constData();
+            ApplicationSettings(m_file).depositValue("three", "third");
+            EXPECT_EQ(onDisk("three"), "third") << position;
         }
     }
 }
 
-TEST_F(ApplicationSettingsDamageTest, givesEmptyValuesAndOneWarningAnObject)
+TEST_F(ApplicationSettingsDamageTest, takesNothingForAValueThatWasStoredOtherwise)
 {
-    int warnings = 0;
-    for (const QByteArray& content : damagedContents) {
-        write(m_file, content);
-        ApplicationSettings settings(m_file);
-        for (int i = 0; i < 3; ++i) {
-            EXPECT_TRUE(settings.getByteArrayValue("a").isEmpty()) << content.constData();
-            EXPECT_TRUE(settings.getByteArrayValue("").isEmpty()) << content.constData();
-        }
-        ++warnings;
-        EXPECT_EQ(m_log.texts(QtWarningMsg).size(), warnings) << content.constData();
-        EXPECT_EQ(read(m_file), content) << "reading must not write";
-    }
-    EXPECT_EQ(m_log.texts(QtWarningMsg).first(), QStringLiteral("Warning: The settings file is damaged: ") + m_file);
-    EXPECT_FALSE(m_log.entries().front().hasContext);
-}
-
-TEST_F(ApplicationSettingsDamageTest, movesTheDamagedFileAsideBeforeTheNextValueIsStored)
-{
-    int warnings = 0;
-    for (const QByteArray& content : damagedContents) {
-        QFile::remove(aside());
-        write(m_file, content);
-        ApplicationSettings settings(m_file);
-        settings.depositValue("key", "value");
-        settings.depositValue("other", "value");
-        EXPECT_EQ(read(aside()), content);
-        EXPECT_EQ(onDisk("key"), "value");
-        EXPECT_EQ(onDisk("other"), "value");
-        EXPECT_EQ(m_log.texts(QtWarningMsg).size(), ++warnings) << content.constData();
+    for (const char* const value :
+        {"text", "12", "@Variant(\\0\\0\\0\\x1c\\xff\\xff\\xff\\xff)", "@ByteArray(x", "a, b", ""}) {
+        write(m_file, QByteArray("[values]\n_one=") + value + '\n');
+        EXPECT_TRUE(onDisk("one").isEmpty()) << value;
     }
 }
 
-TEST_F(ApplicationSettingsDamageTest, keepsEveryDamagedFile)
+TEST_F(ApplicationSettingsDamageTest, keepsWhatCanBeReadOfADamagedFileAndWarnsOnce)
 {
+    smallFile();
+    write(m_file, "[values]\n_one=@ByteArray(first)\n[broken\n");
     ApplicationSettings settings(m_file);
-    for (int i = 0; i < 4; ++i) {
-        write(m_file, "damage " + QByteArray::number(i));
-        settings.depositValue("key", "value");
-    }
-    EXPECT_EQ(read(aside()), "damage 0");
-    EXPECT_EQ(read(aside() + QStringLiteral("-2")), "damage 1");
-    EXPECT_EQ(read(aside() + QStringLiteral("-4")), "damage 3");
-    EXPECT_EQ(m_log.texts(QtWarningMsg).size(), 1);
+    EXPECT_EQ(settings.getByteArrayValue("one"), "first");
+    settings.depositValue("two", "new");
+    settings.depositValue("three", "third");
+    EXPECT_EQ(onDisk("one"), "first");
+    EXPECT_EQ(onDisk("two"), "new");
+    EXPECT_EQ(
+        m_log.texts(QtWarningMsg), QStringList(QStringLiteral("Warning: The settings file is damaged: ") + m_file));
+    EXPECT_FALSE(m_log.entries().front().hasContext);
 }
 
 TEST_F(ApplicationSettingsDamageTest, survivesRandomBytes)
@@ -122,7 +85,7 @@ TEST_F(ApplicationSettingsDamageTest, survivesRandomBytes)
         }
         write(m_file, content);
         ApplicationSettings settings(m_file);
-        EXPECT_TRUE(settings.getByteArrayValue("a").isEmpty()) << content.toHex().constData();
+        settings.getByteArrayValue("a");
         settings.depositValue("b", "value");
         EXPECT_EQ(settings.getByteArrayValue("b"), "value") << content.toHex().constData();
         EXPECT_EQ(onDisk("b"), "value") << content.toHex().constData();
@@ -137,5 +100,4 @@ TEST_F(ApplicationSettingsDamageTest, takesAnEmptyFileForOneWithoutValues)
     settings.depositValue("key", "value");
     EXPECT_EQ(onDisk("key"), "value");
     EXPECT_TRUE(m_log.entries().empty());
-    EXPECT_FALSE(QFile::exists(aside()));
 }

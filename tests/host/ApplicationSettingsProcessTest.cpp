@@ -3,6 +3,7 @@
 
 #include <QProcess>
 #include <QStringList>
+#include <QThread>
 
 using morvane::ApplicationSettings;
 
@@ -86,4 +87,43 @@ TEST_F(ApplicationSettingsProcessTest, storesAfterAnotherProcessDiedHoldingTheLo
     ApplicationSettings(m_file).depositValue("key", "value");
     EXPECT_EQ(onDisk("key"), "value");
     EXPECT_TRUE(log.entries().empty());
+}
+
+TEST_F(ApplicationSettingsProcessTest, leavesTheOldOrTheNewFileWhenItIsKilledAtAnyMoment)
+{
+    ApplicationSettings(m_file).depositValue("other", "value");
+    for (int round = 0; round < 40; ++round) {
+        QProcess process;
+        start(process, QStringLiteral("store-forever"));
+        ASSERT_TRUE(process.waitForReadyRead(longestRunMs));
+        QThread::msleep(static_cast<unsigned long>(round)); // a moment of its own in each round
+        process.kill();
+        ASSERT_TRUE(process.waitForFinished(longestRunMs));
+        const QByteArray value = onDisk("big");
+        EXPECT_TRUE(value.isEmpty() || (value.size() == 100000 && value.count(value.at(0)) == value.size())) << round;
+        EXPECT_EQ(onDisk("other"), "value") << round;
+        ApplicationSettings(m_file).depositValue("mine", QByteArray::number(round));
+        EXPECT_EQ(onDisk("mine"), QByteArray::number(round));
+    }
+    EXPECT_FALSE(onDisk("big").isEmpty());
+}
+
+TEST_F(ApplicationSettingsProcessTest, goesOnWhenAnotherProcessDoesNotLetGoOfTheFile)
+{
+    for (const char* const lock : {".lock", ".guard"}) {
+        SCOPED_TRACE(lock);
+        QProcess other;
+        other.start(QStringLiteral(SETTINGS_WORKER), {QStringLiteral("hold"), m_file + QString::fromLatin1(lock)});
+        ASSERT_TRUE(other.waitForReadyRead(longestRunMs));
+        const morvane::test::MessageLog log;
+        ApplicationSettings settings(m_file);
+        settings.depositValue("key", lock);
+        EXPECT_EQ(settings.getByteArrayValue("key"), lock);
+        EXPECT_NE(onDisk("key"), lock);
+        EXPECT_EQ(log.texts(QtWarningMsg).size(), 1);
+        other.kill();
+        ASSERT_TRUE(other.waitForFinished(longestRunMs));
+        settings.depositValue("other", lock);
+        EXPECT_EQ(onDisk("key"), lock);
+    }
 }

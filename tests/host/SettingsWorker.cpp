@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QLockFile>
 #include <QString>
+#include <QThread>
 
 #include <cstdio>
 #include <cstdlib>
@@ -65,7 +66,32 @@ int lockAndDie(const QString& file)
     std::_Exit(lock.lock() ? 0 : 1);
 }
 
-/** Tries to store as a user who may not, then reads back what the same and what another object sees. */
+/** Stores different big values until it is killed. */
+int storeForever(const QString& file)
+{
+    ApplicationSettings settings(file);
+    std::puts("storing");
+    std::fflush(stdout);
+    for (int round = 0;; ++round) {
+        settings.depositValue("big", QByteArray(100000, static_cast<char>('a' + round % 20)));
+    }
+}
+
+/** Holds a lock until it is killed. */
+int hold(const QString& lockName)
+{
+    QLockFile lock(lockName);
+    if (!lock.lock()) {
+        return 1;
+    }
+    std::puts("holding");
+    std::fflush(stdout);
+    for (;;) {
+        QThread::sleep(1);
+    }
+}
+
+/** Tries to store as a user who may not, then reads back. */
 int storeUnprivileged(const QString& file)
 {
 #ifdef Q_OS_UNIX
@@ -77,8 +103,7 @@ int storeUnprivileged(const QString& file)
     ApplicationSettings settings(file);
     settings.depositValue("key", "new");
     settings.depositValue("key", "newer");
-    std::printf("%s %s\n", settings.getByteArrayValue("key").constData(),
-        ApplicationSettings(file).getByteArrayValue("key").constData());
+    std::printf("%s\n", settings.getByteArrayValue("key").constData());
     return 0;
 }
 
@@ -99,6 +124,12 @@ int main(int argc, char** argv)
     }
     if (mode == "lock-and-die") {
         return lockAndDie(file);
+    }
+    if (mode == "store-forever") {
+        return storeForever(file);
+    }
+    if (mode == "hold") {
+        return hold(file);
     }
     if (mode == "store-unprivileged") {
         return storeUnprivileged(file);

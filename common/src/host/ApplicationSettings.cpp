@@ -1,19 +1,17 @@
 #include "host/ApplicationSettings.h"
 
-#include "host/SettingsDocument.h"
-
+#include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QMessageLogger>
-#include <QSaveFile>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QThread>
 
 #include <map>
-#include <utility>
 
 namespace morvane {
 
@@ -21,117 +19,40 @@ namespace {
 
 ApplicationSettings* replacementInstance = nullptr;
 
-const qint64 largestFile = qint64(256) * 1024 * 1024;
-const int longestWaitMs = 10000;
+const qint64 largestFile = qint64(16) * 1024 * 1024;
+const int longestWaitMs = 1000; // for other processes, in one call
 
-// Windows does not replace a file while somebody has it open, nor open one while it is being replaced; for a moment it
-// may not even be listed.
-#ifdef Q_OS_WIN
-const int longestReplacingMs = 2000;
-#else
-const int longestReplacingMs = 0;
-#endif
-
-enum class FileState
+/** Only lower case is kept as it is: on Windows the names in INI files differ by more than case. */
+QString nameOf(const std::string& key)
 {
-    Missing,
-    Intact,
-    Damaged,
-    Unreadable
-};
-
-struct Snapshot
-{
-    FileState state;
-    SettingsDocument document;
-};
-
-/** Looks again and again, at least twice where the time is not zero. */
-template <typename Condition>
-void waitFor(int longestMs, Condition condition)
-{
-    const QDeadlineTimer deadline(longestMs);
-    while (!condition() && !deadline.hasExpired()) {
-        QThread::msleep(2);
+    QByteArray name = "values/_"; // never empty
+    for (const char character : key) {
+        const bool isPlain = (character >= 'a' && character <= 'z') || (character >= '0' && character <= '9') ||
+                             character == '-' || character == '.';
+        name += isPlain ? QByteArray(1, character) : '_' + QByteArray(1, character).toHex();
     }
+    return QString::fromLatin1(name);
 }
 
-QString lockName(const QString& fileName)
+/** The file behind a link is locked and replaced, whichever of its names is used. */
+QString targetOf(const QString& fileName)
 {
-    return fileName + QStringLiteral(".lock");
+    const QString canonical = QFileInfo(fileName).canonicalFilePath();
+    return canonical.isEmpty() ? fileName : canonical;
 }
 
-/** Waits until the condition holds, but only while somebody holds the lock and may be replacing the file. */
-template <typename Condition>
-bool waitWhileReplaced(const QString& fileName, Condition condition)
+/** Opening a pipe or a device would wait for its other end. */
+bool isMissingOrFile(const QString& fileName)
 {
-    waitFor(longestReplacingMs, [&] { return condition() || !QFileInfo::exists(lockName(fileName)); });
-    return condition();
-}
-
-// QSettings would not do: it reads a line that was cut off as a shorter value, and its process-wide cache hands out,
-// and writes later, values that could not be written.
-/** @param isLocked whether the caller holds the lock, so that nobody replaces the file meanwhile */
-Snapshot readFile(const QString& fileName, bool isLocked = false)
-{
-    if (!isLocked) {
-        waitWhileReplaced(fileName, [&] { return QFileInfo::exists(fileName); });
-    }
     const QFileInfo info(fileName);
-    if (!info.exists()) {
-        return {info.isSymLink() ? FileState::Unreadable : FileState::Missing, {}};
-    }
-    QFile file(fileName);
-    // Opening a pipe or a device would wait for its other end.
-    const auto opens = [&] { return file.isOpen() || file.open(QIODevice::ReadOnly); };
-    if (!info.isFile() || info.size() > largestFile || !(isLocked ? opens() : waitWhileReplaced(fileName, opens))) {
-        return {FileState::Unreadable, {}};
-    }
-    const QByteArray content = file.readAll();
-    const bool isComplete = content.size() == file.size();
-    file.close(); // not held for longer than needed: it may be about to be replaced
-    std::optional<SettingsDocument> document = SettingsDocument::parse(content);
-    if (!isComplete || !document) {
-        return {FileState::Damaged, {}};
-    }
-    return {FileState::Intact, std::move(*document)};
-}
-
-/** Writes a new file and puts it in the place of the old one. */
-QFileDevice::FileError replaceFile(const QString& fileName, const QByteArray& content)
-{
-    QSaveFile file(fileName);
-    // Flushed first, because commit() takes no notice of what the disk refuses then.
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit();
-    const QFileDevice::FileError error = file.error() == QFileDevice::NoError ? QFileDevice::WriteError : file.error();
-    return isWritten ? QFileDevice::NoError : error;
-}
-
-bool writeFile(const QString& fileName, const QByteArray& content)
-{
-    QFileDevice::FileError error = QFileDevice::NoError;
-    waitFor(longestReplacingMs, [&] {
-        error = replaceFile(fileName, content);
-        return error != QFileDevice::RenameError;
-    });
-    return error == QFileDevice::NoError;
-}
-
-bool moveAside(const QString& fileName)
-{
-    const QString base = fileName + QStringLiteral(".damaged");
-    QString target = base;
-    for (int number = 2; QFileInfo::exists(target); ++number) {
-        target = base + QLatin1Char('-') + QString::number(number);
-    }
-    return QFile::rename(fileName, target);
+    return info.exists() ? info.isFile() && info.size() <= largestFile : !info.isSymLink();
 }
 
 // QLockFile's own waiting backs off to seconds, which starves a process among busy ones.
-bool acquire(QLockFile& lock)
+bool acquire(QLockFile& lock, const QDeadlineTimer& deadline)
 {
-    const QDeadlineTimer deadline(longestWaitMs);
+    // A process that is killed while it makes its lock leaves an empty file. Qt takes no lock from a living process.
+    lock.setStaleLockTime(longestWaitMs / 2);
     while (!lock.tryLock(0)) {
         if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired()) {
             return false;
@@ -139,6 +60,38 @@ bool acquire(QLockFile& lock)
         QThread::msleep(2);
     }
     return true;
+}
+
+/** QSettings waits for its lock without a limit, so nobody may hold it when QSettings is about to write. */
+bool waitUntilFree(const QString& target, const QDeadlineTimer& deadline)
+{
+    QLockFile lock(target + QStringLiteral(".lock"));
+    return acquire(lock, deadline);
+}
+
+// Windows neither opens nor lists a file while it is being replaced.
+std::unique_ptr<QSettings> openForReading(const QString& target)
+{
+    const QDeadlineTimer deadline(longestWaitMs);
+    const auto isBeingReplaced = [&] { return QFileInfo::exists(target + QStringLiteral(".guard")); };
+    auto settings = std::make_unique<QSettings>(target, QSettings::IniFormat);
+    while ((settings->status() == QSettings::AccessError || !QFileInfo::exists(target)) && isBeingReplaced() &&
+           !deadline.hasExpired()) {
+        QThread::msleep(2);
+        settings = std::make_unique<QSettings>(target, QSettings::IniFormat);
+    }
+    return settings;
+}
+
+// QSettings reads a file again only when its size or its time, in milliseconds, has changed.
+void makeLater(const QString& target, const QDateTime& before)
+{
+    if (before.isValid() && QFileInfo(target).lastModified() <= before) {
+        QFile file(target);
+        if (file.open(QIODevice::ReadWrite)) {
+            file.setFileTime(before.addMSecs(1), QFileDevice::FileModificationTime);
+        }
+    }
 }
 
 } // namespace
@@ -155,43 +108,66 @@ struct ApplicationSettings::Impl
         }
     }
 
-    bool holds(const std::string& key, const QByteArray& value) const
+    QByteArray read(const std::string& key)
     {
-        const Snapshot snapshot = readFile(fileName);
-        return snapshot.state == FileState::Intact && snapshot.document.value(key) == value;
+        const QString target = targetOf(fileName);
+        if (!isMissingOrFile(target)) {
+            warnOnce("The settings file cannot be read");
+            return QByteArray();
+        }
+        // What the disk has refused is with QSettings still, which writes it as soon as it is asked for anything.
+        if (hasRefused && !waitUntilFree(target, QDeadlineTimer(longestWaitMs))) {
+            return QByteArray();
+        }
+        const std::unique_ptr<QSettings> settings = openForReading(target);
+        if (settings->status() != QSettings::NoError) {
+            warnOnce(settings->status() == QSettings::FormatError ? "The settings file is damaged"
+                                                                  : "The settings file cannot be read");
+        }
+        // A value that was cut off is text to QSettings.
+        const QVariant value = settings->value(nameOf(key));
+        return value.type() == QVariant::ByteArray ? value.toByteArray() : QByteArray();
     }
 
-    bool write(const std::string& key, const QByteArray& value)
+    /** Writes all that is not written yet. */
+    bool write()
     {
-        // A dialog that opens stores the geometry that it has just restored; that need not wait for the disk.
-        if (holds(key, value)) {
-            return true;
-        }
-        // The file behind a link is locked and replaced, whichever of its names is used.
-        const QString canonical = QFileInfo(fileName).canonicalFilePath();
-        const QString target = canonical.isEmpty() ? fileName : canonical;
-        QLockFile lock(lockName(target));
-        if (!QDir().mkpath(QFileInfo(target).path()) || !acquire(lock)) {
+        const QString target = targetOf(fileName);
+        const QDeadlineTimer deadline(longestWaitMs);
+        // A lock of our own, for which we wait in our own way; then those that use this class never wait for
+        // QSettings'.
+        QLockFile guard(target + QStringLiteral(".guard"));
+        if (!isMissingOrFile(target) || !QDir().mkpath(QFileInfo(target).path()) || !acquire(guard, deadline) ||
+            !waitUntilFree(target, deadline)) {
             return false;
         }
-        Snapshot snapshot = readFile(fileName, true);
-        if (snapshot.state == FileState::Unreadable) {
-            return false;
-        }
-        if (snapshot.state == FileState::Damaged) {
+        const QDateTime before = QFileInfo(target).lastModified();
+        hasRefused = !sync(target);
+        makeLater(target, before);
+        return !hasRefused;
+    }
+
+    bool sync(const QString& target)
+    {
+        // It complains of a damaged file, and an object that has complained once does not tell of a refused write.
+        if (QSettings(target, QSettings::IniFormat).status() == QSettings::FormatError) {
             warnOnce("The settings file is damaged");
-            if (!moveAside(target)) {
-                return false;
-            }
         }
-        snapshot.document.setValue(key, value);
-        return writeFile(target, snapshot.document.toByteArray());
+        QSettings settings(target, QSettings::IniFormat);
+        for (const auto& [key, value] : unwritten) {
+            settings.setValue(nameOf(key), value);
+        }
+        settings.sync();
+        return settings.status() == QSettings::NoError;
     }
 
     const QString fileName;
     bool warned = false;
     std::map<std::string, QByteArray> unwritten;
+    static bool hasRefused; // QSettings keeps what was refused for the whole process
 };
+
+bool ApplicationSettings::Impl::hasRefused = false;
 
 ApplicationSettings& ApplicationSettings::getInstance()
 {
@@ -219,31 +195,31 @@ ApplicationSettings::ApplicationSettings(const QString& fileName)
 {
 }
 
-ApplicationSettings::~ApplicationSettings() = default;
+ApplicationSettings::~ApplicationSettings()
+{
+    if (!m_impl->unwritten.empty()) {
+        m_impl->write();
+    }
+}
 
 QByteArray ApplicationSettings::getByteArrayValue(const std::string& key)
 {
     const auto unwritten = m_impl->unwritten.find(key);
-    if (unwritten != m_impl->unwritten.end()) {
-        return unwritten->second;
-    }
-    const Snapshot snapshot = readFile(m_impl->fileName);
-    if (snapshot.state == FileState::Damaged) {
-        m_impl->warnOnce("The settings file is damaged");
-    } else if (snapshot.state == FileState::Unreadable) {
-        m_impl->warnOnce("The settings file cannot be read");
-    }
-    return snapshot.document.value(key);
+    return unwritten != m_impl->unwritten.end() ? unwritten->second : m_impl->read(key);
 }
 
 void ApplicationSettings::depositValue(const std::string& key, const QByteArray& value)
 {
-    if (m_impl->write(key, value)) {
-        m_impl->unwritten.erase(key);
+    // A dialog that opens stores the geometry that it has just restored; that need not wait for the disk.
+    if (m_impl->unwritten.empty() && !value.isEmpty() && m_impl->read(key) == value) {
         return;
     }
-    m_impl->warnOnce("The settings file cannot be written");
     m_impl->unwritten[key] = value;
+    if (m_impl->write()) {
+        m_impl->unwritten.clear();
+    } else {
+        m_impl->warnOnce("The settings file cannot be written");
+    }
 }
 
 } // namespace morvane

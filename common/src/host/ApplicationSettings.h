@@ -13,9 +13,9 @@ namespace morvane {
 /**
  * The host's store of small named values, such as the geometry of a dialog.
  *
- * This default implementation keeps them in one INI file. Every write is on disk when depositValue() returns, the file
- * is replaced as a whole, and several processes may share it: none sees half a file, and none loses what another stored
- * under other keys.
+ * This default implementation keeps them in one INI file, through QSettings. Each value is on disk when depositValue()
+ * returns. The file is replaced as a whole, so no process sees half of it, and several processes may store under
+ * different keys at the same time. No call waits longer than a second for another process.
  *
  * A host replaces the service for the whole process by a subclass and setInstance() (or InstanceOverride), or at link
  * time by a library of its own. GUI thread only.
@@ -49,7 +49,8 @@ public:
      * @param key any UTF-8 text: the empty key, slashes, `=`, blanks and non-ASCII text are ordinary keys, and upper
      *        and lower case differ on every platform.
      *
-     * A file that cannot be read or is damaged gives empty arrays and one warning in Qt's message log for each object.
+     * A file that cannot be read gives empty arrays, and a damaged one the values that can still be read. Either
+     * gives at most one warning in Qt's message log for each object.
      */
     virtual QByteArray getByteArrayValue(const std::string& key);
 
@@ -57,9 +58,10 @@ public:
      * Stores @p value under @p key, replacing what was there. Any bytes are kept as they are; an empty array is stored
      * too, and cannot be told from a key that was never stored.
      *
-     * Where the file cannot be written, one warning goes to Qt's message log for each object, and the value is kept in
-     * memory for the life of the object. A damaged file is never overwritten: it is first moved aside to a name with
-     * `.damaged` appended, and if that fails nothing is written.
+     * Where the file cannot be written, or another process does not let go of it, one warning goes to Qt's message log
+     * for each object, and the value is kept in memory. It is written with the next value that is stored, or when the
+     * object ends, if the disk takes it then. The next write drops what cannot be read of a damaged file. Things that
+     * are no files, and files over 16 MiB, are neither read nor written.
      */
     virtual void depositValue(const std::string& key, const QByteArray& value);
 
