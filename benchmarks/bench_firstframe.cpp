@@ -7,7 +7,7 @@
 #include "ui/qt/dialogs/LaunchFileDialog.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -4,8 +4,8 @@
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingShell.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
-#include "ui/qt/dialogs/NameFilterText.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "ui/qt/dialogs/native/NameFilterText_p.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <QWidget>
 
@@ -21,7 +21,9 @@ using Clock = std::chrono::steady_clock;
 using morvane::test::RecordingDialog;
 using morvane::test::RecordingShell;
 using morvane::ui::ComPtr;
+using morvane::ui::FileTypeText;
 using morvane::ui::ShellString;
+using morvane::ui::splitNameFilter;
 
 constexpr int filterCount = 1000;
 

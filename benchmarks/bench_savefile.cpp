@@ -1,8 +1,8 @@
 // The save flow's own work on a name: giving it an extension, and finding out whether it can be written.
 
 #include "support/Ratio.h"
-#include "ui/qt/dialogs/SaveFileExtension.h"
-#include "ui/qt/dialogs/WriteAccessProbe.h"
+#include "ui/qt/dialogs/save/SaveFileExtension_p.h"
+#include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
 
 #include <QRegExp>
 #include <QTemporaryDir>
@@ -11,6 +11,9 @@
 
 #include <cstdio>
 #include <regex>
+
+using morvane::ui::applyFilterExtension;
+using morvane::ui::checkWriteAccess;
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "LiteralDigitSearch.h"
 #include "LiteralNumberReading.h"
 #include "support/Ratio.h"
-#include "ui/qt/controls/DigitSearch.h"
+#include "ui/qt/controls/DigitSearch_p.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
-#include "ui/qt/controls/ScientificNumberText.h"
+#include "ui/qt/controls/ScientificNumberText_p.h"
 
 #include <QElapsedTimer>
 

@@ -2,7 +2,7 @@
 // numbers; here it stops after 1,200, and what lies beyond is checked for what must hold in any case.
 #include "support/FuzzInput.h"
 #include "support/Require.h"
-#include "ui/qt/controls/DigitSearch.h"
+#include "ui/qt/controls/DigitSearch_p.h"
 
 #include <array>
 #include <limits>

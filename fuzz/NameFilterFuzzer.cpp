@@ -2,9 +2,13 @@
 #include "dialogs/LiteralNameFilter.h"
 #include "support/FuzzInput.h"
 #include "support/Require.h"
-#include "ui/qt/dialogs/NameFilterText.h"
+#include "ui/qt/dialogs/native/NameFilterText_p.h"
 
 using morvane::fuzz::require;
+using morvane::ui::extensionOfNameFilter;
+using morvane::ui::FileTypeText;
+using morvane::ui::splitNameFilter;
+using morvane::ui::splitNameFilters;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

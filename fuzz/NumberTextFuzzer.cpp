@@ -2,8 +2,8 @@
 #include "controls/LiteralNumberReading.h"
 #include "support/FuzzInput.h"
 #include "support/Require.h"
-#include "ui/qt/controls/DigitSearch.h"
-#include "ui/qt/controls/ScientificNumberText.h"
+#include "ui/qt/controls/DigitSearch_p.h"
+#include "ui/qt/controls/ScientificNumberText_p.h"
 
 #include <array>
 #include <cstring>

@@ -2,7 +2,9 @@
 #include "dialogs/LiteralExtensionRule.h"
 #include "support/FuzzInput.h"
 #include "support/Require.h"
-#include "ui/qt/dialogs/SaveFileExtension.h"
+#include "ui/qt/dialogs/save/SaveFileExtension_p.h"
+
+using morvane::ui::applyFilterExtension;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

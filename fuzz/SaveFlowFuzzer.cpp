@@ -3,8 +3,8 @@
 #include "support/FuzzInput.h"
 #include "support/QuietApplication.h"
 #include "support/Require.h"
-#include "ui/qt/dialogs/SaveFileExtension.h"
-#include "ui/qt/dialogs/SaveFileLoop.h"
+#include "ui/qt/dialogs/save/SaveFileExtension_p.h"
+#include "ui/qt/dialogs/save/SaveFileFlow_p.h"
 #include "ui/qt/dialogs/SaveFileMessageHandlerInterface.h"
 
 #include <QAbstractButton>
@@ -21,6 +21,7 @@ namespace {
 using morvane::fuzz::fromUtf8;
 using morvane::fuzz::FuzzInput;
 using morvane::fuzz::require;
+using morvane::ui::SaveFileFlow;
 
 class FuzzedHandler : public morvane::SaveFileMessageHandlerInterface
 {
@@ -71,11 +72,11 @@ QString nameInside(const std::string& text)
     return morvane::fuzz::scratchDirectory() + QLatin1String("/space/") + name;
 }
 
-class FuzzedFlow : public SaveFileState
+class FuzzedFlow : public SaveFileFlow
 {
 public:
     FuzzedFlow(FuzzInput& input, std::unique_ptr<FuzzedHandler> handler)
-        : SaveFileState(nullptr, "Save", std::string(), std::string(), std::move(handler)), m_input(input)
+        : SaveFileFlow(nullptr, "Save", std::string(), std::string(), std::move(handler)), m_input(input)
     {
     }
 

@@ -2,7 +2,7 @@
 #include "support/FuzzInput.h"
 #include "support/QuietApplication.h"
 #include "support/Require.h"
-#include "ui/qt/util/SelectionText.h"
+#include "ui/qt/util/SelectionText_p.h"
 #include "util/CellModel.h"
 #include "util/LiteralSelectionText.h"
 

@@ -3,9 +3,9 @@
 #include "support/FuzzInput.h"
 #include "support/QuietApplication.h"
 #include "support/Require.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
-#include "ui/qt/dialogs/shell/TypedNames.h"
-#include "ui/qt/dialogs/shell/WidgetShellItem.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
+#include "ui/qt/dialogs/shell/TypedNames_p.h"
+#include "ui/qt/dialogs/shell/WidgetShellItem_p.h"
 
 #include <QDir>
 

@@ -2,7 +2,7 @@
 
 #include "contract/FailingShell.h"
 #include "ui/qt/dialogs/shell/ComPtr.h"
-#include "ui/qt/dialogs/shell/ComSupport.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
 
 namespace morvane::test {
 

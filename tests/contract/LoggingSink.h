@@ -2,7 +2,7 @@
 
 #include "ui/qt/dialogs/shell/ComPtr.h"
 #include "ui/qt/dialogs/shell/Shell.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <QFileInfo>
 

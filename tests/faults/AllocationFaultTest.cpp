@@ -1,9 +1,9 @@
 // Every allocation failing in turn: nothing leaks, and what a caller finds afterwards is what the headers promise.
 #include "faults/AllocationFaults.h"
 #include "property/Property.h"
-#include "ui/qt/dialogs/NameFilterText.h"
-#include "ui/qt/dialogs/shell/ComSupport.h"
-#include "ui/qt/util/SelectionText.h"
+#include "ui/qt/dialogs/native/NameFilterText_p.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
+#include "ui/qt/util/SelectionText_p.h"
 #include "ui/qt/util/TableCopyHandler.h"
 #include "ui/util/CellModel.h"
 
@@ -21,6 +21,11 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+
+using morvane::ui::extensionOfNameFilter;
+using morvane::ui::FileTypeText;
+using morvane::ui::splitNameFilter;
+using morvane::ui::splitNameFilters;
 
 namespace morvane::test {
 

@@ -1,7 +1,7 @@
 // The write probe with every one of its system calls failing in turn.
 #include "faults/SystemCallFaults.h"
 #include "support/DiskState.h"
-#include "ui/qt/dialogs/WriteAccessProbe.h"
+#include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +18,9 @@
 #include <ostream>
 #include <string>
 #include <vector>
+
+using morvane::ui::checkWriteAccess;
+using morvane::ui::probeOpenForAppend;
 
 namespace morvane::test {
 

@@ -6,7 +6,7 @@
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <QComboBox>
 #include <QDir>

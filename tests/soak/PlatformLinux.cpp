@@ -1,6 +1,6 @@
 #include "soak/DialogAnswer.h"
 #include "soak/Platform.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -4,7 +4,7 @@
 #include "testing/RecordingShell.h"
 
 #include "contract/LoggingSink.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

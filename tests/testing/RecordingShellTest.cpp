@@ -7,7 +7,7 @@
 #include "support/QtPrinters.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

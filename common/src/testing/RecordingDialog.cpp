@@ -1,8 +1,8 @@
 #include "testing/RecordingDialog.h"
 
 #include "testing/RecordingControls.h"
-#include "testing/RecordingItems.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "testing/RecordingItems_p.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
-#include "testing/RecordingItems.h"
+#include "testing/RecordingItems_p.h"
 
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,9 +1,9 @@
 #include "testing/RecordingShell.h"
 
 #include "testing/RecordingDialog.h"
-#include "testing/RecordingItems.h"
-#include "ui/qt/dialogs/SaveFileKeptDialogs.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "testing/RecordingItems_p.h"
+#include "ui/qt/dialogs/save/KeptDialogs_p.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <QDir>
 #include <QFileInfo>

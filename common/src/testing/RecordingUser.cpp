@@ -1,7 +1,7 @@
 #include "testing/RecordingControls.h"
 #include "testing/RecordingDialog.h"
-#include "testing/RecordingItems.h"
-#include "ui/qt/dialogs/shell/TypedNames.h"
+#include "testing/RecordingItems_p.h"
+#include "ui/qt/dialogs/shell/TypedNames_p.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "WordStartModel.h"
+#include "WordStartModel_p.h"
 
 #include <QCompleter>
 

@@ -1,6 +1,6 @@
 #include "ctkCompleter.h"
 
-#include "WordStartModel.h"
+#include "WordStartModel_p.h"
 
 namespace morvane::compat {
 

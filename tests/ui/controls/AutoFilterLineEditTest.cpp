@@ -1,5 +1,5 @@
 // The editor line on its own, with a completer whose connections can be counted.
-#include "ui/qt/controls/AutoFilterLineEdit.h"
+#include "ui/qt/controls/AutoFilterLineEdit_p.h"
 
 #include "support/MessageLog.h"
 

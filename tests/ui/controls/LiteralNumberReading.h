@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/qt/controls/ScientificNumberText.h"
+#include "ui/qt/controls/ScientificNumberText_p.h"
 
 #include <functional>
 #include <optional>

@@ -1,8 +1,8 @@
-#include "ui/qt/controls/ScientificNumberText.h"
+#include "ui/qt/controls/ScientificNumberText_p.h"
 
 #include "LiteralDigitSearch.h"
 #include "LiteralNumberReading.h"
-#include "ui/qt/controls/DigitSearch.h"
+#include "ui/qt/controls/DigitSearch_p.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "property/Property.h"
 #include "support/ModalScript.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <boost/make_shared.hpp>
 

@@ -8,7 +8,7 @@
 #include "host/InstanceOverride.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/LaunchFileDialog.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

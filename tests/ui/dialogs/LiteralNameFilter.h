@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/qt/dialogs/NameFilterText.h"
+#include "ui/qt/dialogs/native/NameFilterText_p.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,20 +9,24 @@
 #include <regex>
 #include <string>
 
+namespace morvane::ui {
+
 inline bool operator==(const FileTypeText& a, const FileTypeText& b)
 {
     return a.description == b.description && a.patterns == b.patterns;
 }
 
+} // namespace morvane::ui
+
 namespace morvane::test {
 
 // The expressions that define what a name filter means. They recurse once a character: keep the texts short.
 
-inline FileTypeText splitByExpression(const std::string& filter)
+inline ui::FileTypeText splitByExpression(const std::string& filter)
 {
     static const std::regex expression("(.*) \\((.*)\\).*");
     std::smatch match;
-    FileTypeText result{"File of Type", filter};
+    ui::FileTypeText result{"File of Type", filter};
     if (std::regex_match(filter, match, expression)) {
         result = {match[1].str(), match[2].str()};
     }

@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/NameFilterText.h"
+#include "ui/qt/dialogs/native/NameFilterText_p.h"
 
 #include "LiteralNameFilter.h"
 
@@ -13,6 +13,11 @@ namespace {
 using morvane::test::extensionByExpression;
 using morvane::test::splitByExpression;
 using morvane::test::splitFiltersLiterally;
+using morvane::ui::extensionOfNameFilter;
+using morvane::ui::FileTypeText;
+using morvane::ui::isBareWildcard;
+using morvane::ui::splitNameFilter;
+using morvane::ui::splitNameFilters;
 
 void expectSameAsExpressions(const std::string& filter)
 {

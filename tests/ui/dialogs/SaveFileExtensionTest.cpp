@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/SaveFileExtension.h"
+#include "ui/qt/dialogs/save/SaveFileExtension_p.h"
 
 #include "LiteralExtensionRule.h"
 
@@ -12,6 +12,7 @@
 namespace {
 
 using morvane::test::applyExtensionByExpressions;
+using morvane::ui::applyFilterExtension;
 
 constexpr bool slashIsNative = boost::filesystem::path::preferred_separator == '/';
 

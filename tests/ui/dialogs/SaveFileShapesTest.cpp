@@ -9,7 +9,7 @@
 #include "ui/qt/dialogs/SaveFileDialog.h"
 #include "ui/qt/dialogs/SaveFileQtDialog.h"
 #include "ui/qt/dialogs/SaveFileWinDialog.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "support/DiskState.h"
-#include "ui/qt/dialogs/FilePath.h"
-#include "ui/qt/dialogs/WriteAccessProbe.h"
+#include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
+#include "ui/qt/util/FilePath_p.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ protected:
 
     fs::path path(const std::string& name) const
     {
-        return pathFromUtf8(m_directory.path().toStdString()) / pathFromUtf8(name);
+        return morvane::ui::pathFromUtf8(m_directory.path().toStdString()) / morvane::ui::pathFromUtf8(name);
     }
 
     fs::path makeFile(const std::string& name, const QByteArray& content = "content") const
@@ -40,7 +40,7 @@ protected:
     void expectAnswer(bool expected, const fs::path& target)
     {
         const DiskState before(m_directory.path());
-        EXPECT_EQ(checkWriteAccess(target), expected) << target;
+        EXPECT_EQ(morvane::ui::checkWriteAccess(target), expected) << target;
         EXPECT_EQ(DiskState(m_directory.path()).text(), before.text());
     }
 

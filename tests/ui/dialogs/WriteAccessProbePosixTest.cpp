@@ -12,6 +12,7 @@
 #include <functional>
 #include <string>
 
+using morvane::ui::checkWriteAccess;
 using namespace morvane::test;
 
 namespace {

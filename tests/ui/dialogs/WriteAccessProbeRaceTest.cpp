@@ -7,6 +7,7 @@
 #include <iostream>
 #include <thread>
 
+using morvane::ui::checkWriteAccess;
 using namespace morvane::test;
 
 namespace {

@@ -1,6 +1,9 @@
 #include "support/DiskNames.h"
 #include "WriteAccessProbeFixture.h"
 
+using morvane::ui::checkWriteAccess;
+using morvane::ui::pathFromUtf8;
+using morvane::ui::probeOpenForAppend;
 using namespace morvane::test;
 
 namespace {

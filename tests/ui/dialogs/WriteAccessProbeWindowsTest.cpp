@@ -4,6 +4,7 @@
 #include "WriteAccessProbeFixture.h"
 #include <cstdio>
 
+using morvane::ui::checkWriteAccess;
 using namespace morvane::test;
 
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/qt/util/CursorStack.h"
+#include "ui/qt/util/CursorStack_p.h"
 
 #include "support/OverrideCursors.h"
 

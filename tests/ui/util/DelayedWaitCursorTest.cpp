@@ -1,4 +1,4 @@
-#include "ui/qt/util/DelayedWaitCursor.h"
+#include "ui/qt/util/DelayedWaitCursor_p.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "ui/qt/dialogs/shell/Shell.h"
 
 #include "ui/qt/dialogs/shell/ComPtr.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <gtest/gtest.h>
 

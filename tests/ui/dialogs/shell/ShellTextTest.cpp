@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/shell/TypedNames.h"
+#include "ui/qt/dialogs/shell/TypedNames_p.h"
 
 #include <gtest/gtest.h>
 

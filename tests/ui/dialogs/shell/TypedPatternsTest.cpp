@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/shell/TypedPatterns.h"
+#include "ui/qt/dialogs/shell/TypedPatterns_p.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "ui/qt/dialogs/shell/ComPtr.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "contract/WidgetUser.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/shell/ComPtr.h"
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "ui/qt/controls/AutoFilterEdit.h"
+#include "ui/qt/controls/AutoFilterEdit_p.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "ui/qt/controls/AutoFilterEntries.h"
+#include "ui/qt/controls/AutoFilterEntries_p.h"
 
 #include <QAbstractProxyModel>
 #include <QStringMatcher>

@@ -1,4 +1,4 @@
-#include "ui/qt/controls/AutoFilterItemView.h"
+#include "ui/qt/controls/AutoFilterItemView_p.h"
 
 #include <QKeyEvent>
 #include <QPointer>

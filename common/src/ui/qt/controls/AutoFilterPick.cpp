@@ -1,6 +1,6 @@
-#include "ui/qt/controls/AutoFilterPick.h"
+#include "ui/qt/controls/AutoFilterPick_p.h"
 
-#include "ui/qt/controls/AutoFilterEntries.h"
+#include "ui/qt/controls/AutoFilterEntries_p.h"
 
 #include <QComboBox>
 

@@ -1,11 +1,11 @@
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 
-#include "ui/qt/controls/AutoFilterEdit.h"
-#include "ui/qt/controls/AutoFilterEntries.h"
-#include "ui/qt/controls/AutoFilterItemView.h"
-#include "ui/qt/controls/AutoFilterLineEdit.h"
-#include "ui/qt/controls/AutoFilterPick.h"
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/controls/AutoFilterEdit_p.h"
+#include "ui/qt/controls/AutoFilterEntries_p.h"
+#include "ui/qt/controls/AutoFilterItemView_p.h"
+#include "ui/qt/controls/AutoFilterLineEdit_p.h"
+#include "ui/qt/controls/AutoFilterPick_p.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <ctkCompleter.h>
 

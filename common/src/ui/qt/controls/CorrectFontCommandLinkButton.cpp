@@ -1,6 +1,6 @@
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 namespace morvane::ui {
 

@@ -1,4 +1,4 @@
-#include "ui/qt/controls/DigitSearch.h"
+#include "ui/qt/controls/DigitSearch_p.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "ui/qt/controls/ElidedTextAccessible.h"
+#include "ui/qt/controls/ElidedTextAccessible_p.h"
 
 #include "ui/qt/controls/ElidedTextLabel.h"
 

@@ -1,8 +1,8 @@
 #include "ui/qt/controls/ElidedTextLabel.h"
 
-#include "ui/qt/controls/ElidedTextAccessible.h"
+#include "ui/qt/controls/ElidedTextAccessible_p.h"
 #include "ui/qt/controls/ElidedTextUtil.h"
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QAccessible>
 

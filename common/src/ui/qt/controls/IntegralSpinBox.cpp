@@ -1,9 +1,9 @@
 #include "ui/qt/controls/IntegralSpinBox.h"
 
-#include "ui/qt/controls/StepSignals.h"
-#include "ui/qt/controls/TypedNumber.h"
-#include "ui/qt/controls/WheelNotches.h"
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/controls/StepSignals_p.h"
+#include "ui/qt/controls/TypedNumber_p.h"
+#include "ui/qt/controls/WheelNotches_p.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QLineEdit>
 

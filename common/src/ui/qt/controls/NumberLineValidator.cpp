@@ -1,4 +1,4 @@
-#include "ui/qt/controls/NumberLineValidator.h"
+#include "ui/qt/controls/NumberLineValidator_p.h"
 
 #include <QDoubleSpinBox>
 #include <QLineEdit>

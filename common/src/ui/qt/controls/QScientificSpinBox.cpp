@@ -1,11 +1,11 @@
 #include "ui/qt/controls/QScientificSpinBox.h"
 
-#include "ui/qt/controls/NumberLineValidator.h"
-#include "ui/qt/controls/ScientificNumberText.h"
-#include "ui/qt/controls/StepSignals.h"
-#include "ui/qt/controls/TypedNumber.h"
-#include "ui/qt/controls/WheelNotches.h"
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/controls/NumberLineValidator_p.h"
+#include "ui/qt/controls/ScientificNumberText_p.h"
+#include "ui/qt/controls/StepSignals_p.h"
+#include "ui/qt/controls/TypedNumber_p.h"
+#include "ui/qt/controls/WheelNotches_p.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QLineEdit>
 #include <QLocale>

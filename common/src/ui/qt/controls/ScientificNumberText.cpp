@@ -1,6 +1,6 @@
-#include "ui/qt/controls/ScientificNumberText.h"
+#include "ui/qt/controls/ScientificNumberText_p.h"
 
-#include "ui/qt/controls/DigitSearch.h"
+#include "ui/qt/controls/DigitSearch_p.h"
 
 #include <QLocale>
 

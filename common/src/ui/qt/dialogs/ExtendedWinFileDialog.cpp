@@ -1,7 +1,7 @@
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 
-#include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
-#include "ui/qt/dialogs/shell/TypedNames.h"
+#include "ui/qt/dialogs/native/NativeFileDialog_p.h"
+#include "ui/qt/dialogs/shell/TypedNames_p.h"
 
 #include <QFileInfo>
 

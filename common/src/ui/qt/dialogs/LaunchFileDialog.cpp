@@ -1,7 +1,7 @@
 #include "ui/qt/dialogs/LaunchFileDialog.h"
 
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QApplication>
 #include <QByteArray>

@@ -2,10 +2,10 @@
 
 #include "host/ApplicationSettings.h"
 #include "host/HelpLauncher.h"
-#include "ui/qt/util/CursorStack.h"
-#include "ui/qt/util/FileDialogAccess.h"
-#include "ui/qt/util/FileDialogLayout.h"
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/CursorStack_p.h"
+#include "ui/qt/util/FileDialogAccessibility_p.h"
+#include "ui/qt/util/FileDialogLayout_p.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QComboBox>
 #include <QCursor>

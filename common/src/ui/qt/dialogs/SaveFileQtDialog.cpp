@@ -2,22 +2,22 @@
 
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
-#include "ui/qt/dialogs/SaveFileLoop.h"
+#include "ui/qt/dialogs/save/SaveFileFlow_p.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 
 #include <utility>
 
-struct SaveFileQtDialog::Impl : SaveFileState
+struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
 {
-    using SaveFileState::SaveFileState;
+    using SaveFileFlow::SaveFileFlow;
 
     ~Impl() override { deleteOrphan(); }
 
     void abandon() override
     {
-        SaveFileState::abandon();
+        SaveFileFlow::abandon();
         deleteOrphan();
     }
     void deleteOrphan()

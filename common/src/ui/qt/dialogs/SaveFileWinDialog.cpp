@@ -1,9 +1,9 @@
 #include "ui/qt/dialogs/SaveFileWinDialog.h"
 
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
-#include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
-#include "ui/qt/dialogs/SaveFileKeptDialogs.h"
-#include "ui/qt/dialogs/SaveFileLoop.h"
+#include "ui/qt/dialogs/native/NativeFileDialog_p.h"
+#include "ui/qt/dialogs/save/KeptDialogs_p.h"
+#include "ui/qt/dialogs/save/SaveFileFlow_p.h"
 
 #include <algorithm>
 #include <utility>
@@ -27,9 +27,9 @@ std::vector<Kept>& keptDialogs()
 
 } // namespace
 
-struct SaveFileWinDialog::Impl : SaveFileState
+struct SaveFileWinDialog::Impl : morvane::ui::SaveFileFlow
 {
-    using SaveFileState::SaveFileState;
+    using SaveFileFlow::SaveFileFlow;
 
     void createDialog(const std::string& filter, const std::string& helpTopic) override
     {

@@ -1,6 +1,6 @@
 #include "ui/qt/util/CopyHandlerAbstract.h"
 
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QKeyEvent>
 

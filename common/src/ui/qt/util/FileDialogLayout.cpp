@@ -1,4 +1,4 @@
-#include "ui/qt/util/FileDialogLayout.h"
+#include "ui/qt/util/FileDialogLayout_p.h"
 
 #include <QComboBox>
 #include <QDateTime>

@@ -1,6 +1,6 @@
 #include "ui/qt/util/Fonts.h"
 
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QDir>
 #include <QFontDatabase>

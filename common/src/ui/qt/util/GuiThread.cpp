@@ -1,4 +1,4 @@
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QtGlobal>
 

@@ -1,6 +1,6 @@
 #include "ui/qt/util/MainWindow.h"
 
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QApplication>
 #include <QMainWindow>

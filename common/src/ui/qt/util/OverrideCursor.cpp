@@ -1,6 +1,6 @@
 #include "ui/qt/util/OverrideCursor.h"
 
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QCursor>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #include "ui/qt/util/OverrideCursorRestorer.h"
 
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QGuiApplication>
 

@@ -1,4 +1,4 @@
-#include "ui/qt/util/SelectionBands.h"
+#include "ui/qt/util/SelectionBands_p.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
-#include "ui/qt/util/SelectionText.h"
+#include "ui/qt/util/SelectionText_p.h"
 
-#include "ui/qt/util/DelayedWaitCursor.h"
-#include "ui/qt/util/SelectionBands.h"
+#include "ui/qt/util/DelayedWaitCursor_p.h"
+#include "ui/qt/util/SelectionBands_p.h"
 
 #include <QAbstractItemModel>
 

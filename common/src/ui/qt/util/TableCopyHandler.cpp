@@ -1,7 +1,7 @@
 #include "ui/qt/util/TableCopyHandler.h"
 
-#include "ui/qt/util/GuiThread.h"
-#include "ui/qt/util/SelectionText.h"
+#include "ui/qt/util/GuiThread_p.h"
+#include "ui/qt/util/SelectionText_p.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

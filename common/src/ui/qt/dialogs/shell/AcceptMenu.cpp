@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/shell/AcceptMenu.h"
+#include "ui/qt/dialogs/shell/AcceptMenu_p.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/shell/Control.h"
+#include "ui/qt/dialogs/shell/Control_p.h"
 
 #include <algorithm>
 

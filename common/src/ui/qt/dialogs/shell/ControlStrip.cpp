@@ -1,7 +1,7 @@
-#include "ui/qt/dialogs/shell/ControlStrip.h"
+#include "ui/qt/dialogs/shell/ControlStrip_p.h"
 
-#include "ui/qt/dialogs/shell/AcceptMenu.h"
-#include "ui/qt/dialogs/shell/FileDialogWindow.h"
+#include "ui/qt/dialogs/shell/AcceptMenu_p.h"
+#include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>

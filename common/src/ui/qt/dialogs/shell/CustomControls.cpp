@@ -1,7 +1,7 @@
-#include "ui/qt/dialogs/shell/CustomControls.h"
+#include "ui/qt/dialogs/shell/CustomControls_p.h"
 
-#include "ui/qt/dialogs/shell/FileDialogWindow.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <algorithm>
 #include <utility>

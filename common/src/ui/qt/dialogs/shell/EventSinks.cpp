@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/shell/EventSinks.h"
+#include "ui/qt/dialogs/shell/EventSinks_p.h"
 
 #include <vector>
 

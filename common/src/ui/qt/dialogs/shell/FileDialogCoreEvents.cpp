@@ -1,5 +1,5 @@
-#include "ui/qt/dialogs/shell/FileDialogCore.h"
-#include "ui/qt/dialogs/shell/WidgetShellItem.h"
+#include "ui/qt/dialogs/shell/FileDialogCore_p.h"
+#include "ui/qt/dialogs/shell/WidgetShellItem_p.h"
 
 namespace morvane::ui {
 

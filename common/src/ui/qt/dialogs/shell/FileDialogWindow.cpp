@@ -1,8 +1,8 @@
-#include "ui/qt/dialogs/shell/FileDialogWindow.h"
+#include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 
-#include "ui/qt/dialogs/shell/TypedNames.h"
-#include "ui/qt/util/FileDialogAccess.h"
-#include "ui/qt/util/FileDialogLayout.h"
+#include "ui/qt/dialogs/shell/TypedNames_p.h"
+#include "ui/qt/util/FileDialogAccessibility_p.h"
+#include "ui/qt/util/FileDialogLayout_p.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

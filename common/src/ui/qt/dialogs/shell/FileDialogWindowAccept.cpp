@@ -1,7 +1,7 @@
 // What happens between pressing the accept button and the end of the dialog.
-#include "ui/qt/dialogs/shell/FileDialogWindow.h"
-#include "ui/qt/dialogs/shell/TypedNames.h"
-#include "ui/qt/dialogs/shell/TypedPatterns.h"
+#include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
+#include "ui/qt/dialogs/shell/TypedNames_p.h"
+#include "ui/qt/dialogs/shell/TypedPatterns_p.h"
 
 #include <QComboBox>
 #include <QDir>

@@ -1,9 +1,9 @@
 #include "ui/qt/dialogs/shell/Shell.h"
 
 #ifdef _WIN32
-#include "ui/qt/dialogs/shell/WindowsShell.h"
+#include "ui/qt/dialogs/shell/WindowsShell_p.h"
 #else
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 #endif
 
 namespace morvane::ui {

@@ -1,7 +1,7 @@
-#include "ui/qt/dialogs/shell/WidgetFileDialog.h"
+#include "ui/qt/dialogs/shell/WidgetFileDialog_p.h"
 
-#include "ui/qt/dialogs/shell/ComSupport.h"
-#include "ui/qt/dialogs/shell/FileDialogCore.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
+#include "ui/qt/dialogs/shell/FileDialogCore_p.h"
 
 namespace morvane::ui {
 

@@ -1,9 +1,9 @@
-#include "ui/qt/dialogs/shell/WidgetShell.h"
+#include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
-#include "ui/qt/dialogs/shell/ComSupport.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
-#include "ui/qt/dialogs/shell/WidgetFileDialog.h"
-#include "ui/qt/dialogs/shell/WidgetShellItem.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
+#include "ui/qt/dialogs/shell/WidgetFileDialog_p.h"
+#include "ui/qt/dialogs/shell/WidgetShellItem_p.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
-#include "ui/qt/dialogs/shell/WidgetShellItem.h"
+#include "ui/qt/dialogs/shell/WidgetShellItem_p.h"
 
-#include "ui/qt/dialogs/shell/ComSupport.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
 
 #include <QDir>
 #include <QFileInfo>

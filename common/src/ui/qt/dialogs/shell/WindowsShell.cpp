@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/shell/WindowsShell.h"
+#include "ui/qt/dialogs/shell/WindowsShell_p.h"
 
 namespace morvane::ui {
 

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace morvane::ui {
+
 // UTF-8 names and the path library. Internal, not installed.
 // Where paths are wide (Windows), the library's own narrow conversions depend on the process's code page and on how
 // Boost was linked; these do not.
@@ -19,3 +21,5 @@ std::string pathToGenericUtf8(const boost::filesystem::path& path);
 
 /** The name with forward slashes where the platform has other separators. */
 std::string withForwardSlashes(std::string utf8);
+
+} // namespace morvane::ui

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace morvane::ui {
+
 // Reading name filters for the native dialog. Internal, not installed.
 // Every function takes time proportional to the length of the text and does not recurse.
 
@@ -38,3 +40,5 @@ bool isBareWildcard(std::string_view extension);
  * dropped; one that becomes empty by stripping is kept.
  */
 QStringList splitNameFilters(const std::string& filters);
+
+} // namespace morvane::ui

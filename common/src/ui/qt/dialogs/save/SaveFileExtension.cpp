@@ -1,9 +1,11 @@
-#include "ui/qt/dialogs/SaveFileExtension.h"
+#include "ui/qt/dialogs/save/SaveFileExtension_p.h"
 
-#include "ui/qt/dialogs/FilePath.h"
+#include "ui/qt/util/FilePath_p.h"
 
 #include <algorithm>
 #include <string_view>
+
+namespace morvane::ui {
 
 namespace {
 
@@ -41,3 +43,5 @@ std::string applyFilterExtension(const std::string& filename, const std::string&
     // Without a dot there is nothing to replace, and no need to take the path apart.
     return withForwardSlashes(filename + (extension.front() == '.' ? "" : ".") + extension);
 }
+
+} // namespace morvane::ui

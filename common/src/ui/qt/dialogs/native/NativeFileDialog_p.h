@@ -5,7 +5,7 @@
 #include "ui/qt/dialogs/shell/ComPtr.h"
 #include "ui/qt/dialogs/shell/Shell.h"
 #include "ui/qt/dialogs/shell/ShellInterfaces.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <QPointer>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "ui/qt/util/FileDialogAccess.h"
+#include "ui/qt/util/FileDialogAccessibility_p.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
+#include "ui/qt/dialogs/native/NativeFileDialog_p.h"
 
 #include <atomic>
 

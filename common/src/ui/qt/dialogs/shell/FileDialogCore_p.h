@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ui/qt/dialogs/shell/CustomControls.h"
-#include "ui/qt/dialogs/shell/EventSinks.h"
-#include "ui/qt/dialogs/shell/FileDialogWindow.h"
+#include "ui/qt/dialogs/shell/CustomControls_p.h"
+#include "ui/qt/dialogs/shell/EventSinks_p.h"
+#include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 
 #include <QPointer>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/qt/dialogs/shell/Control.h"
+#include "ui/qt/dialogs/shell/Control_p.h"
 
 #include <QObject>
 

@@ -2,7 +2,7 @@
 
 #include <boost/filesystem/path.hpp>
 
-// Internal, not installed.
+namespace morvane::ui {
 
 /**
  * Whether @p target can be written, found out by opening it for appending. Never throws.
@@ -26,3 +26,5 @@ bool checkWriteAccess(const boost::filesystem::path& target);
  * @param removeAfter the name may not exist: it is created exclusively, and removed again if that succeeds
  */
 bool probeOpenForAppend(boost::filesystem::path candidate, bool removeAfter);
+
+} // namespace morvane::ui

@@ -1,14 +1,14 @@
-#include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
+#include "ui/qt/dialogs/native/NativeFileDialog_p.h"
 
 #include "host/HelpLauncher.h"
 #include "host/StringConversion.h"
 #include "property/Property.h"
-#include "ui/qt/dialogs/ExtendedWinFileDialogEventHandler.h"
-#include "ui/qt/dialogs/ExtendedWinFileDialogFakeWidget.h"
-#include "ui/qt/dialogs/FilePath.h"
-#include "ui/qt/dialogs/NameFilterText.h"
-#include "ui/qt/dialogs/shell/TypedNames.h"
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/dialogs/native/ControlStandIn_p.h"
+#include "ui/qt/dialogs/native/NameFilterText_p.h"
+#include "ui/qt/dialogs/native/NativeDialogEvents_p.h"
+#include "ui/qt/dialogs/shell/TypedNames_p.h"
+#include "ui/qt/util/FilePath_p.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QDir>
 
@@ -19,9 +19,15 @@
 
 using morvane::Property;
 using morvane::ui::ComPtr;
+using morvane::ui::extensionOfNameFilter;
 using morvane::ui::iidOf;
+using morvane::ui::isBareWildcard;
+using morvane::ui::pathFromUtf8;
+using morvane::ui::pathToGenericUtf8;
+using morvane::ui::pathToUtf8;
 using morvane::ui::Shell;
 using morvane::ui::ShellString;
+using morvane::ui::splitNameFilters;
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
+#include "ui/qt/dialogs/native/NativeFileDialog_p.h"
 
 /**
  * Stands for one control of the native dialog and passes on whether it is visible and enabled.

@@ -2,7 +2,7 @@
 
 #include <string>
 
-// Internal, not installed.
+namespace morvane::ui {
 
 /**
  * The name to save under: @p filename with the extension of the chosen name filter, if it has none of its own.
@@ -14,3 +14,5 @@
  * it is. All text is UTF-8. Takes time proportional to the length of both.
  */
 std::string applyFilterExtension(const std::string& filename, const std::string& nameFilter);
+
+} // namespace morvane::ui

@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/FilePath.h"
+#include "ui/qt/util/FilePath_p.h"
 
 #include "host/StringConversion.h"
 
@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <type_traits>
+
+namespace morvane::ui {
 
 namespace {
 
@@ -57,3 +59,5 @@ std::string withForwardSlashes(std::string utf8)
     }
     return utf8;
 }
+
+} // namespace morvane::ui

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ui/qt/dialogs/shell/ComSupport.h"
-#include "ui/qt/dialogs/shell/Control.h"
-#include "ui/qt/dialogs/shell/ControlStrip.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
+#include "ui/qt/dialogs/shell/Control_p.h"
+#include "ui/qt/dialogs/shell/ControlStrip_p.h"
 #include "ui/qt/dialogs/shell/ShellInterfaces.h"
 
 #include <QPointer>

@@ -1,8 +1,8 @@
 // Running the dialog: what happens around the modal loop, and what is told to the Shell before the first one.
-#include "ui/qt/dialogs/ExtendedWinFileDialogEventHandler.h"
-#include "ui/qt/dialogs/ExtendedWinFileDialogImpl.h"
-#include "ui/qt/dialogs/NameFilterText.h"
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/dialogs/native/NameFilterText_p.h"
+#include "ui/qt/dialogs/native/NativeDialogEvents_p.h"
+#include "ui/qt/dialogs/native/NativeFileDialog_p.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QByteArray>
 
@@ -11,8 +11,10 @@
 #include <utility>
 
 using morvane::ui::ComPtr;
+using morvane::ui::FileTypeText;
 using morvane::ui::iidOf;
 using morvane::ui::ShellString;
+using morvane::ui::splitNameFilter;
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/ExtendedWinFileDialogEventHandler.h"
+#include "ui/qt/dialogs/native/NativeDialogEvents_p.h"
 
 ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::ExtendedWinFileDialogEventHandler(Impl& impl)
     : m_shell(impl.m_shell), m_impl(&impl)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/qt/dialogs/shell/ShellInterfaces.h"
-#include "ui/qt/dialogs/shell/ShellText.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <atomic>
 #include <cstdlib>

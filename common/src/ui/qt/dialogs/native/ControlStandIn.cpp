@@ -1,4 +1,4 @@
-#include "ui/qt/dialogs/ExtendedWinFileDialogFakeWidget.h"
+#include "ui/qt/dialogs/native/ControlStandIn_p.h"
 
 #include <QEvent>
 

@@ -1,6 +1,6 @@
-#include "ui/qt/dialogs/WriteAccessProbe.h"
+#include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
 
-#include "ui/qt/dialogs/FilePath.h"
+#include "ui/qt/util/FilePath_p.h"
 
 #include <boost/filesystem/operations.hpp>
 
@@ -16,6 +16,8 @@
 
 #include <string>
 #include <utility>
+
+namespace morvane::ui {
 
 namespace fs = boost::filesystem;
 
@@ -304,3 +306,5 @@ bool checkWriteAccess(const fs::path& target)
     const fs::path scratch = scratchName(error);
     return !error && probeOpenForAppend(target / scratch, true);
 }
+
+} // namespace morvane::ui

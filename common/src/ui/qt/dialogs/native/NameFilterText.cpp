@@ -1,6 +1,8 @@
-#include "ui/qt/dialogs/NameFilterText.h"
+#include "ui/qt/dialogs/native/NameFilterText_p.h"
 
 #include <algorithm>
+
+namespace morvane::ui {
 
 namespace {
 
@@ -75,3 +77,5 @@ QStringList splitNameFilters(const std::string& filters)
     }
     return result;
 }
+
+} // namespace morvane::ui

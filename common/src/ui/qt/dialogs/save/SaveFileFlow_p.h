@@ -13,15 +13,15 @@ namespace morvane {
 class SaveFileMessageHandlerInterface;
 }
 
-// Internal, not installed.
+namespace morvane::ui {
 
 /** What a save-file object holds whatever its dialog is, and the loop that it runs. */
-struct SaveFileState
+struct SaveFileFlow
 {
     /** @param handler null stands for the default one */
-    SaveFileState(QWidget* parent, const std::string& caption, const std::string& directory,
-        const std::string& filename, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
-    virtual ~SaveFileState();
+    SaveFileFlow(QWidget* parent, const std::string& caption, const std::string& directory, const std::string& filename,
+        std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
+    virtual ~SaveFileFlow();
 
     /** Makes the dialog with name filters that are joined by `;;`. Comes before anything else. */
     void setUp(const std::string& filter, const std::string& helpTopic);
@@ -78,3 +78,5 @@ private:
     bool isConfirmed(const std::string& question);
     QString filterForExtension();
 };
+
+} // namespace morvane::ui

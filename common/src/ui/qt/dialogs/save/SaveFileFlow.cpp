@@ -1,16 +1,18 @@
-#include "ui/qt/dialogs/SaveFileLoop.h"
+#include "ui/qt/dialogs/save/SaveFileFlow_p.h"
 
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
-#include "ui/qt/dialogs/FilePath.h"
-#include "ui/qt/dialogs/SaveFileExtension.h"
-#include "ui/qt/dialogs/WriteAccessProbe.h"
-#include "ui/qt/util/GuiThread.h"
+#include "ui/qt/dialogs/save/SaveFileExtension_p.h"
+#include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
+#include "ui/qt/util/FilePath_p.h"
+#include "ui/qt/util/GuiThread_p.h"
 
 #include <QMessageBox>
 
 #include <boost/filesystem/operations.hpp>
 
 #include <utility>
+
+namespace morvane::ui {
 
 namespace {
 
@@ -45,7 +47,7 @@ QStringList toNameFilters(const std::vector<std::string>& filters)
 
 } // namespace
 
-SaveFileState::SaveFileState(QWidget* parent, const std::string& caption, const std::string& directory,
+SaveFileFlow::SaveFileFlow(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
     : m_parent(parent),
       m_caption(caption),
@@ -58,15 +60,15 @@ SaveFileState::SaveFileState(QWidget* parent, const std::string& caption, const 
     }
 }
 
-SaveFileState::~SaveFileState() = default;
+SaveFileFlow::~SaveFileFlow() = default;
 
-void SaveFileState::setUp(const std::string& filter, const std::string& helpTopic)
+void SaveFileFlow::setUp(const std::string& filter, const std::string& helpTopic)
 {
     createDialog(filter, helpTopic);
     finishDialog();
 }
 
-void SaveFileState::setUp(
+void SaveFileFlow::setUp(
     const std::vector<std::string>& writerFilters, int selectedWriterIndex, const std::string& helpTopic)
 {
     createDialog(writerFilters.empty() ? std::string() : writerFilters.front(), helpTopic);
@@ -78,7 +80,7 @@ void SaveFileState::setUp(
     finishDialog();
 }
 
-bool SaveFileState::launch()
+bool SaveFileFlow::launch()
 {
     morvane::ui::expectGuiThread("SaveFileDialog");
     while (isAlive() && run() && isAlive()) {
@@ -96,7 +98,7 @@ bool SaveFileState::launch()
 }
 
 // The message handler may destroy the parent, and the dialog with it, in each of its operations.
-SaveFileState::Verdict SaveFileState::judge()
+SaveFileFlow::Verdict SaveFileFlow::judge()
 {
     const std::string nameToCheck = m_messageHandler->filenameToCheck(m_selectedFilename);
     if (!isAlive()) {
@@ -114,19 +116,21 @@ SaveFileState::Verdict SaveFileState::judge()
     return isConfirmed(m_messageHandler->unableToOverwriteMessage()) ? Verdict::ShowAgain : Verdict::GivenUp;
 }
 
-bool SaveFileState::isConfirmed(const std::string& question)
+bool SaveFileFlow::isConfirmed(const std::string& question)
 {
     return isAlive() && ask(messageParent(), m_caption, question);
 }
 
-int SaveFileState::selectedWriter()
+int SaveFileFlow::selectedWriter()
 {
     const QStringList filters = nameFilters();
     const int position = selectedPosition();
     return position >= 0 && position < filters.size() ? filters.indexOf(filters[position]) : -1;
 }
 
-QString SaveFileState::filterForExtension()
+QString SaveFileFlow::filterForExtension()
 {
     return nameFilters().value(selectedPosition());
 }
+
+} // namespace morvane::ui
