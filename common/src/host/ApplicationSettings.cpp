@@ -69,18 +69,42 @@ bool waitUntilFree(const QString& target, const QDeadlineTimer& deadline)
     return acquire(lock, deadline);
 }
 
-// Windows neither opens nor lists a file while it is being replaced.
+/** What tells whether a file was replaced between two looks at it. */
+struct FileState
+{
+    explicit FileState(const QString& target)
+        : isBeingReplaced(QFileInfo::exists(target + QStringLiteral(".guard"))),
+          exists(QFileInfo::exists(target)),
+          size(QFileInfo(target).size()),
+          modified(QFileInfo(target).lastModified())
+    {
+    }
+
+    bool isCalm(const FileState& before) const
+    {
+        return !isBeingReplaced && !before.isBeingReplaced && exists == before.exists && size == before.size &&
+               modified == before.modified;
+    }
+
+    bool isBeingReplaced;
+    bool exists;
+    qint64 size;
+    QDateTime modified;
+};
+
+// Windows neither opens nor lists a file while it is being replaced. The file is back at once, so only what was seen
+// before and after the reading tells whether nothing was read because there is nothing.
 std::unique_ptr<QSettings> openForReading(const QString& target)
 {
     const QDeadlineTimer deadline(longestWaitMs);
-    const auto isBeingReplaced = [&] { return QFileInfo::exists(target + QStringLiteral(".guard")); };
-    auto settings = std::make_unique<QSettings>(target, QSettings::IniFormat);
-    while ((settings->status() == QSettings::AccessError || !QFileInfo::exists(target)) && isBeingReplaced() &&
-           !deadline.hasExpired()) {
+    for (;;) {
+        const FileState before(target);
+        auto settings = std::make_unique<QSettings>(target, QSettings::IniFormat);
+        if (!settings->allKeys().isEmpty() || FileState(target).isCalm(before) || deadline.hasExpired()) {
+            return settings;
+        }
         QThread::msleep(2);
-        settings = std::make_unique<QSettings>(target, QSettings::IniFormat);
     }
-    return settings;
 }
 
 // QSettings reads a file again only when its size or its time, in milliseconds, has changed.
