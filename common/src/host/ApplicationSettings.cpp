@@ -100,7 +100,7 @@ std::unique_ptr<QSettings> openForReading(const QString& target)
     for (;;) {
         const FileState before(target);
         auto settings = std::make_unique<QSettings>(target, QSettings::IniFormat);
-        if (!settings->allKeys().isEmpty() || FileState(target).isCalm(before) || deadline.hasExpired()) {
+        if (FileState(target).isCalm(before) || !settings->allKeys().isEmpty() || deadline.hasExpired()) {
             return settings;
         }
         QThread::msleep(2);
