@@ -118,8 +118,7 @@ public:
      *
      * @param editable passed to setEditable(). The combo box gets a line edit, and so is editable, in either case.
      * @param mode     how the completer shows the matching entries
-     * @param cs       case sensitivity of the completer. The comparison at the end of an edit always ignores
-     *                 case.
+     * @param cs       case sensitivity of the completer. The search at the end of an edit ignores case.
      * @param elide    how the popup of the completer shortens long entries; no effect if the mode has no popup
      * @param match    no effect: the matching entries are always those that contain the text
      */

@@ -62,13 +62,16 @@ class QScientificSpinBoxPrivate;
 class MORVANE_UI_EXPORT QScientificSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT
-    /** The significant digits. The base class' property would set the number of digits that values are rounded to. */
+    /**
+     * The number of significant digits. The property of the base class would set the number of digits to which values
+     * are rounded.
+     */
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
     /**
-     * The value; read here, it is the number that Return would take, while typed text waits for Return. Delegates and
-     * QDataWidgetMapper store this property. Reading it changes nothing and emits nothing. Text that is not acceptable
-     * reads as what Return would make of it, which is value() unless the correction mode says otherwise.
-     * Connect to valueChanged() to be told; the property itself names no signal.
+     * The value. While typed text is not committed yet, reading this property returns the number that Return would set.
+     * Delegates and QDataWidgetMapper store this property. Reading it changes nothing and emits nothing. If the text is
+     * not acceptable, the result is the number that Return would correct it to; this is value(), unless the correction
+     * mode gives another number. The property has no notify signal; connect to valueChanged() instead.
      */
     Q_PROPERTY(double value READ enteredValue WRITE setValue USER true)
     /** Whether the spin box ignores the shared validation cache; false initially. */
