@@ -18,7 +18,8 @@ using tour::expect;
 
 namespace {
 
-/** Copies up to two of the machine's font files to @p folder, beside a file that is none. Returns the number of fonts.
+/**
+ * Copies up to two of the machine's font files and one other file to @p folder. Returns the number of fonts.
  */
 int fillWithFonts(const QDir& folder)
 {

@@ -27,7 +27,7 @@ void clickControl(const QString& text)
     tour::click(*OpenFileDialog().control(text));
 }
 
-/** Whether the dialog shows the control called Preview, and whether it can be used. */
+/** Whether the dialog shows the control Preview, and whether it is enabled. */
 QString expectPreview(bool visible, bool enabled)
 {
     const OpenFileDialog open;
@@ -43,7 +43,7 @@ QMenu* openMenu()
 
 TourStep menuStep(const QString& name)
 {
-    // The menu has a loop of its own, in which the next step runs.
+    // The menu has its own event loop, in which the next step runs.
     return {name, [] { tour::click(OpenFileDialog().acceptMenuArrow()); },
         [] { return expect(openMenu() && openMenu()->actions().size() == 2, "the menu is not open"); }};
 }
@@ -134,7 +134,7 @@ std::vector<TourStep> NativeDialogPage::controlStateSteps()
     steps.push_back({QStringLiteral("name-typed"),
         [] { tour::type(OpenFileDialog().name(), QStringLiteral("run-001.dat")); },
         [] { return expect(OpenFileDialog().name().text() == QStringLiteral("run-001.dat"), "the name is another"); }});
-    // Nothing was accepted by the user, so there is no file.
+    // The user accepted nothing, so there is no file.
     steps.push_back(chosenStep(
         QStringLiteral("closed-by-button"), [] { clickControl(QStringLiteral("Close Now")); }, QString(),
         QStringLiteral("view, without a file: closed by a button of the host")));
@@ -149,7 +149,7 @@ std::vector<TourStep> NativeDialogPage::acceptOptionSteps()
     };
     std::vector<TourStep> steps;
     steps.push_back(openStep(QStringLiteral("dialog-with-options")));
-    // Without a name there is nothing to accept in any way.
+    // Without a name no option can be accepted.
     steps.push_back({QStringLiteral("arrow-needs-a-name"), [] {},
         [] { return expect(!OpenFileDialog().acceptMenuArrow().isEnabled(), "the arrow is not grey"); }});
     steps.push_back(

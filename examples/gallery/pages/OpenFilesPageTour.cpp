@@ -174,7 +174,7 @@ std::vector<TourStep> OpenFilesPage::validationSteps(const TourWorkspace&)
 
 std::vector<TourStep> OpenFilesPage::geometrySteps(const TourWorkspace&)
 {
-    // Small enough for any screen that is worth a picture.
+    // Small enough for every usual screen.
     static const QSize picked(640, 380);
     const auto sizeIs = [](const QSize& size) {
         const OpenFileDialog open;
