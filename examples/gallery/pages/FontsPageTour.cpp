@@ -51,7 +51,9 @@ std::vector<TourStep> FontsPage::tourSteps(const TourWorkspace&)
             tour::type(*m_folder, folder->filePath(QStringLiteral("missing")));
             tour::click(*m_register);
         },
-        [this] { return expect(m_result->text() == tr("There is no such folder."), "nothing tells of the mistake"); }});
+        [this] {
+            return expect(m_result->text() == tr("There is no such folder."), "no message about the missing folder");
+        }});
     steps.push_back({QStringLiteral("fonts-registered"),
         [this, folder] {
             tour::type(*m_folder, folder->path());

@@ -82,9 +82,7 @@ std::vector<TourStep> SaveReportPage::dialogSteps(const TourWorkspace& workspace
                 tour::click(m_form->nativeField());
             }
         },
-        [native] {
-            return expect(ExtendedFileDialog::useNativeFileDialog() == native, "the switch stands as it stood");
-        }});
+        [native] { return expect(ExtendedFileDialog::useNativeFileDialog() == native, "the switch did not change"); }});
     // The files that the first kind of dialog saved must not exist for the second kind.
     steps.push_back({QStringLiteral("no-reports-yet"),
         [&workspace] {
@@ -135,7 +133,7 @@ std::vector<TourStep> SaveReportPage::newFileSteps(const TourWorkspace& workspac
         folder.path(QStringLiteral("archive/report.txt")), 0));
     steps.push_back(saveStep(QStringLiteral("dialog-for-csv")));
     steps.push_back({QStringLiteral("choose-csv"), [] { tour::pickNextType(); },
-        [] { return expect(OpenFileDialog().type().currentIndex() == 1, "the type is another"); }});
+        [] { return expect(OpenFileDialog().type().currentIndex() == 1, "the type is different"); }});
     steps.push_back(writtenStep(
         QStringLiteral("csv-written"), [] { tour::enterName(QStringLiteral("report-a")); },
         folder.path(QStringLiteral("archive/report-a.csv")), 1));
@@ -145,7 +143,7 @@ std::vector<TourStep> SaveReportPage::newFileSteps(const TourWorkspace& workspac
             tour::pickNextType();
             tour::pickNextType();
         },
-        [] { return expect(OpenFileDialog().type().currentIndex() == 2, "the type is another"); }});
+        [] { return expect(OpenFileDialog().type().currentIndex() == 2, "the type is different"); }});
     steps.push_back(writtenStep(
         QStringLiteral("html-written"), [] { tour::enterName(QStringLiteral("report-b")); },
         folder.path(QStringLiteral("archive/report-b.html")), 2));
@@ -214,7 +212,7 @@ std::vector<TourStep> SaveReportPage::wordingSteps(const TourWorkspace& workspac
                              m_wording->isChecked() && m_replaceQuestion->isEnabled(), "the texts are not editable");
                      }});
     steps.push_back({QStringLiteral("own-question"), [=] { tour::type(*m_replaceQuestion, question); },
-        [=] { return expect(m_replaceQuestion->text() == question, "the text is another"); }});
+        [=] { return expect(m_replaceQuestion->text() == question, "the text is different"); }});
     steps.push_back(saveStep(QStringLiteral("dialog-with-own-wording")));
     steps.push_back({QStringLiteral("own-replace-question"), [] { tour::enterName(QStringLiteral("report.txt")); },
         [] { return expectQuestion(QStringLiteral("Shall <b>report.txt</b> go?")); }});

@@ -26,7 +26,7 @@ class MORVANE_UI_EXPORT ElidedTextLabel : public morvane::compat::QxtLabel
 
 public:
     /**
-     * @param parent owner; null for a window of its own that the caller deletes
+     * @param parent owner; null: a top-level window that the caller deletes
      * @param flags  window flags, see QWidget
      */
     explicit ElidedTextLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
