@@ -15,8 +15,11 @@ namespace morvane::ui {
  * an edit: selectionComplete() when an entry was chosen, editingCanceled() when the edit was cancelled. The edit mode
  * sets how the combo box is used.
  *
- * SingleEdit, the initial mode: an editor that exists for one edit, for instance in a table cell. It closes its own
- * widget when the edit ends.
+ * In the tables, "line" is the line edit, "suggestions" is the popup of the completer, and "popup list" is the popup of
+ * the combo box.
+ *
+ * SingleEdit, the initial mode: an editor that exists for one edit, for instance in a table cell. It closes itself when
+ * the edit ends.
  *
  * | where       | what the user does              | outcome                                                        |
  * |-------------|---------------------------------|----------------------------------------------------------------|

@@ -18,9 +18,9 @@ public:
 
     /**
      * Sets @p toolTip as the tool tip of the widget if the text is wider than @p availableWidth; otherwise clears the
-     * tool tip. A text exactly as wide as @p availableWidth fits. A tool tip that is neither empty nor equal to @p
-     * toolTip is not changed, because other code has set it. If the tool tip is already right, the widget receives no
-     * event, so a paint event handler may call this function.
+     * tool tip. A text exactly as wide as @p availableWidth fits. A tool tip that is neither empty nor equal to
+     * @p toolTip is not changed, because other code has set it. If the tool tip is already right, the widget receives
+     * no event, so a paint event handler may call this function.
      *
      * @param widget         not null; the text is measured with its font
      * @param availableWidth in device-independent pixels
