@@ -15,11 +15,11 @@ class IntegralSpinBoxPrivate;
 /**
  * A QSpinBox whose steps the host can handle itself.
  *
- * A step is a press of an arrow or page key, a turn of the wheel, a click on a button, or a call of stepBy(). If a
- * slot is connected to the signal of that direction, signalIncrement or signalDecrement, the step fires this signal
- * once, independent of the number of steps, and does not change the value. If no slot is connected, the value changes
- * by the single step, as in QSpinBox. After the step, and after the slots, the whole number is selected. Qt makes no
- * step in a direction that stepEnabled() excludes, for instance upwards at the maximum. Then no signal fires either.
+ * A step is a press of an arrow or page key, a turn of the wheel, a click on a button, or a call of stepBy(). If a slot
+ * is connected to the signal of that direction, signalIncrement or signalDecrement, the step fires this signal once,
+ * independent of the number of steps, and does not change the value. If no slot is connected, the value changes by the
+ * single step. After the step, and after the slots, the whole number is selected. Qt makes no step in a direction that
+ * stepEnabled() excludes, for instance upwards at the maximum. Then no signal fires either.
  *
  * The wheel steps by whole notches. Touchpads and high-resolution wheels report parts of a notch, which are added up to
  * whole notches. The remaining part is dropped when the direction changes, when the pointer leaves, and when the focus
