@@ -2,9 +2,10 @@
 
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 
-// Designer finds out what a widget is from the class name in its meta-object, and CorrectFontCommandLinkButton has none
-// of its own. This class has one with that name: moc is shown the declaration under the name that it is to write down,
-// and CommandLinkForDesigner.cpp gives the code that it generates the name of this class again.
+// Designer identifies a widget by the class name in its meta-object, and CorrectFontCommandLinkButton has no
+// meta-object. This class has a meta-object with that class name: moc reads the declaration with the name
+// CorrectFontCommandLinkButton, and CommandLinkForDesigner.cpp replaces this name in the generated code by the name of
+// this class.
 #ifdef Q_MOC_RUN
 #define CommandLinkForDesigner CorrectFontCommandLinkButton
 #define CommandLinkBase QCommandLinkButton

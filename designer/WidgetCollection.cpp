@@ -23,8 +23,9 @@ WidgetDescription comboBox()
     widget.header = QStringLiteral("ui/qt/controls/ComboBoxAutoFilter.h");
     widget.icon = QStringLiteral("combobox");
     widget.toolTip = QStringLiteral("Filtering Combo Box");
-    widget.whatsThis = QStringLiteral("A combo box that offers the entries that contain what is typed. With editMode "
-                                      "FormField it stays for many edits; with SingleEdit it closes itself after one.");
+    widget.whatsThis =
+        QStringLiteral("A combo box that offers the entries that contain the typed text. With editMode "
+                       "FormField it stays open for many edits; with SingleEdit it closes itself after one.");
     widget.size = QSize(160, 32);
     widget.properties = QStringLiteral("<property name=\"filtering\"><bool>true</bool></property>"
                                        "<property name=\"editMode\">"
@@ -57,8 +58,8 @@ WidgetDescription integralSpinBox()
     widget.header = QStringLiteral("ui/qt/controls/IntegralSpinBox.h");
     widget.icon = QStringLiteral("integralspinbox");
     widget.toolTip = QStringLiteral("Integer Spin Box");
-    widget.whatsThis = QStringLiteral("A spin box for whole numbers. Slots connected to signalIncrement and "
-                                      "signalDecrement take the place of its steps.");
+    widget.whatsThis = QStringLiteral("A spin box for integers. Slots connected to signalIncrement and "
+                                      "signalDecrement replace its steps.");
     widget.size = QSize(100, 32);
     widget.create = create<morvane::ui::IntegralSpinBox>;
     return widget;
@@ -72,8 +73,8 @@ WidgetDescription elidedLabel()
     widget.header = QStringLiteral("ui/qt/controls/ElidedTextLabel.h");
     widget.icon = QStringLiteral("elidedlabel");
     widget.toolTip = QStringLiteral("Elided Label");
-    widget.whatsThis = QStringLiteral("A label for paths and other texts whose end matters. What does not fit is cut "
-                                      "off at the start, and the tool tip has the whole.");
+    widget.whatsThis = QStringLiteral("A label for paths and other texts whose end is important. If the text does not "
+                                      "fit, its start is elided, and the tool tip shows the whole text.");
     widget.size = QSize(160, 24);
     widget.properties = QStringLiteral("<property name=\"text\"><string>A text whose end matters</string></property>");
     widget.specifications =
@@ -90,7 +91,7 @@ WidgetDescription commandLinkButton()
     widget.header = QStringLiteral("ui/qt/controls/CorrectFontCommandLinkButton.h");
     widget.icon = QStringLiteral("commandlink");
     widget.toolTip = QStringLiteral("Uncut Command Link");
-    widget.whatsThis = QStringLiteral("A command link that no layout squeezes below the size of its texts.");
+    widget.whatsThis = QStringLiteral("A command link that no layout shrinks below the size of its texts.");
     widget.size = QSize(220, 60);
     widget.properties = QStringLiteral("<property name=\"text\"><string>Command link</string></property>"
                                        "<property name=\"description\"><string>What it does</string></property>");

@@ -2,7 +2,7 @@
 
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
-/** The plugin's entry: all of Morvane's widgets. */
+/** The entry point of the plugin: the collection of Morvane's widgets. */
 class WidgetCollection : public QObject, public QDesignerCustomWidgetCollectionInterface
 {
     Q_OBJECT

@@ -5,18 +5,18 @@
 
 #include <functional>
 
-/** What Qt Designer is told about one widget. */
+/** The description of one widget for Qt Designer. */
 struct WidgetDescription
 {
-    QString className; ///< with its namespace
-    QString extends;   ///< the base that uic and Designer know
+    QString className; ///< with namespace
+    QString extends;   ///< the base class for uic and Designer
     QString header;
     QString icon; ///< file name in the resources, without directory and extension
     QString toolTip;
     QString whatsThis;
-    QSize size;             ///< of a widget that was just dropped, in device-independent pixels
-    QString properties;     ///< further properties that it starts with, as in a form
-    QString specifications; ///< how properties with text are edited, as in a form
+    QSize size;             ///< initial size of a new widget, in device-independent pixels
+    QString properties;     ///< further initial properties, as XML of a form
+    QString specifications; ///< how text properties are edited, as XML of a form
     std::function<QWidget*(QWidget* parent)> create;
 };
 

@@ -1,4 +1,4 @@
-// One call asks for files; the window lists what was chosen.
+// One call asks for files; the window lists the chosen files.
 
 #include "ui/qt/dialogs/LaunchFileDialog.h"
 
@@ -18,7 +18,7 @@ int main(int argc, char** argv)
     auto* const type = new QLabel("Nothing was chosen yet.");
 
     //! [launch]
-    // Both keep their values between two calls: the next dialog starts where the last one ended.
+    // Both keep their values between two calls, so the next dialog starts with the last files and filter.
     std::vector<std::string> files;
     int filter = 0;
 
@@ -28,7 +28,7 @@ int main(int argc, char** argv)
         const bool allowMultiple = true;
         const std::vector<std::string> startAt(files.begin(), files.begin() + (files.empty() ? 0 : 1));
 
-        // False when the user cancels; files and filter are then what they were.
+        // False if the user cancels; files and filter are not changed then.
         if (!morvane::ui::LaunchFileDialog(files, filter, "Open", filters, startAt, saveMode, allowMultiple, filter)) {
             return;
         }

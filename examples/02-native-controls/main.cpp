@@ -1,4 +1,4 @@
-// The platform's file dialog with controls of our own: a check box, a button, and a menu on the accept button.
+// The platform's file dialog with our own controls: a check box, a button, and a menu on the accept button.
 
 #include "property/Property.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
@@ -16,7 +16,7 @@ int main(int argc, char** argv)
     auto* const button = new QPushButton("&Export…");
     auto* const result = new QLabel("Nothing was exported yet.");
 
-    // The check box in the dialog shows this value and sets it, so it is remembered from dialog to dialog.
+    // The check box in the dialog shows and sets this value. The program keeps it for the next dialog.
     const auto compress = boost::make_shared<morvane::Property<bool>>(true);
 
     QObject::connect(button, &QPushButton::clicked, &window, [&] {
@@ -26,7 +26,7 @@ int main(int argc, char** argv)
             window, "Export", "", "Archive (*.zip);;Table (*.csv)", "", QFileDialog::AcceptSave, useAcceptMenu);
         dialog.selectFile("measurement.zip");
 
-        // What these calls return stands for the control: hide it or disable it, also while the dialog is open.
+        // Each call returns a proxy widget for the control. Hide or disable it, also while the dialog is open.
         QWidget* const box = dialog.addCustomCheckBox("Compress", compress);
         dialog.addCustomButton("Lock compression", [box] { box->setEnabled(!box->isEnabled()); });
 

@@ -1,4 +1,4 @@
-// A value that checks what is put into it and tells whoever wants to know when it changed. No window is needed.
+// A value that validates each new value and calls its observers after a change. No window is needed.
 
 #include "property/Property.h"
 
@@ -6,7 +6,7 @@
 #include <string>
 
 //! [validator]
-// Decides what the property may hold.
+// Decides which values the property accepts.
 class VoltageValidator : public morvane::ValidatorInterface<double>
 {
 public:
@@ -23,16 +23,16 @@ public:
 int main()
 {
     //! [property]
-    // Several parts of a program hold the same property, each by a shared pointer.
+    // Several parts of a program can share the property through shared pointers.
     const auto voltage = boost::make_shared<morvane::Property<double>>(230.0);
     voltage->setValidator(boost::make_shared<VoltageValidator>());
 
-    // While the scoped connection lives, each change calls the function, after the new value is stored.
+    // As long as the scoped connection exists, each change calls the function after the new value is stored.
     boost::signals2::scoped_connection observer =
         voltage->signalValueChanged.connect([](const double& volts) { std::cout << "now " << volts << " V\n"; });
 
     voltage->setValue(235.0); // announced
-    voltage->setValue(235.0); // no change, so nobody is told
+    voltage->setValue(235.0); // no change, so no observer is called
 
     try {
         voltage->setValue(1000.0);

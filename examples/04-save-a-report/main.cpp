@@ -1,5 +1,5 @@
-// Saving done right with one object: the name that comes back has the extension of the chosen type, may be overwritten,
-// and was proved writable.
+// One object asks for a file name for saving. The returned name has the extension of the chosen type, may be
+// overwritten, and can be written.
 
 #include "ui/qt/dialogs/SaveFileDialog.h"
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-// One way of writing the report for each name filter, in the same order.
+// One file format for each name filter, in the same order.
 const std::vector<std::string> writerFilters = {"Text (*.txt)", "Table (*.csv)"};
 
 QByteArray report(int writer)
@@ -23,17 +23,17 @@ void save(QWidget& window)
 {
     //! [flow]
     const int firstWriter = 0;
-    const std::string helpTopic; // none: no Help button
+    const std::string helpTopic; // empty: no Help button
     SaveFileDialog dialog(&window, "Save report", "", "report", writerFilters, firstWriter, helpTopic);
 
-    // Asks before something is replaced, and for another place when one cannot be written to.
+    // Asks before a file is replaced, and for another location if a file cannot be written.
     if (!dialog.launch()) {
         return;
     }
     QFile file(QString::fromStdString(dialog.selectedFilename()));
     const QByteArray content = report(dialog.selectedWriter());
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush()) {
-        QMessageBox::warning(&window, "Save report", file.errorString()); // a disk may be full by now
+        QMessageBox::warning(&window, "Save report", file.errorString()); // the disk may be full now
         return;
     }
     //! [flow]

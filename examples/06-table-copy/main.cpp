@@ -1,4 +1,4 @@
-// Select cells and press Ctrl+C: the field below shows what a spreadsheet program would paste.
+// Select cells and press Ctrl+C: the field below shows the text that a spreadsheet program would paste.
 
 #include "ui/qt/util/TableCopyHandler.h"
 
@@ -31,10 +31,10 @@ int main(int argc, char** argv)
     table->setModel(&readings);
 
     //! [copy]
-    // This one line gives the table the copy shortcut. The handler belongs to the table.
+    // This line adds the copy shortcut to the table. The table owns the handler.
     auto* const handler = new morvane::ui::TableCopyHandler(*table);
 
-    // Copying is a slot, so that buttons and menu actions can do it too.
+    // copyToClipboard() is a slot, so buttons and menu actions can call it, too.
     auto* const button = new QPushButton("&Copy");
     QObject::connect(button, &QPushButton::clicked, handler, &morvane::ui::TableCopyHandler::copyToClipboard);
     //! [copy]

@@ -1,4 +1,4 @@
-// A combo box that shows fewer entries with each letter typed: those that contain the letters, wherever they stand.
+// A combo box that offers only the entries that contain the typed text, at any position.
 
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 
@@ -18,12 +18,12 @@ int main(int argc, char** argv)
     //! [filter]
     auto* const box = new ComboBoxAutoFilter(&window);
     box->setList({"Acetone", "Benzene", "Ethanol", "Propylene", "Toluene", "Water"});
-    // Filtering starts here; before, this is a plain combo box.
+    // This call sets up the filtering. Before it, this is a plain combo box.
     box->setCompleterAttributes(
         true, QCompleter::PopupCompletion, Qt::CaseInsensitive, Qt::ElideRight, Qt::MatchContains);
 
-    // Return, Tab or a click end the editing, Escape cancels it. Either way the combo box has closed itself by then,
-    // and the current entry is the outcome; currentText() is what was typed.
+    // Return, Tab or a click ends the edit, and Escape cancels it. In both cases the combo box has already closed
+    // itself. The current entry is the outcome; currentText() is the typed text.
     const auto entry = [=] { return box->itemText(box->currentIndex()); };
     QObject::connect(
         box, &ComboBoxAutoFilter::selectionComplete, outcome, [=] { outcome->setText("Chosen: " + entry()); });

@@ -1,4 +1,4 @@
-// A whole number whose steps double and halve it, for sizes that are powers of two.
+// An integer whose steps double and halve it, for sizes that are powers of two.
 
 #include "ui/qt/controls/IntegralSpinBox.h"
 
@@ -18,7 +18,7 @@ int main(int argc, char** argv)
     samples->setRange(1, 65536);
     samples->setValue(1024);
 
-    // A connected slot takes the place of the step. The spin box itself adds nothing then.
+    // A connected slot replaces the step. The spin box itself then does not change the value.
     samples->signalIncrement.connect([samples] { samples->setValue(samples->value() * 2); });
     samples->signalDecrement.connect([samples] { samples->setValue(samples->value() / 2); });
     //! [steps]

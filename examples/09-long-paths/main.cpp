@@ -1,4 +1,4 @@
-// A path in a narrow window: its end stays readable, and the tool tip has the whole of it.
+// A path in a narrow window: the end of the path stays readable, and the tool tip shows the whole path.
 
 #include "ui/qt/controls/ElidedTextLabel.h"
 
@@ -14,7 +14,7 @@ int main(int argc, char** argv)
     //! [label]
     auto* const path = new ElidedTextLabel(&window);
     path->setText("/projects/turbine/measurements/2026-03-12/run-17/pressure-inlet.dat");
-    // The label sets its tool tip while the text is cut and takes it away when the window is wide enough.
+    // The label sets its tool tip while the text is elided, and clears it when the window is wide enough.
     //! [label]
 
     auto* const layout = new QVBoxLayout(&window);

@@ -1,4 +1,4 @@
-// The rule for tool tips in a widget of your own: here a button that shortens its text.
+// The tool tip of an elided text in your own widget: here a button that elides its text.
 
 #include "ui/qt/controls/ElidedTextUtil.h"
 
@@ -21,7 +21,8 @@ protected:
         QPushButton::resizeEvent(event);
         const int room = width() - 2 * style()->pixelMetric(QStyle::PM_ButtonMargin);
         setText(fontMetrics().elidedText(m_wholeText, Qt::ElideMiddle, room));
-        // Sets the tool tip while the text is cut, takes it away again, and never touches one that somebody else set.
+        // Sets the tool tip while the text is elided, clears it otherwise, and does not change a tool tip of other
+        // code.
         ElidedTextUtil().updateToolTip(this, room, m_wholeText, m_wholeText);
     }
 

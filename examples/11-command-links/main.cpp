@@ -1,4 +1,4 @@
-// Two ways to go on, each with a line that explains it, and never cut off, however small the window.
+// Two buttons, each with an explanation. Their texts are never cut off, even in a small window.
 
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 
@@ -18,7 +18,7 @@ int main(int argc, char** argv)
     auto* const import = new CorrectFontCommandLinkButton(&window);
     import->setText("&Import a measurement");
     import->setDescription("Reads a file that another program has written.");
-    // Its smallest size is the one that shows both lines whole, in whatever font.
+    // The minimum size shows both lines completely, in any font.
     layout->addWidget(import);
     //! [buttons]
 

@@ -1,4 +1,4 @@
-// One piece of code, two dialogs: a switch for the whole program says whether the platform's or Qt's own appears.
+// The same code runs two dialogs: a switch for the whole program selects the platform's dialog or the Qt dialog.
 
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 
@@ -17,13 +17,13 @@ int main(int argc, char** argv)
     auto* const folder = new QLabel("None chosen yet.");
 
     //! [switch]
-    native->setChecked(ExtendedFileDialog::useNativeFileDialog()); // true in the beginning
+    native->setChecked(ExtendedFileDialog::useNativeFileDialog()); // true initially
     QObject::connect(native, &QCheckBox::toggled, &ExtendedFileDialog::setUseNativeFileDialog);
     //! [switch]
 
     //! [dialog]
     QObject::connect(button, &QPushButton::clicked, &window, [&] {
-        const std::string filter, helpTopic; // neither of them
+        const std::string filter, helpTopic; // both empty
         ExtendedFileDialog dialog(window, "Where to record", "", filter, helpTopic, QFileDialog::AcceptOpen);
         dialog.setFileMode(QFileDialog::Directory);
         dialog.setShowDirectoriesOnly(true);

@@ -1,4 +1,4 @@
-// Qt's own file dialog with a memory: it comes back in the size and place that the user gave it, also tomorrow.
+// The Qt file dialog that stores its geometry: it opens with its last size and position, also in the next run.
 
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 
@@ -10,7 +10,7 @@
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    QCoreApplication::setApplicationName("13-qt-file-dialog"); // the settings are kept below this name
+    QCoreApplication::setApplicationName("13-qt-file-dialog"); // the settings are stored under this name
     QWidget window;
     auto* const button = new QPushButton("&Open measurement…");
     auto* const chosen = new QLabel("Type *cal* as the file name to see only names with cal in them.");
@@ -19,8 +19,8 @@ int main(int argc, char** argv)
         //! [dialog]
         QExtendedFileDialog dialog(
             window, "Open measurement", "", "Data (*.dat);;All (*)", "opening", QFileDialog::AcceptOpen);
-        dialog.setGeometryPersistenceKey("OpenMeasurement/Geometry"); // its own size, apart from other dialogs
-        dialog.setDefaultSize(QSize(900, 600));                       // for the first time
+        dialog.setGeometryPersistenceKey("OpenMeasurement/Geometry"); // this dialog has its own geometry
+        dialog.setDefaultSize(QSize(900, 600));                       // if no geometry is stored
         if (dialog.exec() == QDialog::Accepted) {
             chosen->setText(dialog.selectedFiles().first());
         }

@@ -1,4 +1,4 @@
-// The questions of the save flow in the words of the program, or in another language.
+// The questions of the save flow with the program's own texts, or in another language.
 
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
@@ -11,7 +11,7 @@
 class ProtocolMessages : public morvane::DefaultSaveFileMessageHandler
 {
 public:
-    // The first to be called for each name that the user accepts.
+    // Called first for each name that the user accepts.
     std::string filenameToCheck(const std::string& filename) override
     {
         m_name = QFileInfo(QString::fromStdString(filename)).fileName().toStdString();
@@ -21,7 +21,7 @@ public:
     {
         return "The protocol “" + m_name + "” was signed. Write a new one in its place?";
     }
-    // What is not overridden keeps the default words.
+    // Functions that are not overridden return the default texts.
 
 private:
     std::string m_name;
@@ -38,7 +38,7 @@ int main(int argc, char** argv)
 
     //! [flow]
     SaveFileDialog dialog(&window, "Save protocol", "", "protocol", "Text (*.txt)", "",
-        std::make_unique<ProtocolMessages>()); // belongs to the dialog from here on
+        std::make_unique<ProtocolMessages>()); // the dialog takes ownership
     if (dialog.launch()) {
         window.setWindowTitle(QString::fromStdString(dialog.selectedFilename()));
     }

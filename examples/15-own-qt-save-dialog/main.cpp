@@ -1,4 +1,4 @@
-// The save flow on a Qt dialog that you have changed: a derived class reaches the dialog.
+// The save flow with a Qt dialog that you configure: a derived class has access to the dialog.
 
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileQtDialog.h"
@@ -16,7 +16,7 @@ public:
     {
         dialog()->setGeometryPersistenceKey("Export/Geometry");
         dialog()->setDefaultSize(QSize(900, 600));
-        dialog()->setViewMode(QFileDialog::Detail); // it is a QFileDialog, with all that belongs to one
+        dialog()->setViewMode(QFileDialog::Detail); // the dialog is a QFileDialog
     }
 };
 //! [derived]

@@ -1,4 +1,4 @@
-// The save flow on the native dialog, with a check box of your own in it.
+// The save flow with the native dialog, which has your own check box.
 
 #include "property/Property.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"

@@ -1,4 +1,4 @@
-// The copy shortcut for a widget that has none: a handler of your own says what is copied.
+// The copy shortcut for a widget that has none: your own handler defines what is copied.
 
 #include "ui/qt/util/CopyHandlerAbstract.h"
 
@@ -11,7 +11,7 @@
 class ListCopyHandler : public morvane::ui::CopyHandlerAbstract
 {
 public:
-    // Watches the list and belongs to it.
+    // Watches the list, which owns it.
     explicit ListCopyHandler(QListWidget& list) : CopyHandlerAbstract(list), m_list(list) {}
 
     void copyToClipboard() override

@@ -1,4 +1,4 @@
-// A wait cursor that cannot be forgotten, and that makes way for a question in the middle of the work.
+// A wait cursor that is always removed, and that is suspended for a question in the middle of the work.
 
 #include "ui/qt/util/OverrideCursor.h"
 #include "ui/qt/util/OverrideCursorRestorer.h"
@@ -9,21 +9,21 @@
 #include <QThread>
 
 //! [question]
-// Called while the wait cursor shows: nobody likes to answer with an hourglass in hand.
+// Called while the wait cursor is shown. The question needs the normal cursor.
 bool isOldDataUnwanted(QWidget* parent)
 {
     const morvane::ui::OverrideCursorRestorer ordinaryCursor;
     return QMessageBox::question(parent, "Import", "Replace the old data?") == QMessageBox::Yes;
-} // the wait cursor is back
+} // the wait cursor is shown again
 //! [question]
 
 //! [work]
 void import(QWidget* parent)
 {
     const morvane::ui::OverrideCursor busy(Qt::WaitCursor);
-    QThread::msleep(800); // stands for the first half of the work
+    QThread::msleep(800); // represents the first half of the work
     if (!isOldDataUnwanted(parent)) {
-        return; // an exception would end the wait cursor just as well
+        return; // the wait cursor is removed, also by an exception
     }
     QThread::msleep(800);
 }

@@ -1,4 +1,4 @@
-// Signals into an object that is no QObject: the connections end with it. No window appears.
+// Signals connected to an object that is not a QObject: the object disconnects them. No window appears.
 
 #include "ui/qt/util/QtSignalConnectionCollection.h"
 
@@ -21,7 +21,7 @@ private:
     void tell(const char* what) { std::cout << ++m_changes << ". change: rows " << what << '\n'; }
 
     int m_changes = 0;
-    morvane::ui::QtSignalConnectionCollection m_connections; // the last member, so the first to go
+    morvane::ui::QtSignalConnectionCollection m_connections; // the last member, so it is destroyed first
 };
 //! [member]
 
@@ -34,6 +34,6 @@ int main(int argc, char** argv)
         model.insertRow(2);
         model.removeRows(0, 2);
     }
-    model.insertRow(0); // nobody listens any more, and nobody crashes
+    model.insertRow(0); // there is no connection any more, so nothing crashes
     std::cout << "rows now: " << model.rowCount() << '\n';
 }

@@ -1,4 +1,4 @@
-// Code far away from the windows that wants to say something in the status bar.
+// Code without a pointer to the windows shows a message in the status bar.
 
 #include "ui/qt/util/MainWindow.h"
 
@@ -10,7 +10,7 @@
 //! [find]
 void announce(const QString& message)
 {
-    // The search is done once; pass true after the application has replaced its main window.
+    // The result is cached. Pass true after the application has replaced its main window.
     const bool searchAgain = false;
     if (QMainWindow* const window = morvane::ui::findMainWindow(searchAgain)) {
         window->statusBar()->showMessage(message);

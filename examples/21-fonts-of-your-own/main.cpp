@@ -1,4 +1,4 @@
-// Fonts that come with the program, without installing them. The first argument names a font file or a directory.
+// Fonts that the program ships, without installing them. The first argument is a font file or a directory.
 
 #include "ui/qt/util/Fonts.h"
 
@@ -13,7 +13,7 @@ int main(int argc, char** argv)
     const QString place = QApplication::arguments().value(1, QApplication::applicationDirPath() + "/fonts");
 
     //! [fonts]
-    // After the application object, before the first widget. A file that is no font gives one warning in the log.
+    // After the application object, before the first widget. A file that is not a font gives one warning in the log.
     if (QFileInfo(place).isDir()) {
         morvane::ui::addFontsToDatabase(place.toStdString());
     } else {

@@ -1,4 +1,4 @@
-// The library asks its host for help pages and a place for settings. Here the host answers in its own way.
+// The library uses two services of the host: help and settings. Here the host replaces both.
 
 #include "host/ApplicationSettings.h"
 #include "host/HelpLauncher.h"
@@ -25,7 +25,7 @@ public:
 class SettingsInMemory : public morvane::ApplicationSettings
 {
 public:
-    QByteArray getByteArrayValue(const std::string& key) override { return m_values[key]; } // empty when unknown
+    QByteArray getByteArrayValue(const std::string& key) override { return m_values[key]; } // empty for unknown keys
     void depositValue(const std::string& key, const QByteArray& value) override { m_values[key] = value; }
 
 private:

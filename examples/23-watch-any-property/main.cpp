@@ -1,4 +1,4 @@
-// Watching properties without knowing what they hold: one flag for "something is not saved yet". No window appears.
+// Observing properties without knowing their types: one flag for "something is not saved yet". No window appears.
 
 #include "property/Property.h"
 
@@ -19,7 +19,7 @@ public:
 
 private:
     bool m_isModified = false;
-    std::vector<boost::signals2::scoped_connection> m_observers; // they end with the document
+    std::vector<boost::signals2::scoped_connection> m_observers; // disconnected with the document
 };
 //! [watch]
 
@@ -36,6 +36,6 @@ int main()
     samples.setValue(2048);
     std::cout << "modified: " << document.isModified() << '\n';
     document.markSaved();
-    title.setValue("Run 17"); // what it was
+    title.setValue("Run 17"); // the current value
     std::cout << "modified: " << document.isModified() << '\n';
 }

@@ -1,4 +1,4 @@
-// A property whose value lives elsewhere, here in a variable of the environment. No window appears.
+// A property whose value is stored elsewhere, here in an environment variable. No window appears.
 
 #include "property/PropertyAbstract.h"
 
@@ -15,7 +15,7 @@ public:
 
     std::string value() const override { return m_value; }
 
-    // Somebody else may have changed the variable.
+    // Other code may have changed the variable.
     void refresh() override
     {
         const char* const text = std::getenv(m_name);
@@ -27,7 +27,7 @@ public:
     }
 
 protected:
-    // setValue() comes here with a value that is valid and new, and announces it afterwards.
+    // setValue() calls this function with a value that is valid and new, and announces the value afterwards.
     void storeValue(const std::string& text) override { m_value = text; }
 
 private:
@@ -42,7 +42,7 @@ int main()
     home.signalValueChanged.connect([](const std::string& text) { std::cout << "now " << text << '\n'; });
     home.setValue("/tmp/elsewhere");
     //! [usage]
-    home.setValidator(boost::make_shared<morvane::AllowAnyValueValidator<std::string>>()); // what it had anyway
+    home.setValidator(boost::make_shared<morvane::AllowAnyValueValidator<std::string>>()); // same as the initial one
     //! [usage]
     home.refresh();
 }

@@ -1,4 +1,4 @@
-// Errors that say why, for hosts' own code too: all of them can be caught as one type. No window appears.
+// Errors with a reason, also for the host's own code: all of them can be caught as one type. No window appears.
 
 #include "host/ExceptionBase.h"
 #include "host/StringConversion.h"
@@ -35,13 +35,13 @@ int main()
         try {
             name.setValue(text);
             throw InstrumentError("the instrument does not answer");
-        } catch (const morvane::ExceptionBase& error) { // the rejection of the empty name comes here, too
+        } catch (const morvane::ExceptionBase& error) { // also catches the rejection of the empty name
             std::cout << error.what() << '\n';
         }
         //! [catch]
     }
     //! [wide]
-    const std::wstring wide = morvane::utf8ToWideString(name.value()); // for interfaces that want wide characters
+    const std::wstring wide = morvane::utf8ToWideString(name.value()); // for interfaces that need wide characters
     std::cout << wide.size() << " characters in " << name.value().size() << " bytes\n";
     //! [wide]
 }

@@ -1,5 +1,5 @@
-// A form made with Qt Designer: MeasurementForm.ui holds the library's widgets, and uic makes the class
-// Ui::MeasurementForm from it. To change the form, open it with Designer; the installed plugin shows it the widgets.
+// A form made with Qt Designer: MeasurementForm.ui contains the library's widgets, and uic generates the class
+// Ui::MeasurementForm from it. To change the form, open it with Designer; the installed plugin provides the widgets.
 
 #include "ui_MeasurementForm.h"
 
@@ -14,9 +14,9 @@ int main(int argc, char** argv)
     Ui::MeasurementForm form;
     form.setupUi(&window);
 
-    // The widgets have the names that they were given in Designer.
+    // The widgets have the names that were set in Designer.
     QObject::connect(form.start, &QAbstractButton::clicked, &window, [&] {
-        // With suggestions closed, Alt+T does not leave the field: takes in what has been typed so far.
+        // If the suggestions are closed, Alt+T does not move the focus, so the typed text must be validated here.
         form.substance->validateEntry();
         QMessageBox::information(&window, "Measurement",
             QString("%1 samples of %2 at %3 A")

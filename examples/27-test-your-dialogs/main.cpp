@@ -1,4 +1,4 @@
-// A test of code that opens a file dialog: no window appears, and the test plays the user.
+// A test of code that opens a file dialog. No window appears, and the test plays the user.
 
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingShell.h"
@@ -7,7 +7,7 @@
 #include <QApplication>
 #include <QTextStream>
 
-// What is to be tested: the name to export to, or an empty one when the user changes their mind.
+// The function to test: returns the name to export to, or an empty one if the user cancels.
 static std::string askForExport()
 {
     std::vector<std::string> files;
@@ -30,7 +30,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
 
     //! [shell]
-    // From here to the end of main, the native dialogs are those of the recording shell.
+    // From here to the end of main, the recording shell creates the native dialogs.
     morvane::test::RecordingShell shell;
     const morvane::ui::ShellOverride guard(shell);
     //! [shell]

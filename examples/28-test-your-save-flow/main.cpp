@@ -1,4 +1,4 @@
-// A test of code that saves: the dialog and the questions after it are answered by the test.
+// A test of code that saves. The test answers the dialog and the questions after it.
 
 #include "testing/QuestionScript.h"
 #include "testing/RecordingDialog.h"
@@ -10,7 +10,7 @@
 #include <QTemporaryDir>
 #include <QTextStream>
 
-// What is to be tested: the name to save to, or an empty one when the user changes their mind.
+// The function to test: returns the name to save to, or an empty one if the user cancels.
 static std::string askForReport(const QString& folder)
 {
     SaveFileDialog dialog(nullptr, "Save report", folder.toStdString(), "report", "Text (*.txt)", "");

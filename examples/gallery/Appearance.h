@@ -5,13 +5,13 @@
 
 namespace gallery {
 
-/** Gives the application a dark palette, in a style that honours every colour of it. */
+/** Sets a dark palette, and a style that uses every colour of it. */
 void useDarkPalette();
 
-/** The font of a page's heading: @p base, larger and bold. */
+/** Returns the font of a page's heading: @p base, but larger and bold. */
 QFont headingFont(QFont base);
 
-/** The program's icon, drawn for each size. */
+/** Returns the program's icon, which is drawn for each size. */
 QIcon applicationIcon();
 
 } // namespace gallery

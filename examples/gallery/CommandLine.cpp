@@ -12,7 +12,7 @@ QString translated(const char* text)
     return QCoreApplication::translate("CommandLine", text);
 }
 
-// The toolkit reads these itself, later.
+// Qt reads these options itself, later.
 void addToolkitOptions(QCommandLineParser& parser)
 {
     for (const char* const name : {"platform", "platformpluginpath", "platformtheme", "plugin", "style", "stylesheet",
@@ -49,16 +49,17 @@ CommandLine parseCommandLine(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.setApplicationDescription(translated("Shows the dialogs and widgets of the Morvane library at work."));
-    // The parser's own help option promises another one for the toolkit's options.
+    parser.setApplicationDescription(translated("Shows the dialogs and widgets of the Morvane library."));
+    // The built-in help option of the parser mentions another option for Qt's options.
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, translated("Show this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, translated("Show the version."));
     const QCommandLineOption page(
         QStringLiteral("page"), translated("Start with the page <name>."), translated("name"));
     const QCommandLineOption dark(QStringLiteral("dark"), translated("Use a dark palette."));
     const QCommandLineOption tour(QStringLiteral("tour"),
-        translated("Play a user on every page, write one picture a step and a summary into <dir>, and exit with 0 only "
-                   "if every step ended as expected."),
+        translated(
+            "Play a user on every page, write a summary and one picture for each step to <dir>, and exit with 0 only "
+            "if every step ended as expected."),
         translated("dir"));
     parser.addOptions({help, version, page, dark, tour});
     addToolkitOptions(parser);

@@ -5,7 +5,7 @@
 
 namespace gallery {
 
-/** What the command line asks for. */
+/** The result of parsing the command line. */
 struct CommandLine
 {
     enum class Action
@@ -16,7 +16,7 @@ struct CommandLine
     };
 
     Action action = Action::Run;
-    /** What to print: the help, the version, or what is wrong. */
+    /** The text to print: the help, the version, or the error. */
     QString message;
     QString page;
     bool dark = false;
@@ -24,7 +24,7 @@ struct CommandLine
     QString tourDirectory;
 };
 
-/** Reads @p arguments, the program's name first. Needs an application object, but no display. */
+/** Parses @p arguments, which begin with the program's name. Needs an application object, but no display. */
 CommandLine parseCommandLine(const QStringList& arguments);
 
 } // namespace gallery

@@ -134,7 +134,8 @@ void GalleryWindow::select(int row)
 void GalleryWindow::about()
 {
     QMessageBox::about(this, tr("About"),
-        tr("%1 %2\n\nThe dialogs and widgets of the Morvane library, in a program that uses them as any other would.")
+        tr("%1 %2\n\nThe dialogs and widgets of the Morvane library, in a program that uses them like any other "
+           "program.")
             .arg(QApplication::applicationDisplayName(), QApplication::applicationVersion()));
 }
 

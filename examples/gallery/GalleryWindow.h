@@ -16,7 +16,7 @@ namespace gallery {
 class LogPane;
 class Page;
 
-/** The list of pages at the left, the page at the right, the log below. */
+/** The main window: the list of pages at the left, the page at the right, the log below. */
 class GalleryWindow : public QMainWindow
 {
     Q_OBJECT
@@ -25,18 +25,18 @@ public:
     GalleryWindow();
 
     const std::vector<Page*>& pages() const { return m_pages; }
-    /** Shows the page of that name. @return false when there is none */
+    /** Shows the page with this name. @return false if there is none */
     bool showPage(const QString& name);
-    /** The size that shows a page whole; the window starts with it where the screen is large enough. */
+    /** The size that shows every page completely. The window opens with it if the screen is large enough. */
     static QSize comfortableSize() { return QSize(1080, 840); }
     LogPane& log() { return *m_log; }
 
-    /** Brings the size, position and page of the last run back. */
+    /** Restores the size, position and page of the last run. */
     void restoreState();
 
-    /** What the tour does to get to @p page, as a user would. */
+    /** The tour's steps that open @p page, as a user would. */
     TourStep stepToPage(const Page& page);
-    /** What the tour does to the window itself, after all pages. */
+    /** The tour's steps for the window itself, after all pages. */
     std::vector<TourStep> closingSteps();
 
 protected:

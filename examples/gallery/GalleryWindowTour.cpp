@@ -49,7 +49,7 @@ std::vector<TourStep> GalleryWindow::aboutSteps()
     steps.push_back({QStringLiteral("help-menu"), [this] { tour::clickAction(*menuBar(), *m_helpMenu->menuAction()); },
         [this] { return expect(m_helpMenu->isVisible(), "the menu is not open"); }});
     steps.push_back({QStringLiteral("about"), [this] { tour::clickAction(*m_helpMenu, *m_about); },
-        [] { return expect(tour::modal<QMessageBox>() != nullptr, "nothing tells about the program"); }});
+        [] { return expect(tour::modal<QMessageBox>() != nullptr, "there is no message about the program"); }});
     steps.push_back(
         {QStringLiteral("about-closed"), [] { tour::press(*QApplication::activeModalWidget(), Qt::Key_Escape); },
             [] { return expect(!QApplication::activeModalWidget(), "the message is still open"); }});
@@ -62,7 +62,7 @@ std::vector<TourStep> GalleryWindow::logSteps()
     steps.push_back({QStringLiteral("copy-log"), [this] { tour::click(m_log->copyButton()); },
         [this] {
             const QString copied = QApplication::clipboard()->text();
-            return expect(!copied.isEmpty() && copied == m_log->text(), "the clipboard does not hold the log");
+            return expect(!copied.isEmpty() && copied == m_log->text(), "the clipboard does not contain the log");
         }});
     steps.push_back({QStringLiteral("clear-log"), [this] { tour::click(m_log->clearButton()); },
         [this] {

@@ -6,7 +6,7 @@
 
 namespace gallery {
 
-/** Shows the help pages that are installed with the gallery, and tells which topic was asked for. */
+/** Shows the help pages that are installed with the gallery, and reports the requested topic. */
 class HelpPages : public morvane::HelpLauncher
 {
 public:

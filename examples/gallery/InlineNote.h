@@ -6,13 +6,15 @@ class QLabel;
 
 namespace gallery {
 
-/** A warning under the field that it is about. It keeps its place while it is empty, so that nothing jumps. */
+/**
+ * A warning below the field that it belongs to. It keeps its space while it is empty, so the layout does not change.
+ */
 class InlineNote : public QWidget
 {
 public:
     explicit InlineNote(QWidget* parent = nullptr);
 
-    /** Shows @p text as it stands; an empty text shows nothing. */
+    /** Shows @p text as plain text. An empty text shows nothing. */
     void setText(const QString& text);
     QString text() const;
 

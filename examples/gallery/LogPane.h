@@ -7,7 +7,7 @@ class QPushButton;
 
 namespace gallery {
 
-/** The lines that the library reported, each with its time. Text can be selected and copied. */
+/** Shows the lines that the library reported, each with its time. The text can be selected and copied. */
 class LogPane : public QWidget
 {
 public:
@@ -15,9 +15,9 @@ public:
 
     void append(const QString& event);
     void clear();
-    /** Everything on the clipboard. */
+    /** Copies all lines to the clipboard. */
     void copyAll();
-    /** The lines, oldest first, with their times. */
+    /** Returns the lines with their times, oldest first. */
     QString text() const;
 
     QPushButton& clearButton() { return *m_clear; }

@@ -4,7 +4,7 @@
 
 namespace gallery {
 
-/** Draws items with some air at both sides of their text. */
+/** Draws items with padding at both sides of their text. */
 class PaddedItemDelegate : public QStyledItemDelegate
 {
 public:

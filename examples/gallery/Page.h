@@ -14,7 +14,7 @@ namespace gallery {
 class TourWorkspace;
 
 /**
- * One page of the gallery: a heading, a sentence, and whatever the subclass puts into body().
+ * One page of the gallery: a heading, an explanation, and the contents that the subclass adds to body().
  *
  * To add a page, write a subclass in pages/ and add its name to the list in CMakeLists.txt.
  */
@@ -24,9 +24,9 @@ class Page : public QWidget
 
 public:
     /**
-     * @param name     what `--page` and the names of the tour's pictures call it: lower case, no blanks
-     * @param title    its entry in the list and its heading
-     * @param sentence what a newcomer can try here
+     * @param name     name for `--page` and for the tour's pictures: lower case, no blanks
+     * @param title    entry in the list, and heading of the page
+     * @param sentence explains what a new user can try here
      */
     Page(const QString& name, const QString& title, const QString& sentence);
 
@@ -34,13 +34,13 @@ public:
     QString title() const { return m_title; }
 
     /**
-     * What the tour does on this page, once the page is shown. The steps may rely on the steps before them.
-     * @param workspace real files to work on, and what was opened; outlives the steps
+     * The steps of the tour on this page. They run after the page is shown. A step may depend on the steps before it.
+     * @param workspace real files for the steps, and a record of opened help pages; outlives the steps
      */
     virtual std::vector<TourStep> tourSteps(const TourWorkspace& workspace) = 0;
 
 Q_SIGNALS:
-    /** Something that the log pane should show, one line. */
+    /** Emitted with one line of text for the log pane. */
     void reported(const QString& event);
 
 protected:

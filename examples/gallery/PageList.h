@@ -6,7 +6,7 @@ namespace gallery {
 
 class Page;
 
-/** Makes every page, in the order of the list; the caller gives them a parent. */
+/** Creates all pages, in the order of the list. The caller sets their parent. */
 std::vector<Page*> makePages();
 
 } // namespace gallery

@@ -29,7 +29,7 @@ void nameApplication()
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
-// Without the GUI part, so that --help and a wrong option are answered where there is no display.
+// Uses no GUI application object, so --help and wrong options work without a display.
 CommandLine readCommandLine(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
@@ -86,9 +86,9 @@ int runTour(const CommandLine& options)
     if (!makeWritable(QDir(options.tourDirectory))) {
         return refuse(QStringLiteral("cannot write to the directory \"%1\"").arg(options.tourDirectory));
     }
-    QApplication::setCursorFlashTime(0); // pictures do not depend on the moment
+    QApplication::setCursorFlashTime(0); // so that pictures do not depend on the blinking cursor
     QCoreApplication::setAttribute(
-        Qt::AA_DontUseNativeDialogs); // a desktop's own dialog takes no events from a program
+        Qt::AA_DontUseNativeDialogs); // the tour cannot send events to the desktop's own dialog
     const TourWorkspace workspace;
     if (!workspace.isUsable()) {
         return refuse(QStringLiteral("cannot write to the temporary directory \"%1\"").arg(QDir::tempPath()));

@@ -13,55 +13,60 @@ namespace morvane {
 /**
  * The host's store of small named values, such as the geometry of a dialog.
  *
- * This default implementation keeps them in one INI file, through QSettings. Each value is on disk when depositValue()
- * returns. The file is replaced as a whole, so no process sees half of it, and several processes may store under
- * different keys at the same time. No call waits longer than a second for another process.
+ * This default implementation keeps the values in one INI file, through QSettings. Each value is on disk when
+ * depositValue() returns. The file is replaced as a whole, so no process reads a half-written file. Several processes
+ * may store values under different keys at the same time. No call waits longer than one second for another process.
  *
- * A host replaces the service for the whole process by a subclass and setInstance() (or InstanceOverride), or at link
- * time by a library of its own. GUI thread only.
+ * A host can replace the service for the whole process: with a subclass and setInstance() (or InstanceOverride), or at
+ * link time with its own library. GUI thread only.
  *
  * @snippet 22-host-services/main.cpp settings
  */
 class MORVANE_HOST_EXPORT ApplicationSettings
 {
 public:
-    /** The replacement given to setInstance(), or else a default object made on first use, which uses
-     * defaultFileName(). */
+    /**
+     * Returns the replacement that was given to setInstance(). Without one, returns a default object, which is created
+     * on first use and uses defaultFileName().
+     */
     static ApplicationSettings& getInstance();
     /**
-     * Makes @p replacement the object that getInstance() returns; null brings the default object back.
-     * @return the previous replacement, null when there was none. Ownership stays with the caller.
+     * Makes @p replacement the object that getInstance() returns. Null restores the default object.
+     * @return the previous replacement; null if there was none. The caller keeps the ownership of both.
      */
     static ApplicationSettings* setInstance(ApplicationSettings* replacement);
 
-    /** `settings.ini` in the application's own directory below the user's configuration directory. */
+    /** The path of `settings.ini` in the application's directory below the user's configuration directory. */
     static QString defaultFileName();
 
-    /** @param fileName the file to keep the values in; it and its directory are made when the first value is stored. */
+    /**
+     * @param fileName the file that keeps the values; the file and its directory are created when the first value is
+     * stored.
+     */
     explicit ApplicationSettings(const QString& fileName = defaultFileName());
     virtual ~ApplicationSettings();
     ApplicationSettings(const ApplicationSettings&) = delete;
     ApplicationSettings& operator=(const ApplicationSettings&) = delete;
 
     /**
-     * The bytes last stored under @p key, or an empty array when there are none.
+     * Returns the bytes last stored under @p key, or an empty array if there are none.
      *
-     * @param key any UTF-8 text: the empty key, slashes, `=`, blanks and non-ASCII text are ordinary keys, and upper
-     *        and lower case differ on every platform.
+     * @param key any UTF-8 text. The empty key is an ordinary key; so are keys with slashes, `=`, blanks and non-ASCII
+     *        text. Keys are case-sensitive on every platform.
      *
-     * A file that cannot be read gives empty arrays, and a damaged one the values that can still be read. Either
-     * gives at most one warning in Qt's message log for each object.
+     * If the file cannot be read, the result is an empty array. A damaged file gives the values that can still be read.
+     * Each object writes at most one warning about this to Qt's message log.
      */
     virtual QByteArray getByteArrayValue(const std::string& key);
 
     /**
-     * Stores @p value under @p key, replacing what was there. Any bytes are kept as they are; an empty array is stored
-     * too, and cannot be told from a key that was never stored.
+     * Stores @p value under @p key and replaces the previous value. The bytes are kept unchanged. An empty array is
+     * stored, too; getByteArrayValue() returns the same for it as for a key that was never stored.
      *
-     * Where the file cannot be written, or another process does not let go of it, one warning goes to Qt's message log
-     * for each object, and the value is kept in memory. It is written with the next value that is stored, or when the
-     * object ends, if the disk takes it then. The next write drops what cannot be read of a damaged file. Things that
-     * are no files, and files over 16 MiB, are neither read nor written.
+     * If the file cannot be written, or another process keeps it locked, the value stays in memory. Each object writes
+     * at most one warning about this to Qt's message log. The next call that stores a value, and the destructor, try to
+     * write it again. If the file is damaged, the next write drops the parts that cannot be read. Paths that are not
+     * regular files, and files larger than 16 MiB, are neither read nor written.
      */
     virtual void depositValue(const std::string& key, const QByteArray& value);
 

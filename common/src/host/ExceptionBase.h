@@ -8,7 +8,7 @@
 namespace morvane {
 
 /**
- * Base of the exceptions that Morvane throws; each of them is a `std::exception` too.
+ * Base class of the exceptions that Morvane throws. Each of them is also a `std::exception`.
  *
  * @snippet 25-reject-with-a-reason/main.cpp exception
  * @snippet 25-reject-with-a-reason/main.cpp catch
@@ -25,7 +25,10 @@ public:
     ///@}
     ~ExceptionBase() override;
 
-    /** The message, UTF-8, valid as long as this object. A NUL inside the message ends it early. */
+    /**
+     * Returns the message in UTF-8. The pointer is valid as long as this object. A NUL inside the message ends the text
+     * there.
+     */
     const char* what() const noexcept override;
 
 private:

@@ -9,10 +9,10 @@
 namespace morvane {
 
 /**
- * The host's way of showing help for a topic. Dialogs that were given a help topic call it from their Help button.
+ * The host's service that shows help for a topic. The Help button of a dialog that has a help topic calls it.
  *
- * A host replaces the service for the whole process by a subclass and setInstance() (or InstanceOverride), or at link
- * time by a library of its own. GUI thread only.
+ * A host can replace the service for the whole process: with a subclass and setInstance() (or InstanceOverride), or at
+ * link time with its own library. GUI thread only.
  *
  * @snippet 22-host-services/main.cpp help
  */
@@ -20,12 +20,12 @@ class MORVANE_HOST_EXPORT HelpLauncher
 {
 public:
     /**
-     * Shows the help for @p topic, UTF-8.
+     * Shows the help for @p topic, which is UTF-8.
      *
-     * This default opens the page `<help directory>/<topic>.html` with the desktop's browser. A topic may name a page
-     * in a sub-directory (`dialogs/open`). When there is no such page, or the browser cannot be started, a message box
-     * names the topic. A topic that would lead out of the help directory, by `..`, as an absolute path or through a
-     * symbolic link, opens nothing and is treated as a page that is not there.
+     * This default implementation opens the page `<help directory>/<topic>.html` with the desktop's browser. A topic
+     * may name a page in a sub-directory (`dialogs/open`). If the page does not exist, or the browser cannot be
+     * started, a message box names the topic. A topic must not lead out of the help directory, by `..`, as an absolute
+     * path or through a symbolic link. Such a topic is treated like a page that does not exist.
      */
     virtual void showHelp(const std::string& topic);
 
@@ -34,17 +34,23 @@ public:
     HelpLauncher(const HelpLauncher&) = delete;
     HelpLauncher& operator=(const HelpLauncher&) = delete;
 
-    /** The replacement given to setInstance(), or else a default object made on first use. */
+    /**
+     * Returns the replacement that was given to setInstance(). Without one, returns a default object, created on first
+     * use.
+     */
     static HelpLauncher& getInstance();
     /**
-     * Makes @p replacement the object that getInstance() returns; null brings the default object back.
-     * @return the previous replacement, null when there was none. Ownership stays with the caller.
+     * Makes @p replacement the object that getInstance() returns. Null restores the default object.
+     * @return the previous replacement; null if there was none. The caller keeps the ownership of both.
      */
     static HelpLauncher* setInstance(HelpLauncher* replacement);
 
-    /** Where the default implementation looks for pages; empty (the initial value) means that there are none. */
+    /**
+     * The directory in which the default implementation looks for pages. Empty, the initial value, means that there are
+     * none.
+     */
     QString helpDirectory() const;
-    /** @param directory an existing directory; empty for none */
+    /** @param directory an existing directory; empty: there are no pages */
     void setHelpDirectory(const QString& directory);
 
 private:

@@ -3,12 +3,12 @@
 namespace morvane {
 
 /**
- * Puts another object in the place of a host service for as long as the guard lives.
+ * Replaces a host service by another object as long as the guard exists.
  *
  * @snippet 22-host-services/main.cpp override
  *
- * The replacement is not owned and must outlive the guard. Guards nest and are destroyed in reverse order of their
- * construction, which scopes do by themselves.
+ * The guard does not own the replacement, which must outlive the guard. Guards can be nested. They must be destroyed in
+ * the reverse order of their construction, as automatic variables are.
  *
  * @tparam Service HelpLauncher, ApplicationSettings, or any class with a static `Service* setInstance(Service*)` that
  *         returns the previous replacement.
@@ -17,9 +17,9 @@ template <typename Service>
 class InstanceOverride
 {
 public:
-    /** Puts @p replacement in place. */
+    /** Makes @p replacement the instance of the service. */
     explicit InstanceOverride(Service& replacement) : m_previous(Service::setInstance(&replacement)) {}
-    /** Puts what was there before back in place. */
+    /** Restores the previous instance. */
     ~InstanceOverride() { Service::setInstance(m_previous); }
     InstanceOverride(const InstanceOverride&) = delete;
     InstanceOverride& operator=(const InstanceOverride&) = delete;

@@ -5,17 +5,17 @@
 namespace morvane {
 
 /**
- * Thrown by a property whose validator rejects a value; what() is the validator's text.
+ * A property throws this exception when its validator rejects a value. what() returns the validator's text.
  *
- * Can be caught as itself, as ExceptionBase and as `std::exception`. The property still holds its old value, and no
- * observer was told.
+ * It can be caught as this class, as ExceptionBase or as `std::exception`. The property keeps its old value, and no
+ * observer is called.
  *
  * @snippet 03-observable-value/main.cpp property
  */
 class MORVANE_HOST_EXPORT InvalidPropertyValueException : public ExceptionBase
 {
 public:
-    /** @param message UTF-8 reason for the rejection; may be empty. */
+    /** @param message reason for the rejection, UTF-8; may be empty */
     explicit InvalidPropertyValueException(std::string message);
     ///@{
     /** A copy is equal and independent. */

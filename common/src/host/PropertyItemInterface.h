@@ -7,9 +7,9 @@
 namespace morvane {
 
 /**
- * What every property is, whatever the type of its value: something that announces that it changed.
+ * The base of every property, independent of the type of its value. It has the signal that announces a change.
  *
- * Properties are shared through `boost::shared_ptr` and are neither copied nor moved.
+ * Properties are shared through `boost::shared_ptr`. They can be neither copied nor moved.
  *
  * @snippet 23-watch-any-property/main.cpp watch
  */
@@ -26,12 +26,12 @@ public:
     virtual ~PropertyItemInterface();
 
     /**
-     * Brings a property that mirrors an outside source up to date with it. A property that holds its own value, as all
-     * of Morvane's do, has nothing to fetch and does nothing.
+     * Updates a property that mirrors an external source from that source. A property that holds its own value does
+     * nothing; all of Morvane's properties hold their own value.
      */
     virtual void refresh() = 0;
 
-    /** Fires after every change of the value, once a change. Observers connect here when the type does not matter. */
+    /** Fires once after each change of the value. Observers connect to it if the type of the value does not matter. */
     boost::signals2::signal<void()> signalPropertyChanged;
 };
 

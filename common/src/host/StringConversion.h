@@ -7,10 +7,11 @@
 namespace morvane {
 
 /**
- * Converts UTF-8 to the platform's wide text: UTF-16 where `wchar_t` has 16 bits (Windows), UTF-32 elsewhere.
+ * Converts UTF-8 to the platform's wide text. That is UTF-16 where `wchar_t` has 16 bits (Windows), and UTF-32
+ * elsewhere.
  *
- * Invalid sequences become U+FFFD (replacement character), a byte order mark at the start is dropped, and NUL
- * characters are kept. Never throws but for lack of memory.
+ * Invalid sequences become U+FFFD (replacement character). A byte order mark at the start is dropped. NUL characters
+ * are kept. Throws only std::bad_alloc, when memory runs out.
  *
  * @snippet 25-reject-with-a-reason/main.cpp wide
  */

@@ -7,7 +7,7 @@
 namespace morvane {
 
 /**
- * What a validator says of one value: valid, or invalid with a reason.
+ * The result of a validator for one value: valid, or invalid with a reason.
  *
  * @snippet 25-reject-with-a-reason/main.cpp validator
  */
@@ -18,8 +18,7 @@ public:
     ValidationResult();
     /**
      * An invalid result.
-     * @param errorString UTF-8 reason that can be shown to a person. It may be empty; the result is invalid all the
-     * same.
+     * @param errorString reason, UTF-8, that can be shown to the user. It may be empty; the result is still invalid.
      */
     explicit ValidationResult(std::string errorString);
     ///@{
@@ -31,7 +30,7 @@ public:
 
     /** Whether the value may be stored. */
     bool isValid() const;
-    /** The reason given to the constructor, UTF-8; empty for the valid result. */
+    /** The reason that was given to the constructor, UTF-8; empty for the valid result. */
     std::string errorString() const;
 
 private:

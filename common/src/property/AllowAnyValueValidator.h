@@ -5,7 +5,7 @@
 namespace morvane {
 
 /**
- * Accepts every value; what a property starts with.
+ * Accepts every value. Each property has this validator at first.
  *
  * @snippet 24-property-over-a-source/main.cpp usage
  */

@@ -15,9 +15,9 @@ template <typename T>
 class Property : public PropertyAbstract<T>
 {
 public:
-    /** Holds a value-initialised T: 0, false, the empty string. */
+    /** The initial value is a value-initialised T: 0, false, the empty string. */
     Property() : m_value() {}
-    /** Holds @p initialValue, which is neither validated nor announced. */
+    /** The initial value is @p initialValue, which is neither validated nor announced. */
     explicit Property(T initialValue) : m_value(std::move(initialValue)) {}
 
     T value() const override { return m_value; }

@@ -13,21 +13,23 @@
 namespace morvane {
 
 /**
- * One value of type T that several parties share: checked before it is stored, announced after it changed.
+ * One value of type T that several parties share. The value is validated before it is stored, and announced after it
+ * changed.
  *
- * Hold it as `boost::shared_ptr<PropertyAbstract<T>>`; whoever lets go of the last pointer destroys it. Property is the
- * concrete class. To observe it, connect to signalValueChanged, or to signalPropertyChanged when the type does not
- * matter. Each fires exactly once for each change, after the value is stored. signalPropertyChanged fires from within
- * signalValueChanged, as its slot that was connected first. So its slots come before those of signalValueChanged that
- * are connected as usual, at the back and without a group, and after those that are connected with
- * boost::signals2::at_front or in a group. If one of these throws, signalPropertyChanged does not fire for that change.
+ * Hold it as `boost::shared_ptr<PropertyAbstract<T>>`; the last pointer destroys it. Property is the concrete class.
  *
- * An observer may set the property again: the inner change is stored and announced before the outer announcement goes
- * on, and the observers that are still to be called for the outer one receive the outer value. Observers that need the
- * present value read value(). An observer must not destroy the property: whoever calls setValue() holds a pointer to it
- * until the call returns.
+ * To observe the value, connect to signalValueChanged, or to signalPropertyChanged if the type does not matter. Each
+ * signal fires exactly once for each change, after the value is stored. signalPropertyChanged fires from a slot of
+ * signalValueChanged that the constructor connects. So the slots of signalPropertyChanged are called before the slots
+ * that are connected to signalValueChanged as usual, at the back and without a group. They are called after the slots
+ * that are connected to signalValueChanged with boost::signals2::at_front or in a group. If one of these throws,
+ * signalPropertyChanged does not fire for that change.
  *
- * GUI thread by convention; setValue() takes no lock.
+ * An observer may set the property again. The inner change is stored and announced first; then the outer announcement
+ * continues, and the remaining observers receive the outer value. Observers that need the current value call value().
+ * An observer must not destroy the property: the caller of setValue() must hold a pointer to it until the call returns.
+ *
+ * Use it on the GUI thread, by convention; setValue() takes no lock.
  *
  * @tparam T copyable, comparable with `==`
  *
@@ -43,14 +45,16 @@ public:
     void refresh() override {}
 
 protected:
-    /** Stores a value that was validated and differs from the present one. Announces nothing. */
+    /** Stores a value that was validated and differs from the current one. Fires no signal. */
     virtual void storeValue(const T& v) = 0;
-    /** Whether setting @p v would change nothing: `value() == v` unless overridden. */
+    /** Returns whether setting @p v would change nothing. The default is `value() == v`. */
     virtual bool isEqual(const T& v) const { return value() == v; }
-    /** Returns when @p v may be stored, else throws InvalidPropertyValueException with the validator's text. */
+    /**
+     * Returns normally if @p v may be stored. Otherwise throws InvalidPropertyValueException with the validator's text.
+     */
     virtual void validate(const T& v) const
     {
-        // A copy keeps the validator alive if it is replaced while it is asked.
+        // The copy keeps the validator alive if validate() replaces it.
         auto validator = m_validator;
         const ValidationResult result = validator->validate(v);
         validator.reset();
@@ -60,27 +64,28 @@ protected:
     }
 
 public:
-    /** A copy of the present value. */
+    /** Returns a copy of the current value. */
     virtual T value() const = 0;
 
 protected:
-    /** Tells the observers that the value is now @p v. */
+    /** Calls the observers of signalValueChanged with @p v, the new value. */
     virtual void emitValueChanged(const T& v) { signalValueChanged(v); }
 
 public:
-    /** Same as value(), for callers that want a non-virtual entry. */
+    /** Same as value(), but not virtual. */
     T getValue() const { return value(); }
 
     /**
-     * Validates, compares, stores, announces; the only way to change the value.
+     * Validates, compares, stores and announces a value. This is the only way to change the value.
      *
-     * Setting the value that is held already does nothing, once it has been validated. Observers receive the value as
-     * value() reports it after storing, which a subclass may have adjusted.
+     * The current value is validated, too, but setting it again does nothing more. Observers receive the result of
+     * value() after storing; a subclass may have adjusted the value.
      *
-     * @throws InvalidPropertyValueException when the validator rejects @p v; then nothing is stored and no one is told.
-     * @throws whatever an observer throws; then the new value is stored already.
-     * @throws std::bad_alloc when memory runs out: the old value stands and nobody was told, or the new one stands and
-     * not all observers may have been told.
+     * @throws InvalidPropertyValueException if the validator rejects @p v; then nothing is stored and no observer is
+     * called.
+     * @throws any exception that an observer throws; then the new value is already stored.
+     * @throws std::bad_alloc when memory runs out. Either the old value is kept and no observer was called, or the new
+     * value is stored and some observers may not have been called.
      */
     void setValue(const T& v)
     {
@@ -94,8 +99,8 @@ public:
     }
 
     /**
-     * Replaces the validator; the present value is not checked against it.
-     * @return false when @p validator is empty, which leaves the validator as it was.
+     * Replaces the validator. The current value is not validated again.
+     * @return false if @p validator is null; the old validator then stays
      */
     bool setValidator(boost::shared_ptr<ValidatorInterface<T>> validator)
     {
@@ -106,7 +111,7 @@ public:
         return true;
     }
 
-    /** Fires after each change with the new value. */
+    /** Fires once after each change, with the new value. */
     boost::signals2::signal<void(const T&)> signalValueChanged;
 
 protected:

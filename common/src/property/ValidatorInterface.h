@@ -5,9 +5,9 @@
 namespace morvane {
 
 /**
- * Decides which values a property accepts. Install one with PropertyAbstract::setValidator().
+ * Decides which values a property accepts. Set it with PropertyAbstract::setValidator().
  *
- * One validator may serve several properties; it is shared by pointer.
+ * Several properties may share one validator through `boost::shared_ptr`.
  *
  * @snippet 03-observable-value/main.cpp validator
  */
@@ -15,7 +15,10 @@ template <typename T>
 class ValidatorInterface
 {
 public:
-    /** What the validator says of @p v. An invalid result rejects the value; its text reaches whoever set it. */
+    /**
+     * Validates @p v. An invalid result rejects the value; the exception that setValue() throws has the text of the
+     * result.
+     */
     virtual ValidationResult validate(const T& v) const = 0;
     virtual ~ValidatorInterface() = default;
 };

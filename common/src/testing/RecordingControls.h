@@ -5,43 +5,43 @@
 namespace morvane::test {
 
 /**
- * The custom controls of a RecordingDialog; shares its identity and reference count.
+ * The custom controls of a RecordingDialog. The object shares the identity and the reference count of the dialog.
  *
- * Labels are compared with what the host has given, mnemonics included: "&Help".
+ * Labels are the exact texts that the host passed, including mnemonics: "&Help".
  *
  * @snippet testing/RecordingShellTest.cpp controls
  */
 class RecordingControls final : public IFileDialogCustomize
 {
 public:
-    /** @cond made by the dialog */
+    /** @cond created by the dialog */
     RecordingControls(RecordingShell& shell, IFileDialog& dialog);
     virtual ~RecordingControls();
     /** @endcond */
 
-    // Looking leaves no trace in the record.
-    /** The button or check box with this label; empty when there is none. */
+    // These functions are not recorded.
+    /** The button or check box with this label; empty if there is none. */
     std::optional<DWORD> idOf(const QString& label) const;
-    /** The control and the item with this label in it; empty when there is none. */
+    /** The item with this label and the control that contains it (control first); empty if there is none. */
     std::optional<std::pair<DWORD, DWORD>> itemOf(const QString& label) const;
-    /** The bits of CDCONTROLSTATEF of a control or an item; -1 when it is not there. */
+    /** The bits of CDCONTROLSTATEF of a control or an item; -1 if it does not exist. */
     int state(DWORD control) const;
     /** @copydoc state() */
     int itemState(DWORD control, DWORD item) const;
-    /** False, too, when it is not there. */
+    /** Whether the control is a check box; false also if it does not exist. */
     bool isCheckBox(DWORD control) const;
-    /** Whether its tick is set; false, too, when it is not there or no check box. */
+    /** Whether the check box is checked; false also if it does not exist or is not a check box. */
     bool isChecked(DWORD control) const;
 
-    // What the dialog does for its user.
-    /** Flips a check button, which must be there; its new state. */
+    // What the dialog does for the user.
+    /** Toggles a check box, which must exist, and returns its new state. */
     bool toggle(DWORD control);
-    /** Makes the item of the control's menu the chosen one. Both must be there. */
+    /** Selects an item of the control's menu. Control and item must exist. */
     void pick(DWORD control, DWORD item);
-    /** Takes every pick() back. */
+    /** Clears every selection made with pick(). */
     void forgetPick();
 
-    /** @cond what the library calls */
+    /** @cond called by the library */
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
     ULONG STDMETHODCALLTYPE AddRef() override;
     ULONG STDMETHODCALLTYPE Release() override;

@@ -10,19 +10,19 @@ namespace morvane::test {
 class RecordingControls;
 
 /**
- * The dialog of a RecordingShell, of either kind. Its `user…` operations do what a user does while Show runs; what the
- * host hears of that, it hears inside them. Call them in ShellScript::duringShow. A dialog that was neither accepted
- * nor cancelled there is cancelled, unless the script gives results or another end (ShellScript).
+ * A dialog of a RecordingShell, for opening or for saving. Its `user…` operations do what a user does while Show runs.
+ * They call the host's callbacks before they return. Call them in ShellScript::duringShow. If the user neither accepts
+ * nor cancels there, the dialog is cancelled, unless the script sets results or showResult (see ShellScript).
  *
- * It belongs to those who hold references to it, in the end to the dialog class of the library; do not keep a pointer
- * to it beyond the life of that.
+ * It is reference-counted, and the dialog class of the library holds the last reference. Do not use a pointer to it
+ * after that dialog object is destroyed.
  *
  * @snippet 27-test-your-dialogs/main.cpp accept
  */
 class RecordingDialog final : public IFileOpenDialog
 {
 public:
-    /** @cond made by the shell */
+    /** @cond created by the shell */
     RecordingDialog(RecordingShell& shell, bool saving);
     virtual ~RecordingDialog();
     RecordingDialog(const RecordingDialog&) = delete;
@@ -30,69 +30,75 @@ public:
     /** @endcond */
 
     /**
-     * Presses Open or Save. The dialog stays, as a real one does, when there is no name, when a file to open is not
-     * there (but see ShellScript::results), or when the host or the user does not want a file replaced.
+     * Presses Open or Save. Like a real dialog, it stays open if there is no name, if a file to open does not exist
+     * (but see ShellScript::results), if the host or the user refuses to replace a file, or if a sink's OnFileOk does
+     * not return S_OK or E_NOTIMPL.
      */
     void userAccepts();
     /** Presses Cancel or Escape. */
     void userCancels();
-    /** Replaces what stands in the field for the name. @param name a name in the folder, or a path with slashes */
+    /** Replaces the text of the name field. @param name a name in the folder, or a path with slashes */
     void userTypesName(const QString& name) { m_fileName = name; }
-    /** @param index the position in the list of file types, counted from 1 */
+    /** Chooses a file type. @param index position in the list of file types, counted from 1 */
     void userPicksType(UINT index);
-    /** @param folder an absolute path, with slashes; the host may refuse it */
+    /** Opens another folder; the host may refuse it. @param folder absolute path with slashes */
     void userEntersFolder(const QString& folder);
-    /** Highlights a file in the list without choosing it. @param path absolute, with slashes */
+    /** Selects a file in the list without accepting it. @param path absolute path with slashes */
     void userSelects(const QString& path);
-    /** How the question whether a file may be replaced is answered when no sink decides. */
+    /**
+     * Sets the answer to the question whether a file may be replaced, for the case that no sink decides; initially yes.
+     */
     void userAnswersOverwriting(bool yes) { m_replaces = yes; }
 
     /**
-     * Uses one of the host's own controls, found by its label as the host has given it: clicks a button, flips a check
-     * box, or picks from the menu of the accept button, which also accepts.
-     * @return false, with nothing done, when there is no such control, or it is hidden or disabled
+     * Uses one of the host's own controls, which is found by the label that the host passed: clicks a button, toggles a
+     * check box, or picks an item from the menu of the accept button, which also accepts.
+     * @return false if there is no such control, or it is hidden or disabled; nothing is done then
      */
     bool userClicks(const QString& label);
     /** @copydoc userClicks(const QString&) */
     bool userToggles(const QString& label);
     /** @copydoc userClicks(const QString&) */
     bool userPicksItem(const QString& label);
-    /** The same by the controls' numbers, whatever their state. The controls must be there. */
+    /** The same with the identifiers of the controls, also if they are hidden or disabled. The controls must exist. */
     void userClicks(DWORD control);
     /** @copydoc userClicks(DWORD) */
     void userToggles(DWORD control);
     /** @copydoc userClicks(DWORD) */
     void userPicksItem(DWORD control, DWORD item);
 
-    /** Calls every advised sink, as the dialog itself does. */
+    /**
+     * Calls the advised sinks in order, as the dialog itself does. Stops at the first result other than S_OK and
+     * E_NOTIMPL, and returns it.
+     */
     HRESULT fire(const std::function<HRESULT(IFileDialogEvents&)>& call);
-    /** The same for those that want to hear of the host's controls. */
+    /** The same for the sinks that implement IFileDialogControlEvents. */
     HRESULT fireControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call);
 
-    // What a user sees; looking leaves no trace in the record.
-    /** Include testing/RecordingControls.h to look at them. */
+    // What a user sees. These functions are not recorded.
+    /** The custom controls. Include testing/RecordingControls.h to use them. */
     RecordingControls& controls() { return *m_controls; }
-    /** Whether Show runs. */
+    /** Whether Show is running. */
     bool isShown() const { return m_running; }
     /** Whether it is the dialog for saving. */
     bool isSaving() const { return m_saving; }
-    /** As the host has set it; empty before. */
+    /** The title that the host set; empty before that. */
     QString title() const { return m_title; }
-    /** What stands in the field for the name. */
+    /** The text of the name field. */
     QString fileName() const { return m_fileName.value_or(QString()); }
-    /** With slashes; the process's own directory when the host has set none. */
+    /** The folder, with slashes; the process's current directory if the host set none. */
     QString folder() const;
-    /** Description and patterns, such as "Text" and "*.txt;*.log", of each file type. */
+    /** The description and the patterns of each file type, such as "Text" and "*.txt;*.log". */
     const std::vector<std::pair<QString, QString>>& types() const { return m_types; }
-    /** The position of the chosen type, counted from 1; 0 without types. */
+    /** The position of the chosen type, counted from 1; 0 if there are no types. */
     UINT typeIndex() const { return m_typeIndex; }
-    /** The window that the dialog was shown over; null for none. */
+    /** The owner window that was passed to Show; null for none. */
     HWND owner() const { return m_owner; }
 
-    /** QueryInterface without a trace in the record. */
+    /** QueryInterface without recording the call. */
     HRESULT give(REFIID iid, void** object);
 
-    /** @cond what the library calls */
+    /** @cond called by the library */
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
     ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
     ULONG STDMETHODCALLTYPE Release() override;

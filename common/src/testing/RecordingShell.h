@@ -18,53 +18,60 @@ namespace morvane::test {
 class RecordingDialog;
 
 /**
- * What a RecordingShell's dialogs answer; read when they are made (the options) or shown (the rest).
+ * How the dialogs of a RecordingShell behave. The options are read when a dialog is created, the rest when it is shown.
  *
  * @snippet 27-test-your-dialogs/main.cpp accept
  */
 struct ShellScript
 {
-    /** What GetOptions of a new dialog for opening reports: what Windows sets by itself. */
+    /** The options that GetOptions of a new open dialog returns. These are the defaults of Windows. */
     FILEOPENDIALOGOPTIONS openOptions = FOS_FILEMUSTEXIST | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR;
-    /** The same for saving. */
+    /** The same for a save dialog. */
     FILEOPENDIALOGOPTIONS saveOptions =
         FOS_NOREADONLYRETURN | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR | FOS_OVERWRITEPROMPT;
 
     /**
-     * Plays the user (and anything else) while Show runs. Empty: the user does nothing. A dialog that is still open
-     * when it returns ends as showResult says.
+     * Called while Show runs; plays the user, or does anything else. Empty: the user does nothing. If the dialog is
+     * still open when the function returns, it ends as showResult describes.
      */
     std::function<void(RecordingDialog&)> duringShow;
     /**
-     * What Show returns when the user has neither accepted nor cancelled and nobody has called Close. Empty: the dialog
-     * is cancelled, unless there are results; then it is accepted as by RecordingDialog::userAccepts().
+     * What Show returns if the user neither accepted nor cancelled, and Close was not called. Empty: the dialog is
+     * cancelled, unless there are results; then it is accepted as by RecordingDialog::userAccepts().
      */
     std::optional<HRESULT> showResult;
-    /** The chosen paths when Show ends with S_OK in any way; empty: the typed name in the folder. */
+    /** The chosen paths if Show returns S_OK and Close was not called; empty: the typed name in the folder. */
     QStringList results;
-    /** What GetSelectedControlItem reports; empty: the picked or else the first item that is enabled and visible. */
+    /**
+     * What GetSelectedControlItem returns. Empty: the item that was picked, otherwise the first item that is enabled
+     * and visible.
+     */
     std::optional<DWORD> selectedItem;
-    /** OnFolderChanging, OnFolderChange and, with types, OnTypeChange when the dialog opens. */
+    /** Whether the dialog calls OnFolderChanging, OnFolderChange and, if it has types, OnTypeChange when it opens. */
     bool announcesOpening = true;
-    /** The dialog keeps a reference to every sink beyond Unadvise and its own end; see releaseKeptSinks(). */
+    /**
+     * Whether the Shell keeps a reference to every advised sink, also after Unadvise and the end of the dialog; see
+     * releaseKeptSinks().
+     */
     bool keepsSinks = false;
 };
 
 /**
- * A Shell without any window that writes down each call, in order, and answers as scripted: for tests of code that
- * opens the native file dialog (ExtendedWinFileDialog, ExtendedFileDialog with the native switch on, LaunchFileDialog,
- * SaveFileWinDialog).
+ * A Shell for tests that shows no window, records each call in order, and answers as its script says. Use it to test
+ * code that opens the native file dialog (ExtendedWinFileDialog, ExtendedFileDialog with the native switch on,
+ * LaunchFileDialog, SaveFileWinDialog).
  *
  * @snippet 27-test-your-dialogs/main.cpp shell
  * @snippet 27-test-your-dialogs/main.cpp accept
  * @snippet 27-test-your-dialogs/main.cpp fail
  *
- * GUI thread only, and a QApplication must be there, as for the dialogs themselves.
+ * GUI thread only. A QApplication must exist, as for the dialogs themselves.
  *
- * Calls are written as `Interface::Method(arguments)`, for instance `IFileDialog::SetTitle("Open")`, and numbered from
- * 1. QueryInterface is recorded; AddRef and Release are not. Any call can be made to fail, by its number or its name;
- * it then has no effect and returns null in its out parameters. Objects may outlive the Shell only in their bugs: the
- * destructor of the Shell does not wait for them, so check leakedObjects() before.
+ * Calls are recorded as `Interface::Method(arguments)`, for instance `IFileDialog::SetTitle("Open")`. Their numbers
+ * count from 1. QueryInterface is recorded; AddRef and Release are not. Any call can be made to fail, by its number or
+ * its name. A call that fails has no effect and returns null in its out parameters.
+ *
+ * Objects must not outlive the Shell. Its destructor does not wait for them, so check leakedObjects() before.
  */
 class RecordingShell : public ui::Shell
 {
@@ -72,51 +79,53 @@ public:
     RecordingShell();
     ~RecordingShell() override;
 
-    /** May be changed at any time; see there when it is read. */
+    /** May be changed at any time. ShellScript describes when it is read. */
     ShellScript script;
 
-    /** Every call since the last clearCalls(), in order. */
+    /** All calls since the last clearCalls(), in order. */
     const std::vector<std::string>& calls() const { return m_calls; }
     /** The calls without arguments: `IFileDialog::SetTitle`. */
     std::vector<std::string> callNames() const;
-    /** How often this name stands in callNames(). */
+    /** How often this name occurs in callNames(). */
     int count(const std::string& name) const;
-    /** Forgets the calls and starts to number them anew; failures stay set. */
+    /** Removes all recorded calls; the next call has the number 1. The failures stay set. */
     void clearCalls() { m_calls.clear(); }
 
-    /** Makes the call with this number, counted from 1 since the last clearCalls(), fail. */
+    /** Makes the call with this number fail. Numbers count from 1 since the last clearCalls(). */
     void failCall(int number, HRESULT result = E_FAIL) { m_failingNumbers[number] = result; }
-    /** Makes every call of this name, such as `IFileDialog::Advise`, fail. */
+    /** Makes every call with this name fail, for instance `IFileDialog::Advise`. */
     void failCalls(const std::string& name, HRESULT result = E_FAIL) { m_failingNames[name] = result; }
-    /** Takes back every failCall() and failCalls(). */
+    /** Undoes every failCall() and failCalls(). */
     void failNothing();
 
-    /** The dialog made last; null when there is none or it is gone. */
+    /** The dialog that was created last among those that still exist; null if there is none. */
     RecordingDialog* dialog() const { return m_dialogs.empty() ? nullptr : m_dialogs.back(); }
 
     /**
-     * Dialogs, items and arrays that somebody still holds; 0 when all was released. The native dialog of a save flow
-     * (SaveFileDialog, SaveFileWinDialog) counts here to the end of the process, since the flow leaves it alive.
+     * The number of dialogs, items and arrays that were not released yet; 0 when all were released. The native dialog
+     * of a save flow (SaveFileDialog, SaveFileWinDialog) is counted until the process ends, because the flow never
+     * destroys it.
      */
     int liveObjects() const { return m_liveObjects; }
     /**
-     * As liveObjects(), without the dialogs that belong to save flows, those that have ended included. 0 after every
-     * dialog of the library when all was released; what a host forgets to delete counts.
+     * As liveObjects(), but without the dialogs of save flows, which includes save flows that were destroyed. It is 0
+     * after every dialog of the library if all objects were released. Objects that a host forgets to delete are
+     * counted.
      */
     int leakedObjects() const;
-    /** Strings that were given out and not freed with coTaskMemFree(). */
+    /** The number of strings that were returned and not freed with coTaskMemFree() yet. */
     int liveStrings() const { return static_cast<int>(m_liveStrings.size()); }
-    /** How often the thread has joined an apartment less how often it has left; below 0 when it left too often. */
+    /** How often the thread joined an apartment, minus how often it left one. Negative if it left too often. */
     int apartments() const { return m_apartments; }
 
-    /** How many sinks are kept because of ShellScript::keepsSinks. */
+    /** The number of sinks that are kept because of ShellScript::keepsSinks. */
     int keptSinks() const { return static_cast<int>(m_keptSinks.size()); }
-    /** These sinks, in the order in which they were advised. */
+    /** The kept sinks, in the order in which they were advised. */
     const std::vector<ui::ComPtr<IFileDialogEvents>>& kept() const { return m_keptSinks; }
-    /** Gives them up. */
+    /** Releases the kept sinks. */
     void releaseKeptSinks() { m_keptSinks.clear(); }
 
-    /** @cond what the library calls, and what the shell's own objects call */
+    /** @cond called by the library and by the objects of the shell */
     HRESULT coInitializeEx(void* reserved, DWORD flags) override;
     void coUninitialize() override;
     HRESULT coCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD context, REFIID iid, void** object) override;
@@ -124,7 +133,7 @@ public:
     HRESULT createItemFromParsingName(PCWSTR path, IBindCtx* context, REFIID iid, void** object) override;
     HRESULT qiSearch(void* that, const QITAB* table, REFIID iid, void** object) override;
 
-    // The failure that the call is to return, if any.
+    // Returns the failure that the call must return, if any.
     std::optional<HRESULT> record(const std::string& name, const std::string& arguments);
     HRESULT copyString(const QString& text, LPWSTR* copy);
     void keep(IFileDialogEvents* sink) { m_keptSinks.push_back(ui::ComPtr<IFileDialogEvents>::share(sink)); }

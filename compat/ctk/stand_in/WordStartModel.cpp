@@ -36,7 +36,7 @@ void WordStartModel::setSourceModel(QAbstractItemModel* model)
     }
     QIdentityProxyModel::setSourceModel(model);
     if (model) {
-        // The base class turns empty without a word.
+        // The base class becomes empty without a signal.
         connect(model, &QObject::destroyed, this, [this] {
             beginResetModel();
             endResetModel();

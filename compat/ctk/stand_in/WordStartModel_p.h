@@ -7,10 +7,10 @@ class QCompleter;
 namespace morvane::compat {
 
 /**
- * All rows of the source model, of which only those can be selected in which the completer's prefix begins a word.
+ * A proxy with all rows of the source model. A row can be selected only if the completer's prefix begins a word in it.
  *
- * QCompleter passes over rows that cannot be selected. So nothing is stored here that could go stale: prefix and case
- * sensitivity are read from the completer whenever it filters.
+ * QCompleter skips rows that cannot be selected. Nothing is cached here: the prefix and the case sensitivity are read
+ * from the completer each time it filters.
  */
 class WordStartModel : public QIdentityProxyModel
 {

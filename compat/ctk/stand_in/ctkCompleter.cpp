@@ -41,7 +41,7 @@ void ctkCompleter::setModelFiltering(ModelFiltering filtering)
         m_wordStarts.reset();
     }
     setFilterMode(filtering == FilterStartsWith ? Qt::MatchStartsWith : Qt::MatchContains);
-    // QCompleter filters a new model with the next prefix only.
+    // QCompleter filters a new model only when the next prefix is set.
     setCompletionPrefix(completionPrefix());
 }
 
@@ -69,7 +69,7 @@ void ctkCompleter::setSourceModel(QAbstractItemModel* model)
 
 void ctkCompleter::followCaseSensitivity()
 {
-    // After such a change QCompleter shows all entries until the next prefix, and nothing but the reset tells of it.
+    // After such a change QCompleter offers all entries until the next prefix. Only the reset signals this.
     m_filteredWith = caseSensitivity();
     connect(completionModel(), &QAbstractItemModel::modelReset, this, [this] {
         if (m_filteredWith != caseSensitivity()) {
@@ -82,7 +82,7 @@ void ctkCompleter::followCaseSensitivity()
 void ctkCompleter::replaceModel(QAbstractItemModel* model)
 {
     QAbstractItemModel* const old = this->model();
-    // QCompleter deletes a model of its own that it gives up, but this one is still needed.
+    // QCompleter deletes a model that it owns when another one replaces it, but this one is still needed.
     const bool isOwn = old && old->QObject::parent() == this;
     if (isOwn) {
         old->setParent(nullptr);

@@ -9,14 +9,15 @@ namespace morvane::compat {
 class WordStartModel;
 
 /**
- * Stand-in for CTK's completer of the same name, with the members that Morvane uses: a QCompleter that can also keep
- * the entries in which the typed text begins a word. The namespace keeps the two apart where a host links CTK, too.
+ * Stand-in for CTK's completer with the same name, with the members that Morvane uses: a QCompleter that can also offer
+ * the entries in which the typed text begins a word. The namespace distinguishes the two classes if a host links CTK,
+ * too.
  *
- * What is typed is text in all three modes, never a pattern. A change of the case sensitivity, of the mode or of the
- * model shows at once in completionModel().
+ * The typed text is plain text in all three modes, never a pattern. A change of the case sensitivity, of the mode or of
+ * the model takes effect at once in completionModel().
  *
- * It starts case sensitive, with popup completion and FilterStartsWith. As with QCompleter, the model belongs to the
- * caller unless its parent is the completer; then it is deleted with the completer or when another takes its place.
+ * Initially it is case sensitive, with popup completion and FilterStartsWith. As with QCompleter, the caller owns the
+ * model, unless its parent is the completer; then it is deleted with the completer, or when another model replaces it.
  */
 class ctkCompleter : public QCompleter
 {
@@ -27,9 +28,9 @@ public:
     enum ModelFiltering
     {
         FilterStartsWith = 0, ///< entries that begin with the text
-        FilterContains = 1,   ///< entries that hold the text anywhere
+        FilterContains = 1,   ///< entries that contain the text anywhere
         FilterWordStartsWith =
-            2 ///< entries with the text at their start, or behind no letter, mark, digit or underscore
+            2 ///< entries with the text at their start, or not after a letter, mark, digit or underscore
     };
     Q_ENUM(ModelFiltering)
 
@@ -41,10 +42,10 @@ public:
     ModelFiltering modelFiltering() const { return m_filtering; }
     void setModelFiltering(ModelFiltering filtering);
 
-    /** The model with all entries, null if there is none. QCompleter::model() can be another one in between. */
+    /** The model with all entries; null if there is none. QCompleter::model() may return a proxy of it. */
     QAbstractItemModel* sourceModel() const;
 
-    /** Takes entries from another model; null for none. Use this one rather than QCompleter::setModel(). */
+    /** Sets the model; null for none. Use this instead of QCompleter::setModel(). */
     void setSourceModel(QAbstractItemModel* model);
 
 private:

@@ -85,11 +85,11 @@ void QxtLabel::paintEvent(QPaintEvent* event)
     painter.rotate(m_rotation);
     painter.translate(-room.width() / 2.0, -room.height() / 2.0);
 
-    // The text engine compares in fractions of a pixel and would cut a text that fits by its own advance.
+    // The text engine compares fractions of a pixel, and would elide a text that is exactly as wide as its advance.
     const QFontMetrics metrics = painter.fontMetrics();
     const bool fits = metrics.horizontalAdvance(m_text) <= room.width();
     const QString shown = fits ? m_text : metrics.elidedText(m_text, m_elideMode, room.width());
-    // The direction is that of the whole text, so that the ellipsis stands where the text goes on.
+    // The direction is that of the whole text, so the ellipsis is at the side where the text continues.
     const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignAbsolute;
     const int direction = m_text.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     painter.drawText(
@@ -98,7 +98,7 @@ void QxtLabel::paintEvent(QPaintEvent* event)
 
 void QxtLabel::changeEvent(QEvent* event)
 {
-    // QFrame sees to changes of the font and the style.
+    // QFrame handles changes of the font and the style.
     if (event->type() == QEvent::LayoutDirectionChange) {
         update();
     }

@@ -5,15 +5,15 @@
 
 namespace gallery {
 
-/** What a file dialog returned, one row a file, with what is on the disk under that name. */
+/** The files that a file dialog returned, one row for each file, with the properties of the file on disk. */
 class ChosenFilesTable : public QTableWidget
 {
 public:
     ChosenFilesTable();
 
-    /** Replaces the rows. @return what to tell the log, one line a file */
+    /** Replaces the rows. @return the lines for the log, one for each file */
     QStringList showFiles(const QStringList& files);
-    /** Names and sizes as shown, `name=size`, joined by blanks. */
+    /** Names and sizes as shown, `name=size`, separated by blanks. */
     QString content() const;
 
 private:

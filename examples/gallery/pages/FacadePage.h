@@ -13,30 +13,33 @@ namespace gallery {
 class ChosenFilesTable;
 class FileDialogForm;
 
-/** Runs ExtendedFileDialog as the form says, and lists what was chosen. Subclasses say what is asked for. */
+/**
+ * Runs ExtendedFileDialog with the settings of the form, and lists the chosen files. Subclasses define what the user
+ * may choose.
+ */
 class FacadePage : public Page
 {
     Q_OBJECT
 
 public:
-    /** What the page says; the first three are those of Page. */
+    /** The texts of the page. The first three are those of Page. */
     struct Texts
     {
         QString name;
         QString title;
         QString sentence;
         QString button;
-        QString caption; ///< of the dialog
+        QString caption; ///< title of the dialog
     };
 
 protected:
     FacadePage(const Texts& texts, QFileDialog::AcceptMode acceptMode, FileDialogForm* form);
 
     virtual QFileDialog::FileMode fileMode() const = 0;
-    /** Sets what only this page has. */
+    /** Applies the settings that only this page has. */
     virtual void configure(ExtendedFileDialog& dialog);
 
-    /** Adds a button that asks the same with one call, LaunchFileDialog(). */
+    /** Adds a button that does the same with one call, LaunchFileDialog(). */
     void addLaunchButton();
 
     FileDialogForm& form() { return *m_form; }
@@ -45,15 +48,15 @@ protected:
     const ChosenFilesTable& chosen() const { return *m_chosen; }
     QString typeText() const;
 
-    /** Makes the dialog native, or not, by the form's check box. */
+    /** Switches between the native and the Qt dialog with the form's check box. */
     TourStep switchStep(bool native);
-    /** Opens the dialog, which then lists @p names. */
+    /** Opens the dialog and expects that it lists @p names. */
     TourStep openStep(const QString& name, const QString& names);
     /** Opens the dialog with one call. */
     TourStep launchStep(const QString& name, const QString& names);
-    /** What the page shows of existing files of the tour's folder. */
+    /** The text that the page shows for existing files of the tour's folder. */
     static QString shownOf(const TourWorkspace& workspace, const QStringList& names);
-    /** A step after which no dialog is open, and the page shows what was chosen. */
+    /** A step that expects that no dialog is open and that the page shows the chosen files. */
     TourStep chosenStep(
         const QString& name, const std::function<void()>& action, const QString& files, const QString& type);
 

@@ -24,9 +24,7 @@ TourStep FacadePage::switchStep(bool native)
                 tour::click(m_form->nativeField());
             }
         },
-        [native] {
-            return expect(ExtendedFileDialog::useNativeFileDialog() == native, "the switch stands as it stood");
-        }};
+        [native] { return expect(ExtendedFileDialog::useNativeFileDialog() == native, "the switch did not change"); }};
 }
 
 TourStep FacadePage::openStep(const QString& name, const QString& names)

@@ -114,7 +114,7 @@ void FileDialogForm::showEvent(QShowEvent* event)
 
 void FileDialogForm::showSwitch()
 {
-    // The switch belongs to the process: another page may have turned it.
+    // The switch is process-wide: another page may have changed it.
     const QSignalBlocker blocker(m_native);
     m_native->setChecked(ExtendedFileDialog::useNativeFileDialog());
 }

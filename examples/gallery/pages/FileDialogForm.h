@@ -17,7 +17,7 @@ namespace gallery {
 
 class InlineNote;
 
-/** What a host can tell any file dialog before it opens. A page adds rows of its own to rows(). */
+/** The settings that a host can make for any file dialog before it opens. A page can add its own rows to rows(). */
 class FileDialogForm : public QWidget
 {
     Q_OBJECT
@@ -31,22 +31,22 @@ public:
     };
     Q_DECLARE_FLAGS(Parts, Part)
 
-    /** @param parts the rows besides the start folder and the help topic, which are always there */
+    /** @param parts the rows in addition to the start folder and the help topic, which always exist */
     FileDialogForm(Parts parts, const QString& startFile, const QString& helpTopic);
 
     QFormLayout& rows() { return *m_rows; }
     /** Adds a field to the row of the native switch. */
     void addOption(QWidget* field);
 
-    /** Whether the start folder can be used; a note says why not. */
+    /** Whether the start folder can be used. If not, a note shows the reason. */
     bool isUsable() const;
     /** With forward slashes; may be empty. */
     std::string startFolder() const;
     std::string startFile() const;
-    /** Joined by `;;`. */
+    /** The name filters, joined by `;;`. */
     std::string filters() const;
     std::vector<std::string> filterList() const;
-    /** Position in filterList(); -1 when that is empty. */
+    /** Position in filterList(); -1 if that is empty. */
     int startType() const;
     std::string helpTopic() const;
 

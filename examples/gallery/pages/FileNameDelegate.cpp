@@ -32,7 +32,7 @@ void FileNameDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
 
 void FileNameDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
 {
-    // Tab reaches the view before the editor and commits what was typed so far.
+    // Tab reaches the view before the editor, and the view commits the typed text.
     auto* const box = static_cast<ComboBoxAutoFilter*>(editor);
     if (box->validateEntry()) {
         model->setData(index, box->itemText(box->currentIndex()));

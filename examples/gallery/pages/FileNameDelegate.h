@@ -6,13 +6,13 @@ class QStringListModel;
 
 namespace gallery {
 
-/** Edits the cells of a table with a filtering combo box that lives for one edit. */
+/** Edits the cells of a table with a filtering combo box that is created for each edit. */
 class FileNameDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
-    /** @param names what can be chosen; shared by all editors and outlives them */
+    /** @param names the entries; shared by all editors, and must outlive them */
     FileNameDelegate(QStringListModel& names, QObject* parent);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -31,7 +31,7 @@ void appendFileNames(QStringList& names, const QString& place)
     }
 }
 
-/** Names below the place that Qt was installed to, and of the rest of the machine where that is not enough. */
+/** File names below the directory of the Qt installation, and of the rest of the machine if these are too few. */
 QStringList fileNamesOfTheMachine()
 {
     QStringList names;
@@ -75,7 +75,7 @@ void FilterComboPage::addField()
     delete m_field;
     m_field = new ComboBoxAutoFilter(this);
     m_field->setAccessibleName(tr("File name"));
-    // Measuring every name for the width of the field would take longer than reading them.
+    // Computing the width of every name would take longer than reading the names.
     m_field->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_field->setMinimumContentsLength(28);
     m_field->setListModel(

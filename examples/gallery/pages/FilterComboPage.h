@@ -15,7 +15,7 @@ class ComboBoxAutoFilter;
 
 namespace gallery {
 
-/** Thousands of real file names behind one combo box that filters: as a field, and as the editor of a table's cells. */
+/** A filtering combo box with thousands of real file names: as a field, and as the editor of table cells. */
 class FilterComboPage : public Page
 {
     Q_OBJECT

@@ -40,7 +40,9 @@ std::vector<TourStep> FilterComboPage::tourSteps(const TourWorkspace&)
 
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("type-a-part"), [this, part] { tour::type(*m_field->lineEdit(), part); },
-        [this, part] { return expect(offersOnly(*m_field, part), "the completer does not offer what contains it"); }});
+        [this, part] {
+            return expect(offersOnly(*m_field, part), "the completer does not offer the entries that contain the text");
+        }});
     steps.push_back({QStringLiteral("return"), [this] { tour::press(*m_field->lineEdit(), Qt::Key_Return); },
         [=] {
             return expect(!m_field->isVisible() && endsWith(m_field->currentText()),

@@ -23,7 +23,7 @@ std::vector<TourStep> FolderPage::tourSteps(const TourWorkspace& workspace)
     const QString folder = workspace.folder().path();
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("start-folder"), [=] { tour::type(form().folderField(), folder); },
-        [=] { return expect(form().startFolder() == folder.toStdString(), "the folder is not taken"); }});
+        [=] { return expect(form().startFolder() == folder.toStdString(), "the folder is not accepted"); }});
     for (const bool native : {false, true}) {
         if (!native || tour::canDriveNativeDialog()) {
             append(steps, dialogSteps(workspace, native));
@@ -41,7 +41,7 @@ std::vector<TourStep> FolderPage::dialogSteps(const TourWorkspace& workspace, bo
         [] { tour::clickItem(OpenFileDialog().view(), OpenFileDialog().find(archive)); },
         [] {
             const OpenFileDialog open;
-            return expect(open && open.name().text() == archive, "the name does not follow");
+            return expect(open && open.name().text() == archive, "the name does not change");
         }});
     steps.push_back(chosenStep(
         QStringLiteral("folder-chosen"), [] { tour::click(OpenFileDialog().acceptButton()); },

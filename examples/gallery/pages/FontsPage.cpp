@@ -35,7 +35,7 @@ QString firstFontFolder()
 
 FontsPage::FontsPage()
     : Page(QStringLiteral("fonts"), tr("Fonts from files"),
-          tr("Every file of a folder is registered as a font of this program alone; what is no font is passed over "
+          tr("Registers every file of a folder as a font for this program only. A file that is not a font is skipped "
              "with a warning in the program's log.")),
       m_folder(new QLineEdit(QDir::toNativeSeparators(firstFontFolder()))),
       m_register(new QPushButton(tr("&Register Fonts"))),

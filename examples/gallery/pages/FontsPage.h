@@ -9,7 +9,7 @@ class QPushButton;
 
 namespace gallery {
 
-/** Registers the font files of a folder and shows the fonts that came with them. */
+/** Registers the font files of a folder and shows their fonts. */
 class FontsPage : public Page
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ private:
     QPushButton* m_register;
     QLabel* m_result;
     QListWidget* m_fonts;
-    int m_nextFont = 0; // Qt's number of the next application font
+    int m_nextFont = 0; // Qt's identifier of the next application font
 };
 
 } // namespace gallery

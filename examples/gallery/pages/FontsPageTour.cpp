@@ -18,7 +18,8 @@ using tour::expect;
 
 namespace {
 
-/** Copies up to two of the machine's font files to @p folder, beside a file that is none. Returns the number of fonts.
+/**
+ * Copies up to two of the machine's font files and one other file to @p folder. Returns the number of fonts.
  */
 int fillWithFonts(const QDir& folder)
 {
@@ -50,7 +51,9 @@ std::vector<TourStep> FontsPage::tourSteps(const TourWorkspace&)
             tour::type(*m_folder, folder->filePath(QStringLiteral("missing")));
             tour::click(*m_register);
         },
-        [this] { return expect(m_result->text() == tr("There is no such folder."), "nothing tells of the mistake"); }});
+        [this] {
+            return expect(m_result->text() == tr("There is no such folder."), "no message about the missing folder");
+        }});
     steps.push_back({QStringLiteral("fonts-registered"),
         [this, folder] {
             tour::type(*m_folder, folder->path());

@@ -25,9 +25,8 @@ QString entryOf(const ComboBoxAutoFilter& field)
 
 FormFieldsPage::FormFieldsPage()
     : Page(QStringLiteral("form-fields"), tr("Form fields"),
-          tr("Type a part of a name, go through what is offered with the arrow keys, and move on with Tab. Return "
-             "takes "
-             "an entry, too; Escape puts back the one from before, and so does a name that is not there.")),
+          tr("Type a part of a name, select a suggestion with the arrow keys, and leave the field with Tab. Return "
+             "chooses an entry, too. Escape restores the previous entry, and so does a name that is not in the list.")),
       m_operator(new QLineEdit),
       m_substance(new ComboBoxAutoFilter(this)),
       m_device(new ComboBoxAutoFilter(this)),

@@ -12,7 +12,7 @@ class IntegralSpinBox;
 
 namespace gallery {
 
-/** Combo boxes that filter, among the other fields of a form: they stay, and Tab moves on. */
+/** Filtering combo boxes among the other fields of a form. They stay open, and Tab moves to the next field. */
 class FormFieldsPage : public Page
 {
     Q_OBJECT

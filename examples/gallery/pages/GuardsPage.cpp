@@ -30,7 +30,8 @@ QPushButton* makeSwitch(const QString& text)
 
 GuardsPage::GuardsPage()
     : Page(QStringLiteral("guards"), tr("Cursor guards and connections"),
-          tr("Each button makes a guard when it goes down and ends it when it comes up. Watch the mouse pointer.")),
+          tr("Each button creates a guard when it is checked and destroys it when it is unchecked. Watch the mouse "
+             "pointer.")),
       m_waitButton(makeSwitch(tr("&Wait Cursor"))),
       m_crossButton(makeSwitch(tr("C&ross on Top of It"))),
       m_suspendButton(makeSwitch(tr("&Suspend the Top One"))),
@@ -123,7 +124,7 @@ void GuardsPage::setConnected(bool on)
 
 void GuardsPage::showCursorState()
 {
-    // Guards end in the reverse order of their making; what is under another one stays as it is.
+    // Guards must be destroyed in the reverse order of their creation, so only the last one can be changed.
     m_waitButton->setEnabled(!m_cross && !m_suspension);
     m_crossButton->setEnabled(m_wait && !m_suspension);
     m_suspendButton->setEnabled(m_wait != nullptr);

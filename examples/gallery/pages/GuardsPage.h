@@ -18,7 +18,10 @@ class QtSignalConnectionCollection;
 
 namespace gallery {
 
-/** Objects whose lifetime is what they do: cursor guards and the connection collection, made and ended by hand. */
+/**
+ * Objects that act as long as they exist: cursor guards and the connection collection. The user creates and destroys
+ * them.
+ */
 class GuardsPage : public Page
 {
     Q_OBJECT
@@ -41,7 +44,7 @@ private:
     void setConnected(bool on);
     void showCursorState();
 
-    // Declared in the order of their making: they are a stack.
+    // Declared in the order of their creation, because they form a stack.
     std::unique_ptr<morvane::ui::OverrideCursor> m_wait;
     std::unique_ptr<morvane::ui::OverrideCursor> m_cross;
     std::unique_ptr<morvane::ui::OverrideCursorRestorer> m_suspension;

@@ -14,7 +14,7 @@ using tour::expect;
 
 namespace {
 
-/** Expects this override cursor, or none with -1. */
+/** Expects this override cursor; -1: no override cursor. */
 QString expectShape(int shape)
 {
     const QCursor* const cursor = QGuiApplication::overrideCursor();

@@ -14,7 +14,7 @@ namespace {
 constexpr int smallestSize = 1;
 constexpr int largestSize = 1 << 20;
 
-/** The power of two next to `size`, above or below it, within the range. */
+/** The next power of two above or below `size`, within the range. */
 int neighbouringPower(int size, bool up)
 {
     int power = smallestSize;
@@ -28,8 +28,8 @@ int neighbouringPower(int size, bool up)
 
 IntegralSpinBoxPage::IntegralSpinBoxPage()
     : Page(QStringLiteral("integer"), tr("Integer spin box"),
-          tr("The first field steps from one power of two to the next: the program has taken the step over. Any other "
-             "number can still be typed. The second field keeps the step of its own, which is 4.")),
+          tr("The first field steps from one power of two to the next, because the program handles the steps. Any "
+             "other number can still be typed. The second field has its own step, which is 4.")),
       m_size(new morvane::ui::IntegralSpinBox(this)),
       m_exponent(new QLabel),
       m_channels(new morvane::ui::IntegralSpinBox(this))
@@ -59,7 +59,7 @@ IntegralSpinBoxPage::IntegralSpinBoxPage()
 
 void IntegralSpinBoxPage::stepToPower(bool up)
 {
-    Q_EMIT reported(up ? tr("A step up is left to the program") : tr("A step down is left to the program"));
+    Q_EMIT reported(up ? tr("The program handles a step up") : tr("The program handles a step down"));
     m_size->setValue(neighbouringPower(m_size->value(), up));
 }
 

@@ -10,7 +10,7 @@ class IntegralSpinBox;
 
 namespace gallery {
 
-/** An integer whose steps the program takes over, beside one that keeps its own. */
+/** An integer spin box whose steps the program handles, and one that handles its own steps. */
 class IntegralSpinBoxPage : public Page
 {
     Q_OBJECT

@@ -16,8 +16,8 @@ namespace gallery {
 
 LabelsPage::LabelsPage()
     : Page(QStringLiteral("labels"), tr("Labels and links"),
-          tr("Drag the handle: the label cuts its path at the start, and only then the whole of it is the tool tip. "
-             "The button below has too little room, and keeps its size.")),
+          tr("Drag the handle: the label elides the start of its path, and its tool tip then shows the whole path. "
+             "The button below has too little space, but keeps its size.")),
       m_path(new QLineEdit(QDir::toNativeSeparators(QCoreApplication::applicationFilePath()))),
       m_label(new ElidedTextLabel),
       m_splitter(new QSplitter(Qt::Horizontal)),

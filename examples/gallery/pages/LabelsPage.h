@@ -13,7 +13,7 @@ class CorrectFontCommandLinkButton;
 
 namespace gallery {
 
-/** A label that keeps the end of a real path visible, and a command-link button that no layout squeezes. */
+/** A label that keeps the end of a real path visible, and a command-link button that no layout shrinks. */
 class LabelsPage : public Page
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ std::vector<TourStep> LabelsPage::tourSteps(const TourWorkspace& workspace)
             tour::type(*m_path, workspace.folder().path(QStringLiteral("archive/of/the/last/campaign/run-001.dat")));
             m_splitter->setSizes({m_splitter->width() / 2, m_splitter->width() / 2});
         },
-        [this] { return expect(m_label->toolTip() == m_path->text(), "the cut path is not the tool tip"); }});
+        [this] { return expect(m_label->toolTip() == m_path->text(), "the elided path is not the tool tip"); }});
     steps.push_back({QStringLiteral("wide"),
         [this] {
             tour::type(*m_path, QStringLiteral("run-001.dat"));
@@ -29,7 +29,7 @@ std::vector<TourStep> LabelsPage::tourSteps(const TourWorkspace& workspace)
     steps.push_back({QStringLiteral("narrow-button"), [this] { tour::click(*m_button); },
         [this] {
             const QWidget& button = *m_button;
-            return expect(button.width() >= button.sizeHint().width(), "the button was squeezed");
+            return expect(button.width() >= button.sizeHint().width(), "the button was shrunk");
         }});
     return steps;
 }

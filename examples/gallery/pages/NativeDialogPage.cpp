@@ -64,7 +64,7 @@ NativeDialogPage::NativeDialogPage()
 void NativeDialogPage::addOptions()
 {
     m_openMode->setChecked(true);
-    // With one pattern a type: when saving, the name gets the extension of its type.
+    // One pattern for each type, because a name for saving gets the extension of its type.
     m_form->filtersField().setText(tr("Measurements (*.dat);;Text (*.txt);;All files (*)"));
     m_withOptions->setChecked(true);
     for (QWidget* const option : std::initializer_list<QWidget*>{m_openMode, m_saveMode, m_withOptions}) {
@@ -172,7 +172,7 @@ void NativeDialogPage::showOutcome(ExtendedWinFileDialog& dialog)
     const int option = dialog.selectedAcceptMenuOption();
     const QString name = option == View ? tr("view") : option == Edit ? tr("edit") : tr("no option (%1)").arg(option);
     const QStringList files = dialog.selectedFiles();
-    // Only the user chooses files; close() ends the dialog without any.
+    // Only the user chooses files; close() ends the dialog without a file.
     m_option->setText(files.isEmpty() ? tr("%1, without a file: closed by a button of the host").arg(name) : name);
     Q_EMIT reported(tr("Accepted to: %1").arg(m_option->text()));
     for (const QString& line : m_chosen->showFiles(files)) {

@@ -14,7 +14,7 @@ namespace gallery {
 class ChosenFilesTable;
 class FileDialogForm;
 
-/** Runs ExtendedWinFileDialog with controls of the host, and shows live what they do. */
+/** Runs ExtendedWinFileDialog with controls of the host, and shows their state while the dialog is open. */
 class NativeDialogPage : public Page
 {
     Q_OBJECT
@@ -33,13 +33,13 @@ private:
 
     void runDialog();
     void addControls(ExtendedWinFileDialog& dialog);
-    /** @return stands for the option that a read-only file cannot have; null without options */
+    /** @return proxy widget of the option that is not possible for a read-only file; null without options */
     QWidget* addAcceptOptions(ExtendedWinFileDialog& dialog);
     void showType(int index);
     void showOutcome(ExtendedWinFileDialog& dialog);
 
     TourStep openStep(const QString& name);
-    /** @param file the name that the page shows then; empty for none */
+    /** @param file the name that the page then shows; empty for none */
     TourStep chosenStep(
         const QString& name, const std::function<void()>& action, const QString& file, const QString& option);
     std::vector<TourStep> optionSteps(const TourWorkspace& workspace);

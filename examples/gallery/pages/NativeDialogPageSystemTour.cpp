@@ -28,7 +28,7 @@ QString expectPreview(bool visible, bool enabled)
     const QString preview = QStringLiteral("Preview");
     const SystemFileDialog open;
     return expect(open && open.isVisible(preview) == visible && open.isEnabled(preview) == enabled,
-        "the check box is not in the state asked for");
+        "the check box does not have the requested state");
 }
 
 } // namespace
@@ -46,9 +46,9 @@ std::vector<TourStep> NativeDialogPage::systemDialogSteps()
 {
     std::vector<TourStep> steps{systemOpenStep(QStringLiteral("dialog"), 4)};
     steps.push_back(clickStep(QStringLiteral("preview-on"), QStringLiteral("Preview"),
-        [this] { return expect(m_preview->value() && m_previewField->isChecked(), "the page does not follow"); }));
+        [this] { return expect(m_preview->value() && m_previewField->isChecked(), "the page does not change"); }));
     steps.push_back(clickStep(QStringLiteral("read-only-on"), QStringLiteral("Read only"),
-        [this] { return expect(m_readOnly->value() && m_readOnlyField->isChecked(), "the page does not follow"); }));
+        [this] { return expect(m_readOnly->value() && m_readOnlyField->isChecked(), "the page does not change"); }));
     steps.push_back({QStringLiteral("type-index-live"), [] { SystemFileDialog().pickType(1); },
         [this] { return expect(m_type->text() == QStringLiteral("2, Text (*.txt)"), "the page shows another type"); }});
     steps.push_back({QStringLiteral("type-index-back"), [] { SystemFileDialog().pickType(0); },
@@ -83,7 +83,7 @@ std::vector<TourStep> NativeDialogPage::systemSaveSteps()
             tour::click(*m_saveMode);
             tour::type(m_form->fileField(), QStringLiteral("result.dat"));
         },
-        [this] { return expect(m_saveMode->isChecked(), "the option is not as clicked"); }});
+        [this] { return expect(m_saveMode->isChecked(), "the option does not have the clicked state"); }});
     steps.push_back(systemOpenStep(QStringLiteral("save-dialog"), 4));
     steps.push_back({QStringLiteral("extension-follows-type"), [] { SystemFileDialog().pickType(1); },
         [] {
@@ -94,7 +94,7 @@ std::vector<TourStep> NativeDialogPage::systemSaveSteps()
     steps.push_back({QStringLiteral("save-cancelled"), [] { SystemFileDialog().cancel(); },
         [this] {
             return expect(!SystemFileDialog() && m_option->text() == QStringLiteral("nothing: cancelled"),
-                "the page does not tell of it");
+                "the page does not show it");
         }});
     return steps;
 }

@@ -27,13 +27,13 @@ void clickControl(const QString& text)
     tour::click(*OpenFileDialog().control(text));
 }
 
-/** Whether the dialog shows the control called Preview, and whether it can be used. */
+/** Whether the dialog shows the control Preview, and whether it is enabled. */
 QString expectPreview(bool visible, bool enabled)
 {
     const OpenFileDialog open;
     const QAbstractButton* const box = open ? open.control(QStringLiteral("Preview")) : nullptr;
     return expect(box && box->isVisible() == visible && box->isEnabled() == enabled,
-        "the check box is not in the state asked for");
+        "the check box does not have the requested state");
 }
 
 QMenu* openMenu()
@@ -43,7 +43,7 @@ QMenu* openMenu()
 
 TourStep menuStep(const QString& name)
 {
-    // The menu has a loop of its own, in which the next step runs.
+    // The menu has its own event loop, in which the next step runs.
     return {name, [] { tour::click(OpenFileDialog().acceptMenuArrow()); },
         [] { return expect(openMenu() && openMenu()->actions().size() == 2, "the menu is not open"); }};
 }
@@ -88,9 +88,9 @@ std::vector<TourStep> NativeDialogPage::optionSteps(const TourWorkspace& workspa
     const QString folder = workspace.folder().path();
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("start-folder"), [=] { tour::type(m_form->folderField(), folder); },
-        [=] { return expect(m_form->startFolder() == folder.toStdString(), "the folder is not taken"); }});
+        [=] { return expect(m_form->startFolder() == folder.toStdString(), "the folder is not accepted"); }});
     steps.push_back({QStringLiteral("check-box-on-page"), [this] { tour::click(*m_previewField); },
-        [this] { return expect(!m_preview->value(), "the property does not follow"); }});
+        [this] { return expect(!m_preview->value(), "the property does not change"); }});
     return steps;
 }
 
@@ -131,10 +131,12 @@ std::vector<TourStep> NativeDialogPage::controlStateSteps()
     add("preview-hidden", "Hide Preview", false, false);
     add("preview-shown", "Hide Preview", true, false);
     add("preview-enabled", "Lock Preview", true, true);
-    steps.push_back({QStringLiteral("name-typed"),
-        [] { tour::type(OpenFileDialog().name(), QStringLiteral("run-001.dat")); },
-        [] { return expect(OpenFileDialog().name().text() == QStringLiteral("run-001.dat"), "the name is another"); }});
-    // Nothing was accepted by the user, so there is no file.
+    steps.push_back(
+        {QStringLiteral("name-typed"), [] { tour::type(OpenFileDialog().name(), QStringLiteral("run-001.dat")); },
+            [] {
+                return expect(OpenFileDialog().name().text() == QStringLiteral("run-001.dat"), "the name is different");
+            }});
+    // The user accepted nothing, so there is no file.
     steps.push_back(chosenStep(
         QStringLiteral("closed-by-button"), [] { clickControl(QStringLiteral("Close Now")); }, QString(),
         QStringLiteral("view, without a file: closed by a button of the host")));
@@ -145,11 +147,11 @@ std::vector<TourStep> NativeDialogPage::acceptOptionSteps()
 {
     const auto editIs = [](bool enabled) {
         return expect(openMenu() && openMenu()->actions().at(1)->isEnabled() == enabled,
-            "the option is not in the state asked for");
+            "the option does not have the requested state");
     };
     std::vector<TourStep> steps;
     steps.push_back(openStep(QStringLiteral("dialog-with-options")));
-    // Without a name there is nothing to accept in any way.
+    // Without a name no option can be accepted.
     steps.push_back({QStringLiteral("arrow-needs-a-name"), [] {},
         [] { return expect(!OpenFileDialog().acceptMenuArrow().isEnabled(), "the arrow is not grey"); }});
     steps.push_back(
@@ -160,7 +162,7 @@ std::vector<TourStep> NativeDialogPage::acceptOptionSteps()
     steps.push_back({QStringLiteral("menu-closed"), [] { tour::press(*openMenu(), Qt::Key_Escape); },
         [] { return expect(!openMenu(), "the menu is open"); }});
     steps.push_back({QStringLiteral("read-only-off"), [] { clickControl(QStringLiteral("Read only")); },
-        [this] { return expect(!m_readOnly->value(), "the property does not follow"); }});
+        [this] { return expect(!m_readOnly->value(), "the property does not change"); }});
     steps.push_back(menuStep(QStringLiteral("menu")));
     steps.push_back({QStringLiteral("edit-enabled"), [] {}, [=] { return editIs(true); }});
     steps.push_back(chosenStep(
@@ -179,7 +181,8 @@ std::vector<TourStep> NativeDialogPage::saveSteps()
             tour::type(m_form->fileField(), QStringLiteral("result.dat"));
         },
         [this] {
-            return expect(m_saveMode->isChecked() && !m_withOptions->isChecked(), "the options are not as clicked");
+            return expect(
+                m_saveMode->isChecked() && !m_withOptions->isChecked(), "the options do not have the clicked states");
         }});
     steps.push_back(openStep(QStringLiteral("save-dialog")));
     steps.push_back({QStringLiteral("extension-follows-type"), [] { tour::pickNextType(); },

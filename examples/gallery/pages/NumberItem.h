@@ -4,7 +4,10 @@
 
 namespace gallery {
 
-/** A number that is edited as what it is and shown as text: capacitances (double) in farads, anything else as it is. */
+/**
+ * A table item that is edited as a number and shown as text: a double as a capacitance in farads, other numbers
+ * unchanged.
+ */
 class NumberItem : public QStandardItem
 {
 public:

@@ -19,7 +19,7 @@ constexpr double smallestCapacitance = 1e-15;
 constexpr double largestCapacitance = 1;
 constexpr int mostPieces = 100000;
 
-/** Which widget edits which type; the delegate asks no more than that. */
+/** Creates the editor widget for each type. This is all that the delegate needs. */
 class NumberEditors : public QItemEditorFactory
 {
 public:
@@ -67,7 +67,7 @@ QStandardItem* makeName(const QString& name)
 NumbersTablePage::NumbersTablePage()
     : Page(QStringLiteral("numbers-in-a-table"), tr("Numbers in a table"),
           tr("Double-click a number, or choose it with the arrow keys and type. Return, Tab and a click elsewhere "
-             "store what you have typed; Escape gives the old number back. The table uses Qt's own delegate, with the "
+             "store the typed number; Escape restores the old number. The table uses Qt's own delegate, with the "
              "spin boxes as its editors.")),
       m_parts(new QStandardItemModel(0, ColumnCount, this)),
       m_table(new QTableView),

@@ -12,7 +12,7 @@ class QTableView;
 
 namespace gallery {
 
-/** A parts list whose numbers are edited in their cells, with the spin boxes in Qt's own delegate. */
+/** A parts list. Its numbers are edited in the cells, with the spin boxes as editors of Qt's own delegate. */
 class NumbersTablePage : public Page
 {
     Q_OBJECT

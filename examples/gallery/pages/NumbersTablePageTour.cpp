@@ -27,7 +27,7 @@ std::vector<TourStep> NumbersTablePage::tourSteps(const TourWorkspace&)
 
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("type-a-number"), [=] { type(cell(0, Capacitance), QStringLiteral("6.8E-7")); },
-        [=] { return expect(editor() && editor()->text() == QStringLiteral("6.8E-7 F"), "nothing is typed"); }});
+        [=] { return expect(editor() && editor()->text() == QStringLiteral("6.8E-7 F"), "no text was typed"); }});
     steps.push_back({QStringLiteral("tab-stores"), [=] { tour::press(*editor(), Qt::Key_Tab); },
         [=] { return isStored(cell(0, Capacitance), 6.8e-7); }});
     steps.push_back({QStringLiteral("click-elsewhere-stores"),

@@ -37,7 +37,7 @@ QSpinBox* makeSideField(int pixels)
 
 OpenFilesPage::OpenFilesPage()
     : Page(QStringLiteral("open-files"), tr("Open files (Qt dialog)"),
-          tr("The file dialog drawn by Qt: it keeps its size, filters its view by a wildcard typed as the name "
+          tr("The Qt file dialog: it remembers its size, uses a wildcard that is typed as the name as a filter "
              "(*.csv), and opens its own help page.")),
       m_oneFile(new QRadioButton(tr("O&ne file"))),
       m_severalFiles(new QRadioButton(tr("&Several files"))),
@@ -47,7 +47,7 @@ OpenFilesPage::OpenFilesPage()
       m_startFolderNote(new InlineNote),
       m_withHelp(new QCheckBox(tr("Help &button for the topic"))),
       m_helpTopic(new QLineEdit(QStringLiteral("open-files"))),
-      m_validate(new QCheckBox(tr("&Check that what is chosen exists"))),
+      m_validate(new QCheckBox(tr("&Check that the chosen files exist"))),
       m_width(makeSideField(720)),
       m_height(makeSideField(440)),
       m_open(new QPushButton(tr("&Open…"))),
@@ -107,7 +107,7 @@ QLayout* OpenFilesPage::makeSizeRow()
     row->addWidget(new QLabel(tr("by")));
     row->addWidget(m_height);
     row->addSpacing(6);
-    auto* const condition = new QLabel(tr("while no geometry is kept"));
+    auto* const condition = new QLabel(tr("while no geometry is stored"));
     condition->setWordWrap(true);
     row->addWidget(condition, 1);
     return row;
@@ -198,7 +198,7 @@ void OpenFilesPage::showChosen(const QStringList& files)
 void OpenFilesPage::forgetGeometry()
 {
     morvane::ApplicationSettings::getInstance().depositValue(dialogGeometryKey, QByteArray());
-    Q_EMIT reported(tr("The geometry that was kept for the dialog is forgotten"));
+    Q_EMIT reported(tr("The stored geometry of the dialog was deleted"));
 }
 
 } // namespace gallery

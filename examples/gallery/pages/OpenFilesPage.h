@@ -16,7 +16,7 @@ namespace gallery {
 class ChosenFilesTable;
 class InlineNote;
 
-/** Runs QExtendedFileDialog with the options that are set here, and lists what was chosen. */
+/** Runs QExtendedFileDialog with the options of this page, and lists the chosen files. */
 class OpenFilesPage : public Page
 {
     Q_OBJECT

@@ -52,7 +52,7 @@ std::vector<TourStep> OpenFilesPage::optionSteps(const TourWorkspace& workspace)
         {QStringLiteral("missing-folder"), [=] { tour::type(*m_startFolder, folder + QStringLiteral("/missing")); },
             [this] {
                 return expect(m_startFolderNote->text() == tr("There is no such folder.") && !m_open->isEnabled(),
-                    "nothing tells that the folder is missing");
+                    "no message says that the folder is missing");
             }});
     steps.push_back({QStringLiteral("start-folder"), [=] { tour::type(*m_startFolder, folder); },
         [this] {
@@ -87,7 +87,7 @@ std::vector<TourStep> OpenFilesPage::oneFileSteps(const TourWorkspace& workspace
         [] { tour::clickItem(OpenFileDialog().view(), OpenFileDialog().find(QStringLiteral("run-002.dat"))); },
         [] {
             return expect(OpenFileDialog() && OpenFileDialog().name().text() == QStringLiteral("run-002.dat"),
-                "the name field does not follow");
+                "the name field does not change");
         }});
     steps.push_back({QStringLiteral("one-file-chosen"), [] { tour::click(OpenFileDialog().acceptButton()); },
         [this, &workspace] {
@@ -135,7 +135,7 @@ std::vector<TourStep> OpenFilesPage::folderSteps(const TourWorkspace&)
         [] { tour::clickItem(OpenFileDialog().view(), OpenFileDialog().find(QStringLiteral("archive"))); },
         [] {
             return expect(OpenFileDialog() && OpenFileDialog().name().text() == QStringLiteral("archive"),
-                "the name field does not follow");
+                "the name field does not change");
         }});
     steps.push_back({QStringLiteral("folder-chosen"), [] { tour::press(OpenFileDialog().name(), Qt::Key_Return); },
         [this] {
@@ -156,10 +156,10 @@ std::vector<TourStep> OpenFilesPage::validationSteps(const TourWorkspace&)
         [this] { return expect(m_filters->isEnabled(), "the name filters cannot be edited"); }});
     steps.push_back(openStep(QStringLiteral("dialog-with-validation")));
     steps.push_back({QStringLiteral("missing-file-refused"), typeMissingName,
-        [] { return expect(tour::modal<QMessageBox>() != nullptr, "no message tells that the file is missing"); }});
+        [] { return expect(tour::modal<QMessageBox>() != nullptr, "no message says that the file is missing"); }});
     steps.push_back(
         {QStringLiteral("back-in-dialog"), [] { tour::press(*QApplication::activeModalWidget(), Qt::Key_Return); },
-            [] { return expect(bool(OpenFileDialog()), "the dialog is not back"); }});
+            [] { return expect(bool(OpenFileDialog()), "the dialog is not shown again"); }});
     steps.push_back(cancelStep(QStringLiteral("cancelled")));
     steps.push_back({QStringLiteral("validation-off"), [this] { tour::click(*m_validate); },
         [this] { return expect(!m_validate->isChecked(), "the option is still set"); }});
@@ -174,7 +174,7 @@ std::vector<TourStep> OpenFilesPage::validationSteps(const TourWorkspace&)
 
 std::vector<TourStep> OpenFilesPage::geometrySteps(const TourWorkspace&)
 {
-    // Small enough for any screen that is worth a picture.
+    // Small enough for every usual screen.
     static const QSize picked(640, 380);
     const auto sizeIs = [](const QSize& size) {
         const OpenFileDialog open;

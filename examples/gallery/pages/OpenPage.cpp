@@ -8,7 +8,7 @@ namespace gallery {
 
 OpenPage::OpenPage()
     : FacadePage({QStringLiteral("open"), tr("Open"),
-                     tr("One dialog for the host, two kinds of it: the switch decides between the platform's own and "
+                     tr("One interface for two kinds of dialog: the switch selects the platform's own dialog or "
                         "the one made of Qt's widgets."),
                      tr("&Open…"), tr("Open")},
           QFileDialog::AcceptOpen,

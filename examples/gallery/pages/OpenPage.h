@@ -6,7 +6,7 @@ class QCheckBox;
 
 namespace gallery {
 
-/** Asks for one file or several with ExtendedFileDialog and with LaunchFileDialog(). */
+/** Asks for one or several files with ExtendedFileDialog and with LaunchFileDialog(). */
 class OpenPage : public FacadePage
 {
     Q_OBJECT

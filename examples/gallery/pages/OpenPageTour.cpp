@@ -46,7 +46,7 @@ std::vector<TourStep> OpenPage::optionSteps(const TourWorkspace& workspace)
         [this] {
             return expect(form().note() == QStringLiteral("This is a file, not a folder.") &&
                               !openButton().isEnabled() && !launchButton().isEnabled(),
-                "nothing tells that this is no folder");
+                "no message says that this is not a folder");
         }});
     steps.push_back({QStringLiteral("start-folder"), [=] { tour::type(form().folderField(), folder); },
         [this] { return expect(form().note().isEmpty() && openButton().isEnabled(), "the folder is not accepted"); }});
@@ -67,20 +67,20 @@ std::vector<TourStep> OpenPage::oneFileSteps(const TourWorkspace& workspace)
     std::vector<TourStep> steps;
     steps.push_back(
         {QStringLiteral("start-file"), [this] { tour::type(form().fileField(), QStringLiteral("run-003.dat")); },
-            [this] { return expect(form().startFile() == "run-003.dat", "the file is not taken"); }});
+            [this] { return expect(form().startFile() == "run-003.dat", "the file is not accepted"); }});
     steps.push_back(openStep(QStringLiteral("one-file"), measurements));
     steps.push_back(tour::helpStep(workspace, QStringLiteral("help"), QStringLiteral("open-files.html")));
     steps.push_back({QStringLiteral("start-file-in-name"), [] {},
         [] {
             const OpenFileDialog open;
-            return expect(open && open.name().text() == QStringLiteral("run-003.dat"), "the name is another");
+            return expect(open && open.name().text() == QStringLiteral("run-003.dat"), "the name is different");
         }});
     steps.push_back(
         {QStringLiteral("next-type"), [] { tour::pickNextType(); }, [] { return tour::expectListed(texts); }});
     steps.push_back({QStringLiteral("pick-file"), [] { clickFile(QStringLiteral("notes.txt")); },
         [] {
             const OpenFileDialog open;
-            return expect(open && open.name().text() == QStringLiteral("notes.txt"), "the name does not follow");
+            return expect(open && open.name().text() == QStringLiteral("notes.txt"), "the name does not change");
         }});
     steps.push_back(chosenStep(
         QStringLiteral("file-chosen"), [] { tour::click(OpenFileDialog().acceptButton()); },
@@ -98,7 +98,7 @@ std::vector<TourStep> OpenPage::severalFilesSteps(const TourWorkspace& workspace
                 tour::click(*m_several);
             }
         },
-        [this] { return expect(fileMode() == QFileDialog::ExistingFiles, "one file is asked for"); }});
+        [this] { return expect(fileMode() == QFileDialog::ExistingFiles, "the dialog asks for one file"); }});
     steps.push_back(openStep(QStringLiteral("several-files"), measurements));
     steps.push_back({QStringLiteral("pick-files"),
         [] {
@@ -126,7 +126,7 @@ std::vector<TourStep> OpenPage::oneCallSteps(const TourWorkspace& workspace)
             tour::press(form().typeField(), Qt::Key_Down);
         },
         [this] {
-            return expect(form().startType() == 1 && fileMode() == QFileDialog::ExistingFile, "the type is another");
+            return expect(form().startType() == 1 && fileMode() == QFileDialog::ExistingFile, "the type is different");
         }});
     steps.push_back(launchStep(QStringLiteral("one-call"), texts));
     steps.push_back(chosenStep(
@@ -135,7 +135,7 @@ std::vector<TourStep> OpenPage::oneCallSteps(const TourWorkspace& workspace)
     steps.push_back(launchStep(QStringLiteral("one-call-again"), texts));
     steps.push_back(tour::cancelStep(QStringLiteral("one-call-cancelled")));
     steps.push_back({QStringLiteral("first-type"), [this] { tour::press(form().typeField(), Qt::Key_Up); },
-        [this] { return expect(form().startType() == 0, "the type is another"); }});
+        [this] { return expect(form().startType() == 0, "the type is different"); }});
     return steps;
 }
 

@@ -6,7 +6,7 @@
 
 namespace gallery {
 
-/** The questions of the save flow in the user's own words; `%1` stands for the name of the file. */
+/** The questions of the save flow with texts of the user; `%1` is replaced by the file name. */
 class OwnWording : public morvane::SaveFileMessageHandlerInterface
 {
 public:

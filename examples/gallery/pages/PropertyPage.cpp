@@ -48,7 +48,10 @@ public:
     }
 };
 
-/** Sets @p property as a field would: the note shows why @p value was rejected. @return why, or an empty text */
+/**
+ * Sets @p property as a field does. The note shows the reason if @p value is rejected. @return the reason, or an empty
+ * text
+ */
 template <typename T>
 QString set(morvane::PropertyAbstract<T>& property, const T& value, InlineNote& note)
 {
@@ -66,9 +69,9 @@ QString set(morvane::PropertyAbstract<T>& property, const T& value, InlineNote& 
 
 PropertyPage::PropertyPage()
     : Page(QStringLiteral("property"), tr("Observable property"),
-          tr("Each value is one property: its validator decides what may be stored, and every field that is bound to "
-             "it "
-             "follows. Try a value that is not allowed.")),
+          tr("Each value is one property. Its validator decides which values may be stored. Every field that is bound "
+             "to "
+             "the property shows the stored value. Try a value that is not allowed.")),
       m_samples(boost::make_shared<morvane::Property<int>>(initialSamples)),
       m_operator(boost::make_shared<morvane::Property<std::string>>(initialOperator)),
       m_samplesField(new QSpinBox),
@@ -98,7 +101,7 @@ PropertyPage::PropertyPage()
 
 QWidget* PropertyPage::makeSamplesGroup()
 {
-    // Wider than what the validator accepts, so that there is something to reject.
+    // Wider than the validator's range, so that values can be rejected.
     m_samplesField->setRange(-1000, 1000);
     m_samplesField->setMinimumWidth(12 * m_samplesField->fontMetrics().averageCharWidth());
     m_samplesSlider->setRange(fewestSamples, mostSamples);
@@ -167,7 +170,7 @@ void PropertyPage::restoreInitialValues()
 {
     set(*m_samples, initialSamples, *m_samplesNote);
     set(*m_operator, std::string(initialOperator), *m_operatorNote);
-    // A rejected entry is not the property's value, so the property may have had nothing to announce.
+    // After a rejected input the field differs from the property, and the property may not have fired a signal.
     showSamples(m_samples->value());
     showOperator(m_operator->value());
 }

@@ -15,7 +15,7 @@ namespace gallery {
 
 class InlineNote;
 
-/** Two validated properties, each bound to fields in both directions. */
+/** Two validated properties. Each is bound to fields in both directions. */
 class PropertyPage : public Page
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 
 namespace gallery {
 
-/** A short report of readings, and the ways to write it. */
+/** A short report of readings, and its file formats. */
 struct Report
 {
     struct Reading
@@ -21,7 +21,7 @@ struct Report
     QString title;
     std::vector<Reading> readings;
 
-    /** Readings of a small plant. */
+    /** Returns readings of a small plant. */
     static Report example(const QString& title);
 
     QByteArray toText() const;
@@ -29,11 +29,11 @@ struct Report
     QByteArray toHtml() const;
 };
 
-/** One way of writing a report. */
+/** One file format of a report. */
 struct ReportWriter
 {
     QString name;
-    std::string filter; ///< name filter of its files
+    std::string filter; ///< name filter of the files
     QByteArray (Report::*write)() const;
 };
 

@@ -10,8 +10,8 @@ namespace gallery {
 
 SavePage::SavePage()
     : FacadePage({QStringLiteral("save"), tr("Save"),
-                     tr("Asks for a name to save to; nothing is written. Choose a file that is there already to be "
-                        "asked about it."),
+                     tr("Asks for a file name for saving; nothing is written. Choose an existing file to see the "
+                        "question."),
                      tr("&Save…"), tr("Save")},
           QFileDialog::AcceptSave,
           new FileDialogForm(FileDialogForm::NativeSwitch | FileDialogForm::Filters | FileDialogForm::StartFile,
@@ -19,7 +19,7 @@ SavePage::SavePage()
       m_ask(new QCheckBox(tr("As&k before a file is replaced")))
 {
     m_ask->setChecked(true);
-    // With one pattern a type: the native dialog gives the name the extension of its type.
+    // One pattern for each type, because the native dialog adds the extension of the type to the name.
     form().filtersField().setText(tr("Measurements (*.dat);;Text (*.txt);;All files (*)"));
     form().addOption(m_ask);
     addLaunchButton();

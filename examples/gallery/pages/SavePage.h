@@ -6,7 +6,7 @@ class QCheckBox;
 
 namespace gallery {
 
-/** Asks for a name to save to with ExtendedFileDialog and with LaunchFileDialog(). Writes nothing. */
+/** Asks for a file name for saving with ExtendedFileDialog and with LaunchFileDialog(). Writes nothing. */
 class SavePage : public FacadePage
 {
     Q_OBJECT

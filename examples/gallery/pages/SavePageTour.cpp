@@ -25,7 +25,7 @@ std::vector<TourStep> SavePage::tourSteps(const TourWorkspace& workspace)
     const QString folder = workspace.folder().path();
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("start-folder"), [=] { tour::type(form().folderField(), folder); },
-        [=] { return expect(form().startFolder() == folder.toStdString(), "the folder is not taken"); }});
+        [=] { return expect(form().startFolder() == folder.toStdString(), "the folder is not accepted"); }});
     append(steps, dialogSteps(workspace, false));
     if (tour::canDriveNativeDialog()) {
         append(steps, dialogSteps(workspace, true));
@@ -40,7 +40,7 @@ std::vector<TourStep> SavePage::dialogSteps(const TourWorkspace& workspace, bool
     steps.push_back({QStringLiteral("start-file-in-name"), [] {},
         [] {
             const OpenFileDialog open;
-            return expect(open && open.name().text() == QStringLiteral("result.dat"), "the name is another");
+            return expect(open && open.name().text() == QStringLiteral("result.dat"), "the name is different");
         }});
     steps.push_back(tour::helpStep(workspace, QStringLiteral("help"), QStringLiteral("save-files.html")));
     if (native) {
@@ -62,13 +62,13 @@ std::vector<TourStep> SavePage::questionSteps(const TourWorkspace& workspace)
 {
     const auto replace = [] { tour::enterName(QStringLiteral("run-001.dat")); };
     const auto asked = [] {
-        return expect(tour::modal<QMessageBox>() != nullptr, "nobody asks whether the file may be replaced");
+        return expect(tour::modal<QMessageBox>() != nullptr, "no question whether the file may be replaced");
     };
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("replace"), replace, asked});
     steps.push_back(
         {QStringLiteral("replace-no"), [] { tour::press(*QApplication::activeModalWidget(), Qt::Key_Escape); },
-            [] { return expect(bool(OpenFileDialog()), "the dialog is not back"); }});
+            [] { return expect(bool(OpenFileDialog()), "the dialog is not shown again"); }});
     steps.push_back({QStringLiteral("replace-again"), replace, asked});
     steps.push_back(chosenStep(
         QStringLiteral("replace-yes"), [] { tour::click(*tour::modal<QMessageBox>()->button(QMessageBox::Yes)); },

@@ -23,8 +23,8 @@ namespace gallery {
 
 SaveReportPage::SaveReportPage()
     : Page(QStringLiteral("save-report"), tr("Save a report"),
-          tr("The type chosen in the dialog decides who writes the report. Before anything is replaced you are asked, "
-             "and a place that cannot be written to is noticed before the dialog is gone.")),
+          tr("The file type that you choose is the format of the report. You are asked before a file is replaced. "
+             "If a location cannot be written, you can choose another one.")),
       m_form(new FileDialogForm(FileDialogForm::NativeSwitch | FileDialogForm::StartFile, QStringLiteral("report"),
           QStringLiteral("save-files"))),
       m_reportTitle(new QLineEdit(tr("Readings of the test bench"))),

@@ -18,7 +18,7 @@ namespace gallery {
 
 class FileDialogForm;
 
-/** Saves a report with SaveFileDialog: the dialog finds the name and the writer, the page writes. */
+/** Saves a report with SaveFileDialog: the dialog provides the name and the writer, and the page writes the file. */
 class SaveReportPage : public Page
 {
     Q_OBJECT

@@ -50,7 +50,7 @@ void answer(QMessageBox::StandardButton button)
     tour::click(*tour::modal<QMessageBox>()->button(button));
 }
 
-/** Outside of what the tour may write where there is such a place, and on every system nothing that can be written. */
+/** A path that cannot be written on any system; if possible, outside of the tour's own directory. */
 QString refusedName(const TourWorkspace& workspace)
 {
     const bool hasProcesses = QDir::rootPath() == QLatin1String("/");
@@ -82,10 +82,8 @@ std::vector<TourStep> SaveReportPage::dialogSteps(const TourWorkspace& workspace
                 tour::click(m_form->nativeField());
             }
         },
-        [native] {
-            return expect(ExtendedFileDialog::useNativeFileDialog() == native, "the switch stands as it stood");
-        }});
-    // What the first kind of dialog has saved must not be there for the second.
+        [native] { return expect(ExtendedFileDialog::useNativeFileDialog() == native, "the switch did not change"); }});
+    // The files that the first kind of dialog saved must not exist for the second kind.
     steps.push_back({QStringLiteral("no-reports-yet"),
         [&workspace] {
             QDir folder(workspace.folder().path(QStringLiteral("archive")));
@@ -129,13 +127,13 @@ std::vector<TourStep> SaveReportPage::newFileSteps(const TourWorkspace& workspac
     std::vector<TourStep> steps;
     steps.push_back(saveStep(QStringLiteral("dialog")));
     steps.push_back(tour::helpStep(workspace, QStringLiteral("help"), QStringLiteral("save-files.html")));
-    // Neither the start file nor what is typed has an extension: the chosen type gives it.
+    // Neither the initial name nor the typed name has an extension; the chosen type adds it.
     steps.push_back(writtenStep(
         QStringLiteral("text-written"), [] { tour::click(OpenFileDialog().acceptButton()); },
         folder.path(QStringLiteral("archive/report.txt")), 0));
     steps.push_back(saveStep(QStringLiteral("dialog-for-csv")));
     steps.push_back({QStringLiteral("choose-csv"), [] { tour::pickNextType(); },
-        [] { return expect(OpenFileDialog().type().currentIndex() == 1, "the type is another"); }});
+        [] { return expect(OpenFileDialog().type().currentIndex() == 1, "the type is different"); }});
     steps.push_back(writtenStep(
         QStringLiteral("csv-written"), [] { tour::enterName(QStringLiteral("report-a")); },
         folder.path(QStringLiteral("archive/report-a.csv")), 1));
@@ -145,7 +143,7 @@ std::vector<TourStep> SaveReportPage::newFileSteps(const TourWorkspace& workspac
             tour::pickNextType();
             tour::pickNextType();
         },
-        [] { return expect(OpenFileDialog().type().currentIndex() == 2, "the type is another"); }});
+        [] { return expect(OpenFileDialog().type().currentIndex() == 2, "the type is different"); }});
     steps.push_back(writtenStep(
         QStringLiteral("html-written"), [] { tour::enterName(QStringLiteral("report-b")); },
         folder.path(QStringLiteral("archive/report-b.html")), 2));
@@ -205,7 +203,7 @@ std::vector<TourStep> SaveReportPage::refusedSteps(const TourWorkspace& workspac
 std::vector<TourStep> SaveReportPage::wordingSteps(const TourWorkspace& workspace)
 {
     const QString path = workspace.folder().path(QStringLiteral("archive/report.txt"));
-    // Looks like markup, and must show as it stands.
+    // Looks like markup, but must be shown unchanged.
     const QString question = QStringLiteral("Shall <b>%1</b> go?");
     const auto toggleWording = [this] { tour::press(*m_wording, Qt::Key_Space); };
     std::vector<TourStep> steps;
@@ -214,7 +212,7 @@ std::vector<TourStep> SaveReportPage::wordingSteps(const TourWorkspace& workspac
                              m_wording->isChecked() && m_replaceQuestion->isEnabled(), "the texts are not editable");
                      }});
     steps.push_back({QStringLiteral("own-question"), [=] { tour::type(*m_replaceQuestion, question); },
-        [=] { return expect(m_replaceQuestion->text() == question, "the text is another"); }});
+        [=] { return expect(m_replaceQuestion->text() == question, "the text is different"); }});
     steps.push_back(saveStep(QStringLiteral("dialog-with-own-wording")));
     steps.push_back({QStringLiteral("own-replace-question"), [] { tour::enterName(QStringLiteral("report.txt")); },
         [] { return expectQuestion(QStringLiteral("Shall <b>report.txt</b> go?")); }});

@@ -40,8 +40,8 @@ QString describe(QValidator::State state)
 
 ScientificSpinBoxPage::ScientificSpinBoxPage()
     : Page(QStringLiteral("scientific"), tr("Scientific spin box"),
-          tr("Type a number such as 1.5E-07; it counts once you press Return or leave the field. The arrow keys, the "
-             "wheel and the buttons step by what the program wants a step to be.")),
+          tr("Type a number such as 1.5E-07, and press Return or leave the field to set it. The arrow keys, the "
+             "wheel and the buttons make a step. The program defines what a step is.")),
       m_decades(new QCheckBox(tr("Step by one &decade"))),
       m_digits(new QSpinBox),
       m_pressure(new SpinBox),

@@ -18,7 +18,7 @@ class QScientificSpinBox;
 
 namespace gallery {
 
-/** Physical constants edited in scientific notation, and what validation says while a number is typed. */
+/** Physical constants that are edited in scientific notation, and the validation state of the typed text. */
 class ScientificSpinBoxPage : public Page
 {
     Q_OBJECT

@@ -20,7 +20,7 @@ std::vector<TourStep> ScientificSpinBoxPage::tourSteps(const TourWorkspace&)
     auto* const chargeLine = charge->findChild<QLineEdit*>();
     auto* const digitsLine = m_digits->findChild<QLineEdit*>();
     const auto shows = [](SpinBox* field, double value, const char* text) {
-        // A decade up and down may cost the last bit.
+        // A decade up and down may change the last bit.
         return expect(std::abs(field->value() / value - 1) < 1e-14 && field->text() == QString::fromLatin1(text),
             QStringLiteral("the field shows \"%1\"").arg(field->text()));
     };

@@ -72,7 +72,7 @@ QLayout* TableCopyPage::makeCopyRow()
 {
     m_hideSizes->setCheckable(true);
     m_hideSizes->setToolTip(tr("Hidden cells that are selected are copied too."));
-    // Tabs and line ends are what this is about.
+    // The tabs and line ends must be visible.
     QTextOption visibleSeparators = m_clipboard->document()->defaultTextOption();
     visibleSeparators.setFlags(QTextOption::ShowTabsAndSpaces | QTextOption::ShowLineAndParagraphSeparators);
     m_clipboard->document()->setDefaultTextOption(visibleSeparators);
@@ -140,7 +140,7 @@ void TableCopyPage::showClipboard()
 {
     const QString text = QApplication::clipboard()->text();
     m_clipboard->setPlainText(text);
-    if (isVisible()) { // other pages copy too
+    if (isVisible()) { // other pages copy, too
         const int lines = text.isEmpty() ? 0 : text.count(QLatin1Char('\n')) + 1;
         Q_EMIT reported(tr("Lines on the clipboard: %1").arg(lines));
     }

@@ -12,7 +12,7 @@ namespace gallery {
 
 class InlineNote;
 
-/** The real files of a folder in a table whose selection can be copied, and the text that lands on the clipboard. */
+/** A table with the files of a folder, whose selection can be copied, and the resulting clipboard text. */
 class TableCopyPage : public Page
 {
     Q_OBJECT

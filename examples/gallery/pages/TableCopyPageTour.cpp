@@ -34,7 +34,7 @@ std::vector<TourStep> TableCopyPage::tourSteps(const TourWorkspace& workspace)
         [=, &workspace] { tour::type(*m_folder, workspace.folder().path(QStringLiteral("missing"))); },
         [this] {
             return expect(m_files->rowCount() == 0 && !m_folderNote->text().isEmpty(),
-                "nothing tells that the folder is missing");
+                "no message says that the folder is missing");
         }});
     steps.push_back(
         {QStringLiteral("list-files"), [=, &workspace] { tour::type(*m_folder, workspace.folder().path()); },

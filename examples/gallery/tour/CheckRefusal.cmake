@@ -1,5 +1,5 @@
 # cmake -DPROGRAM=... -DARGUMENTS=... -DMESSAGE=... -P CheckRefusal.cmake
-# Fails unless the program ends with exit code 2 and says MESSAGE on its standard error only.
+# Fails unless the program exits with code 2 and writes MESSAGE only to standard error.
 execute_process(COMMAND ${PROGRAM} ${ARGUMENTS} RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE error)
 string(FIND "${error}" "morvane-gallery: ${MESSAGE}" place)
 if(NOT code EQUAL 2 OR place EQUAL -1 OR NOT output STREQUAL "")

@@ -18,7 +18,7 @@ class TourWorkspace;
 
 namespace gallery::tour {
 
-/** The file dialog that is open now, by the parts that a user sees. Only a dialog made of Qt's widgets has them. */
+/** The parts that a user sees of the file dialog that is open now. Only a dialog made of Qt widgets has them. */
 struct OpenFileDialog
 {
     QFileDialog* dialog = modal<QFileDialog>();
@@ -31,30 +31,30 @@ struct OpenFileDialog
     QAbstractButton& helpButton() const;
     /** The arrow that opens the menu of the accept button. */
     QWidget& acceptMenuArrow() const;
-    /** A control of the host by its text; null when there is none. */
+    /** Finds a control of the host by its text; null if there is none. */
     QAbstractButton* control(const QString& text) const;
 
-    /** Invalid when no such file is listed. */
+    /** Invalid if the file is not listed. */
     QModelIndex find(const QString& fileName) const;
-    /** What is listed, joined by blanks. */
+    /** The listed names, separated by blanks. */
     QString names() const;
 };
 
-/** What a step reports unless a dialog is open that lists @p names. */
+/** Returns an empty text if a dialog is open that lists @p names, otherwise a complaint. */
 QString expectListed(const QString& names);
-/** What a step reports unless no dialog is open. */
+/** Returns an empty text if no dialog is open, otherwise a complaint. */
 QString expectClosed();
 
 /** Replaces the name and presses Enter. */
 void enterName(const QString& name);
-/** Asks for help in the open dialog; @p page is opened. */
+/** Presses Help in the open dialog and expects that @p page is opened. */
 TourStep helpStep(const TourWorkspace& workspace, const QString& name, const QString& page);
 /** Picks the next type in the list. */
 void pickNextType();
-/** Gives the dialog up. */
+/** Cancels the dialog. */
 TourStep cancelStep(const QString& name);
 
-/** Whether the native dialog has widgets that the tour can work; where the system draws it, it has none. */
+/** Whether the native dialog has widgets that the tour can use. It has none if the system draws the dialog. */
 bool canDriveNativeDialog();
 
 } // namespace gallery::tour

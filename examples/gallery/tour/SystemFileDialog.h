@@ -6,8 +6,8 @@
 namespace gallery::tour {
 
 /**
- * The operating system's own file dialog while it is open: it has windows, but no widgets. Where the system has none,
- * or Qt draws the dialog, it is never open.
+ * The operating system's own file dialog while it is open: it has windows, but no widgets. If the system has no such
+ * dialog, or Qt draws the dialog, it is never open.
  */
 class SystemFileDialog
 {
@@ -15,16 +15,16 @@ public:
     SystemFileDialog();
 
     explicit operator bool() const { return m_window != 0; }
-    /** On the screen, with its frame. */
+    /** Its rectangle on the screen, including the frame. */
     QRect geometry() const;
 
     QString name() const;
     void setName(const QString& name) const;
-    /** Counted from 0, as a user would pick it. */
+    /** Picks a file type as a user would. The index counts from 0. */
     void pickType(int index) const;
     int listedFiles() const;
 
-    /** Presses the button or check box with this text, and returns before anything follows. */
+    /** Presses the button or check box with this text. Returns before the dialog reacts. */
     void click(const QString& text) const;
     bool isVisible(const QString& text) const;
     bool isEnabled(const QString& text) const;

@@ -28,8 +28,8 @@ bool hasClass(HWND window, const wchar_t* name)
 struct Search
 {
     const wchar_t* className;
-    const wchar_t* text; ///< null for any
-    int id;              ///< 0 for any
+    const wchar_t* text; ///< null: any text
+    int id;              ///< 0: any identifier
     HWND found;
 };
 

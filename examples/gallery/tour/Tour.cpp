@@ -18,7 +18,7 @@ namespace {
 constexpr int pollMs = 20;
 constexpr int stepLimitMs = 20000;
 constexpr std::chrono::seconds hangLimit(60);
-// A real screen shows a window a moment after it was painted.
+// A real screen shows a window some time after it was painted.
 constexpr int screenDelayMs = 150;
 
 QString seconds(qint64 milliseconds)
@@ -50,7 +50,7 @@ Tour::Tour(GalleryWindow& window, const TourWorkspace& workspace, const QDir& ou
 void Tour::start()
 {
     if (isOffscreen()) {
-        // That screen is a fiction, and small.
+        // That screen is virtual and small.
         m_window.resize(GalleryWindow::comfortableSize());
     }
     m_totalTime.start();
@@ -70,7 +70,7 @@ void Tour::runNextStep()
         return;
     }
     m_stepTime.start();
-    // Both are queued, so that an action that opens a modal loop leaves the tour running inside of it.
+    // Both are queued, so the tour continues inside a modal event loop that the action opens.
     QTimer::singleShot(0, this, [action = m_steps[m_next].action] { action(); });
     QTimer::singleShot(pollMs, this, &Tour::awaitOutcome);
 }
@@ -90,7 +90,7 @@ void Tour::awaitOutcome()
 
 void Tour::settle()
 {
-    // What was right a moment ago must still be right in the picture.
+    // The state must still be right when the picture is taken.
     QTimer::singleShot(isOffscreen() ? pollMs : screenDelayMs, this, [this] { stepDone(m_steps[m_next].check()); });
 }
 
@@ -128,7 +128,7 @@ void Tour::finish(int exitCode)
     if (!written) {
         std::fprintf(stderr, "morvane-gallery: the summary could not be written\n");
     }
-    // Ends the nested loops of dialogs that are still open, too.
+    // This also ends the nested event loops of dialogs that are still open.
     QCoreApplication::exit(written ? exitCode : 1);
 }
 

@@ -15,7 +15,7 @@ namespace gallery {
 class GalleryWindow;
 class TourWorkspace;
 
-/** Plays a user on every page of the gallery and keeps a picture of each step. */
+/** Plays a user on every page of the gallery and saves a picture of each step. */
 class Tour : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,9 @@ public:
     /** @param output an existing directory for the pictures and `summary.txt` */
     Tour(GalleryWindow& window, const TourWorkspace& workspace, const QDir& output);
 
-    /** Starts once the event loop runs, and ends it with 0 when every step ended as expected, otherwise with 1. */
+    /**
+     * Starts when the event loop runs. Ends the event loop with 0 if every step ended as expected, otherwise with 1.
+     */
     void start();
 
 private:

@@ -5,11 +5,11 @@
 
 namespace gallery {
 
-/** A folder of real files for the tour to work on. */
+/** A folder with real files for the tour. */
 class TourFolder
 {
 public:
-    /** Makes the files in @p directory, which exists. @return whether all could be written */
+    /** Creates the files in @p directory, which must exist. @return whether all were written */
     bool create(const QDir& directory);
 
     /** `run-001.dat`, `run-002.dat`, `run-003.dat`, `summary.csv`, `notes.txt` and the folder `archive`. */

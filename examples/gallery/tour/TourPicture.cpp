@@ -25,7 +25,7 @@ int depth(const QWidget* window)
     return levels;
 }
 
-/** The visible windows, each after the one that it lies upon. */
+/** The visible windows, each one after the window below it. */
 std::vector<QWidget*> visibleWindows(QWidget& mainWindow)
 {
     std::vector<QWidget*> windows;
@@ -57,7 +57,7 @@ QPixmap grabScreen(const std::vector<QWidget*>& windows)
     return screen->grabWindow(0, area.x(), area.y(), area.width(), area.height());
 }
 
-/** Where each window goes: dialogs over the middle of what they belong to, popups where they are. */
+/** The position of each window in the picture: dialogs are centred on their parent, popups keep their position. */
 std::vector<QRect> arrange(const std::vector<QWidget*>& windows)
 {
     std::vector<QRect> places;

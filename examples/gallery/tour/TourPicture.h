@@ -7,8 +7,8 @@ class QWidget;
 namespace gallery {
 
 /**
- * @p mainWindow with every dialog and popup that is open: as the screen shows them, or drawn into one picture where
- * there is no screen to grab.
+ * Returns a picture of @p mainWindow with every open dialog and popup. It is grabbed from the screen, or drawn if there
+ * is no screen to grab from.
  */
 QPixmap takeTourPicture(QWidget& mainWindow);
 

@@ -11,25 +11,25 @@ class QMenu;
 class QMenuBar;
 class QModelIndex;
 
-/** What a user's hands do: events of the keyboard and the mouse, where a user would cause them. */
+/** Input of a user: sends keyboard and mouse events to the widgets to which a user would send them. */
 namespace gallery::tour {
 
-/** Clicks into the middle of @p widget, for check boxes and radio buttons on their mark. It must be enabled. */
+/** Clicks the centre of @p widget, or the indicator of a check box or radio button. The widget must be enabled. */
 void click(QWidget& widget);
-/** Clicks @p index, after scrolling to it. */
+/** Scrolls to @p index and clicks it. */
 void clickItem(QAbstractItemView& view, const QModelIndex& index, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 /** Clicks an entry of a menu bar or of an open menu. */
 void clickAction(QMenuBar& bar, QAction& action);
 void clickAction(QMenu& menu, QAction& action);
 void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-/** Clicks into the field, selects what stands there, and types @p text key by key. */
+/** Clicks the field, selects its text, and types @p text key by key. */
 void type(QLineEdit& field, const QString& text);
 
-/** What a step reports when @p asExpected is false: @p complaint; otherwise an empty text. */
+/** Returns @p complaint if @p asExpected is false, otherwise an empty text. For the result of a step. */
 QString expect(bool asExpected, const QString& complaint);
 QString expect(bool asExpected, const char* complaint);
 
-/** The innermost modal window when it is a visible T, otherwise null. */
+/** Returns the active modal window if it is a visible T, otherwise null. */
 template <typename T>
 T* modal()
 {

@@ -12,7 +12,7 @@ TourWorkspace::TourWorkspace()
                m_folder.create(QDir(root.filePath(QStringLiteral("Measurements"))));
     m_settings = std::make_unique<morvane::ApplicationSettings>(root.filePath(QStringLiteral("settings.ini")));
     m_override = std::make_unique<morvane::InstanceOverride<morvane::ApplicationSettings>>(*m_settings);
-    // QFileDialog keeps its own settings, too.
+    // QFileDialog stores its own settings, too.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, root.path());
     QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openUrl");
 }

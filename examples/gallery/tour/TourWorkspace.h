@@ -13,8 +13,8 @@
 namespace gallery {
 
 /**
- * Where the tour leaves its traces, and where they vanish with this object: settings, files to choose from, and the
- * addresses that would otherwise be opened in the user's browser.
+ * A temporary directory for the tour's settings and files, which is deleted with this object. Also records the help
+ * pages that would otherwise be opened in the user's browser.
  */
 class TourWorkspace : public QObject
 {
@@ -24,12 +24,12 @@ public:
     TourWorkspace();
     ~TourWorkspace() override;
 
-    /** Whether the temporary directory and all its files could be made. */
+    /** Whether the temporary directory and all its files were created. */
     bool isUsable() const { return m_usable; }
     const TourFolder& folder() const { return m_folder; }
-    /** The file that a Help button opened last; empty when none did. */
+    /** The file that a Help button opened last; empty if there is none. */
     QString openedPage() const { return m_openedPage; }
-    /** How often a Help button opened one. */
+    /** How often a Help button opened a file. */
     int openedPages() const { return m_openedPages; }
 
 public Q_SLOTS:

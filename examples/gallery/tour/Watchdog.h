@@ -7,7 +7,9 @@
 
 namespace gallery {
 
-/** Ends the process with exit code 1 when beat() was not called for the time limit, whatever the GUI thread does. */
+/**
+ * Ends the process with exit code 1 if beat() is not called within the time limit, even if the GUI thread is blocked.
+ */
 class Watchdog
 {
 public:

@@ -11,110 +11,119 @@
 namespace morvane::ui {
 
 /**
- * An editable combo box that narrows its entries to those that contain what is typed, and that announces what became of
- * the editing: an entry was taken, or the editing was cancelled. What it is there for is its edit mode.
+ * An editable combo box that offers only the entries that contain the typed text. It emits a signal for the outcome of
+ * an edit: selectionComplete() when an entry was chosen, editingCanceled() when the edit was cancelled. The edit mode
+ * sets how the combo box is used.
  *
- * SingleEdit, at first: an editor that lives for one edit, in a table cell for instance. With the outcome it closes its
- * own widget.
+ * In the tables, "line" is the line edit, "suggestions" is the popup of the completer, and "popup list" is the popup of
+ * the combo box.
  *
- * | where       | what a user does               | outcome                                               |
- * |-------------|--------------------------------|-------------------------------------------------------|
- * | line        | types                          | none: the first entry that fits is marked             |
- * | line        | Return, Enter, Tab             | selectionComplete(): first entry with the line's text |
- * | line        | Escape                         | editingCanceled(): the current entry stays            |
- * | line        | Up, Down, wheel                | none: the entry becomes current                       |
- * | line        | Shift+Tab, leaves it           | none: text and entry stay as they are                 |
- * | suggestions | Up, Down, Page Up, Page Down   | none: the marked entry is written into the line       |
- * | suggestions | Ctrl+Home, Ctrl+End            | the same                                              |
- * | suggestions | Return, Enter, Tab after these | selectionComplete(): exactly the marked entry         |
- * | suggestions | Return, Enter, Tab otherwise   | selectionComplete(), as in the line                   |
- * | suggestions | a click, letting the mouse go  | selectionComplete(): exactly this entry               |
- * | suggestions | Escape                         | editingCanceled(), as in the line                     |
- * | popup list  | Up, Down                       | none: the entry becomes current                       |
- * | popup list  | Return, Enter                  | selectionComplete(): exactly this entry               |
- * | popup list  | a click; arrow, drag, let go   | selectionComplete(): exactly this entry               |
- * | popup list  | Escape                         | editingCanceled(): back to the entry before the edit  |
+ * SingleEdit, the initial mode: an editor that exists for one edit, for instance in a table cell. It closes itself when
+ * the edit ends.
  *
- * FormField: a field that stays, for many edits. The same roads lead to the same entries, with these differences:
+ * | where       | what the user does              | outcome                                                        |
+ * |-------------|---------------------------------|----------------------------------------------------------------|
+ * | line        | types                           | none: the first matching entry is marked                       |
+ * | line        | Return, Enter, Tab              | selectionComplete(): the first entry that contains the text    |
+ * | line        | Escape                          | editingCanceled(): the current entry stays                     |
+ * | line        | Up, Down, wheel                 | none: the entry becomes current                                |
+ * | line        | Shift+Tab, moves the focus away | none: text and entry stay unchanged                            |
+ * | suggestions | Up, Down, Page Up, Page Down    | none: the marked entry is written into the line                |
+ * | suggestions | Ctrl+Home, Ctrl+End             | the same                                                       |
+ * | suggestions | Return, Enter, Tab after these  | selectionComplete(): exactly the marked entry                  |
+ * | suggestions | Return, Enter, Tab otherwise    | selectionComplete(), as in the line                            |
+ * | suggestions | click (when released)           | selectionComplete(): exactly this entry                        |
+ * | suggestions | Escape                          | editingCanceled(), as in the line                              |
+ * | popup list  | Up, Down                        | none: the entry becomes current                                |
+ * | popup list  | Return, Enter                   | selectionComplete(): exactly this entry                        |
+ * | popup list  | click; or arrow, drag, release  | selectionComplete(): exactly this entry                        |
+ * | popup list  | Escape                          | editingCanceled(): back to the entry before the edit           |
  *
- * | where       | what a user does           | outcome                                                   |
- * |-------------|----------------------------|-----------------------------------------------------------|
- * | line        | Return, Enter              | selectionComplete(), or editingCanceled() if nothing fits |
- * | line        | leaves it after an edit    | the same; so with Tab, Shift+Tab, a click elsewhere       |
- * | line        | leaves it without an edit  | none                                                      |
- * | line        | wheel, without the focus   | selectionComplete(): exactly this entry                   |
- * | line        | another window, a menu     | none: the edit goes on afterwards                         |
- * | line        | Escape during an edit      | editingCanceled()                                         |
- * | line        | Return, Enter, Escape else | the dialog around gets the key, too                       |
- * | suggestions | Escape                     | editingCanceled()                                         |
- * | popup list  | Tab, Shift+Tab             | selectionComplete(): exactly this entry; moves on         |
+ * FormField: a field that stays open for many edits. The table above applies, with these differences:
  *
- * In a FormField, a text that equals an entry, whatever the case, stands for this entry before one that merely contains
- * it, and an empty text stands for none. An edit begins with what a user types, marks or steps to; a text that the
- * program has put into the line, and that is not the current entry's, counts as one, too. Whenever one is cancelled,
- * the entry from before it is current again, and the line shows its text. Reading the combo box during an
- * edit, for instance from a shortcut that leaves the focus where it is, starts with validateEntry().
+ * | where       | what the user does              | outcome                                                       |
+ * |-------------|---------------------------------|---------------------------------------------------------------|
+ * | line        | Return, Enter                   | selectionComplete(), or editingCanceled() if no entry matches |
+ * | line        | moves the focus away in an edit | the same; with Tab, Shift+Tab or a click elsewhere            |
+ * | line        | moves the focus away otherwise  | none                                                          |
+ * | line        | wheel, without the focus        | selectionComplete(): exactly this entry                       |
+ * | line        | another window, a menu          | none: the edit continues afterwards                           |
+ * | line        | Escape in an edit               | editingCanceled()                                             |
+ * | line        | Return, Enter, Escape otherwise | the parent dialog receives the key, too                       |
+ * | suggestions | Escape                          | editingCanceled()                                             |
+ * | popup list  | Tab, Shift+Tab                  | selectionComplete(): exactly this entry; the focus moves on   |
  *
- * In both modes: an entry that was picked or marked is taken even where another one has the same text or contains it.
- * Typing on after that goes by the line's text again. What is open is closed with the outcome, and the dialog around
- * never gets a key that has made one, but for a Return without an edit. No road leads a user to a disabled entry. Each
- * outcome is announced once, and a slot on either signal may delete the combo box. In an item view the delegate sees
- * Tab first; let its setModelData() call validateEntry() and store the text of the entry, not currentText(), which is
- * what stands in the line.
+ * In a FormField, a text that equals an entry, ignoring case, matches this entry, even if an earlier entry contains the
+ * text. An empty text matches only an entry with an empty text. An edit begins when the user types, marks an entry or
+ * steps to an entry. A text that the program sets in the line is an edit, too, if it is not the text of the current
+ * entry. When an edit is cancelled, the entry from before the edit is current again, and the line shows its text. Call
+ * validateEntry() before you read the combo box during an edit, for instance in a shortcut that does not move the
+ * focus.
  *
- * Set it up with setListModel(), or with setList() and then setCompleterAttributes(). Until then nothing is filtered.
- * Suggestions come from the model and from the column that the combo box shows, also when these change later.
+ * In both modes:
+ *
+ * - An entry that was picked or marked is chosen even if another entry has the same text or contains it. If the user
+ *   types after that, the text of the line decides again.
+ * - An outcome closes the open popup. A key that caused an outcome does not reach the parent dialog, except Return
+ *   without an edit.
+ * - A user cannot choose a disabled entry.
+ * - Each outcome emits its signal once. A slot of either signal may delete the combo box.
+ * - In an item view the delegate receives Tab first. Its setModelData() must call validateEntry() and store the text of
+ *   the current entry, not currentText(), which is the text of the line.
+ *
+ * Set it up with setListModel(), or with setList() and then setCompleterAttributes(). Before that, nothing is filtered.
+ * The suggestions are from the model and the column that the combo box shows, also after these change.
  *
  * @snippet 07-filter-a-list/main.cpp filter
  *
- * "The entry before the edit" is, in a SingleEdit, the current one when the list was first opened or an entry first
- * activated in the life of the combo box, for all edits: make a new one for each edit, or a FormField.
+ * In a SingleEdit, "the entry before the edit" is recorded only once: it is the current entry when the list is first
+ * opened or an entry is first activated. So create a new SingleEdit for each edit, or use a FormField.
  *
  * GUI thread only.
  */
 class MORVANE_UI_EXPORT ComboBoxAutoFilter : public QComboBox
 {
     Q_OBJECT
-    /** Whether entries are filtered. Here for forms made with Qt Designer; set after the property `editable`. */
+    /** Whether entries are filtered. For forms made with Qt Designer; set it after the property `editable`. */
     Q_PROPERTY(bool filtering READ isFiltering WRITE setFiltering)
-    /** SingleEdit at first; new ones in Qt Designer are FormFields. */
+    /** SingleEdit initially. A new combo box in Qt Designer is a FormField. */
     Q_PROPERTY(EditMode editMode READ editMode WRITE setEditMode)
 
 public:
-    /** What the combo box is there for. */
+    /** How the combo box is used. */
     enum EditMode
     {
-        SingleEdit, ///< it is made for one edit, and closes itself with the outcome
-        FormField   ///< it stays, and each edit has an outcome of its own
+        SingleEdit, ///< exists for one edit, and closes itself when the edit ends
+        FormField   ///< stays open; each edit has its own outcome
     };
     Q_ENUM(EditMode)
 
-    /** @param parent owner; null for a window of its own that the caller deletes */
+    /** @param parent owner; null: a top-level window that the caller deletes */
     explicit ComboBoxAutoFilter(QWidget* parent);
     ~ComboBoxAutoFilter() override;
 
-    /** Appends entries. Filtering is another step, setCompleterAttributes(). */
+    /** Appends entries. Does not set up the filtering; call setCompleterAttributes() for that. */
     void setList(const QStringList& items);
 
     /**
-     * Takes the entries from a model, as QComboBox::setModel() does, and sets the filtering up over it as
-     * setCompleterAttributes() does.
+     * Sets the model, as QComboBox::setModel() does, and sets up the filtering, as setCompleterAttributes() does.
      *
-     * @param model not null; stays the caller's and may be shared, unless the combo box is its parent
-     * @param editable,mode,cs,elide,match as setCompleterAttributes() takes them
+     * @param model not null. The caller keeps the ownership, unless the combo box is the parent of the model. The model
+     *              may be shared.
+     * @param editable,mode,cs,elide,match see setCompleterAttributes()
      */
     void setListModel(QAbstractItemModel* model, bool editable, QCompleter::CompletionMode mode, Qt::CaseSensitivity cs,
         Qt::TextElideMode elide, Qt::MatchFlag match);
 
     /**
-     * Sets the filtering up over the current model, with a new line, which takes over the current text, and a new
-     * completer. Can be called again.
+     * Sets up the filtering for the current model, with a new line edit and a new completer. The new line edit takes
+     * over the current text. Can be called again.
      *
-     * @param editable handed to setEditable(); the line comes either way, and so the combo box can be edited either way
-     * @param mode     how the completer offers the entries that fit
-     * @param cs       whether the completer heeds case; ending the editing never does
-     * @param elide    how the completer's popup shortens long entries; without effect where the mode has no popup
-     * @param match    without effect: the entries that fit are always those that contain the text
+     * @param editable passed to setEditable(). The combo box gets a line edit, and so is editable, in either case.
+     * @param mode     how the completer shows the matching entries
+     * @param cs       case sensitivity of the completer. The search at the end of an edit ignores case.
+     * @param elide    how the popup of the completer shortens long entries; no effect if the mode has no popup
+     * @param match    no effect: the matching entries are always those that contain the text
      */
     void setCompleterAttributes(bool editable, QCompleter::CompletionMode mode, Qt::CaseSensitivity cs,
         Qt::TextElideMode elide, Qt::MatchFlag match);
@@ -122,59 +131,68 @@ public:
     /** Whether the filtering is set up. */
     bool isFiltering() const;
     /**
-     * Sets the filtering up, unless it is, as a form field wants it: a popup offers the entries that fit, whatever
-     * their case. Or takes it down, unless there is none, and leaves a combo box without a line.
+     * True sets up the filtering for a form field: a popup offers the entries that contain the text, ignoring case.
+     * False removes the filtering and makes the combo box not editable. Does nothing if the state is already the
+     * requested one.
      */
     void setFiltering(bool on);
 
-    /** SingleEdit at first. */
+    /** SingleEdit initially. */
     EditMode editMode() const;
-    /** To be called before an edit begins. */
+    /** Call it before an edit begins. */
     void setEditMode(EditMode mode);
 
     /**
-     * Makes the entry current that the line stands for: the one that a user has picked or marked, as long as the line
-     * shows it; otherwise the first one that contains the line's text, whatever its case, which of an empty text is the
-     * first of all. So a "Car" that is typed gives way to a "Scar" above it. In a FormField an entry that equals the
-     * text goes first, and an empty text stands for no other. Disabled entries do not count. Announces nothing;
-     * an edit in a FormField goes on, and is cancelled to this entry.
+     * Makes the entry current that matches the line. That is the entry that the user picked or marked, as long as the
+     * line shows it. Otherwise it is the first entry that contains the text of the line, ignoring case; for an empty
+     * text it is the first entry of all. So the typed text "Car" matches an entry "Scar" that is above "Car". In a
+     * FormField an entry that equals the text is preferred, and an empty text matches only an entry with an empty text.
      *
-     * @return false, with everything left alone, when there is no such entry or no line; true otherwise, and in a
-     * SingleEdit always, with everything left alone, once Escape has been pressed in the combo box
+     * Disabled entries never match. No outcome is emitted. An edit in a FormField continues; if it is cancelled later,
+     * this entry is current again.
+     *
+     * @return false if no entry matches or there is no line edit; nothing changes then. Otherwise true. A SingleEdit in
+     * which Escape was pressed always returns true and changes nothing.
      */
     bool validateEntry();
 
     /**
-     * Makes the first entry current whose text is exactly this one, with case. Then, found or not, selects as many
-     * characters at the start of the line as the text has.
+     * Makes the first entry current whose text is exactly @p text, case-sensitive. Then, found or not, selects as many
+     * characters at the start of the line as @p text has.
      */
     void setSelectedText(const QString& text);
 
-    /** Makes the first entry current whose Qt::UserRole data equals the value; without one, nothing happens. */
+    /** Makes the first entry current whose Qt::UserRole data equals @p value. If there is none, nothing happens. */
     void setFromValue(const QVariant& value);
 
-    /** Opens the whole list, at the entry that the line stands for when there is one. It is current then. */
+    /**
+     * Opens the whole list. If an entry matches the line, as in validateEntry(), this entry becomes current first, and
+     * the list opens at it.
+     */
     void showPopup() override;
 
 Q_SIGNALS:
     /**
-     * An entry was picked or the editing ended. A SingleEdit has closed itself. currentIndex() is the outcome; in a
-     * SingleEdit it is what it was before when no entry fits the line's text.
+     * Emitted when an entry was picked or the edit ended. A SingleEdit has already closed itself. currentIndex() is the
+     * outcome. In a SingleEdit it is unchanged if no entry matches the text of the line.
      */
     void selectionComplete();
-    /** The editing was cancelled. A SingleEdit has closed itself; a FormField shows the entry from before the edit. */
+    /**
+     * Emitted when the edit was cancelled. A SingleEdit has already closed itself. A FormField shows the entry from
+     * before the edit.
+     */
     void editingCanceled();
 
 protected:
-    /** Gives Tab to the line, or ends the edit of a form field with it. */
+    /** Passes Tab to the line edit, or ends the edit of a form field with Tab. */
     bool event(QEvent* event) override;
-    /** Watches the keys and clicks in the two popups. */
+    /** Handles the keys and clicks in the two popups. */
     bool eventFilter(QObject* watched, QEvent* event) override;
-    /** Marks what fits the text that an input method brings. */
+    /** Marks the entry that matches the text from an input method. */
     void inputMethodEvent(QInputMethodEvent* event) override;
-    /** Makes the next entry current, as QComboBox does; an edit of a form field without the focus ends with it. */
+    /** Makes the next entry current, as QComboBox does. In a form field without the focus, this ends the edit. */
     void wheelEvent(QWheelEvent* event) override;
-    /** Goes on with an edit. */
+    /** Continues an edit. */
     void focusInEvent(QFocusEvent* event) override;
     /** Ends the edit of a form field. */
     void focusOutEvent(QFocusEvent* event) override;

@@ -7,18 +7,18 @@
 namespace morvane::ui {
 
 /**
- * A command-link button that no layout squeezes below its preferred size: title and description stay readable in the
- * font that is set, and a layout with less room overflows instead.
+ * A command-link button whose minimum size is its preferred size. So a layout never shrinks it, and the title and the
+ * description stay readable in the current font. If the layout has too little space, its contents overflow.
  *
  * @snippet 11-command-links/main.cpp buttons
  */
 class MORVANE_UI_EXPORT CorrectFontCommandLinkButton : public QCommandLinkButton
 {
 public:
-    /** @param parent owner; null for a window of its own that the caller deletes */
+    /** @param parent owner; null: a top-level window that the caller deletes */
     explicit CorrectFontCommandLinkButton(QWidget* parent = nullptr);
 
-    /** The preferred size. */
+    /** Returns the preferred size, sizeHint(). */
     QSize minimumSizeHint() const override;
 };
 

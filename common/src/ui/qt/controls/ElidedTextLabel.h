@@ -4,17 +4,19 @@
 #include "ui/qt/MorvaneUiExport.h"
 
 /**
- * A one-line label for texts whose end matters, such as paths: what does not fit is cut off at the start and stands in
- * the tool tip, which is there only while the text is cut.
+ * A one-line label for texts whose end is important, such as paths. If the text is too wide, its start is elided, and
+ * the tool tip shows the whole text. There is no tool tip while the text fits.
  *
- * The text starts at the leading edge. The tool tip follows text, size and font with the next paint. A tool tip that
- * the host sets to another text stays whatever the width; an empty one gives the tool tip back to the label.
+ * Initially the text is aligned to the leading edge. The tool tip is updated with the next paint after a change of
+ * text, size or font. If the host sets another tool tip, it stays, independent of the width. If the host sets an empty
+ * tool tip, the label sets its own again.
  *
- * Assistive software is told the whole text, unless the host sets an accessible name.
+ * Assistive software receives the whole text, unless the host sets an accessible name.
  *
- * Text and alignment are the base class's: setText(), setAlignment(), setElideMode(). That is Morvane's stand-in for
- * Qxt's QxtLabel, or QxtLabel itself where Morvane was built with MORVANE_WITH_QXT. ElidedTextLabel::QxtLabel names it
- * in both cases; its meta-object has another name in each. Style sheets select `ElidedTextLabel`.
+ * setText(), setAlignment() and setElideMode() are members of the base class. The base class is QxtLabel of Qxt if
+ * Morvane was built with MORVANE_WITH_QXT. Otherwise it is Morvane's own replacement for QxtLabel.
+ * ElidedTextLabel::QxtLabel is its name in both cases; the class name in its meta-object differs. Style sheets select
+ * `ElidedTextLabel`.
  *
  * @snippet 09-long-paths/main.cpp label
  */
@@ -24,13 +26,13 @@ class MORVANE_UI_EXPORT ElidedTextLabel : public morvane::compat::QxtLabel
 
 public:
     /**
-     * @param parent owner; null for a window of its own that the caller deletes
-     * @param flags  as QWidget takes them
+     * @param parent owner; null: a top-level window that the caller deletes
+     * @param flags  window flags, see QWidget
      */
     explicit ElidedTextLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
     ~ElidedTextLabel() override;
 
 protected:
-    /** Draws the text and settles the tool tip. */
+    /** Paints the text and updates the tool tip. */
     void paintEvent(QPaintEvent* event) override;
 };

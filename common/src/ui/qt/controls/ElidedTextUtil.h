@@ -7,7 +7,7 @@
 class QWidget;
 
 /**
- * The rule by which a widget that shortens its text shows the whole of it as tool tip.
+ * Updates the tool tip of a widget that elides its text, so that there is a tool tip only while the text is too wide.
  *
  * @snippet 10-elide-your-own/main.cpp rule
  */
@@ -17,14 +17,15 @@ public:
     virtual ~ElidedTextUtil();
 
     /**
-     * Gives the widget the tool tip while the text is wider than there is room, and none while it fits; a text exactly
-     * as wide as the room fits. A tool tip that is neither empty nor this one is somebody else's and stays. When the
-     * tool tip is right already the widget gets no event, so painting may call this.
+     * Sets @p toolTip as the tool tip of the widget if the text is wider than @p availableWidth; otherwise clears the
+     * tool tip. A text exactly as wide as @p availableWidth fits. A tool tip that is neither empty nor equal to
+     * @p toolTip is not changed, because other code has set it. If the tool tip is already right, the widget receives
+     * no event, so a paint event handler may call this function.
      *
-     * @param widget         not null; its font is measured with
+     * @param widget         not null; the text is measured with its font
      * @param availableWidth in device-independent pixels
-     * @param text           the whole text, in one line
-     * @param toolTip        shown while the text is cut; may be empty
+     * @param text           the whole text, one line
+     * @param toolTip        the tool tip while the text is too wide; may be empty
      */
     virtual void updateToolTip(QWidget* widget, int availableWidth, const QString& text, const QString& toolTip);
 };

@@ -13,21 +13,22 @@ namespace morvane::ui {
 class IntegralSpinBoxPrivate;
 
 /**
- * A QSpinBox whose steps the host can take over.
+ * A QSpinBox whose steps the host can handle itself.
  *
- * A step of any kind (arrow and page keys, wheel, the buttons, a call of stepBy()) fires signalIncrement or
- * signalDecrement once, whatever the number of steps, and leaves the value alone, as long as a slot is connected to
- * that signal. With no slot connected the value changes by the single step. After the step, and after the slots, the
- * whole number is selected. Qt asks for no step where stepEnabled() says there is none, as upwards at the maximum, so
- * neither do the signals fire then.
+ * A step is a press of an arrow or page key, a turn of the wheel, a click on a button, or a call of stepBy(). If a slot
+ * is connected to the signal of that direction, signalIncrement or signalDecrement, the step fires this signal once,
+ * independent of the number of steps, and does not change the value. If no slot is connected, the value changes by the
+ * single step. After the step, and after the slots, the whole number is selected. Qt makes no step in a direction that
+ * stepEnabled() excludes, for instance upwards at the maximum. Then no signal fires either.
  *
- * Only whole notches of a wheel step. Parts of a notch, as touchpads and finely resolving wheels report them, add up
- * until they make a whole one; they are forgotten when the turn changes its direction, when the pointer leaves and when
- * the focus is lost. A turn sideways is no step. As in QSpinBox, up is what the system reports as up.
+ * The wheel steps by whole notches. Touchpads and high-resolution wheels report parts of a notch, which are added up to
+ * whole notches. The remaining part is dropped when the direction changes, when the pointer leaves, and when the focus
+ * is lost. Horizontal scrolling makes no step. As in QSpinBox, the direction is the one that the system reports.
  *
- * Keyboard tracking is off: a typed value counts from Return or loss of focus on. As the editor of a table cell, made
- * by a delegate of Qt's, it stores what was typed on Return, on Tab and on a click elsewhere: the property `value`
- * gives the typed number before value() does. Everything else is QSpinBox's own.
+ * Keyboard tracking is off: a typed number becomes the value on Return or when the focus is lost. If a Qt delegate
+ * creates the spin box as the editor of a table cell, the typed number is stored on Return, on Tab and on a click
+ * elsewhere. This works because the property `value` returns the typed number before value() does. All other behaviour
+ * is that of QSpinBox.
  *
  * @snippet 08-integer-steps/main.cpp steps
  *
@@ -37,10 +38,10 @@ class MORVANE_UI_EXPORT IntegralSpinBox : public QSpinBox
 {
     Q_OBJECT
     /**
-     * The value; read here, it is the number that Return would take, while typed text waits for Return. Delegates and
-     * QDataWidgetMapper store this property. Reading it changes nothing and emits nothing. Text that is not acceptable
-     * reads as what Return would make of it, which is value() unless the correction mode says otherwise.
-     * Connect to valueChanged() to be told; the property itself names no signal.
+     * The value. While typed text is not committed yet, reading this property returns the number that Return would set.
+     * Delegates and QDataWidgetMapper store this property. Reading it changes nothing and emits nothing. If the text is
+     * not acceptable, the result is the number that Return would correct it to; this is value(), unless the correction
+     * mode gives another number. The property has no notify signal; connect to valueChanged() instead.
      */
     Q_PROPERTY(int value READ enteredValue WRITE setValue USER true)
 
@@ -52,33 +53,33 @@ public:
     ~IntegralSpinBox() override;
 
     /**
-     * Steps up for `steps` above 0, else down; 0 is a step down, too.
+     * Steps up if `steps` is above 0, otherwise down; 0 is a step down, too.
      *
-     * Fires the signal of that direction if it has a slot. Otherwise sets the value to `value() + singleStep() *
-     * steps`, computed in 32 bits that wrap around, which setValue() then brings into the range. Text that was typed
-     * but not committed yet is given up. In the end selectAll().
+     * Fires the signal of that direction if it has a slot. Otherwise calls setValue() with `value() + singleStep() *
+     * steps`, computed in 32 bits with wrap-around; setValue() limits it to the range and replaces typed text that is
+     * not committed yet. Finally calls selectAll().
      *
-     * A slot may change the value or the range and may connect and disconnect slots, itself included. What it throws
-     * reaches the caller of stepBy() and leaves the spin box as it is; Qt's event loop takes no exceptions. To get rid
-     * of the spin box, a slot uses deleteLater().
+     * A slot may change the value or the range, and may connect and disconnect slots, including itself. An exception of
+     * a slot passes to the caller of stepBy(), and the spin box stays as it is; no exception may reach Qt's event loop.
+     * To delete the spin box, a slot calls deleteLater().
      */
     void stepBy(int steps) override;
 
-    boost::signals2::signal<void()> signalIncrement; ///< a step up that is left to the host
-    boost::signals2::signal<void()> signalDecrement; ///< a step down, or by nothing, that is left to the host
+    boost::signals2::signal<void()> signalIncrement; ///< a step up that the host handles
+    boost::signals2::signal<void()> signalDecrement; ///< a step down, or by 0, that the host handles
 
 protected:
-    /** Forgets the part of a notch that is left over when the focus or the pointer leaves. */
+    /** Drops the remaining part of a notch when the focus is lost or the pointer leaves. */
     bool event(QEvent* event) override;
-    /** Steps by whole notches; parts of them add up. */
+    /** Steps by whole notches; adds up parts of notches. */
     void wheelEvent(QWheelEvent* event) override;
 
 private:
     int enteredValue() const;
 
-    /** For code that wraps signalIncrement, to tell that a slot was connected; does nothing here. */
+    /** Does nothing here. Code that wraps signalIncrement may call it when a slot was connected. */
     virtual void signalIncrementConnected() const;
-    /** For code that wraps signalDecrement, to tell that a slot was connected; does nothing here. */
+    /** Does nothing here. Code that wraps signalDecrement may call it when a slot was connected. */
     virtual void signalDecrementConnected() const;
 
     std::unique_ptr<IntegralSpinBoxPrivate> m_private;

@@ -18,39 +18,41 @@ class QScientificSpinBoxPrivate;
 /**
  * A spin box for doubles in scientific notation, such as 1.5E-07.
  *
- * Initially it shows 8 significant digits, its range is that of all finite doubles, and keyboard tracking is off: a
- * typed value counts from Return or loss of focus on, and until then the text stays as typed. Numbers are written and
- * read in US English, with `.` as decimal point and `,` between groups of digits, whatever locale the user works in;
- * for that the widget's own locale is US English as well and should stay so.
+ * Initially it shows 8 significant digits, and its range is that of all finite doubles. Keyboard tracking is off: a
+ * typed number becomes the value on Return or when the focus is lost, and until then the text stays as typed. Numbers
+ * are written and read in US English, with `.` as decimal point and `,` between groups of digits, independent of the
+ * user's locale. For this the locale of the widget is US English; do not change it.
  *
- * The line takes no character that cannot be part of such a number, with and without prefix and suffix. White space
- * around a number that is pasted is left out.
+ * The line edit rejects characters that cannot be part of such a number, with or without prefix and suffix. White space
+ * around a pasted number is removed.
  *
- * A typed number counts with all its digits, though no more than decimals() of them are shown from then on. Return in a
- * spin box in which nothing was typed takes the number as it is shown.
+ * A typed number keeps all its digits in the value, but after Return only decimals() of them are shown. If nothing was
+ * typed, Return sets the value to the number as it is shown.
  *
- * A step of any kind (arrow and page keys, wheel, the buttons, a call of stepBy()) fires signalIncrement or
- * signalDecrement once, whatever the number of steps, and leaves the value alone, as long as a slot is connected to
- * that signal. With no slot connected the value changes by the single step, however large or small it is itself. After
- * the step, and after the slots, the whole number is selected. Qt asks for no step where stepEnabled() says there is
- * none, as upwards at the maximum, so neither do the signals fire then.
+ * A step is a press of an arrow or page key, a turn of the wheel, a click on a button, or a call of stepBy(). If a
+ * slot is connected to the signal of that direction, signalIncrement or signalDecrement, the step fires this signal
+ * once, independent of the number of steps, and does not change the value. If no slot is connected, the value changes
+ * by the single step, independent of its own magnitude. After the step, and after the slots, the whole number is
+ * selected. Qt makes no step in a direction that stepEnabled() excludes, for instance upwards at the maximum. Then no
+ * signal fires either.
  *
- * Only whole notches of a wheel step. Parts of a notch, as touchpads and finely resolving wheels report them, add up
- * until they make a whole one; they are forgotten when the turn changes its direction, when the pointer leaves and when
- * the focus is lost. A turn sideways is no step. As in QSpinBox, up is what the system reports as up.
+ * The wheel steps by whole notches. Touchpads and high-resolution wheels report parts of a notch, which are added up to
+ * whole notches. The remaining part is dropped when the direction changes, when the pointer leaves, and when the focus
+ * is lost. Horizontal scrolling makes no step. As in QSpinBox, the direction is the one that the system reports.
  *
- * As the editor of a table cell, made by a delegate of Qt's, it stores what was typed on Return, on Tab and on a click
- * elsewhere: the property `value` gives the typed number before value() does.
+ * If a Qt delegate creates the spin box as the editor of a table cell, the typed number is stored on Return, on Tab and
+ * on a click elsewhere. This works because the property `value` returns the typed number before value() does.
  *
- * Initially all spin boxes of the process share one answer of the validation: that for the text validated last. The
- * text is remembered as it was interpreted: without white space around the number and without group separators where
- * the parser did not like them. The next spin box that validates exactly that text gets the same answer, whatever its
- * range: after a field from 0 to 10 has refused 50, a field from 0 to 100 refuses 50, too, and after `12,5` was typed
- * anywhere, 125 is refused. Any other text that is validated replaces the answer. Set ownValidation to keep a spin box
- * out of this; new forms should.
+ * Initially all spin boxes of the process share one cached validation result: the result for the text that was
+ * validated last. The cached text is the text as it was interpreted: without white space around the number, and without
+ * group separators if the parser rejected them. The next spin box that validates exactly that text uses the cached
+ * result, independent of its own range. For instance, after a field from 0 to 10 rejected 50, a field from 0 to 100
+ * rejects 50, too. After `12,5` was typed in any field, 125 is rejected. Any other validated text replaces the cached
+ * result. Set ownValidation to exclude a spin box from this cache; new forms should set it.
  *
- * What the base class makes of values set by program: an infinity becomes the limit on its side and NaN the maximum;
- * values are rounded to 323 digits behind the point, so that the smallest denormals lose digits or become 0.
+ * The base class changes some values that the program sets. An infinity becomes the limit on its side, and NaN becomes
+ * the maximum. Values are rounded to 323 digits after the decimal point, so the smallest denormals lose digits or
+ * become 0.
  *
  * @snippet 05-scientific-input/main.cpp number
  * @snippet 05-scientific-input/main.cpp steps
@@ -60,23 +62,26 @@ class QScientificSpinBoxPrivate;
 class MORVANE_UI_EXPORT QScientificSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT
-    /** The significant digits. The base class' property would set the number of digits that values are rounded to. */
+    /**
+     * The number of significant digits. The property of the base class would set the number of digits to which values
+     * are rounded.
+     */
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
     /**
-     * The value; read here, it is the number that Return would take, while typed text waits for Return. Delegates and
-     * QDataWidgetMapper store this property. Reading it changes nothing and emits nothing. Text that is not acceptable
-     * reads as what Return would make of it, which is value() unless the correction mode says otherwise.
-     * Connect to valueChanged() to be told; the property itself names no signal.
+     * The value. While typed text is not committed yet, reading this property returns the number that Return would set.
+     * Delegates and QDataWidgetMapper store this property. Reading it changes nothing and emits nothing. If the text is
+     * not acceptable, the result is the number that Return would correct it to; this is value(), unless the correction
+     * mode gives another number. The property has no notify signal; connect to valueChanged() instead.
      */
     Q_PROPERTY(double value READ enteredValue WRITE setValue USER true)
-    /** Whether the spin box validates by itself alone; off initially. */
+    /** Whether the spin box ignores the shared validation cache; false initially. */
     Q_PROPERTY(bool ownValidation READ hasOwnValidation WRITE setOwnValidation)
-    // Forms keep doubles with 15 digits behind the point, which makes 1E-18 a 0. Qt Designer edits the texts instead.
-    /** As QDoubleSpinBox has it, but not for Qt Designer. */
+    // Forms store doubles with 15 digits after the point, so 1E-18 becomes 0. Qt Designer edits the texts instead.
+    /** As in QDoubleSpinBox, but hidden in Qt Designer. */
     Q_PROPERTY(double minimum READ minimum WRITE setMinimum DESIGNABLE false)
-    /** As QDoubleSpinBox has it, but not for Qt Designer. */
+    /** As in QDoubleSpinBox, but hidden in Qt Designer. */
     Q_PROPERTY(double maximum READ maximum WRITE setMaximum DESIGNABLE false)
-    /** As QDoubleSpinBox has it, but not for Qt Designer. */
+    /** As in QDoubleSpinBox, but hidden in Qt Designer. */
     Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep DESIGNABLE false)
     /** The minimum as text, for Qt Designer. */
     Q_PROPERTY(QByteArray minimumText READ minimumText WRITE setMinimumText)
@@ -84,7 +89,7 @@ class MORVANE_UI_EXPORT QScientificSpinBox : public QDoubleSpinBox
     Q_PROPERTY(QByteArray maximumText READ maximumText WRITE setMaximumText)
     /** The single step as text, for Qt Designer. */
     Q_PROPERTY(QByteArray singleStepText READ singleStepText WRITE setSingleStepText)
-    /** The value as text, for Qt Designer; set after the range. */
+    /** The value as text, for Qt Designer; set it after the range. */
     Q_PROPERTY(QByteArray valueText READ valueText WRITE setValueText)
 
 public:
@@ -94,19 +99,21 @@ public:
     /** Disconnects every slot of signalDecrement, then of signalIncrement. */
     ~QScientificSpinBox() override;
 
-    /** The number of significant digits shown: 8 initially. Hides QDoubleSpinBox::decimals(), which stays at 323. */
+    /**
+     * The number of significant digits that are shown; 8 initially. Hides QDoubleSpinBox::decimals(), which stays 323.
+     */
     int decimals() const;
 
     /**
-     * Sets the number of significant digits shown to `digits`, or to 12 if that is less, and shows the value anew; the
-     * value itself keeps all its digits. 0 shows one digit, a negative number six.
+     * Sets the number of significant digits that are shown to `digits`, at most 12, and updates the text. The value
+     * keeps all its digits. 0 shows one digit; a negative number shows six.
      */
     void setDecimals(int digits);
 
     ///@{
     /**
-     * The same numbers for forms made with Qt Designer: the shortest text that means exactly the number, such as
-     * `8.8541878E-12`. A text that is not a finite number with `.` as decimal point changes nothing.
+     * The same numbers as text, for forms made with Qt Designer. A getter returns the shortest text that is exactly the
+     * number, such as `8.8541878E-12`. A setter ignores a text that is not a finite number with `.` as decimal point.
      */
     QByteArray minimumText() const;
     void setMinimumText(const QByteArray& number);
@@ -118,77 +125,78 @@ public:
     void setValueText(const QByteArray& number);
     ///@}
 
-    /** Whether the spin box neither asks nor gives the answer that the others share. */
+    /** Returns whether the spin box neither reads nor writes the shared validation cache. */
     bool hasOwnValidation() const;
 
     /**
-     * Has the spin box validate each text itself, or (`false`, as initially) use the answer that it shares with the
-     * others and leave its own there.
+     * True: the spin box validates each text itself. False, the initial state: it reads and writes the shared
+     * validation cache.
      *
-     * With its own validation, text with group separators where the parser does not like them, such as `12,5`, gives
-     * the old value back on Return; it is never read as 125.
+     * If it is true, a text with group separators that the parser rejects, such as `12,5`, is never read as 125. Return
+     * then restores the old value.
      */
     void setOwnValidation(bool own);
 
     /**
-     * `value` with decimals() significant digits, as printf's "%.*G" writes it in the C locale: trailing zeros are
-     * dropped, the exponent has two digits at least, and there is one only below 1E-04 and from ten to the power of
-     * decimals() on. No prefix or suffix.
+     * Returns `value` with decimals() significant digits, in the format of printf's "%.*G" in the C locale. Trailing
+     * zeros are dropped. The text has an exponent only if the absolute value, rounded to these digits, is below 1E-04,
+     * or at least ten to the power of decimals(). The exponent has at least two digits. The text has no prefix or
+     * suffix.
      */
     QString textFromValue(double value) const override;
 
     /**
-     * The number in `text`, which may have prefix and suffix. For a text that validate() does not call Acceptable it is
-     * the minimum if the maximum is above 0, else the maximum.
+     * Returns the number in `text`, which may have prefix and suffix. If validate() does not return Acceptable for the
+     * text, the result is the minimum if the maximum is above 0, otherwise the maximum.
      *
-     * For the text of any value in the range it gives that value rounded to the digits shown, unless rounding leads out
-     * of the range: 1.7976931348623157E+308 shown with three digits is no double any more.
+     * For the text of a value in the range it returns that value, rounded to the shown digits, unless the rounded value
+     * is out of the range. For instance, 1.7976931348623157E+308 rounded to three digits is too large for a double.
      */
     double valueFromText(const QString& text) const override;
 
     /**
-     * Whether `input` is a number in the range (Acceptable), may become one by further typing (Intermediate), or
-     * neither. Never changes `input`; takes from `pos` the number of characters that it skipped: white space at both
-     * ends, and group separators where the parser did not like them. White space may bring `pos` below 0.
+     * Returns Acceptable if `input` is a number in the range, Intermediate if it may become one by further typing,
+     * otherwise Invalid. Never changes `input`. Subtracts from `pos` the number of skipped characters: white space at
+     * both ends, and group separators that the parser rejected. White space may make `pos` negative.
      *
-     * Oddities to know: a number outside the range may pass as Intermediate without chance to become valid, when the
-     * range is too wide to be searched, or when its integer part is 0 and left out. Numbers and limits beyond 64 bits
-     * count as 0 in that search. Without ownValidation the answer may be the one that the spin boxes share; `pos` is
-     * left alone then. A text that is empty is always read anew.
+     * Special cases: a number outside the range may be Intermediate although it cannot become valid. This happens if
+     * the range is too wide to be searched, or if the integer part of the number is 0 and omitted. Numbers and limits
+     * beyond 64 bits count as 0 in that search. Without ownValidation the result may come from the shared cache; then
+     * `pos` does not change. An empty text is never taken from the cache.
      */
     QValidator::State validate(QString& input, int& pos) const override;
 
-    /** As QDoubleSpinBox has it; with ownValidation it leaves `input` alone. */
+    /** As in QDoubleSpinBox; with ownValidation it does not change `input`. */
     void fixup(QString& input) const override;
 
     /**
-     * Steps up for `steps` above 0, else down; 0 is a step down, too.
+     * Steps up if `steps` is above 0, otherwise down; 0 is a step down, too.
      *
-     * Fires the signal of that direction if it has a slot. Otherwise sets the value to `value() + singleStep() *
-     * steps`, which setValue() then brings into the range. Text that was typed but not committed yet is given up.
-     * In the end selectAll().
+     * Fires the signal of that direction if it has a slot. Otherwise calls setValue() with `value() + singleStep() *
+     * steps`; setValue() limits it to the range and replaces typed text that is not committed yet. Finally calls
+     * selectAll().
      *
-     * A slot may change the value or the range and may connect and disconnect slots, itself included. What it throws
-     * reaches the caller of stepBy() and leaves the spin box as it is; Qt's event loop takes no exceptions. To get rid
-     * of the spin box, a slot uses deleteLater().
+     * A slot may change the value or the range, and may connect and disconnect slots, including itself. An exception of
+     * a slot passes to the caller of stepBy(), and the spin box stays as it is; no exception may reach Qt's event loop.
+     * To delete the spin box, a slot calls deleteLater().
      */
     void stepBy(int steps) override;
 
-    boost::signals2::signal<void()> signalIncrement; ///< a step up that is left to the host
-    boost::signals2::signal<void()> signalDecrement; ///< a step down, or by nothing, that is left to the host
+    boost::signals2::signal<void()> signalIncrement; ///< a step up that the host handles
+    boost::signals2::signal<void()> signalDecrement; ///< a step down, or by 0, that the host handles
 
 protected:
-    /** Forgets the part of a notch that is left over when the focus or the pointer leaves. */
+    /** Drops the remaining part of a notch when the focus is lost or the pointer leaves. */
     bool event(QEvent* event) override;
-    /** Steps by whole notches; parts of them add up. */
+    /** Steps by whole notches; adds up parts of notches. */
     void wheelEvent(QWheelEvent* event) override;
 
 private:
     double enteredValue() const;
 
-    /** For code that wraps signalIncrement, to tell that a slot was connected; does nothing here. */
+    /** Does nothing here. Code that wraps signalIncrement may call it when a slot was connected. */
     virtual void signalIncrementConnected() const;
-    /** For code that wraps signalDecrement, to tell that a slot was connected; does nothing here. */
+    /** Does nothing here. Code that wraps signalDecrement may call it when a slot was connected. */
     virtual void signalDecrementConnected() const;
 
     std::unique_ptr<QScientificSpinBoxPrivate> m_private;

@@ -5,8 +5,8 @@
 namespace morvane {
 
 /**
- * Plain English questions that name the file, as it stands and untranslated. What the save flow uses when it is given
- * no other handler.
+ * English questions that contain the file name unchanged. They are not translated. The save flow uses this handler if
+ * it receives no other one.
  *
  * @snippet 14-save-in-your-words/main.cpp handler
  */
@@ -21,7 +21,7 @@ public:
     ///@}
     ~DefaultSaveFileMessageHandler() override;
 
-    /** Remembers the name for the texts of the other operations, and returns it. */
+    /** Stores the name for the texts of the other operations, and returns it. */
     std::string filenameToCheck(const std::string& filename) override;
     std::string okToOverwriteMessage() override;
     std::string unableToOverwriteMessage() override;

@@ -18,31 +18,31 @@ struct ParentlessFileDialog;
 }
 
 /**
- * The file dialog that a host holds: the native one (ExtendedWinFileDialog) or the one made of Qt's widgets
- * (QExtendedFileDialog), whichever the process-wide switch says at construction, behind one interface.
+ * One interface for the native file dialog (ExtendedWinFileDialog) and the file dialog made of Qt widgets
+ * (QExtendedFileDialog). The constructor reads the process-wide switch and creates one of the two.
  *
  * @snippet 12-native-or-qt/main.cpp dialog
  *
- * The parent may be destroyed at any time, also while exec() runs, which then returns QDialog::Rejected. The Qt dialog
- * goes with it: from then on every operation does nothing and gives nothing.
+ * The parent may be destroyed at any time, also while exec() runs; exec() then returns QDialog::Rejected. The Qt dialog
+ * is destroyed with the parent. After that, every operation of this object does nothing and returns an empty result.
  *
- * Made for one use: construct, configure, run, read, destroy. Exceptions of the chosen dialog pass through. GUI thread
- * only.
+ * Use it once: construct it, configure it, run it, read the results, destroy it. Exceptions of the created dialog pass
+ * to the caller. GUI thread only.
  */
 class MORVANE_UI_EXPORT ExtendedFileDialog
 {
 public:
-    /** Whether dialogs made from now on are native; initially true. */
+    /** Returns whether new dialogs are native; initially true. */
     static bool useNativeFileDialog();
-    /** Sets the switch. Dialogs that exist keep what they are. */
+    /** Sets the switch. Existing dialogs do not change. */
     static void setUseNativeFileDialog(bool on);
 
     /**
-     * @param parent     the dialog is modal to its window
+     * @param parent     the dialog is modal to the window of this widget
      * @param caption    window title, UTF-8
-     * @param directory  start directory, UTF-8; empty: left to the dialog
+     * @param directory  start directory, UTF-8; empty: the dialog chooses
      * @param filter     name filters such as `Images (*.png *.jpg)`, joined by `;;`, UTF-8
-     * @param helpTopic  adds a Help button that hands it to morvane::HelpLauncher; empty for none
+     * @param helpTopic  adds a Help button that passes this topic to morvane::HelpLauncher; empty: no button
      * @param acceptMode open or save
      */
     ExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
@@ -51,42 +51,44 @@ public:
     ExtendedFileDialog(const ExtendedFileDialog&) = delete;
     ExtendedFileDialog& operator=(const ExtendedFileDialog&) = delete;
 
-    /** Runs the dialog modally; QDialog::Accepted or QDialog::Rejected. */
+    /** Runs the dialog modally. Returns QDialog::Accepted or QDialog::Rejected. */
     int exec();
 
     /**
-     * Puts a file, or a list of files in double quotes with blanks in between, into the name field; the native dialog
-     * takes the last component of each only.
+     * Sets the text of the name field to a file, or to a list of files in double quotes, separated by blanks. The
+     * native dialog uses only the last component of each path.
      */
     void selectFile(const QString& file);
-    /** The chosen paths after an accepted exec(), in the form of the dialog (native paths on the native one). */
+    /** Returns the chosen paths after exec() returned Accepted. The native dialog returns native paths. */
     QStringList selectedFiles();
-    /** What is asked for: a file that exists, several of them, any name, or a directory. */
+    /** Sets what the user may choose: an existing file, several existing files, any name, or a directory. */
     void setFileMode(QFileDialog::FileMode mode);
-    /** The directory that the dialog shows, or showed last. Before the first run the one to start in. */
+    /** Returns the directory that the dialog shows, or showed last. Before the first run it is the start directory. */
     QDir directory();
-    /** Sets the directory to start in. */
+    /** Sets the start directory. */
     void setDirectory(const QString& directory);
     /**
-     * Chooses a filter by its exact text. For a text that is not in the list the Qt dialog keeps the chosen one; the
-     * native dialog chooses none, and opens with the first.
+     * Chooses a filter by its exact text. If the text is not in the list, the Qt dialog keeps the chosen filter; the
+     * native dialog chooses none and opens with the first one.
      */
     void selectNameFilter(const QString& filter);
-    /** The name filters, one an entry. */
+    /** Returns the name filters, one for each entry. */
     QStringList nameFilters();
     /** Replaces the name filters. */
     void setNameFilters(const QStringList& filters);
-    /** The text of the chosen filter; empty when none is chosen. */
+    /** Returns the text of the chosen filter; empty if none is chosen. */
     QString selectedNameFilter();
-    /** Whether saving over an existing file goes without the dialog's own question. */
+    /** If true, the dialog does not ask before it accepts an existing file for saving. */
     void setDontConfirmOverwrite(bool on);
-    /** Whether the Qt dialog lists directories only; the native dialog ignores it. */
+    /** If true, the Qt dialog lists only directories. The native dialog ignores it. */
     void setShowDirectoriesOnly(bool on);
 
 private:
     friend struct morvane::ui::ParentlessFileDialog;
 
-    /** The position of the chosen filter in the host's list, of equal ones the first; -1 without. */
+    /**
+     * The position of the chosen filter in the host's list; the first one among equal filters; -1 if none is chosen.
+     */
     int chosenFilter();
 
     // For callers that may have no parent.

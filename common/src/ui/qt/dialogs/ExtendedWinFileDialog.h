@@ -18,48 +18,51 @@
 class QWidget;
 
 /**
- * The platform's own file dialog behind an interface shaped like that of QFileDialog, with what the Qt dialog cannot
- * do: push buttons and check boxes of the host inside the dialog, and a menu of options on the accept button.
+ * The platform's own file dialog, with an interface like that of QFileDialog. It has features that the Qt dialog does
+ * not have: the host can add push buttons and check boxes to the dialog, and a menu of options to the accept button.
  *
- * On Windows this is the Shell's common item dialog. Elsewhere the same interface is served by Qt's dialog, controls
- * included. There a wildcard that the user types filters what is listed and is never returned; where no controls were
- * added, the desktop's own dialog may appear and does it its own way.
+ * On Windows this is the Shell's common item dialog. On other platforms a Qt dialog implements the same interface,
+ * including the controls. In this Qt dialog, a wildcard that the user types filters the list and is never returned. If
+ * no controls were added, the desktop's own dialog may be shown instead; it handles wildcards in its own way.
  *
- * Make it, configure it, run it with exec() one or more times, read it, destroy it. Settings reach the dialog at the
- * first exec(); controls and accept options reach it at once and may be added between runs. Between runs the dialog
- * keeps the folder and the file type as the user left them, and a save dialog the accepted name as it was typed.
+ * Construct it, configure it, run it with exec() one or more times, read the results, destroy it. The settings are
+ * applied at the first exec(). Controls and accept options are applied at once, and may be added between runs. Between
+ * runs the dialog keeps the folder and the file type that the user left. A save dialog also keeps the accepted name as
+ * it was typed.
  *
- * All `std::string` arguments are UTF-8. A name filter is a description, one blank, and blank-separated patterns in
- * parentheses, `Images (*.png *.jpg)`; several are joined by `;;`.
+ * All `std::string` arguments are UTF-8. A name filter is a description, one blank, and patterns in parentheses that
+ * are separated by blanks: `Images (*.png *.jpg)`. Several name filters are joined by `;;`.
  *
- * In a save dialog, choosing another file type gives the typed name the extension of that type, or none when its first
- * pattern is not of the form `*.extension`. A type whose extension is a wildcard, `All files (*.*)`, leaves the name
- * alone. Give each type of a save dialog one pattern: of several, everything after the first `*.` becomes the
- * extension, as in `image.png *.jpg`. A list of names in quotes is never changed. Opening the dialog chooses no type: a
- * name that has an extension stays as it is, and one that has none gets that of a type with one pattern, the first
- * time.
+ * If the user of a save dialog chooses another file type, the typed name gets the extension of that type. It gets no
+ * extension if the first pattern of the type is not of the form `*.extension`. A type whose extension is a wildcard,
+ * `All files (*.*)`, does not change the name. A list of names in quotes is never changed. Each type of a save dialog
+ * should have only one pattern: if it has several, everything after the first `*.` becomes the extension, as in
+ * `image.png *.jpg`.
+ *
+ * When a save dialog opens for the first time, a name without an extension gets the extension of the chosen type, if
+ * this type has one pattern. A name with an extension does not change when the dialog opens.
  *
  * @snippet 02-native-controls/main.cpp dialog
  *
- * Failures of the platform are not reported. When it cannot make a dialog at all, every operation is safe, exec()
- * returns `Rejected` and selectedFiles() is empty.
+ * Failures of the platform are not reported. If it cannot create the dialog, every operation is still safe: exec()
+ * returns `Rejected`, and selectedFiles() is empty.
  *
- * GUI thread only; the constructor joins it to a single-threaded COM apartment, and leaves it again when it throws; the
- * destructor leaves it. Callbacks run nested in exec(). The object must not be destroyed while exec() runs; its parent
- * may be.
+ * GUI thread only. The constructor joins the thread to a single-threaded COM apartment; the destructor leaves the
+ * apartment, and so does a constructor that throws. Callbacks run nested in exec(). The object must not be destroyed
+ * while exec() runs; its parent may be destroyed then.
  */
 class MORVANE_UI_EXPORT ExtendedWinFileDialog
 {
 public:
     /**
-     * @param parent        the dialog is modal to its window
+     * @param parent        the dialog is modal to the window of this widget
      * @param caption       window title; may be empty
-     * @param directory     start folder; for an existing file its folder; empty or missing: the platform chooses, and
-     *                      elsewhere than on Windows that is the process's current directory
-     * @param filter        name filters joined by `;;`; empty for none
-     * @param helpTopic     adds a button "&Help" that hands it to morvane::HelpLauncher; empty for no button
+     * @param directory     start folder; if it is an existing file, the folder of that file. If it is empty or does
+     *                      not exist, the platform chooses; except on Windows this is the process's current directory.
+     * @param filter        name filters joined by `;;`; empty: no file types
+     * @param helpTopic     adds a button "&Help" that passes this topic to morvane::HelpLauncher; empty: no button
      * @param acceptMode    open or save
-     * @param useAcceptMenu whether the accept button carries a menu, see addAcceptButtonOption()
+     * @param useAcceptMenu whether the accept button has a menu, see addAcceptButtonOption()
      */
     ExtendedWinFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
         const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode,
@@ -69,103 +72,112 @@ public:
     ExtendedWinFileDialog& operator=(const ExtendedWinFileDialog&) = delete;
 
     /**
-     * Runs the dialog modally. `Accepted` when the user accepted or close() was called, `Rejected` on cancel, on every
-     * failure, when the parent is destroyed meanwhile, and at once when the dialog is already running.
+     * Runs the dialog modally. Returns `Accepted` if the user accepted or close() was called. Returns `Rejected` if the
+     * user cancelled, after every failure, if the parent is destroyed meanwhile, and at once if the dialog is already
+     * running.
      *
-     * An exception thrown by an action or by an observer passes through where the platform lets it.
+     * An exception of an action or an observer passes to the caller if the platform allows it.
      */
     QDialog::DialogCode exec();
 
     /**
-     * Puts the last component of @p file into the name field; the folder part is dropped. @p file may be a list of
-     * paths in double quotes with blanks in between, `"/x/a.dat" "/x/b.dat"`: each is reduced to its last component and
-     * stays in quotes, and one alone stands without them.
+     * Sets the text of the name field to the last component of @p file, without the folder. @p file may be a list of
+     * paths in double quotes, separated by blanks: `"/x/a.dat" "/x/b.dat"`. Each path is reduced to its last component
+     * and stays in quotes. A list with only one path becomes a name without quotes.
      */
     void selectFile(const QString& file);
     /**
-     * The chosen paths in the platform's form, after an exec() that the user accepted; none when close() ended it.
-     * Otherwise whatever the platform reports. Several under `ExistingFiles`; a save dialog gives several where the
-     * platform takes several names there, and else the one that was chosen.
+     * After an exec() that the user accepted: returns the chosen paths in the platform's form. After close() ended the
+     * dialog: returns an empty list. Otherwise: returns what the platform reports. With `ExistingFiles` there may be
+     * several paths. In a save dialog there may be several only if the platform accepts several names there; otherwise
+     * there is one.
      */
     QStringList selectedFiles();
 
-    /** What is asked for; initially `AnyFile`. `Directory` picks a folder; `DirectoryOnly` counts as `AnyFile`. */
+    /**
+     * Sets what the user may choose; initially `AnyFile`. With `Directory` the user picks a folder. `DirectoryOnly` is
+     * treated as `AnyFile`.
+     */
     void setFileMode(QFileDialog::FileMode mode);
 
     /**
-     * The folder that was set, and, once the dialog has run, the one that it was left in. `.` when none was set and it
-     * has not run.
+     * Returns the folder that was set; after a run, the folder that the dialog showed last. Returns `.` if no folder
+     * was set and the dialog has not run.
      */
     QDir directory();
-    /** Takes the text as it is, without looking whether the directory exists. */
+    /** Sets the start folder. Does not check whether it exists. */
     void setDirectory(const QString& dir);
 
     /**
-     * Chooses the file type with exactly this text. A text that is not in the list chooses none; the dialog then opens
-     * with the first type, and that one is the chosen one from then on.
+     * Chooses the file type with exactly this text. If the text is not in the list, no type is chosen; the dialog then
+     * opens with the first type, which is the chosen one from then on.
      */
     void selectNameFilter(const QString& filter);
-    /** The file types, one an entry. */
+    /** Returns the file types, one for each entry. */
     QStringList nameFilters();
-    /** Replaces the filters, taken as they are. */
+    /** Replaces the filters. The texts are used unchanged. */
     void setNameFilters(const QStringList& filters);
-    /** The text of the chosen file type; empty when none is chosen. */
+    /** Returns the text of the chosen file type; empty if none is chosen. */
     QString selectedNameFilter();
 
     /**
      * Adds a push button.
-     * @param text   its label; `&` marks the key that reaches it
-     * @param action runs at each click, while the dialog is open; it may call close(). An empty function throws
-     *        boost::bad_function_call when the button is clicked.
-     * @return a stand-in for the button, see below
+     * @param text   label; `&` marks the mnemonic key
+     * @param action called at each click, while the dialog is open; may call close(). If it is empty, a click throws
+     *        boost::bad_function_call.
+     * @return a proxy widget for the button, see below
      *
-     * The widget that this and the next two operations return shows nothing itself. Call show(), hide(), setVisible(),
-     * setEnabled() and setDisabled() on it, before or while the dialog runs, and the control follows. It belongs to
-     * this object and lives as long, or until clearAcceptMenuOptions() for an accept option; never delete it.
+     * This function and the next two return a proxy widget, which is never shown itself. Call show(), hide(),
+     * setVisible(), setEnabled() and setDisabled() on it, before or while the dialog runs; the control changes
+     * accordingly. This object owns the proxy widget, so do not delete it. It exists as long as this object; for an
+     * accept option, at most until clearAcceptMenuOptions().
      */
     QWidget* addCustomButton(const std::string& text, boost::function<void()> action);
     /**
      * Adds a check box.
-     * @param text    its label; `&` marks the key that reaches it
-     * @param checked gives the box its first state and is set at each toggle. Null shares no state; the box then starts
-     *                unchecked.
-     * @return a stand-in for the check box, see addCustomButton()
+     * @param text    label; `&` marks the mnemonic key
+     * @param checked has the initial state of the box, and is set when the user toggles the box. Null: no state is
+     *                shared, and the box is unchecked initially.
+     * @return a proxy widget for the check box, see addCustomButton()
      */
     QWidget* addCustomCheckBox(const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked);
     /**
-     * Adds an entry to the menu of the accept button; needs `useAcceptMenu`. The button itself takes on the text of the
-     * first entry, and stands for it.
-     * @param text  its label
-     * @param value what selectedAcceptMenuOption() reports once the user accepted with this entry
-     * @return a stand-in for the entry, see addCustomButton()
+     * Adds an entry to the menu of the accept button; needs `useAcceptMenu`. The accept button shows the text of the
+     * first entry; a click on the button selects this entry.
+     * @param text  label
+     * @param value what selectedAcceptMenuOption() returns after the user accepted with this entry
+     * @return a proxy widget for the entry, see addCustomButton()
      */
     QWidget* addAcceptButtonOption(const std::string& text, int value);
-    /** Removes all entries of the menu, and destroys their stand-ins. */
+    /** Removes all entries of the menu and destroys their proxy widgets. */
     void clearAcceptMenuOptions();
     /**
-     * The value of the entry that was selected when the last run ended, also by Cancel. 255 before the first run. Where
-     * the user picked no entry it is the first that is visible and enabled, whose text the accept button carries.
+     * Returns the value of the entry that was selected when the last run ended, also by Cancel. 255 before the first
+     * run. If the user picked no entry, it is the first visible and enabled entry, whose text the accept button shows.
      */
     int selectedAcceptMenuOption() const;
 
     /**
-     * The chosen file type, counted from 1; 0 stands for none. It follows the user while the dialog runs; setting it
-     * before the first exec() chooses the type. Never null.
+     * The chosen file type, counted from 1; 0 means none. It is updated while the dialog runs, when the user chooses a
+     * type. Set it before the first exec() to choose the type. Never null.
      */
     boost::shared_ptr<morvane::PropertyAbstract<int>> currentFilterIndex();
 
-    /** Whether saving over an existing file goes without the platform's question. */
+    /** If true, the platform does not ask before it accepts an existing file for saving. */
     void setDontConfirmOverwrite(bool on);
-    /** Has no effect: folders are picked by setFileMode(QFileDialog::Directory). Here because the Qt dialog has it. */
+    /**
+     * Has no effect. It exists because the Qt dialog has it. Use setFileMode(QFileDialog::Directory) to let the user
+     * pick a folder.
+     */
     void setShowDirectoriesOnly(bool on);
 
-    /** The widget given to the constructor; null once it was destroyed. */
+    /** Returns the widget that was passed to the constructor; null after it was destroyed. */
     QWidget* parent();
 
     /**
-     * Ends a running dialog; for actions and observers. exec() then returns `Accepted`, but nothing was chosen:
-     * whatever is selected or typed, selectedFiles() is empty. directory(), currentFilterIndex() and
-     * selectedAcceptMenuOption() tell how the dialog was left. Does nothing when no dialog is open.
+     * Closes a running dialog; actions and observers may call it. exec() then returns `Accepted`, but nothing was
+     * chosen: selectedFiles() is empty, even if something was selected or typed. directory(), currentFilterIndex() and
+     * selectedAcceptMenuOption() return the state in which the dialog was closed. Does nothing if no dialog is open.
      */
     void close();
 

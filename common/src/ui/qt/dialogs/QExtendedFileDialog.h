@@ -15,21 +15,21 @@ class QFileSystemModel;
 class QLineEdit;
 
 /**
- * A QFileDialog that always shows Qt's own widgets and adds what engineers miss in it:
+ * A QFileDialog that always uses Qt's own widgets and has these additions:
  *
- * - its size and position are kept in morvane::ApplicationSettings, under a key;
- * - the sidebar gets the desktop, documents and home folders while nothing is stored under the key, and it and the
- *   columns open as wide as what they hold;
- * - a Help button opens a topic through morvane::HelpLauncher;
- * - exec() shows an arrow cursor, and above it a wait cursor while a folder is being read. Override cursors of the host
- *   stay on the stack, below and above;
- * - a wildcard typed as the file name (`*.dat`) filters the view in place instead of being taken as a name. Press Enter
- *   for it: where the file must exist, the button for opening stays disabled. A `*` alone makes a wildcard, a `?` does
- *   not;
- * - the list of types is not shown where directories are picked.
+ * - Its size and position are stored in morvane::ApplicationSettings, under a key.
+ * - While nothing is stored under the key, the desktop, documents and home folders are added to the sidebar, and the
+ *   sidebar and the columns open as wide as their contents.
+ * - A Help button opens a topic through morvane::HelpLauncher.
+ * - exec() shows an arrow cursor, and a wait cursor while a folder is being read. Override cursors of the host stay on
+ *   the stack, whether they are below or above these.
+ * - If the user types a wildcard as the file name (`*.dat`) and presses Enter, it filters the view and is not used as a
+ *   name. Where the file must exist, the Open button is disabled for a wildcard. A text is a wildcard if it contains
+ *   `*`; `?` has no special meaning.
+ * - The list of file types is hidden if the user picks directories.
  *
- * All `std::string` arguments are UTF-8. A name filter is a description, one blank, and blank-separated patterns in
- * parentheses, `Images (*.png *.jpg)`; several are joined by `;;`.
+ * All `std::string` arguments are UTF-8. A name filter is a description, one blank, and patterns in parentheses that
+ * are separated by blanks: `Images (*.png *.jpg)`. Several name filters are joined by `;;`.
  *
  * @snippet 13-qt-file-dialog/main.cpp dialog
  *
@@ -41,67 +41,71 @@ class MORVANE_UI_EXPORT QExtendedFileDialog : public QFileDialog
 
 public:
     /**
-     * @param parent     owner of the dialog and the window it is modal to
-     * @param caption    window title; empty for Qt's own
-     * @param directory  start directory, or a file to start at. Empty for the directory that a file dialog of Qt has
-     *                   visited last in this process; before the first one, for the process's current directory.
-     * @param filter     name filters joined by `;;`; empty for "All Files (*)"
-     * @param helpTopic  handed to the help launcher; empty for a dialog without Help button
-     * @param acceptMode opening starts with the file mode `ExistingFile`, saving with `AnyFile`; setFileMode() changes
-     * it
+     * @param parent     owner of the dialog; the dialog is modal to its window
+     * @param caption    window title; empty: Qt's default title
+     * @param directory  start directory, or a file that is initially selected. Empty: the directory that a Qt file
+     *                   dialog visited last in this process; if there was none, the process's current directory.
+     * @param filter     name filters joined by `;;`; empty: "All Files (*)"
+     * @param helpTopic  passed to the help launcher; empty: no Help button
+     * @param acceptMode open or save. The initial file mode is `ExistingFile` for open and `AnyFile` for save;
+     * setFileMode() changes it.
      *
-     * The geometry is kept under the settings key "QExtendedFileDialog/Geometry_v2".
+     * The geometry is stored under the settings key "QExtendedFileDialog/Geometry_v2".
      */
     QExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
         const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode);
 
-    /** No caption, directory, filter or help; the geometry is kept under the empty key. */
+    /** Without caption, directory, filter and help topic. The geometry is stored under the empty key. */
     QExtendedFileDialog(QWidget& parent, QFileDialog::AcceptMode acceptMode);
 
-    /** Takes off the wait cursor, if this dialog has set one. */
+    /** Removes the wait cursor if this dialog has set one. */
     ~QExtendedFileDialog() override;
 
-    /** Sets the settings key of the geometry, used as it stands. Any text will do, the empty one included. */
+    /**
+     * Sets the settings key of the geometry. The key is used unchanged. Any text is allowed, including the empty text.
+     */
     void setGeometryPersistenceKey(std::string key);
 
     /**
-     * Sets the size, in device-independent pixels, that the dialog opens with while no geometry is stored.
-     * A size with a side below 1 has no effect.
+     * Sets the initial size of the dialog, in device-independent pixels. It is used while no geometry is stored. A size
+     * whose width or height is below 1 has no effect.
      */
     void setDefaultSize(QSize size);
 
     /**
-     * Whether accepting runs Qt's checks (does the file exist, may it be replaced); true initially. Without them Enter
-     * in the name field closes the dialog with whatever stands there, except a wildcard.
+     * Sets whether accepting runs Qt's checks: does the file exist, may it be replaced. True initially. Without the
+     * checks, Enter in the name field closes the dialog with any text in the field, except a wildcard.
      */
     void performSelectedFileValidation(bool validate);
 
-    /** Whether saving over an existing file goes without Qt's question. */
+    /** If true, Qt does not ask before it accepts an existing file for saving. */
     void setDontConfirmOverwrite(bool on);
 
-    /** Whether only directories are listed; meant for the file mode `Directory`. */
+    /** If true, only directories are listed; intended for the file mode `Directory`. */
     void setShowDirectoriesOnly(bool on);
 
 public Q_SLOTS:
     /**
-     * Shows the dialog without waiting for it: restores the stored geometry, shows, and stores the geometry at once.
-     * Hides QWidget::show(), which is not virtual; a call through a base class pointer does none of this but showing.
+     * Shows the dialog and returns at once. Restores the stored geometry, shows the dialog, and then stores the
+     * geometry. Hides QWidget::show(), which is not virtual: a call through a base class pointer only shows the dialog.
      */
     void show();
 
     /**
-     * Runs the dialog modally and returns QDialog::Accepted or QDialog::Rejected.
+     * Runs the dialog modally. Returns QDialog::Accepted or QDialog::Rejected.
      *
-     * Restores the stored geometry before and stores it after. The name filters that a typed wildcard had changed in an
-     * earlier run are the caller's own again. When the dialog is destroyed while it runs, as with its parent, the
-     * result is QDialog::Rejected and nothing is stored. In any case the host's override cursors are what they were.
+     * Restores the stored geometry before the run and stores the geometry after it. Name filters that were changed by a
+     * typed wildcard in an earlier run are restored first. If the dialog is destroyed while it runs, for instance with
+     * its parent, the result is QDialog::Rejected and nothing is stored. The host's override cursors are the same
+     * before and after the call, in every case.
      */
     int exec() override;
 
 protected Q_SLOTS:
     /**
-     * Closes the dialog, unless the name field holds a `*`: then the current name filter takes the text as its pattern,
-     * until another filter is picked. Reached by the accept button while it is enabled, and by Enter in the name field.
+     * Closes the dialog, unless the text of the name field contains `*`. In that case the text becomes the pattern of
+     * the current name filter, until another filter is picked. Called by the accept button while it is enabled, and by
+     * Enter in the name field.
      */
     void accept() override;
 

@@ -12,23 +12,30 @@ class SaveFileQtDialog;
 class SaveFileWinDialog;
 
 /**
- * Asks the user for a name to save to, and returns only one that may be overwritten and really can be written.
+ * Asks the user for a file name for saving. Returns only a name that may be overwritten and that can really be written.
  *
- * Runs on the native dialog or the Qt dialog, as ExtendedFileDialog::useNativeFileDialog() says at construction. After
- * each accepted dialog the name gets the extension of the chosen filter, if it has none; when something of that name
- * exists, the user is asked whether to replace it; then writing there is tried for real, and where that fails the user
- * may choose another place. The texts of the questions come from a message handler. When the dialog is shown again,
- * name, type and folder are as the user left them.
+ * Uses the native dialog or the Qt dialog; the constructor reads ExtendedFileDialog::useNativeFileDialog(). After the
+ * user accepts the dialog, the flow has these steps:
  *
- * The extension is what follows the last dot of the filter: `.dat` for `Data (*.dat)`, `.lay` for
- * `Layouts (*.plt *.lay)`, and `.Allfiles` for `All files (*)`, which has no dot. A name gets no extension
+ * - If the name has no extension, it gets the extension of the chosen filter.
+ * - If something with this name exists, the user is asked whether to replace it. Without a Yes, the dialog is shown
+ *   again.
+ * - The flow tests whether the file can really be written. If not, the user is asked whether to choose another
+ *   location.
  *
- * - when it holds a dot, other than as its last character: `report.txt` stays as it is with `Data (*.dat)`;
- * - when the name of one of its folders holds a dot: `report` stays as it is in `release1.2`;
- * - when the filter is empty: the name is the one that was typed.
+ * A message handler provides the texts of the questions. When the dialog is shown again, name, type and folder are as
+ * the user left them.
  *
- * A wildcard that the user types as the name (`*.log`) filters what is listed. It changes neither the chosen filter nor
- * the extension.
+ * The extension is the text after the last dot of the filter: `.dat` for `Data (*.dat)`, `.lay` for
+ * `Layouts (*.plt *.lay)`, and `.Allfiles` for `All files (*)`, which has no dot. A name gets no extension in these
+ * cases:
+ *
+ * - The name contains a dot that is not its last character: `report.txt` does not change with `Data (*.dat)`.
+ * - The name of one of its folders contains a dot: `report` does not change in `release1.2`.
+ * - The filter is empty: the typed name does not change.
+ *
+ * If the user types a wildcard as the name (`*.log`), it filters the list. It changes neither the chosen filter nor the
+ * extension.
  *
  * @snippet 04-save-a-report/main.cpp flow
  *
@@ -39,19 +46,21 @@ class MORVANE_UI_EXPORT SaveFileDialog
 public:
     ///@{
     /**
-     * Makes the dialog that the switch says; nothing is shown yet.
+     * Creates the dialog that the switch selects. It is not shown yet.
      *
-     * - `parent` owns the dialog's widgets, which live until it is destroyed. Null: a dialog without parent.
+     * - `parent` owns the dialog's widgets, which exist until it is destroyed. Null: the dialog has no parent; the Qt
+     *   dialog is then deleted with this object.
      * - `caption` is the title of the dialog and of the questions.
-     * - `directory` is where the dialog starts. Empty: left to the dialog.
-     * - `filename` is the name to start with; may be empty.
-     * - `filter` holds name filters such as `Data (*.dat)`, joined by `;;`. Empty: every file is listed, and no name
+     * - `directory` is the start directory. Empty: the dialog chooses.
+     * - `filename` is the initial name; may be empty.
+     * - `filter` has the name filters, such as `Data (*.dat)`, joined by `;;`. Empty: all files are listed, and no name
      *   gets an extension.
-     * - `writerFilters` has one name filter for each way of writing the file, instead of `filter`.
-     * - `selectedWriterIndex` is the position in `writerFilters` of the one to start with, of equal ones the first;
-     *   outside of the list it is the first one. Blanks in the texts do not matter.
-     * - `helpTopic` adds a Help button that hands it to morvane::HelpLauncher. Empty: no button.
-     * - `handler` words the questions and is taken over. Null or left out: morvane::DefaultSaveFileMessageHandler.
+     * - `writerFilters` replaces `filter`: it has one name filter for each file format.
+     * - `selectedWriterIndex` is the position of the initial filter in `writerFilters`. Among equal filters it selects
+     *   the first one. Out of range: the first filter. Differences in blanks are ignored.
+     * - `helpTopic` adds a Help button that passes this topic to morvane::HelpLauncher. Empty: no button.
+     * - `handler` provides the texts of the questions. This object takes ownership. Null or omitted:
+     *   morvane::DefaultSaveFileMessageHandler.
      */
     SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filename, const std::string& filter, const std::string& helpTopic);
@@ -70,25 +79,28 @@ public:
     SaveFileDialog& operator=(const SaveFileDialog&) = delete;
 
     /**
-     * Runs the flow until a name is found or the user gives up; may be called again.
-     * @return whether there is a name to write to. False when the dialog is cancelled, when the user does not want
-     * another place for one that cannot be written, and when the parent or this object is destroyed meanwhile, also by
-     * the message handler; nothing more is asked then.
-     * @throws what the message handler throws
+     * Runs the flow until a name is found or the user gives up. May be called again.
+     * @return whether there is a name to write to. False if the user cancels the dialog, or does not want another
+     * location for a file that cannot be written. Also false if the parent or this object is destroyed meanwhile, for
+     * instance by the message handler; then no more questions are asked.
+     * @throws any exception that the message handler throws
      */
     virtual bool launch();
 
-    /** The name of the last accepted dialog, its extension applied; empty before. The one to write to after launch().
+    /**
+     * Returns the name from the last accepted dialog, with its extension; empty before that. After launch() returned
+     * true, write to this name.
      */
     std::string selectedFilename();
     /**
-     * The text of the chosen filter as the dialog has it. The Qt dialog simplifies blanks, shows a typed wildcard in
-     * the place of the patterns, and has "All Files (*)" where no filter was given; the native dialog has none then.
+     * Returns the text of the chosen filter as the dialog has it. The Qt dialog simplifies blanks and replaces the
+     * patterns by a typed wildcard. If no filter was passed, the Qt dialog returns "All Files (*)", and the native
+     * dialog returns an empty text.
      */
     std::string selectedFilter();
     /**
-     * The position of the chosen filter among those given, of equal ones the first; -1 when it is not among them.
-     * Where no filter was given, 0 on the Qt dialog and -1 on the native one.
+     * Returns the position of the chosen filter in the passed filters; the first one among equal filters; -1 if it is
+     * not among them. If no filter was passed, the result is 0 with the Qt dialog and -1 with the native dialog.
      */
     int selectedWriter() const;
 

@@ -13,9 +13,10 @@ class QExtendedFileDialog;
 class QWidget;
 
 /**
- * The save flow of SaveFileDialog on the Qt file dialog. Use it where that dialog is wanted whatever the switch says.
+ * The save flow of SaveFileDialog with the Qt file dialog. Use it to get that dialog independent of the switch.
  *
- * The dialog is made in the constructor as a child of the parent widget and stays until that is destroyed.
+ * The constructor creates the dialog as a child of the parent widget. The dialog exists until the parent is destroyed;
+ * without a parent, until this object is destroyed.
  *
  * @snippet 15-own-qt-save-dialog/main.cpp derived
  */
@@ -23,7 +24,7 @@ class MORVANE_UI_EXPORT SaveFileQtDialog : public QObject
 {
 public:
     ///@{
-    /** As the constructors of SaveFileDialog. */
+    /** Same as the constructors of SaveFileDialog. */
     SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filename, const std::string& filter, const std::string& helpTopic);
     SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -48,7 +49,7 @@ public:
     int selectedWriter() const;
 
 protected:
-    /** The dialog that the flow runs; null once the parent was destroyed. */
+    /** Returns the dialog that the flow runs; null after the parent was destroyed. */
     QExtendedFileDialog* dialog();
 
 private:

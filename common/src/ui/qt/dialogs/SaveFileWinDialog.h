@@ -13,11 +13,10 @@ class ExtendedWinFileDialog;
 class QWidget;
 
 /**
- * The save flow of SaveFileDialog on the native file dialog. Use it where that dialog is wanted whatever the switch
- * says.
+ * The save flow of SaveFileDialog with the native file dialog. Use it to get that dialog independent of the switch.
  *
- * The dialog is made in the constructor. It is no widget that a parent could own, and outlives this object on purpose,
- * until the process ends.
+ * The constructor creates the dialog. The dialog is not a widget, so no parent owns it. It exists until the process
+ * ends; this is intended.
  *
  * @snippet 16-own-native-save-dialog/main.cpp derived
  */
@@ -25,7 +24,7 @@ class MORVANE_UI_EXPORT SaveFileWinDialog : public QObject
 {
 public:
     ///@{
-    /** As the constructors of SaveFileDialog. */
+    /** Same as the constructors of SaveFileDialog. */
     SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
         const std::string& filename, const std::string& filter, const std::string& helpTopic);
     SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -50,7 +49,7 @@ public:
     int selectedWriter() const;
 
 protected:
-    /** The dialog that the flow runs; never null. */
+    /** Returns the dialog that the flow runs; never null. */
     ExtendedWinFileDialog* dialog();
 
 private:

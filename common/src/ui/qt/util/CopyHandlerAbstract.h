@@ -7,16 +7,16 @@
 namespace morvane::ui {
 
 /**
- * Gives a widget the platform's copy shortcut without subclassing it.
+ * Adds the platform's copy shortcut to a widget without subclassing the widget.
  *
- * The handler watches the key presses that reach the widget. One that matches `QKeySequence::Copy` calls
- * copyToClipboard() and goes no further: neither the widget nor handlers that were created earlier see it. With several
- * handlers on one widget, the latest one therefore copies. Keys typed into a child of the widget, such as an open cell
- * editor, are the child's own; the handler sees only those that the child ignores.
+ * The handler filters the key presses that reach the widget. A key press that matches `QKeySequence::Copy` calls
+ * copyToClipboard() and is consumed: neither the widget nor handlers that were created earlier receive it. So if a
+ * widget has several handlers, the one that was created last copies. Key presses in a child of the widget, such as an
+ * open cell editor, go to the child; the handler receives only those that the child ignores.
  *
- * The handler is a child of the watched object and dies with it. It may be deleted earlier, also from within
- * copyToClipboard() or what that triggers. It must not be given another parent, because it refers to the watched
- * object until its end. GUI thread only.
+ * The handler is a child of the watched object and is destroyed with it. It may be deleted earlier, also in
+ * copyToClipboard() or in code that copyToClipboard() calls. Do not change its parent, because the handler uses the
+ * watched object in its destructor. GUI thread only.
  *
  * @snippet 17-copy-a-list/main.cpp handler
  */
@@ -25,19 +25,19 @@ class MORVANE_UI_EXPORT CopyHandlerAbstract : public QObject
     Q_OBJECT
 
 public:
-    /** Starts watching @p watched, which becomes the parent. */
+    /** Installs the handler as an event filter on @p watched, which becomes the parent. */
     explicit CopyHandlerAbstract(QObject& watched);
-    /** Stops watching. */
+    /** Removes the event filter. */
     ~CopyHandlerAbstract() override;
 
     /**
-     * Returns whether @p event was the copy shortcut, after copying. It does not matter which object @p watched is, so
-     * the handler may be installed on further objects; removing it from those is then the caller's task.
+     * If @p event is the copy shortcut, calls copyToClipboard() and returns true; otherwise returns false. @p watched
+     * is ignored, so the handler may be installed on more objects. The caller must remove it from those.
      */
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public Q_SLOTS:
-    /** Puts the widget's selection on the clipboard; connect actions and buttons to it. */
+    /** Copies the widget's selection to the clipboard. Actions and buttons can be connected to this slot. */
     virtual void copyToClipboard() = 0;
 
 private:

@@ -9,8 +9,8 @@ namespace morvane::ui {
 /**
  * Makes the fonts of a file available to the application.
  *
- * @param fontFile path in UTF-8. A file that Qt cannot load as a font, or that does not exist, gives one warning in
- *        Qt's message log, "Warning: Failed to load TrueType font from " and the path as given, and nothing else.
+ * @param fontFile path in UTF-8. If the file does not exist, or Qt cannot load it as a font, the only effect is one
+ *        warning in Qt's message log: "Warning: Failed to load TrueType font from " and the path as passed.
  *
  * GUI thread only, while the application object exists.
  *
@@ -19,12 +19,13 @@ namespace morvane::ui {
 MORVANE_UI_EXPORT void addFontToDatabase(const std::string& fontFile);
 
 /**
- * Does the same for every file of a directory, whatever its extension, in no particular order. Hidden files and
- * subdirectories are passed over.
+ * Does the same for every file of a directory, with any extension, in no particular order. Hidden files and
+ * subdirectories are skipped.
  *
- * @param fontDirectory path in UTF-8, with or without a separator at its end; put as it stands, and one separator, in
- *        front of each file name. A directory that is missing or cannot be read counts as one without files. Not empty:
- *        that would list the current directory, but look for its files in the root directory.
+ * @param fontDirectory path in UTF-8, with or without a separator at its end. The path of each file is this text
+ *        unchanged, one separator, and the file name. A directory that does not exist or cannot be read counts as
+ *        empty. The text must not be empty: an empty text would list the files of the current directory, but load them
+ *        from the root directory.
  */
 MORVANE_UI_EXPORT void addFontsToDatabase(const std::string& fontDirectory);
 

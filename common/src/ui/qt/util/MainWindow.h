@@ -7,14 +7,15 @@ class QMainWindow;
 namespace morvane::ui {
 
 /**
- * The application's main window: the first QMainWindow among `QApplication::topLevelWidgets()`, shown or not.
+ * Returns the application's main window: the first QMainWindow in `QApplication::topLevelWidgets()`, visible or not.
  *
- * The window that was found is remembered for the whole process and returned from then on without looking again, **even
- * after it was destroyed**: the pointer then dangles. An application that replaces its main window calls this with
- * @p forceSearch once the new one exists.
+ * The result is cached for the whole process. Later calls return it without a new search, **even after the window was
+ * destroyed**: the pointer then dangles. An application that replaces its main window must call this function with
+ * @p forceSearch after it created the new one.
  *
- * @param forceSearch whether to look again. A search that finds nothing leaves the remembered window, dangling or not.
- * @return null only as long as no search has found a main window.
+ * @param forceSearch whether to search again. If the search finds nothing, the cached pointer stays, even if it
+ *                    dangles.
+ * @return the main window; null if no search has found one yet
  *
  * GUI thread only.
  *

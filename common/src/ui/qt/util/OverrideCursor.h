@@ -7,19 +7,20 @@
 namespace morvane::ui {
 
 /**
- * Shows a cursor shape over the whole application for as long as the guard lives.
+ * Shows a cursor shape for the whole application as long as the guard exists.
  *
  * @snippet 18-wait-cursor/main.cpp work
  *
- * The shapes are a stack: guards that nest must end in the reverse order of their creation, as automatic variables do.
- * Ending one takes off whatever is on top. GUI thread only, while the application object exists.
+ * The cursors are on a stack. Nested guards must be destroyed in the reverse order of their creation, as automatic
+ * variables are. The destructor always removes the top of the stack. GUI thread only, while the application object
+ * exists.
  */
 class MORVANE_UI_EXPORT OverrideCursor
 {
 public:
-    /** Puts @p shape on top of the stack. */
+    /** Pushes @p shape onto the stack. */
     explicit OverrideCursor(Qt::CursorShape shape);
-    /** Takes the top off the stack. */
+    /** Removes the top of the stack. */
     ~OverrideCursor();
     OverrideCursor(const OverrideCursor&) = delete;
     OverrideCursor& operator=(const OverrideCursor&) = delete;

@@ -7,22 +7,24 @@
 namespace morvane::ui {
 
 /**
- * Suspends the application's override cursor for as long as the guard lives, to show a question in the middle of a long
- * operation, say.
+ * Suspends the application's override cursor as long as the guard exists, for instance to show a question in the middle
+ * of a long operation.
  *
  * @snippet 18-wait-cursor/main.cpp question
  *
- * Only the top of the stack of override cursors is taken off: with two of them, the lower one shows. Everything put on
- * the stack during the guard's life must be taken off before it ends. GUI thread only, while the application object
- * exists.
+ * The guard removes only the top of the stack of override cursors: if there are two, the lower one is shown. Every
+ * cursor that is pushed while the guard exists must be removed before the guard is destroyed. GUI thread only, while
+ * the application object exists.
  */
 class MORVANE_UI_EXPORT OverrideCursorRestorer
 {
 public:
-    /** Takes the top off the stack and remembers it. Meant for times when an override cursor is active; without one,
-     * the guard does nothing, neither now nor when it ends. */
+    /**
+     * Removes the top of the stack and stores it. If there is no override cursor, the constructor and the destructor do
+     * nothing.
+     */
     OverrideCursorRestorer();
-    /** Puts the remembered cursor back on the stack. */
+    /** Pushes the stored cursor back onto the stack. */
     ~OverrideCursorRestorer();
     OverrideCursorRestorer(const OverrideCursorRestorer&) = delete;
     OverrideCursorRestorer& operator=(const OverrideCursorRestorer&) = delete;

@@ -10,10 +10,10 @@
 namespace morvane::ui {
 
 /**
- * Owns signal connections and cuts them all when it is destroyed.
+ * Owns signal connections and disconnects all of them in its destructor.
  *
- * Meant as a member of an object that is no QObject, or that must stop listening before its other members go: declare
- * it last.
+ * Use it as a member of an object that is not a QObject, or whose connections must end before its other members are
+ * destroyed. Declare it as the last member.
  *
  * @snippet 19-cut-connections/main.cpp member
  */
@@ -21,13 +21,15 @@ class MORVANE_UI_EXPORT QtSignalConnectionCollection
 {
 public:
     QtSignalConnectionCollection();
-    /** Disconnects every connection, in the order of adding. Those that are broken already, as by the end of their
-     * sender or receiver, are passed over. */
+    /**
+     * Disconnects every connection, in the order of adding. Connections that are already broken, for instance because
+     * the sender or receiver was destroyed, are skipped.
+     */
     ~QtSignalConnectionCollection();
     QtSignalConnectionCollection(const QtSignalConnectionCollection&) = delete;
     QtSignalConnectionCollection& operator=(const QtSignalConnectionCollection&) = delete;
 
-    /** Takes over @p connection. One that failed to connect does no harm, nor does the same one twice. */
+    /** Adds @p connection. An invalid connection is allowed, and so is adding the same connection twice. */
     void add(const QMetaObject::Connection& connection);
 
 private:

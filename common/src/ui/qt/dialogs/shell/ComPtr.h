@@ -9,8 +9,7 @@ namespace morvane::ui {
 /**
  * Owns one reference to a COM object and releases it.
  *
- * Nothing adds a reference behind your back: the constructor adopts the reference that it is given, share() is the one
- * way to add one, and copying is not offered.
+ * The constructor adopts the reference that it receives. Only share() adds a reference. The pointer cannot be copied.
  *
  * @snippet contract/ShellContract.cpp item
  */
@@ -19,11 +18,11 @@ class ComPtr
 {
 public:
     ComPtr() = default;
-    /** Adopts the reference that the caller holds on @p object; null is an empty pointer. */
+    /** Adopts the caller's reference to @p object. Null makes an empty pointer. */
     explicit ComPtr(Interface* object) : m_object(object) {}
-    /** Takes the reference over; @p other is empty afterwards. */
+    /** Takes over the reference; @p other is empty afterwards. */
     ComPtr(ComPtr&& other) noexcept : m_object(other.detach()) {}
-    /** The same, releasing what was held. */
+    /** The same; releases the previous object. */
     ComPtr& operator=(ComPtr&& other) noexcept
     {
         ComPtr taken(std::move(other));
@@ -34,7 +33,7 @@ public:
     ComPtr& operator=(const ComPtr&) = delete;
     ~ComPtr() { reset(); }
 
-    /** A pointer with a reference of its own to @p object, which may be null. */
+    /** Returns a pointer that holds an additional reference to @p object, which may be null. */
     static ComPtr share(Interface* object)
     {
         if (object) {
@@ -43,28 +42,30 @@ public:
         return ComPtr(object);
     }
 
-    /** Null when empty; the reference stays here. */
+    /** Returns the object; null if the pointer is empty. The reference stays in this pointer. */
     Interface* get() const { return m_object; }
-    /** Not for an empty pointer. */
+    /** The pointer must not be empty. */
     Interface* operator->() const { return m_object; }
-    /** Not for an empty pointer. */
+    /** The pointer must not be empty. */
     Interface& operator*() const { return *m_object; }
-    /** Whether there is an object. */
+    /** Whether the pointer has an object. */
     explicit operator bool() const { return m_object != nullptr; }
 
-    /** Releases what is held and gives the place where a call leaves its result. */
+    /** Releases the object and returns the address to which a call writes its result. */
     Interface** put()
     {
         reset();
         return &m_object;
     }
-    /** put() in the type that QueryInterface and its sisters take. */
+    /** put() with the pointer type that QueryInterface and similar calls take. */
     void** putVoid() { return reinterpret_cast<void**>(put()); }
 
-    /** Hands the reference over to the caller. */
+    /** Empties the pointer without releasing the object. The reference passes to the caller. */
     Interface* detach() { return std::exchange(m_object, nullptr); }
 
-    /** Empty before the object is released, so that a call back into the owner finds nothing half gone. */
+    /**
+     * Releases the object. The pointer is empty before the release, because the release may call the owner.
+     */
     void reset()
     {
         if (Interface* const object = detach()) {
@@ -72,16 +73,19 @@ public:
         }
     }
 
-    /** Exchanges the references; no count changes. */
+    /** Exchanges the two pointers; no reference count changes. */
     void swap(ComPtr& other) noexcept { std::swap(m_object, other.m_object); }
 
-    /** Another interface of the same object; empty when this is empty or the object does not have it. */
+    /**
+     * Returns another interface of the same object. Empty if this pointer is empty or the object does not have the
+     * interface.
+     */
     template <typename Other>
     ComPtr<Other> query() const
     {
         ComPtr<Other> other;
         if (m_object && FAILED(m_object->QueryInterface(iidOf<Other>(), other.putVoid()))) {
-            other.detach(); // a failed call leaves nothing to release, whatever it wrote
+            other.detach(); // after a failed call there is nothing to release, whatever the call wrote
         }
         return other;
     }

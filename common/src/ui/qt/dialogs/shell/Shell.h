@@ -6,12 +6,12 @@
 namespace morvane::ui {
 
 /**
- * The free functions of COM and the Shell that the file dialog needs, so that they can be served on every platform.
+ * The free functions of COM and the Shell that the file dialog needs. Each platform has an implementation.
  *
- * Each operation has the parameters and results of the published function that it is named after. GUI thread only.
- * Strings and objects that come from one Shell go back to that same Shell.
+ * Each operation has the parameters and results of the published function with the same name. GUI thread only. Strings
+ * and objects that one Shell returned must be returned to the same Shell.
  *
- * Hosts meet it in tests only, where a RecordingShell takes its place:
+ * Hosts use it only in tests, where a RecordingShell replaces it:
  *
  * @snippet 27-test-your-dialogs/main.cpp shell
  */
@@ -23,41 +23,44 @@ public:
     Shell(const Shell&) = delete;
     Shell& operator=(const Shell&) = delete;
 
-    /** Joins the thread to an apartment. S_FALSE, a success, when it is already in one of that kind. */
+    /** Joins the thread to an apartment. Returns S_FALSE, a success, if it is already in an apartment of that kind. */
     virtual HRESULT coInitializeEx(void* reserved, DWORD flags) = 0;
-    /** Leaves the apartment; once for each coInitializeEx() that has succeeded. */
+    /** Leaves the apartment. Call it once for each coInitializeEx() that succeeded. */
     virtual void coUninitialize() = 0;
-    /** Makes a dialog: @p clsid is CLSID_FileOpenDialog or CLSID_FileSaveDialog. A failure leaves null in @p object. */
+    /**
+     * Creates a dialog: @p clsid is CLSID_FileOpenDialog or CLSID_FileSaveDialog. A failure stores null in @p object.
+     */
     virtual HRESULT coCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD context, REFIID iid, void** object) = 0;
-    /** Frees a string that the Shell has returned; null is allowed. */
+    /** Frees a string that the Shell returned; null is allowed. */
     virtual void coTaskMemFree(void* memory) = 0;
-    /** The item for an existing path. A failure leaves null in @p object. */
+    /** Creates the item for an existing path. A failure stores null in @p object. */
     virtual HRESULT createItemFromParsingName(PCWSTR path, IBindCtx* context, REFIID iid, void** object) = 0;
     /**
      * Finds the interface @p iid of the object @p that in @p table, whose last row is empty, and adds a reference. The
-     * first row also answers for IUnknown. E_NOINTERFACE, with null in @p object, when the table does not list it.
+     * first row is also used for IUnknown. Returns E_NOINTERFACE, with null in @p object, if the table does not list
+     * the interface.
      */
     virtual HRESULT qiSearch(void* that, const QITAB* table, REFIID iid, void** object) = 0;
 
-    /** The replacement, or else the operating system's Shell on Windows and WidgetShell elsewhere. */
+    /** Returns the replacement. Without one: the operating system's Shell on Windows, WidgetShell elsewhere. */
     static Shell& instance();
     /**
-     * Makes @p replacement what instance() returns; null brings the default back. Prefer ShellOverride.
-     * @return the previous replacement, null when there was none. Ownership stays with the caller.
+     * Makes @p replacement the object that instance() returns. Null restores the default. Prefer ShellOverride.
+     * @return the previous replacement; null if there was none. The caller keeps the ownership of both.
      */
     static Shell* setInstance(Shell* replacement);
 };
 
 /**
- * Puts another Shell in the place of the process's own for as long as the guard lives. The replacement is not owned and
- * must outlive the guard and every object that it made. Guards nest.
+ * Replaces the process's Shell as long as the guard exists. The guard does not own the replacement. The replacement
+ * must outlive the guard and every object that it created. Guards can be nested.
  *
  * @snippet 27-test-your-dialogs/main.cpp shell
  */
 class MORVANE_UI_EXPORT ShellOverride
 {
 public:
-    /** @param replacement what Shell::instance() returns from here on */
+    /** @param replacement the object that Shell::instance() returns from now on */
     explicit ShellOverride(Shell& replacement);
     ~ShellOverride();
     ShellOverride(const ShellOverride&) = delete;
@@ -67,11 +70,11 @@ private:
     Shell* m_previous;
 };
 
-/** The row for @p Interface, a base of @p Object, in a table for Shell::qiSearch(). */
+/** Returns the row for @p Interface, a base class of @p Object, in a table for Shell::qiSearch(). */
 template <typename Interface, typename Object>
 QITAB interfaceRow()
 {
-    // Any address will do for the distance, except null, which a conversion keeps null.
+    // Any address except null gives the offset. The conversion of a null pointer would stay null.
     alignas(Object) static char storage[sizeof(Object)];
     auto* const object = reinterpret_cast<Object*>(storage);
     auto* const base = reinterpret_cast<char*>(static_cast<Interface*>(object));

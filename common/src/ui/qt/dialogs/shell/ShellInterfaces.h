@@ -4,9 +4,9 @@
  * @file
  * The interfaces of the Windows Shell's common item dialog, for every platform.
  *
- * On Windows they are the SDK's own. Elsewhere the same published interfaces are declared here: same names, same slot
- * order, same identifiers, flags and result codes, the same widths of the integer types, and text of 16-bit units, so
- * that code written against them compiles unchanged. This is the only header that includes the SDK's.
+ * On Windows the SDK declares them. Elsewhere this header declares the same published interfaces: with the same names,
+ * slot order, identifiers, flags, result codes and widths of the integer types, and with text of 16-bit units. So code
+ * that uses them compiles unchanged. This is the only header that includes headers of the SDK.
  *
  * WCHAR is `wchar_t` on Windows and `char16_t` elsewhere; ULONG and DWORD have 32 bits everywhere.
  */
@@ -37,8 +37,8 @@ struct IPropertyDescriptionList;
 struct IPropertyStore;
 struct IShellItemFilter;
 
-// The interfaces have no virtual destructors, which would take slots; the protected ones keep anybody from deleting
-// through an interface.
+// A virtual destructor would take a slot of the interface. The destructors are protected instead, so no code can delete
+// an object through an interface.
 
 struct IUnknown
 {
@@ -200,7 +200,7 @@ protected:
     ~IFileDialogControlEvents() = default;
 };
 
-// The published identifiers, digit for digit.
+// The published identifiers.
 inline constexpr IID IID_IUnknown = {0x00000000, 0x0000, 0x0000, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 inline constexpr IID IID_IShellItem = {0x43826d1e, 0xe718, 0x42ee, {0xbc, 0x55, 0xa1, 0xe2, 0x61, 0xc3, 0x7b, 0xfe}};
 inline constexpr IID IID_IShellItemArray = {
@@ -226,7 +226,7 @@ inline constexpr CLSID CLSID_FileSaveDialog = {
 
 namespace morvane::ui {
 
-/** The identifier of one of the interfaces above, on every compiler. */
+/** Returns the identifier of one of the interfaces above, with every compiler. */
 template <typename Interface>
 const IID& iidOf();
 

@@ -2,8 +2,8 @@
 
 /**
  * @file
- * The plain types, flags and result codes that ShellInterfaces.h needs where there is no Windows SDK. Include
- * ShellInterfaces.h instead.
+ * The plain types, flags and result codes that ShellInterfaces.h needs where there is no Windows SDK. Do not include
+ * this header; include ShellInterfaces.h.
  */
 
 #ifdef _WIN32
@@ -12,7 +12,7 @@
 
 #include <cstdint>
 
-// The SDK's names. NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
+// These are the SDK's names. NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 
 using BOOL = int;
 using UINT = std::uint32_t;
@@ -25,7 +25,7 @@ using LPWSTR = WCHAR*;
 using LPCWSTR = const WCHAR*;
 using PWSTR = WCHAR*;
 using PCWSTR = const WCHAR*;
-using HWND = struct HWND__*; ///< the window system's identifier of the window, as QWidget::winId() gives it
+using HWND = struct HWND__*; ///< the window system's identifier of the window, as QWidget::winId() returns it
 
 #ifndef TRUE
 #define TRUE 1
@@ -116,11 +116,11 @@ struct COMDLG_FILTERSPEC
     LPCWSTR pszSpec; ///< patterns separated by semicolons
 };
 
-/** One row of a table for QISearch; a row without identifier ends the table. */
+/** One row of a table for QISearch. A row without an identifier ends the table. */
 struct QITAB
 {
     const IID* piid;
-    DWORD dwOffset; ///< of the interface within the object, in bytes
+    DWORD dwOffset; ///< offset of the interface in the object, in bytes
 };
 
 using FILEOPENDIALOGOPTIONS = DWORD;
@@ -150,7 +150,7 @@ enum _FILEOPENDIALOGOPTIONS : DWORD
     FOS_SUPPORTSTREAMABLEITEMS = 0x80000000
 };
 
-/** As in the SDK the enumerators may be combined, so that operators give the enumeration back. */
+/** As in the SDK, the enumerators can be combined. The operators return the enumeration type. */
 enum CDCONTROLSTATEF : DWORD
 {
     CDCS_INACTIVE = 0x0,

@@ -4,7 +4,7 @@ class ctkCompleter;
 
 namespace morvane::compat {
 
-/** The completer of ComboBoxAutoFilter: CTK's, because this Morvane was built with MORVANE_WITH_CTK. */
+/** The completer of ComboBoxAutoFilter: CTK's class, because this Morvane was built with MORVANE_WITH_CTK. */
 using ::ctkCompleter;
 
 } // namespace morvane::compat

@@ -2,7 +2,7 @@
 
 namespace morvane::compat {
 
-/** The completer of ComboBoxAutoFilter: Morvane's stand-in for CTK's class of that name, a QCompleter. */
+/** The completer of ComboBoxAutoFilter: Morvane's stand-in for CTK's class with that name, a QCompleter. */
 class ctkCompleter;
 
 } // namespace morvane::compat

@@ -4,7 +4,7 @@
 
 namespace morvane::compat {
 
-/** The base of ElidedTextLabel: Qxt's, because this Morvane was built with MORVANE_WITH_QXT. */
+/** The base class of ElidedTextLabel: Qxt's class, because this Morvane was built with MORVANE_WITH_QXT. */
 using ::QxtLabel;
 
 } // namespace morvane::compat

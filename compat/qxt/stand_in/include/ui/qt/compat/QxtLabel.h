@@ -8,15 +8,15 @@
 namespace morvane::compat {
 
 /**
- * Stand-in for Qxt's label of the same name, with the members that Morvane uses: one line of text that is shortened
- * with an ellipsis where it does not fit.
+ * Stand-in for Qxt's label with the same name, with the members that Morvane uses: one line of text that is elided if
+ * it does not fit.
  *
- * sizeHint() has room for the whole text, minimumSizeHint() for the ellipsis alone (for the whole text under
- * Qt::ElideNone), both with frame and margins and turned with the rotation. A text exactly as wide as the contents
- * rectangle fits. The text is plain: no markup, no mnemonics, line breaks count as blanks.
+ * sizeHint() has space for the whole text. minimumSizeHint() has space for the ellipsis only, or for the whole text
+ * with Qt::ElideNone. Both include frame and margins, and follow the rotation. A text exactly as wide as the contents
+ * rectangle fits. The text is plain text: no markup, no mnemonics; line breaks count as blanks.
  *
- * The namespace keeps the two classes apart where a host links Qxt, too: for the linker, for QMetaObject and for
- * style sheets.
+ * The namespace distinguishes the two classes if a host links Qxt, too: for the linker, for QMetaObject and for style
+ * sheets.
  */
 class MORVANE_UI_EXPORT QxtLabel : public QFrame
 {
@@ -27,7 +27,7 @@ class MORVANE_UI_EXPORT QxtLabel : public QFrame
     Q_PROPERTY(Rotation rotation READ rotation WRITE setRotation)
 
 public:
-    /** How the text is turned, in degrees clockwise. */
+    /** The rotation of the text, in degrees clockwise. */
     enum Rotation
     {
         NoRotation = 0,
@@ -43,11 +43,11 @@ public:
 
     QString text() const { return m_text; }
 
-    /** Where the text stands in the contents rectangle, before it is turned; Qt::AlignCenter initially. */
+    /** The alignment of the text in the contents rectangle, before the rotation; Qt::AlignCenter initially. */
     Qt::Alignment alignment() const { return m_alignment; }
     void setAlignment(Qt::Alignment alignment);
 
-    /** Where the ellipsis stands; Qt::ElideMiddle initially. Under Qt::ElideNone the text is cut off at the edge. */
+    /** The position of the ellipsis; Qt::ElideMiddle initially. With Qt::ElideNone the text is clipped at the edge. */
     Qt::TextElideMode elideMode() const { return m_elideMode; }
     void setElideMode(Qt::TextElideMode mode);
 
@@ -58,11 +58,11 @@ public:
     QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
-    /** Replaces the text; textChanged() follows unless it is the same. Empty shows the frame alone. */
+    /** Sets the text. Emits textChanged() if the text is different. With an empty text only the frame is shown. */
     void setText(const QString& text);
 
 Q_SIGNALS:
-    /** Any mouse button was pressed and released again within the double-click interval. */
+    /** Emitted when any mouse button was pressed and released within the double-click interval. */
     void clicked();
     void textChanged(const QString& text);
 
