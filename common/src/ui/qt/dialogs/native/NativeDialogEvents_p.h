@@ -1,23 +1,25 @@
 #pragma once
 
-#include "ui/qt/dialogs/native/NativeFileDialog_p.h"
+#include "ui/qt/dialogs/native/NativeDialogObserver_p.h"
+#include "ui/qt/dialogs/shell/Shell.h"
 
 #include <atomic>
 
+namespace morvane::ui {
+
 /**
- * Receives the events of a running dialog and hands those on that the dialog reacts to.
+ * Receives the events of a running dialog and passes to an observer those that it reacts to.
  *
- * Counted by reference. A Shell that keeps it too long calls an object that knows no dialog any more.
+ * Counted by reference. A Shell that keeps it too long calls an object without observer, which does nothing.
  */
-class ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler final : public IFileDialogEvents,
-                                                                             public IFileDialogControlEvents
+class NativeDialogEvents final : public IFileDialogEvents, public IFileDialogControlEvents
 {
 public:
     /** Starts with one reference, the caller's. */
-    explicit ExtendedWinFileDialogEventHandler(Impl& impl);
+    NativeDialogEvents(Shell& shell, NativeDialogObserver& observer);
 
     /** From here on every event is ignored. */
-    void detach() { m_impl = nullptr; }
+    void detach() { m_observer = nullptr; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
     ULONG STDMETHODCALLTYPE AddRef() override;
@@ -33,7 +35,7 @@ public:
     HRESULT STDMETHODCALLTYPE OnOverwrite(
         IFileDialog* dialog, IShellItem* item, FDE_OVERWRITE_RESPONSE* response) override;
 
-    virtual ~ExtendedWinFileDialogEventHandler();
+    virtual ~NativeDialogEvents();
 
     HRESULT STDMETHODCALLTYPE OnItemSelected(IFileDialogCustomize* customize, DWORD control, DWORD item) override;
     HRESULT STDMETHODCALLTYPE OnButtonClicked(IFileDialogCustomize* customize, DWORD control) override;
@@ -42,7 +44,9 @@ public:
     HRESULT STDMETHODCALLTYPE OnControlActivating(IFileDialogCustomize* customize, DWORD control) override;
 
 private:
-    morvane::ui::Shell& m_shell;
+    Shell& m_shell;
     std::atomic<unsigned long> m_references{1};
-    Impl* m_impl;
+    NativeDialogObserver* m_observer;
 };
+
+} // namespace morvane::ui
