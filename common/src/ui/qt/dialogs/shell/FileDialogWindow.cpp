@@ -1,6 +1,7 @@
 #include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 
 #include "ui/qt/dialogs/shell/TypedNames_p.h"
+#include "ui/qt/dialogs/shell/TypedPatterns_p.h"
 #include "ui/qt/util/FileDialogAccessibility_p.h"
 #include "ui/qt/util/FileDialogLayout_p.h"
 
@@ -27,6 +28,11 @@ QString nativeFilter(const FileTypeEntry& type)
 {
     const QString patterns = type.patterns.isEmpty() ? QStringLiteral("*") : type.patterns.join(QLatin1Char(' '));
     return QStringLiteral("%1 (%2)").arg(type.description, patterns).simplified();
+}
+
+bool isFolder(const QString& path)
+{
+    return QFileInfo(path).isDir();
 }
 
 } // namespace
@@ -356,6 +362,101 @@ void FileDialogWindow::deliverFolder()
     }
     m_folder = folder;
     m_observer.onFolderChanged(folder);
+}
+
+void FileDialogWindow::accept()
+{
+    const QPointer<FileDialogWindow> self(this);
+    deliver(); // the observer hears of what led to the choice before the choice
+    if (!self || !isVisible()) {
+        return;
+    }
+    if (holdsWildcard()) {
+        filterByWildcard();
+        return;
+    }
+    const QStringList paths = consistsOfWidgets() ? chosenPaths() : selectedFiles();
+    if (paths.isEmpty() || (consistsOfWidgets() && (enterFolderAmong(paths) || !checks().exist(paths)))) {
+        return;
+    }
+    if (!self || (consistsOfWidgets() && m_settings.saving && !checks().mayReplaceAll(paths)) || !self) {
+        return;
+    }
+    const bool accepted = m_observer.mayAccept(paths);
+    if (self && accepted) {
+        done(QDialog::Accepted);
+    } else if (self && !consistsOfWidgets() && isVisible()) {
+        m_again = true;
+        done(QDialog::Rejected);
+    }
+}
+
+void FileDialogWindow::filterByWildcard()
+{
+    if (!enterFolderOfWildcard()) {
+        return;
+    }
+    forgetWildcard();
+    m_typedPatterns = patternsOfTypedText(m_nameEdit->text());
+    applyPatterns();
+    if (!m_settings.types.empty()) {
+        const auto& type = m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex));
+        const QString shown = m_typedPatterns.join(QLatin1Char(' '));
+        m_typeCombo->setItemText(m_settings.typeIndex, QStringLiteral("%1 (%2)").arg(type.description, shown));
+    }
+}
+
+bool FileDialogWindow::enterFolderOfWildcard()
+{
+    const QString text = QDir::fromNativeSeparators(m_nameEdit->text()).remove(QLatin1Char('"'));
+    const int end = text.lastIndexOf(QLatin1Char('/')) + 1;
+    if (end == 0) {
+        return true;
+    }
+    const QString folder = pathsOfTypedText(text.left(end), directory().absolutePath(), false).value(0);
+    if (!isFolder(folder)) {
+        checks().tellMissingFolder(folder);
+        return false;
+    }
+    setDirectory(folder);
+    setTypedName(text.mid(end));
+    return holdsWildcard();
+}
+
+void FileDialogWindow::forgetWildcard()
+{
+    if (!m_typedPatterns.isEmpty() && !m_settings.types.empty()) {
+        const auto& type = m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex));
+        m_typeCombo->setItemText(m_settings.typeIndex, type.description);
+    }
+    m_typedPatterns.clear();
+}
+
+QStringList FileDialogWindow::chosenPaths() const
+{
+    const QString text = m_nameEdit->text();
+    if (m_settings.picksFolders && text.isEmpty()) {
+        return QStringList(directory().absolutePath());
+    }
+    QStringList paths = pathsOfTypedText(text, directory().absolutePath(), m_settings.allowsSeveral);
+    for (QString& path : paths) {
+        const bool lacksSuffix = QFileInfo(path).suffix().isEmpty() && !QFileInfo::exists(path);
+        if (lacksSuffix && !m_settings.defaultSuffix.isEmpty() && !m_settings.picksFolders) {
+            path += QLatin1Char('.') + m_settings.defaultSuffix;
+        }
+    }
+    return paths;
+}
+
+bool FileDialogWindow::enterFolderAmong(const QStringList& paths)
+{
+    const auto found = std::find_if(paths.begin(), paths.end(), isFolder);
+    if (m_settings.picksFolders || found == paths.end()) {
+        return false;
+    }
+    setDirectory(*found);
+    m_nameEdit->clear();
+    return true;
 }
 
 } // namespace morvane::ui

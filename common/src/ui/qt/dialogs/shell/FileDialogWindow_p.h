@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QStringList>
+#include "ui/qt/dialogs/shell/ChoiceChecks_p.h"
+#include "ui/qt/dialogs/shell/FileDialogObserver_p.h"
+#include "ui/qt/dialogs/shell/FileDialogSettings_p.h"
 
-#include <vector>
+#include <QFileDialog>
+#include <QStringList>
 
 class QAbstractButton;
 class QComboBox;
@@ -12,55 +13,6 @@ class QFileSystemModel;
 class QLineEdit;
 
 namespace morvane::ui {
-
-/** One entry of the list of file types. */
-struct FileTypeEntry
-{
-    QString description;
-    QStringList patterns; ///< wildcards; empty shows every file
-};
-
-/** What a run of the dialog starts with. */
-struct FileDialogSettings
-{
-    bool saving = false;
-    bool picksFolders = false;
-    bool allowsSeveral = false; ///< when saving, a list of names can be typed, but not picked
-    bool fileMustExist = false;
-    bool pathMustExist = false;
-    bool asksBeforeOverwriting = false;
-    bool showsHidden = false;
-    bool usesWidgets = false; ///< never the desktop's own dialog
-    QString title;            ///< empty: Qt's own
-    QString acceptLabel;      ///< empty: Qt's own
-    QString fileNameLabel;    ///< empty: Qt's own
-    QString folder;           ///< of an existing directory
-    QString fileName;
-    bool fileNameIsTyped = false; ///< by the user, in an earlier run
-    QString defaultSuffix;        ///< added to names without suffix; empty: none
-    std::vector<FileTypeEntry> types;
-    int typeIndex = 0;
-};
-
-/** What the window asks and tells while it runs. Any of the operations may end the run or destroy the window. */
-class FileDialogObserver
-{
-public:
-    enum class OverwriteAnswer
-    {
-        Ask,
-        Accept,
-        Refuse
-    };
-
-    virtual ~FileDialogObserver() = default;
-    virtual bool mayEnterFolder(const QString& folder) = 0;
-    virtual void onFolderChanged(const QString& folder) = 0;
-    virtual void onSelectionChanged() = 0;
-    virtual void onTypeChanged(int index) = 0;
-    virtual OverwriteAnswer mayOverwrite(const QString& path) = 0;
-    virtual bool mayAccept(const QStringList& paths) = 0;
-};
 
 /**
  * The file dialog on the screen: QFileDialog with a list of types that goes by position, the checks of the Shell in
@@ -105,6 +57,7 @@ private:
     void watchWidgets();
     void applyPatterns();
     void filterByWildcard();
+    /** False when the wildcard names a folder that is not there. */
     bool enterFolderOfWildcard();
     void forgetWildcard();
     QAbstractButton* acceptButton() const;
@@ -117,11 +70,7 @@ private:
     void deliverFolder();
     QStringList chosenPaths() const;
     bool enterFolderAmong(const QStringList& paths);
-    bool exist(const QStringList& paths);
-    bool mayReplaceAll(const QStringList& paths);
-    bool mayReplace(const QString& path);
-    QMessageBox::StandardButton ask(
-        const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton);
+    ChoiceChecks checks() { return {*this, m_settings, m_observer}; }
 
     FileDialogSettings m_settings;
     FileDialogObserver& m_observer;
