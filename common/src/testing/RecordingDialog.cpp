@@ -2,6 +2,9 @@
 
 #include "testing/RecordingControls.h"
 #include "testing/RecordingItems_p.h"
+#include "ui/qt/dialogs/shell/ComPart_p.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
+#include "ui/qt/dialogs/shell/EventSinks_p.h"
 #include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <QDir>
@@ -16,7 +19,8 @@ RecordingDialog::RecordingDialog(RecordingShell& shell, bool saving)
     : m_shell(shell),
       m_saving(saving),
       m_options(saving ? shell.script.saveOptions : shell.script.openOptions),
-      m_controls(std::make_unique<RecordingControls>(shell, *this))
+      m_sinks(std::make_unique<ui::EventSinks>()),
+      m_controls(std::make_unique<ui::ComPart<RecordingControls>>(*this, shell))
 {
     shell.objectMade();
 }
@@ -35,35 +39,18 @@ std::optional<HRESULT> RecordingDialog::record(const char* method, const std::st
 HRESULT RecordingDialog::QueryInterface(REFIID riid, void** object)
 {
     const auto failure = record("QueryInterface", nameOfIid(riid));
-    if (!object) {
-        return E_POINTER;
-    }
-    *object = nullptr;
-    return failure ? *failure : give(riid, object);
+    return failure ? ui::withoutResult(object, *failure) : give(riid, object);
 }
 
 HRESULT RecordingDialog::give(REFIID iid, void** object)
 {
-    *object = nullptr;
-    if (iid == IID_IUnknown || iid == IID_IModalWindow || iid == IID_IFileDialog ||
-        (iid == IID_IFileOpenDialog && !m_saving)) {
-        *object = static_cast<IFileOpenDialog*>(this);
-    } else if (iid == IID_IFileDialogCustomize) {
-        *object = static_cast<IFileDialogCustomize*>(m_controls.get());
-    } else {
-        return E_NOINTERFACE;
+    if (iid == IID_IFileDialogCustomize) {
+        static const QITAB part[] = {ui::interfaceRow<IFileDialogCustomize, RecordingControls>(), QITAB{}};
+        return ui::searchInterfaces(m_controls.get(), part, iid, object);
     }
-    AddRef();
-    return S_OK;
-}
-
-ULONG RecordingDialog::Release()
-{
-    const ULONG left = --m_references;
-    if (left == 0) {
-        delete this;
-    }
-    return left;
+    static const QITAB opening[] = {ui::interfaceRow<IFileOpenDialog, RecordingDialog>(),
+        ui::interfaceRow<IFileDialog, RecordingDialog>(), ui::interfaceRow<IModalWindow, RecordingDialog>(), QITAB{}};
+    return ui::searchInterfaces(this, m_saving ? opening + 1 : opening, iid, object);
 }
 
 HRESULT RecordingDialog::Show(HWND owner)
@@ -182,27 +169,17 @@ HRESULT RecordingDialog::Advise(IFileDialogEvents* sink, DWORD* cookie)
     if (const auto failure = record("Advise", sink ? "sink" : "null")) {
         return *failure;
     }
-    if (!sink || !cookie) {
-        return E_INVALIDARG;
-    }
-    *cookie = ++m_lastCookie;
-    m_sinks.emplace(m_lastCookie, ui::ComPtr<IFileDialogEvents>::share(sink));
-    if (m_shell.script.keepsSinks) {
+    const HRESULT result = m_sinks->advise(sink, cookie);
+    if (SUCCEEDED(result) && m_shell.script.keepsSinks) {
         m_shell.keep(sink);
     }
-    return S_OK;
+    return result;
 }
 
 HRESULT RecordingDialog::Unadvise(DWORD cookie)
 {
     const auto failure = record("Unadvise", std::to_string(cookie));
-    const auto found = m_sinks.find(cookie);
-    if (failure || found == m_sinks.end()) {
-        return failure.value_or(E_INVALIDARG);
-    }
-    const ui::ComPtr<IFileDialogEvents> sink = std::move(found->second);
-    m_sinks.erase(found);
-    return S_OK;
+    return failure ? *failure : m_sinks->unadvise(cookie);
 }
 
 HRESULT RecordingDialog::SetOptions(FILEOPENDIALOGOPTIONS options)

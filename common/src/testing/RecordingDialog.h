@@ -5,6 +5,10 @@
 #include <memory>
 #include <utility>
 
+namespace morvane::ui {
+class EventSinks;
+}
+
 namespace morvane::test {
 
 class RecordingControls;
@@ -19,7 +23,7 @@ class RecordingControls;
  *
  * @snippet 27-test-your-dialogs/main.cpp accept
  */
-class RecordingDialog final : public IFileOpenDialog
+class RecordingDialog : public IFileOpenDialog
 {
 public:
     /** @cond made by the shell */
@@ -94,8 +98,6 @@ public:
 
     /** @cond what the library calls */
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override;
     HRESULT STDMETHODCALLTYPE Show(HWND owner) override;
     HRESULT STDMETHODCALLTYPE SetFileTypes(UINT count, const COMDLG_FILTERSPEC* types) override;
     HRESULT STDMETHODCALLTYPE SetFileTypeIndex(UINT index) override;
@@ -136,12 +138,10 @@ private:
 
     RecordingShell& m_shell;
     const bool m_saving;
-    ULONG m_references = 1;
     FILEOPENDIALOGOPTIONS m_options;
     std::vector<std::pair<QString, QString>> m_types;
     UINT m_typeIndex = 0;
-    std::map<DWORD, ui::ComPtr<IFileDialogEvents>> m_sinks;
-    DWORD m_lastCookie = 0;
+    const std::unique_ptr<ui::EventSinks> m_sinks;
     std::optional<QString> m_fileName;
     QString m_folder;
     QString m_title;

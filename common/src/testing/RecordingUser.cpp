@@ -1,6 +1,7 @@
 #include "testing/RecordingControls.h"
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingItems_p.h"
+#include "ui/qt/dialogs/shell/EventSinks_p.h"
 #include "ui/qt/dialogs/shell/TypedNames_p.h"
 
 #include <QDir>
@@ -22,34 +23,12 @@ std::optional<DWORD> usableControl(const RecordingControls& controls, const QStr
 
 HRESULT RecordingDialog::fire(const std::function<HRESULT(IFileDialogEvents&)>& call)
 {
-    std::vector<DWORD> cookies;
-    for (const auto& entry : m_sinks) {
-        cookies.push_back(entry.first);
-    }
-    for (const DWORD cookie : cookies) {
-        const auto found = m_sinks.find(cookie);
-        if (found == m_sinks.end()) {
-            continue;
-        }
-        const auto sink = ui::ComPtr<IFileDialogEvents>::share(found->second.get());
-        const HRESULT result = call(*sink);
-        if (result != S_OK && result != E_NOTIMPL) {
-            return result;
-        }
-    }
-    return S_OK;
+    return m_sinks->notify(call);
 }
 
 HRESULT RecordingDialog::fireControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call)
 {
-    return fire([&call](IFileDialogEvents& sink) {
-        ui::ComPtr<IFileDialogControlEvents> controls;
-        if (FAILED(sink.QueryInterface(IID_IFileDialogControlEvents, controls.putVoid()))) {
-            controls.detach();
-            return S_OK;
-        }
-        return call(*controls);
-    });
+    return m_sinks->notifyControls(call);
 }
 
 void RecordingDialog::userAccepts()

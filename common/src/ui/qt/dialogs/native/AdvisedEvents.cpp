@@ -3,7 +3,7 @@
 namespace morvane::ui {
 
 AdvisedEvents::AdvisedEvents(Shell& shell, IFileDialog& dialog, NativeDialogObserver& observer)
-    : m_dialog(dialog), m_handler(new NativeDialogEvents(shell, observer))
+    : m_dialog(dialog), m_handler(new ComObject<NativeDialogEvents>(shell, observer))
 {
     if (!m_handler.query<IFileDialogEvents>()) {
         m_handler.reset();

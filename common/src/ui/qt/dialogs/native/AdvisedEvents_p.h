@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/qt/dialogs/native/NativeDialogEvents_p.h"
+#include "ui/qt/dialogs/shell/ComObject_p.h"
 #include "ui/qt/dialogs/shell/ComPtr.h"
 
 namespace morvane::ui {
@@ -16,7 +17,7 @@ public:
 
 private:
     IFileDialog& m_dialog;
-    ComPtr<NativeDialogEvents> m_handler;
+    ComPtr<ComObject<NativeDialogEvents>> m_handler;
     DWORD m_cookie = 0;
 };
 

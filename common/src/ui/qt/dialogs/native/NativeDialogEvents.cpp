@@ -16,20 +16,6 @@ HRESULT STDMETHODCALLTYPE NativeDialogEvents::QueryInterface(REFIID riid, void**
     return m_shell.qiSearch(this, table, riid, object);
 }
 
-ULONG STDMETHODCALLTYPE NativeDialogEvents::AddRef()
-{
-    return static_cast<ULONG>(++m_references);
-}
-
-ULONG STDMETHODCALLTYPE NativeDialogEvents::Release()
-{
-    const unsigned long left = --m_references;
-    if (left == 0) {
-        delete this;
-    }
-    return static_cast<ULONG>(left);
-}
-
 HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnFileOk(IFileDialog* dialog)
 {
     if (m_observer && dialog) {

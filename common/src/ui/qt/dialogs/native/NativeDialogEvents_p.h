@@ -3,27 +3,22 @@
 #include "ui/qt/dialogs/native/NativeDialogObserver_p.h"
 #include "ui/qt/dialogs/shell/Shell.h"
 
-#include <atomic>
-
 namespace morvane::ui {
 
 /**
  * Receives the events of a running dialog and passes to an observer those that it reacts to.
  *
- * Counted by reference. A Shell that keeps it too long calls an object without observer, which does nothing.
+ * Made as a ComObject. A Shell that keeps it too long calls an object without observer, which does nothing.
  */
-class NativeDialogEvents final : public IFileDialogEvents, public IFileDialogControlEvents
+class NativeDialogEvents : public IFileDialogEvents, public IFileDialogControlEvents
 {
 public:
-    /** Starts with one reference, the caller's. */
     NativeDialogEvents(Shell& shell, NativeDialogObserver& observer);
 
     /** From here on every event is ignored. */
     void detach() { m_observer = nullptr; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
 
     HRESULT STDMETHODCALLTYPE OnFileOk(IFileDialog* dialog) override;
     HRESULT STDMETHODCALLTYPE OnFolderChanging(IFileDialog* dialog, IShellItem* folder) override;
@@ -45,7 +40,6 @@ public:
 
 private:
     Shell& m_shell;
-    std::atomic<unsigned long> m_references{1};
     NativeDialogObserver* m_observer;
 };
 

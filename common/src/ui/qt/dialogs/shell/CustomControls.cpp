@@ -19,9 +19,7 @@ auto* findById(Range& range, DWORD id)
 
 } // namespace
 
-CustomControls::CustomControls(IUnknown& owner, ControlActions actions) : m_owner(owner), m_actions(std::move(actions))
-{
-}
+CustomControls::CustomControls(ControlActions actions) : m_actions(std::move(actions)) {}
 
 CustomControls::~CustomControls() = default;
 
@@ -42,21 +40,6 @@ void CustomControls::refresh()
     if (m_strip) {
         m_strip->update(m_controls);
     }
-}
-
-HRESULT CustomControls::QueryInterface(REFIID riid, void** object)
-{
-    return m_owner.QueryInterface(riid, object);
-}
-
-ULONG CustomControls::AddRef()
-{
-    return m_owner.AddRef();
-}
-
-ULONG CustomControls::Release()
-{
-    return m_owner.Release();
 }
 
 HRESULT CustomControls::EnableOpenDropDown(DWORD control)

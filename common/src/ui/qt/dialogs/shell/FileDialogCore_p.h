@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/qt/dialogs/shell/ComPart_p.h"
 #include "ui/qt/dialogs/shell/CustomControls_p.h"
 #include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 #include "ui/qt/dialogs/shell/SinkNotifier_p.h"
@@ -75,7 +76,7 @@ private:
     std::optional<QString> m_fileName;
     QString m_defaultFolder;
     SinkNotifier m_notifier;
-    CustomControls m_controls;
+    ComPart<CustomControls> m_controls;
 
     QPointer<FileDialogWindow> m_window;
     bool m_running = false;
