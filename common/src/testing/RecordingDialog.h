@@ -26,7 +26,7 @@ class RecordingControls;
 class RecordingDialog : public IFileOpenDialog
 {
 public:
-    /** @cond made by the shell */
+    /** @cond made by the shell, as a class that implements the interface */
     RecordingDialog(RecordingShell& shell, bool saving);
     virtual ~RecordingDialog();
     RecordingDialog(const RecordingDialog&) = delete;
@@ -96,45 +96,10 @@ public:
     /** QueryInterface without a trace in the record. */
     HRESULT give(REFIID iid, void** object);
 
-    /** @cond what the library calls */
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
-    HRESULT STDMETHODCALLTYPE Show(HWND owner) override;
-    HRESULT STDMETHODCALLTYPE SetFileTypes(UINT count, const COMDLG_FILTERSPEC* types) override;
-    HRESULT STDMETHODCALLTYPE SetFileTypeIndex(UINT index) override;
-    HRESULT STDMETHODCALLTYPE GetFileTypeIndex(UINT* index) override;
-    HRESULT STDMETHODCALLTYPE Advise(IFileDialogEvents* sink, DWORD* cookie) override;
-    HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) override;
-    HRESULT STDMETHODCALLTYPE SetOptions(FILEOPENDIALOGOPTIONS options) override;
-    HRESULT STDMETHODCALLTYPE GetOptions(FILEOPENDIALOGOPTIONS* options) override;
-    HRESULT STDMETHODCALLTYPE SetDefaultFolder(IShellItem* folder) override;
-    HRESULT STDMETHODCALLTYPE SetFolder(IShellItem* folder) override;
-    HRESULT STDMETHODCALLTYPE GetFolder(IShellItem** folder) override;
-    HRESULT STDMETHODCALLTYPE GetCurrentSelection(IShellItem** item) override;
-    HRESULT STDMETHODCALLTYPE SetFileName(LPCWSTR name) override;
-    HRESULT STDMETHODCALLTYPE GetFileName(LPWSTR* name) override;
-    HRESULT STDMETHODCALLTYPE SetTitle(LPCWSTR title) override;
-    HRESULT STDMETHODCALLTYPE SetOkButtonLabel(LPCWSTR text) override;
-    HRESULT STDMETHODCALLTYPE SetFileNameLabel(LPCWSTR label) override;
-    HRESULT STDMETHODCALLTYPE GetResult(IShellItem** item) override;
-    HRESULT STDMETHODCALLTYPE AddPlace(IShellItem* item, FDAP where) override;
-    HRESULT STDMETHODCALLTYPE SetDefaultExtension(LPCWSTR extension) override;
-    HRESULT STDMETHODCALLTYPE Close(HRESULT result) override;
-    HRESULT STDMETHODCALLTYPE SetClientGuid(REFGUID guid) override;
-    HRESULT STDMETHODCALLTYPE ClearClientData() override;
-    HRESULT STDMETHODCALLTYPE SetFilter(IShellItemFilter* filter) override;
-    HRESULT STDMETHODCALLTYPE GetResults(IShellItemArray** items) override;
-    HRESULT STDMETHODCALLTYPE GetSelectedItems(IShellItemArray** items) override;
-    /** @endcond */
-
-private:
-    std::optional<HRESULT> record(const char* method, const std::string& arguments = std::string());
-    void announceOpening();
-    void play();
-    void endByItself();
-    void finish(HRESULT outcome);
-    QStringList chosenPaths() const;
-    bool mayReplace(const QString& path);
-    HRESULT giveItem(const QString& path, IShellItem** item, HRESULT without);
+    /** @cond for the class that implements the interface */
+protected:
+    /** Opens the dialog for the user and the script; returns what Show returns. */
+    HRESULT run(HWND owner);
 
     RecordingShell& m_shell;
     const bool m_saving;
@@ -152,6 +117,15 @@ private:
     bool m_replaces = true;
     std::optional<HRESULT> m_outcome;
     QStringList m_results;
+    /** @endcond */
+
+private:
+    void play();
+    void announceOpening();
+    void endByItself();
+    void finish(HRESULT outcome);
+    QStringList chosenPaths() const;
+    bool mayReplace(const QString& path);
 };
 
 } // namespace morvane::test
