@@ -19,7 +19,7 @@ public:
     virtual ~RecordingControls();
     /** @endcond */
 
-    // Looking leaves no trace in the record.
+    // These calls are not recorded.
     /** The button or check box with this label; empty when there is none. */
     std::optional<DWORD> idOf(const QString& label) const;
     /** The control and the item with this label in it; empty when there is none. */
@@ -38,7 +38,7 @@ public:
     bool toggle(DWORD control);
     /** Makes the item of the control's menu the chosen one. Both must be there. */
     void pick(DWORD control, DWORD item);
-    /** Takes every pick() back. */
+    /** Forgets every pick(). */
     void forgetPick();
 
     /** @cond what the library calls */

@@ -14,12 +14,12 @@ namespace morvane::test {
 class RecordingControls;
 
 /**
- * The dialog of a RecordingShell, of either kind. Its `user…` operations do what a user does while Show runs; what the
- * host hears of that, it hears inside them. Call them in ShellScript::duringShow. A dialog that was neither accepted
+ * The dialog of a RecordingShell, of either kind. Its `user…` operations act as the user while Show runs; the host's
+ * callbacks run inside them. Call them in ShellScript::duringShow. A dialog that was neither accepted
  * nor cancelled there is cancelled, unless the script gives results or another end (ShellScript).
  *
- * It belongs to those who hold references to it, in the end to the dialog class of the library; do not keep a pointer
- * to it beyond the life of that.
+ * It belongs to the holders of its references, the last of which is the dialog class of the library; do not keep a
+ * pointer to it longer than that lives.
  *
  * @snippet 27-test-your-dialogs/main.cpp accept
  */
@@ -70,10 +70,10 @@ public:
 
     /** Calls every advised sink, as the dialog itself does. */
     HRESULT fire(const std::function<HRESULT(IFileDialogEvents&)>& call);
-    /** The same for those that want to hear of the host's controls. */
+    /** The same for those that have the interface for controls. */
     HRESULT fireControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call);
 
-    // What a user sees; looking leaves no trace in the record.
+    // What a user sees. These calls are not recorded.
     /** Include testing/RecordingControls.h to look at them. */
     RecordingControls& controls() { return *m_controls; }
     /** Whether Show runs. */
@@ -93,7 +93,7 @@ public:
     /** The window that the dialog was shown over; null for none. */
     HWND owner() const { return m_owner; }
 
-    /** QueryInterface without a trace in the record. */
+    /** QueryInterface that is not recorded. */
     HRESULT give(REFIID iid, void** object);
 
     /** @cond for the class that implements the interface */

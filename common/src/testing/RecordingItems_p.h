@@ -8,7 +8,7 @@ namespace morvane::test {
 ui::ComPtr<IShellItem> makeRecordingItem(RecordingShell& shell, const QString& path);
 ui::ComPtr<IShellItemArray> makeRecordingArray(RecordingShell& shell, const QStringList& paths);
 
-/** The path of an item, read without leaving a trace in the record; empty for null and for items of another Shell. */
+/** The path of an item, read without being recorded; empty for null and for items of another Shell. */
 QString pathOf(RecordingShell& shell, IShellItem* item);
 
 std::string nameOfIid(REFIID iid);

@@ -20,7 +20,7 @@ RecordingShell::RecordingShell() = default;
 RecordingShell::~RecordingShell()
 {
     for (void* const memory : m_liveStrings) {
-        ui::freeTaskMemory(memory); // counted as a leak by those who look; not to be reported a second time
+        ui::freeTaskMemory(memory); // liveStrings() counts them as leaks; a leak checker is not to report them again
     }
 }
 

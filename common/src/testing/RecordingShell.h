@@ -31,8 +31,8 @@ struct ShellScript
         FOS_NOREADONLYRETURN | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR | FOS_OVERWRITEPROMPT;
 
     /**
-     * Plays the user (and anything else) while Show runs. Empty: the user does nothing. A dialog that is still open
-     * when it returns ends as showResult says.
+     * Acts as the user (or does anything else) while Show runs. Empty: the user does nothing. A dialog that is still
+     * open when it returns ends as showResult says.
      */
     std::function<void(RecordingDialog&)> duringShow;
     /**
@@ -51,7 +51,7 @@ struct ShellScript
 };
 
 /**
- * A Shell without any window that writes down each call, in order, and answers as scripted: for tests of code that
+ * A Shell without any window that records each call, in order, and answers as scripted: for tests of code that
  * opens the native file dialog (ExtendedWinFileDialog, ExtendedFileDialog with the native switch on, LaunchFileDialog,
  * SaveFileWinDialog).
  *
@@ -61,7 +61,7 @@ struct ShellScript
  *
  * GUI thread only, and a QApplication must be there, as for the dialogs themselves.
  *
- * Calls are written as `Interface::Method(arguments)`, for instance `IFileDialog::SetTitle("Open")`, and numbered from
+ * Calls are recorded as `Interface::Method(arguments)`, for instance `IFileDialog::SetTitle("Open")`, and numbered from
  * 1. QueryInterface is recorded; AddRef and Release are not. Any call can be made to fail, by its number or its name;
  * it then has no effect and returns null in its out parameters. Objects may outlive the Shell only in their bugs: the
  * destructor of the Shell does not wait for them, so check leakedObjects() before.
@@ -81,14 +81,14 @@ public:
     std::vector<std::string> callNames() const;
     /** How often this name stands in callNames(). */
     int count(const std::string& name) const;
-    /** Forgets the calls and starts to number them anew; failures stay set. */
+    /** Forgets the calls and numbers the next ones from 1; failures stay set. */
     void clearCalls() { m_calls.clear(); }
 
     /** Makes the call with this number, counted from 1 since the last clearCalls(), fail. */
     void failCall(int number, HRESULT result = E_FAIL) { m_failingNumbers[number] = result; }
     /** Makes every call of this name, such as `IFileDialog::Advise`, fail. */
     void failCalls(const std::string& name, HRESULT result = E_FAIL) { m_failingNames[name] = result; }
-    /** Takes back every failCall() and failCalls(). */
+    /** Removes every failCall() and failCalls(). */
     void failNothing();
 
     /** The dialog made last; null when there is none or it is gone. */
@@ -113,7 +113,7 @@ public:
     int keptSinks() const { return static_cast<int>(m_keptSinks.size()); }
     /** These sinks, in the order in which they were advised. */
     const std::vector<ui::ComPtr<IFileDialogEvents>>& kept() const { return m_keptSinks; }
-    /** Gives them up. */
+    /** Releases them. */
     void releaseKeptSinks() { m_keptSinks.clear(); }
 
     /** @cond what the library calls, and what the shell's own objects call */

@@ -17,7 +17,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** What a name may gain without being asked: not the text of several patterns, and no wildcard. */
+/** Whether a name may get it without the user's choice: it is neither the text of several patterns nor a wildcard. */
 bool isOneExtension(const std::string& extension)
 {
     return !extension.empty() && extension.find_first_of(" ;*?") == std::string::npos;
@@ -65,7 +65,7 @@ NativeFileDialog::NativeFileDialog(QWidget* parent, const std::string& caption, 
 
 NativeFileDialog::~NativeFileDialog()
 {
-    // Before the members and, last of all, the dialog go; hosts rely on the order.
+    // Before the members are destroyed and, last, the dialog is released. Hosts rely on the order.
     m_shell.coUninitialize();
 }
 
@@ -116,7 +116,7 @@ QString NativeFileDialog::currentNameFilter() const
 QDialog::DialogCode NativeFileDialog::exec()
 {
     expectGuiThread("ExtendedWinFileDialog");
-    // The Shell's dialog does not survive being shown within itself.
+    // The Shell's dialog must not be shown while it runs.
     if (!m_dialog || m_running) {
         return QDialog::Rejected;
     }
@@ -170,7 +170,7 @@ void NativeFileDialog::close()
 
 QStringList NativeFileDialog::selectedFiles()
 {
-    // Not every Shell forgets what an earlier run has chosen.
+    // Some Shells keep the result of an earlier run.
     if (!m_dialog || m_closed) {
         return {};
     }

@@ -68,7 +68,7 @@ QStringList NativeResults::typed(const std::string& name) const
 void NativeResults::append(QStringList& paths, IShellItem& item) const
 {
     const QString path = nativePathOf(m_shell, item);
-    if (!path.isEmpty()) { // not told, or of something that is no file
+    if (!path.isEmpty()) { // unreadable, or of an item outside the file system
         paths.append(path);
     }
 }

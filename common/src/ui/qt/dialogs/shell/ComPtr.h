@@ -9,8 +9,7 @@ namespace morvane::ui {
 /**
  * Owns one reference to a COM object and releases it.
  *
- * Nothing adds a reference behind your back: the constructor adopts the reference that it is given, share() is the one
- * way to add one, and copying is not offered.
+ * Only share() adds a reference: the constructor adopts the one that it is given, and a ComPtr cannot be copied.
  *
  * @snippet contract/ShellContract.cpp item
  */
@@ -52,19 +51,19 @@ public:
     /** Whether there is an object. */
     explicit operator bool() const { return m_object != nullptr; }
 
-    /** Releases what is held and gives the place where a call leaves its result. */
+    /** Releases the held object and returns the address for the result of a call. */
     Interface** put()
     {
         reset();
         return &m_object;
     }
-    /** put() in the type that QueryInterface and its sisters take. */
+    /** put() with the type that QueryInterface and similar calls take. */
     void** putVoid() { return reinterpret_cast<void**>(put()); }
 
-    /** Hands the reference over to the caller. */
+    /** Passes the reference to the caller; empty afterwards. */
     Interface* detach() { return std::exchange(m_object, nullptr); }
 
-    /** Empty before the object is released, so that a call back into the owner finds nothing half gone. */
+    /** Releases the object. The pointer is empty before the release, which may call back into its owner. */
     void reset()
     {
         if (Interface* const object = detach()) {

@@ -249,7 +249,7 @@ bool CustomControls::onItemPicked(DWORD id, DWORD item)
     const bool ended = m_actions.itemPicked(id, item);
     Control* const found = find(id);
     if (!ended && found && found->selectedItem == item) {
-        // The choice was refused. The next press on the button itself is for what the button says.
+        // The choice was refused. Pressing the button itself next chooses the item that the button shows.
         found->selectedItem = before && findItem(id, *before) ? before : std::nullopt;
     }
     return ended;

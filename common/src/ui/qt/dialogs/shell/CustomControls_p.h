@@ -29,7 +29,7 @@ public:
     bool isEmpty() const { return m_controls.empty(); }
     /** Shows the controls in @p window until it is destroyed, and forgets which drop-down item was picked before. */
     void showIn(FileDialogWindow& window);
-    /** To be called when what the controls stand beside has changed. */
+    /** Updates the widgets after a change of the dialog's own texts. */
     void refresh();
 
     HRESULT STDMETHODCALLTYPE EnableOpenDropDown(DWORD control) override;

@@ -4,7 +4,7 @@
 
 namespace morvane::ui {
 
-/** What the window asks and tells while it runs. Any of the operations may end the run or destroy the window. */
+/** Called by the window while it runs. Each operation may end the run or destroy the window. */
 class FileDialogObserver
 {
 public:

@@ -13,7 +13,7 @@ struct FileTypeEntry
     QStringList patterns; ///< wildcards; empty shows every file
 };
 
-/** What a run of the dialog starts with. */
+/** The settings that a run of the dialog starts with. */
 struct FileDialogSettings
 {
     bool saving = false;

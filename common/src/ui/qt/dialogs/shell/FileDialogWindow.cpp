@@ -23,7 +23,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** How a type is written where Qt takes it apart again. */
+/** The type as a filter for the desktop's dialog, which Qt parses. */
 QString nativeFilter(const FileTypeEntry& type)
 {
     const QString patterns = type.patterns.isEmpty() ? QStringLiteral("*") : type.patterns.join(QLatin1Char(' '));
@@ -125,8 +125,8 @@ void FileDialogWindow::setUpTypeCombo()
     if (m_settings.types.empty()) {
         return;
     }
-    // Qt is given filters without meaning, one for each type: it simplifies descriptions, and in save mode it would
-    // rewrite the typed suffix after the first pattern. What is shown and what is filtered is set here.
+    // Qt gets one placeholder for each type: it simplifies descriptions, and in save mode it would replace the typed
+    // suffix by that of the first pattern. The real texts and patterns are set here.
     QStringList placeholders;
     QStringList descriptions;
     for (const FileTypeEntry& type : m_settings.types) {
@@ -183,7 +183,7 @@ void FileDialogWindow::watchWidgets()
     });
     if (auto* const view = findChild<QAbstractItemView*>(QStringLiteral("listView"))) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-            updateAcceptButton(); // Qt goes by the typed text, which need not change
+            updateAcceptButton(); // Qt checks the typed text, which need not change
             m_selectionPending = true;
             deliverLater();
         });
@@ -211,7 +211,7 @@ QString FileDialogWindow::typedName() const
 void FileDialogWindow::setTypedName(const QString& name)
 {
     if (m_nameEdit) {
-        // A wildcard that is given another ending, as for another type, is still no name of a file.
+        // A wildcard that gets another extension, as for another type, is still no file name.
         m_editedName = holdsWildcard() ? name : m_editedName;
         m_nameEdit->setText(name);
         return;
@@ -292,7 +292,7 @@ void FileDialogWindow::updateAcceptButton()
 
 void FileDialogWindow::keepAcceptText()
 {
-    // Qt writes "Open" on it while a folder is selected, which is not what it does here: the name decides.
+    // Qt shows "Open" on it while a folder is selected, but here the button acts on the name.
     const QString& text = m_optionText.isEmpty() ? m_acceptText : m_optionText;
     if (consistsOfWidgets() && !text.isEmpty() && acceptButton()->text() != text) {
         acceptButton()->setText(text);
@@ -305,7 +305,7 @@ void FileDialogWindow::onTypePicked(int index)
         forgetWildcard();
     }
     m_settings.typeIndex = index;
-    applyPatterns(); // Qt has just put its placeholder there, also when the same type was picked again
+    applyPatterns(); // Qt has just set its placeholder, also when the same type was picked again
     deliverLater();
 }
 
@@ -322,7 +322,7 @@ void FileDialogWindow::onNativeTypePicked(const QString& filter)
 
 void FileDialogWindow::deliverLater()
 {
-    // These changes are reported from deep inside Qt's widgets, where the window must not be changed or destroyed.
+    // Qt emits these signals within its own changes, when the window must not be changed or destroyed.
     QMetaObject::invokeMethod(
         this, [this] { deliver(); }, Qt::QueuedConnection);
 }
@@ -367,7 +367,7 @@ void FileDialogWindow::deliverFolder()
 void FileDialogWindow::accept()
 {
     const QPointer<FileDialogWindow> self(this);
-    deliver(); // the observer hears of what led to the choice before the choice
+    deliver(); // reports earlier changes before the choice
     if (!self || !isVisible()) {
         return;
     }

@@ -15,11 +15,11 @@ class QLineEdit;
 namespace morvane::ui {
 
 /**
- * The file dialog on the screen: QFileDialog with a list of types that goes by position, the checks of the Shell in
- * place of Qt's, and an observer that takes part in each decision.
+ * The file dialog on the screen: QFileDialog whose file types are identified by position, with the checks of the
+ * Shell in place of Qt's and an observer that takes part in each decision.
  *
- * Where the desktop's own dialog appears instead, typing and switching cannot be followed as closely: a refused folder
- * or choice opens the dialog again.
+ * Where the desktop's own dialog appears instead, not every change can be observed: a refused folder or choice opens
+ * the dialog again.
  */
 class FileDialogWindow : public QFileDialog
 {
@@ -33,16 +33,16 @@ public:
     bool consistsOfWidgets() const { return m_nameEdit != nullptr; }
     QString typedName() const;
     void setTypedName(const QString& name);
-    /** Whether the name is a wildcard that the user has typed. It filters what is listed and is no name of a file. */
+    /** Whether the name is a wildcard that the user has typed. Such a name filters the list and names no file. */
     bool holdsWildcard() const;
     void setTypeIndex(int index);
-    /** Goes to @p folder as if the user had; the observer is told before this returns. */
+    /** Enters @p folder as the user would; the observer is called before this returns. */
     void setFolder(const QString& folder);
     /** The selected files, or else the one whose name is typed. */
     QStringList selectedPaths() const;
     void setTexts(const QString& title, const QString& acceptLabel, const QString& fileNameLabel);
 
-    /** Gives the accept button this text in place of its own one; empty: its own again. */
+    /** The text of the accept button in place of its own; empty restores its own. */
     void setOptionText(const QString& text);
 
     void accept() override;
@@ -80,9 +80,9 @@ private:
     QString m_acceptText; ///< of the accept button itself
     QString m_optionText; ///< in its place, unless empty
     QString m_folder;
-    QString m_editedName;        ///< as the user has left it, until a name is set by others
+    QString m_editedName;        ///< as the user has edited it, until a name is set
     QStringList m_typedPatterns; ///< in place of those of the type
-    int m_toldType;              ///< the type that the observer knows
+    int m_toldType;              ///< the type last reported to the observer
     bool m_folderPending = false;
     bool m_selectionPending = false;
     bool m_again = false; ///< the desktop's dialog has ended with a choice that was refused

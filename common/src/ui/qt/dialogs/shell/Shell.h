@@ -11,7 +11,7 @@ namespace morvane::ui {
  * Each operation has the parameters and results of the published function that it is named after. GUI thread only.
  * Strings and objects that come from one Shell go back to that same Shell.
  *
- * Hosts meet it in tests only, where a RecordingShell takes its place:
+ * Hosts use it in tests only, where a RecordingShell replaces it:
  *
  * @snippet 27-test-your-dialogs/main.cpp shell
  */
@@ -49,7 +49,7 @@ public:
 };
 
 /**
- * Puts another Shell in the place of the process's own for as long as the guard lives. The replacement is not owned and
+ * Replaces the process's Shell while the guard lives. The replacement is not owned and
  * must outlive the guard and every object that it made. Guards nest.
  *
  * @snippet 27-test-your-dialogs/main.cpp shell
@@ -71,7 +71,7 @@ private:
 template <typename Interface, typename Object>
 QITAB interfaceRow()
 {
-    // Any address will do for the distance, except null, which a conversion keeps null.
+    // The offset is the same at every address. Null does not work, since a conversion keeps it null.
     alignas(Object) static char storage[sizeof(Object)];
     auto* const object = reinterpret_cast<Object*>(storage);
     auto* const base = reinterpret_cast<char*>(static_cast<Interface*>(object));

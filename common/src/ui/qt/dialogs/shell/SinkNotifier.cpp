@@ -72,7 +72,7 @@ HRESULT SinkNotifier::tell(const std::function<HRESULT(IFileDialogEvents&)>& cal
 
 HRESULT SinkNotifier::guarded(const std::function<HRESULT()>& call)
 {
-    // Close() may have come from an event that leads to others.
+    // A sink may have called Close() in an event that others follow.
     if (m_ended) {
         return E_ABORT;
     }

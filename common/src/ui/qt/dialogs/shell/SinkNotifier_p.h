@@ -26,7 +26,7 @@ public:
     HRESULT unadvise(DWORD cookie) { return m_sinks.unadvise(cookie); }
 
     void beginRun() { m_ended = false; }
-    /** From here on nobody is told anything. */
+    /** From here on no sink is called. */
     void endRun() { m_ended = true; }
     bool hasRunEnded() const { return m_ended; }
     /** Throws what a sink has thrown, once. */
