@@ -5,11 +5,11 @@ namespace morvane::test {
 namespace {
 
 /** Tells the library's sink of the stand-in where the Shell tells of the dialog. */
-class FailingSink final : public CountedObject<IFileDialogEvents, IFileDialogControlEvents>
+class FailingSink : public LiveObject<IFileDialogEvents, IFileDialogControlEvents>
 {
 public:
     FailingSink(ShellFaults& faults, IFileDialog& dialog, IFileDialogCustomize& customize, IFileDialogEvents& target)
-        : CountedObject(faults),
+        : LiveObject(faults),
           m_dialog(dialog),
           m_customize(customize),
           m_target(ui::ComPtr<IFileDialogEvents>::share(&target)),
@@ -19,16 +19,9 @@ public:
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
-        *object = nullptr;
-        if (riid == IID_IUnknown || riid == IID_IFileDialogEvents) {
-            *object = static_cast<IFileDialogEvents*>(this);
-        } else if (riid == IID_IFileDialogControlEvents && m_controlTarget) {
-            *object = static_cast<IFileDialogControlEvents*>(this);
-        } else {
-            return E_NOINTERFACE;
-        }
-        AddRef();
-        return S_OK;
+        const QITAB table[] = {ui::interfaceRow<IFileDialogEvents, FailingSink>(),
+            m_controlTarget ? ui::interfaceRow<IFileDialogControlEvents, FailingSink>() : QITAB{}, QITAB{}};
+        return ui::searchInterfaces(this, table, riid, object);
     }
 
     HRESULT STDMETHODCALLTYPE OnFileOk(IFileDialog*) override { return m_target->OnFileOk(&m_dialog); }
@@ -75,7 +68,7 @@ private:
     const ui::ComPtr<IFileDialogControlEvents> m_controlTarget;
 };
 
-/** The methods of a dialog, and, with the same count of references, its controls'. */
+/** The methods of a dialog and of its controls. Made as a ComObject. */
 template <typename Kind>
 class FailingDialog : public FailingObject<Kind>, public IFileDialogCustomize
 {
@@ -91,8 +84,6 @@ public:
     {
         return FailingObject<Kind>::QueryInterface(riid, object);
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return FailingObject<Kind>::AddRef(); }
-    ULONG STDMETHODCALLTYPE Release() override { return FailingObject<Kind>::Release(); }
 
     HRESULT STDMETHODCALLTYPE Show(HWND) override
     {
@@ -113,7 +104,8 @@ public:
     HRESULT STDMETHODCALLTYPE Advise(IFileDialogEvents* sink, DWORD* cookie) override
     {
         return pass("Advise", [&](Kind& dialog) {
-            const ui::ComPtr<IFileDialogEvents> standin(new FailingSink(this->m_faults, *this, *this, *sink));
+            const ui::ComPtr<IFileDialogEvents> standin(
+                new ui::ComObject<FailingSink>(this->m_faults, *this, *this, *sink));
             return dialog.Advise(standin.get(), cookie);
         });
     }
@@ -325,13 +317,10 @@ public:
 protected:
     HRESULT find(REFIID riid, void** object) override
     {
-        if (riid == IID_IFileDialogCustomize) {
-            return this->give(static_cast<IFileDialogCustomize*>(this), object);
-        }
-        if (riid == IID_IFileDialog || riid == IID_IModalWindow) {
-            return this->give(static_cast<IFileDialog*>(this), object);
-        }
-        return FailingObject<Kind>::find(riid, object);
+        static const QITAB table[] = {ui::interfaceRow<Kind, FailingDialog>(),
+            ui::interfaceRow<IFileDialog, FailingDialog>(), ui::interfaceRow<IModalWindow, FailingDialog>(),
+            ui::interfaceRow<IFileDialogCustomize, FailingDialog>(), QITAB{}};
+        return ui::searchInterfaces(this, table, riid, object);
     }
 
     const char* name() const override { return "IFileDialog"; }
@@ -359,7 +348,7 @@ private:
     const ui::ComPtr<IFileDialogCustomize> m_customize;
 };
 
-class FailingOpenDialog final : public FailingDialog<IFileOpenDialog>
+class FailingOpenDialog : public FailingDialog<IFileOpenDialog>
 {
 public:
     using FailingDialog::FailingDialog;
@@ -382,10 +371,10 @@ ui::ComPtr<IFileDialog> makeFailingDialog(
     ShellFaults& faults, const FailingShell::Show& show, ui::ComPtr<IFileDialog> target)
 {
     if (auto open = target.query<IFileOpenDialog>()) {
-        return ui::ComPtr<IFileDialog>(new FailingOpenDialog(faults, show, std::move(open)));
+        return ui::ComPtr<IFileDialog>(new ui::ComObject<FailingOpenDialog>(faults, show, std::move(open)));
     }
     // The library asks dialogs for saving for nothing beyond IFileDialog.
-    return ui::ComPtr<IFileDialog>(new FailingDialog<IFileDialog>(faults, show, std::move(target)));
+    return ui::ComPtr<IFileDialog>(new ui::ComObject<FailingDialog<IFileDialog>>(faults, show, std::move(target)));
 }
 
 } // namespace morvane::test

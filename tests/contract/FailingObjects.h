@@ -1,43 +1,33 @@
 #pragma once
 
 #include "contract/FailingShell.h"
+#include "ui/qt/dialogs/shell/ComObject_p.h"
 #include "ui/qt/dialogs/shell/ComPtr.h"
 #include "ui/qt/dialogs/shell/ComSupport_p.h"
 
 namespace morvane::test {
 
-/** Counts the references to an object, the first of which is the caller's, and, with ShellFaults, the objects. */
+/** Counts among the live objects. Made as a ComObject. */
 template <typename... Interfaces>
-class CountedObject : public Interfaces...
+class LiveObject : public Interfaces...
 {
 public:
-    explicit CountedObject(ShellFaults& faults) : m_faults(faults) { ++m_faults.liveObjects; }
-    virtual ~CountedObject() { --m_faults.liveObjects; }
-
-    ULONG STDMETHODCALLTYPE AddRef() override { return m_references.increment(); }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = m_references.decrement();
-        if (left == 0) {
-            delete this;
-        }
-        return left;
-    }
+    explicit LiveObject(ShellFaults& faults) : m_faults(faults) { ++m_faults.liveObjects; }
+    virtual ~LiveObject() { --m_faults.liveObjects; }
+    LiveObject(const LiveObject&) = delete;
+    LiveObject& operator=(const LiveObject&) = delete;
 
 protected:
     ShellFaults& m_faults;
-
-private:
-    ui::ReferenceCount m_references;
 };
 
 /** A stand-in of an object of a Shell. */
 template <typename Interface>
-class FailingObject : public CountedObject<Interface>
+class FailingObject : public LiveObject<Interface>
 {
 public:
     FailingObject(ShellFaults& faults, ui::ComPtr<Interface> target)
-        : CountedObject<Interface>(faults), m_target(std::move(target))
+        : LiveObject<Interface>(faults), m_target(std::move(target))
     {
     }
 
@@ -50,23 +40,13 @@ public:
     }
 
 protected:
-    using CountedObject<Interface>::m_faults;
+    using LiveObject<Interface>::m_faults;
 
-    /** QueryInterface for another interface that the stand-in has. */
+    /** QueryInterface of the object. */
     virtual HRESULT find(REFIID riid, void** object)
     {
-        if (riid != IID_IUnknown && riid != ui::iidOf<Interface>()) {
-            return E_NOINTERFACE;
-        }
-        return give(static_cast<Interface*>(this), object);
-    }
-
-    template <typename Other>
-    HRESULT give(Other* that, void** object)
-    {
-        this->AddRef();
-        *object = that;
-        return S_OK;
+        static const QITAB table[] = {ui::interfaceRow<Interface, FailingObject>(), QITAB{}};
+        return ui::searchInterfaces(this, table, riid, object);
     }
 
     template <typename Function>
@@ -93,7 +73,7 @@ protected:
         ui::ComPtr<Made> target;
         const HRESULT result = call(method, [&] { return function(target.put()); });
         if (target) {
-            *made = new Standin(m_faults, std::move(target));
+            *made = new ui::ComObject<Standin>(m_faults, std::move(target));
         }
         return result;
     }
@@ -103,7 +83,7 @@ protected:
     ui::ComPtr<Interface> m_target;
 };
 
-class FailingItem final : public FailingObject<IShellItem>
+class FailingItem : public FailingObject<IShellItem>
 {
 public:
     using FailingObject::FailingObject;
@@ -137,7 +117,7 @@ protected:
     const char* name() const override { return "IShellItem"; }
 };
 
-class FailingItems final : public FailingObject<IShellItemArray>
+class FailingItems : public FailingObject<IShellItemArray>
 {
 public:
     using FailingObject::FailingObject;

@@ -70,7 +70,7 @@ HRESULT FailingShell::createItemFromParsingName(PCWSTR path, IBindCtx* context, 
     if (FAILED(result)) {
         return result;
     }
-    const ui::ComPtr<IShellItem> standin(new FailingItem(faults, std::move(item)));
+    const ui::ComPtr<IShellItem> standin(new ui::ComObject<FailingItem>(faults, std::move(item)));
     return standin->QueryInterface(iid, object);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "contract/StackObject.h"
 #include "ui/qt/dialogs/shell/ComPtr.h"
 #include "ui/qt/dialogs/shell/Shell.h"
 #include "ui/qt/dialogs/shell/ShellText_p.h"
@@ -15,19 +16,16 @@
 namespace morvane::test {
 
 /**
- * An event sink that logs its callbacks and does what it is told in each. Lives on the stack or as a member: its
- * references are counted, but nobody deletes it.
+ * An event sink that logs its callbacks and does what it is told in each.
  */
-class LoggingSink final : public IFileDialogEvents, public IFileDialogControlEvents
+class LoggingSink final : public StackObject<IFileDialogEvents, IFileDialogControlEvents>
 {
 public:
     explicit LoggingSink(ui::Shell& shell) : m_shell(shell) {}
-    virtual ~LoggingSink() = default;
 
     std::vector<std::string> log;
     std::map<std::string, std::function<HRESULT()>> on; ///< by name of the callback; without entry E_NOTIMPL
     FDE_OVERWRITE_RESPONSE overwriteResponse = FDEOR_DEFAULT;
-    ULONG references = 1;
     bool hearsOfControls = true; ///< whether it has the interface for them
 
     int count(const std::string& entry) const { return static_cast<int>(std::count(log.begin(), log.end(), entry)); }
@@ -38,8 +36,6 @@ public:
             hearsOfControls ? ui::interfaceRow<IFileDialogControlEvents, LoggingSink>() : QITAB{}, {}};
         return m_shell.qiSearch(this, table, riid, object);
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-    ULONG STDMETHODCALLTYPE Release() override { return --references; }
 
     HRESULT STDMETHODCALLTYPE OnFileOk(IFileDialog*) override { return called("OnFileOk"); }
     HRESULT STDMETHODCALLTYPE OnFolderChanging(IFileDialog*, IShellItem* folder) override

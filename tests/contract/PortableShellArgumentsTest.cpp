@@ -19,14 +19,10 @@ void expectAll(const std::vector<Call>& calls, HRESULT expected)
 }
 
 /** An item that stands for nothing in the file system. */
-class ItemWithoutPath final : public IShellItem
+class ItemWithoutPath final : public StackObject<IShellItem>
 {
 public:
-    virtual ~ItemWithoutPath() = default;
-
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
-    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-    ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetParent(IShellItem**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetDisplayName(SIGDN, LPWSTR*) override { return E_FAIL; }

@@ -2,6 +2,7 @@
 
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingItems_p.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
 #include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <algorithm>
@@ -27,7 +28,7 @@ std::string text(DWORD control, LPCWSTR label)
 
 } // namespace
 
-RecordingControls::RecordingControls(RecordingShell& shell, IFileDialog& dialog) : m_shell(shell), m_dialog(dialog) {}
+RecordingControls::RecordingControls(RecordingShell& shell) : m_shell(shell) {}
 
 RecordingControls::~RecordingControls() = default;
 
@@ -99,21 +100,6 @@ std::optional<std::pair<DWORD, DWORD>> RecordingControls::itemOf(const QString& 
 std::optional<HRESULT> RecordingControls::record(const char* method, const std::string& arguments)
 {
     return m_shell.record(std::string("IFileDialogCustomize::") + method, arguments);
-}
-
-HRESULT RecordingControls::QueryInterface(REFIID riid, void** object)
-{
-    return m_dialog.QueryInterface(riid, object);
-}
-
-ULONG RecordingControls::AddRef()
-{
-    return m_dialog.AddRef();
-}
-
-ULONG RecordingControls::Release()
-{
-    return m_dialog.Release();
 }
 
 HRESULT RecordingControls::add(DWORD id, const Recorded& control)
@@ -364,7 +350,7 @@ HRESULT RecordingControls::AddText(DWORD control, LPCWSTR label)
 
 HRESULT RecordingControls::GetEditBoxText(DWORD control, WCHAR** text)
 {
-    return withoutResult(record("GetEditBoxText", std::to_string(control)), text);
+    return ui::withoutResult(text, record("GetEditBoxText", std::to_string(control)).value_or(E_NOTIMPL));
 }
 
 HRESULT RecordingControls::SetEditBoxText(DWORD control, LPCWSTR label)

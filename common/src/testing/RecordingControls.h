@@ -11,11 +11,11 @@ namespace morvane::test {
  *
  * @snippet testing/RecordingShellTest.cpp controls
  */
-class RecordingControls final : public IFileDialogCustomize
+class RecordingControls : public IFileDialogCustomize
 {
 public:
     /** @cond created by the dialog */
-    RecordingControls(RecordingShell& shell, IFileDialog& dialog);
+    explicit RecordingControls(RecordingShell& shell);
     virtual ~RecordingControls();
     /** @endcond */
 
@@ -42,9 +42,6 @@ public:
     void forgetPick();
 
     /** @cond called by the library */
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
     HRESULT STDMETHODCALLTYPE EnableOpenDropDown(DWORD control) override;
     HRESULT STDMETHODCALLTYPE AddMenu(DWORD control, LPCWSTR label) override;
     HRESULT STDMETHODCALLTYPE AddPushButton(DWORD control, LPCWSTR label) override;
@@ -98,7 +95,6 @@ private:
     Item* findItem(DWORD id, DWORD item);
 
     RecordingShell& m_shell;
-    IFileDialog& m_dialog;
     std::map<DWORD, Recorded> m_controls;
 };
 

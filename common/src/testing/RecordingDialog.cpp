@@ -2,7 +2,10 @@
 
 #include "testing/RecordingControls.h"
 #include "testing/RecordingItems_p.h"
-#include "ui/qt/dialogs/shell/ShellText_p.h"
+#include "ui/qt/dialogs/shell/ComPart_p.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
+#include "ui/qt/dialogs/shell/EventSinks_p.h"
+#include "ui/qt/dialogs/shell/TypedNames_p.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,11 +15,22 @@
 
 namespace morvane::test {
 
+namespace {
+
+std::optional<DWORD> usableControl(const RecordingControls& controls, const QString& label)
+{
+    const auto control = controls.idOf(label);
+    return control && controls.state(*control) == CDCS_ENABLEDVISIBLE ? control : std::nullopt;
+}
+
+} // namespace
+
 RecordingDialog::RecordingDialog(RecordingShell& shell, bool saving)
     : m_shell(shell),
       m_saving(saving),
       m_options(saving ? shell.script.saveOptions : shell.script.openOptions),
-      m_controls(std::make_unique<RecordingControls>(shell, *this))
+      m_sinks(std::make_unique<ui::EventSinks>()),
+      m_controls(std::make_unique<ui::ComPart<RecordingControls>>(*this, shell))
 {
     shell.objectMade();
 }
@@ -27,52 +41,19 @@ RecordingDialog::~RecordingDialog()
     m_shell.objectGone();
 }
 
-std::optional<HRESULT> RecordingDialog::record(const char* method, const std::string& arguments)
-{
-    return m_shell.record(std::string("IFileDialog::") + method, arguments);
-}
-
-HRESULT RecordingDialog::QueryInterface(REFIID riid, void** object)
-{
-    const auto failure = record("QueryInterface", nameOfIid(riid));
-    if (!object) {
-        return E_POINTER;
-    }
-    *object = nullptr;
-    return failure ? *failure : give(riid, object);
-}
-
 HRESULT RecordingDialog::give(REFIID iid, void** object)
 {
-    *object = nullptr;
-    if (iid == IID_IUnknown || iid == IID_IModalWindow || iid == IID_IFileDialog ||
-        (iid == IID_IFileOpenDialog && !m_saving)) {
-        *object = static_cast<IFileOpenDialog*>(this);
-    } else if (iid == IID_IFileDialogCustomize) {
-        *object = static_cast<IFileDialogCustomize*>(m_controls.get());
-    } else {
-        return E_NOINTERFACE;
+    if (iid == IID_IFileDialogCustomize) {
+        static const QITAB part[] = {ui::interfaceRow<IFileDialogCustomize, RecordingControls>(), QITAB{}};
+        return ui::searchInterfaces(m_controls.get(), part, iid, object);
     }
-    AddRef();
-    return S_OK;
+    static const QITAB opening[] = {ui::interfaceRow<IFileOpenDialog, RecordingDialog>(),
+        ui::interfaceRow<IFileDialog, RecordingDialog>(), ui::interfaceRow<IModalWindow, RecordingDialog>(), QITAB{}};
+    return ui::searchInterfaces(this, m_saving ? opening + 1 : opening, iid, object);
 }
 
-ULONG RecordingDialog::Release()
+HRESULT RecordingDialog::run(HWND owner)
 {
-    const ULONG left = --m_references;
-    if (left == 0) {
-        delete this;
-    }
-    return left;
-}
-
-HRESULT RecordingDialog::Show(HWND owner)
-{
-    const auto failure = record("Show", owner ? "owner" : "null");
-    if (failure || m_running) {
-        return failure.value_or(HRESULT_FROM_WIN32(ERROR_BUSY));
-    }
-    const auto self = ui::ComPtr<IFileDialog>::share(this);
     m_owner = owner;
     m_running = true;
     m_outcome.reset();
@@ -131,259 +112,146 @@ void RecordingDialog::finish(HRESULT outcome)
     }
 }
 
-HRESULT RecordingDialog::SetFileTypes(UINT count, const COMDLG_FILTERSPEC* types)
+HRESULT RecordingDialog::fire(const std::function<HRESULT(IFileDialogEvents&)>& call)
 {
-    std::string text = std::to_string(count);
-    for (UINT i = 0; types && i < count; ++i) {
-        text += ", " + quoted(types[i].pszName) + " " + quoted(types[i].pszSpec);
-    }
-    if (const auto failure = record("SetFileTypes", text)) {
-        return *failure;
-    }
-    if (!m_types.empty()) {
-        return E_UNEXPECTED;
-    }
-    if (count == 0 || !types) {
-        return E_INVALIDARG;
-    }
-    for (UINT i = 0; i < count; ++i) {
-        m_types.emplace_back(ui::toQString(types[i].pszName), ui::toQString(types[i].pszSpec));
-    }
-    m_typeIndex = 1;
-    return S_OK;
+    return m_sinks->notify(call);
 }
 
-HRESULT RecordingDialog::SetFileTypeIndex(UINT index)
+HRESULT RecordingDialog::fireControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call)
 {
-    if (const auto failure = record("SetFileTypeIndex", std::to_string(index))) {
-        return *failure;
-    }
-    if (m_types.empty()) {
-        return E_FAIL;
-    }
-    m_typeIndex = std::clamp<UINT>(index, 1, static_cast<UINT>(m_types.size()));
-    return S_OK;
+    return m_sinks->notifyControls(call);
 }
 
-HRESULT RecordingDialog::GetFileTypeIndex(UINT* index)
+void RecordingDialog::userAccepts()
 {
-    const auto failure = record("GetFileTypeIndex");
-    if (!index) {
-        return failure.value_or(E_INVALIDARG);
+    const QStringList paths = chosenPaths();
+    if (m_outcome || paths.isEmpty()) {
+        return;
     }
-    if (!failure) {
-        *index = m_typeIndex;
+    const bool mustExist = (m_options & FOS_FILEMUSTEXIST) != 0 && m_shell.script.results.isEmpty();
+    const auto exists = [](const QString& path) { return QFileInfo::exists(path); };
+    if (mustExist && !std::all_of(paths.begin(), paths.end(), exists)) {
+        return;
     }
-    return failure.value_or(S_OK);
-}
-
-HRESULT RecordingDialog::Advise(IFileDialogEvents* sink, DWORD* cookie)
-{
-    if (const auto failure = record("Advise", sink ? "sink" : "null")) {
-        return *failure;
+    if (m_saving && (m_options & FOS_OVERWRITEPROMPT) && QFileInfo::exists(paths.first()) &&
+        (!mayReplace(paths.first()) || m_outcome)) {
+        return;
     }
-    if (!sink || !cookie) {
-        return E_INVALIDARG;
+    if (m_saving && paths.size() > 1) {
+        m_fileName = ui::typedTextOfNames(paths); // a save dialog has no list of results
     }
-    *cookie = ++m_lastCookie;
-    m_sinks.emplace(m_lastCookie, ui::ComPtr<IFileDialogEvents>::share(sink));
-    if (m_shell.script.keepsSinks) {
-        m_shell.keep(sink);
-    }
-    return S_OK;
-}
-
-HRESULT RecordingDialog::Unadvise(DWORD cookie)
-{
-    const auto failure = record("Unadvise", std::to_string(cookie));
-    const auto found = m_sinks.find(cookie);
-    if (failure || found == m_sinks.end()) {
-        return failure.value_or(E_INVALIDARG);
-    }
-    const ui::ComPtr<IFileDialogEvents> sink = std::move(found->second);
-    m_sinks.erase(found);
-    return S_OK;
-}
-
-HRESULT RecordingDialog::SetOptions(FILEOPENDIALOGOPTIONS options)
-{
-    const QByteArray bits = QByteArray::number(static_cast<unsigned>(options), 16).toUpper();
-    const auto failure = record("SetOptions", "0x" + bits.toStdString());
-    m_options = failure ? m_options : options;
-    return failure.value_or(S_OK);
-}
-
-HRESULT RecordingDialog::GetOptions(FILEOPENDIALOGOPTIONS* options)
-{
-    const auto failure = record("GetOptions");
-    if (!options) {
-        return failure.value_or(E_INVALIDARG);
-    }
-    if (!failure) {
-        *options = m_options;
-    }
-    return failure.value_or(S_OK);
-}
-
-HRESULT RecordingDialog::SetDefaultFolder(IShellItem* folder)
-{
-    const QString path = pathOf(m_shell, folder);
-    const auto failure = record("SetDefaultFolder", path.toStdString());
-    if (failure || path.isEmpty()) {
-        return failure.value_or(E_INVALIDARG);
-    }
-    m_folder = m_folder.isEmpty() ? path : m_folder;
-    return S_OK;
-}
-
-HRESULT RecordingDialog::SetFolder(IShellItem* folder)
-{
-    const QString path = pathOf(m_shell, folder);
-    const auto failure = record("SetFolder", path.toStdString());
-    if (failure || path.isEmpty()) {
-        return failure.value_or(E_INVALIDARG);
-    }
-    if (m_running) {
-        userEntersFolder(path);
-    } else {
-        m_folder = path;
-    }
-    return S_OK;
-}
-
-HRESULT RecordingDialog::GetFolder(IShellItem** item)
-{
-    const auto failure = record("GetFolder");
-    if (!item) {
-        return failure.value_or(E_INVALIDARG);
-    }
-    *item = failure ? nullptr : makeRecordingItem(m_shell, folder()).detach();
-    return failure.value_or(S_OK);
-}
-
-HRESULT RecordingDialog::GetCurrentSelection(IShellItem** item)
-{
-    const auto failure = record("GetCurrentSelection");
-    if (!item) {
-        return failure.value_or(E_INVALIDARG);
-    }
-    *item = nullptr;
-    return failure ? *failure : giveItem(m_selected, item, E_FAIL);
-}
-
-HRESULT RecordingDialog::SetFileName(LPCWSTR name)
-{
-    const auto failure = record("SetFileName", quoted(name));
-    if (!failure) {
-        m_fileName = ui::toQString(name);
-    }
-    return failure.value_or(S_OK);
-}
-
-HRESULT RecordingDialog::GetFileName(LPWSTR* name)
-{
-    const auto failure = record("GetFileName");
-    if (!name) {
-        return failure.value_or(E_INVALIDARG);
-    }
-    *name = nullptr;
-    if (failure || (!m_fileName && !m_running)) {
-        return failure.value_or(E_FAIL);
-    }
-    return m_shell.copyString(fileName(), name);
-}
-
-HRESULT RecordingDialog::SetTitle(LPCWSTR title)
-{
-    const auto failure = record("SetTitle", quoted(title));
-    m_title = failure ? m_title : ui::toQString(title);
-    return failure.value_or(S_OK);
-}
-
-HRESULT RecordingDialog::SetOkButtonLabel(LPCWSTR text)
-{
-    return record("SetOkButtonLabel", quoted(text)).value_or(S_OK);
-}
-
-HRESULT RecordingDialog::SetFileNameLabel(LPCWSTR label)
-{
-    return record("SetFileNameLabel", quoted(label)).value_or(S_OK);
-}
-
-HRESULT RecordingDialog::GetResult(IShellItem** item)
-{
-    const auto failure = record("GetResult");
-    if (!item) {
-        return failure.value_or(E_INVALIDARG);
-    }
-    *item = nullptr;
-    if (failure || m_results.size() > 1) {
-        return failure.value_or(E_FAIL);
-    }
-    return giveItem(m_results.value(0), item, E_UNEXPECTED);
-}
-
-HRESULT RecordingDialog::AddPlace(IShellItem* item, FDAP)
-{
-    return record("AddPlace", pathOf(m_shell, item).toStdString()).value_or(E_NOTIMPL);
-}
-
-HRESULT RecordingDialog::SetDefaultExtension(LPCWSTR extension)
-{
-    return record("SetDefaultExtension", quoted(extension)).value_or(S_OK);
-}
-
-HRESULT RecordingDialog::Close(HRESULT result)
-{
-    if (const auto failure = record("Close", std::to_string(result))) {
-        return *failure;
-    }
-    if (m_running) {
-        m_outcome = result;
+    m_results = paths;
+    const HRESULT answer = fire([this](IFileDialogEvents& sink) { return sink.OnFileOk(this); });
+    if (answer != S_OK || m_outcome) {
         m_results.clear();
+        return;
     }
-    return S_OK;
+    finish(S_OK);
 }
 
-HRESULT RecordingDialog::SetClientGuid(REFGUID)
+bool RecordingDialog::mayReplace(const QString& path)
 {
-    return record("SetClientGuid").value_or(E_NOTIMPL);
+    const auto item = makeRecordingItem(m_shell, path);
+    FDE_OVERWRITE_RESPONSE response = FDEOR_DEFAULT;
+    fire([&](IFileDialogEvents& sink) {
+        const HRESULT result = sink.OnOverwrite(this, item.get(), &response);
+        response = result == S_OK ? response : FDEOR_DEFAULT;
+        return result == S_OK && response != FDEOR_DEFAULT ? S_FALSE : S_OK;
+    });
+    return response == FDEOR_ACCEPT || (response == FDEOR_DEFAULT && m_replaces);
 }
 
-HRESULT RecordingDialog::ClearClientData()
+void RecordingDialog::userCancels()
 {
-    return record("ClearClientData").value_or(E_NOTIMPL);
+    finish(HRESULT_FROM_WIN32(ERROR_CANCELLED));
 }
 
-HRESULT RecordingDialog::SetFilter(IShellItemFilter*)
+void RecordingDialog::userPicksType(UINT index)
 {
-    return record("SetFilter").value_or(E_NOTIMPL);
-}
-
-HRESULT RecordingDialog::GetResults(IShellItemArray** items)
-{
-    const auto failure = record("GetResults");
-    if (!items) {
-        return failure.value_or(E_INVALIDARG);
+    if (index != m_typeIndex) {
+        m_typeIndex = index;
+        fire([this](IFileDialogEvents& sink) { return sink.OnTypeChange(this); });
     }
-    *items = failure || m_results.isEmpty() ? nullptr : makeRecordingArray(m_shell, m_results).detach();
-    return failure ? *failure : *items ? S_OK : E_UNEXPECTED;
 }
 
-HRESULT RecordingDialog::GetSelectedItems(IShellItemArray** items)
+void RecordingDialog::userEntersFolder(const QString& folder)
 {
-    const auto failure = record("GetSelectedItems");
-    if (!items) {
-        return failure.value_or(E_INVALIDARG);
+    const auto item = makeRecordingItem(m_shell, folder);
+    if (fire([&](IFileDialogEvents& sink) { return sink.OnFolderChanging(this, item.get()); }) == S_OK) {
+        m_folder = folder;
+        fire([this](IFileDialogEvents& sink) { return sink.OnFolderChange(this); });
     }
-    *items = failure || m_selected.isEmpty() ? nullptr : makeRecordingArray(m_shell, QStringList(m_selected)).detach();
-    return failure ? *failure : *items ? S_OK : E_FAIL;
 }
 
-HRESULT RecordingDialog::giveItem(const QString& path, IShellItem** item, HRESULT without)
+void RecordingDialog::userSelects(const QString& path)
 {
-    *item = path.isEmpty() ? nullptr : makeRecordingItem(m_shell, path).detach();
-    return *item ? S_OK : without;
+    m_selected = path;
+    fire([this](IFileDialogEvents& sink) { return sink.OnSelectionChange(this); });
+}
+
+bool RecordingDialog::userClicks(const QString& label)
+{
+    const auto control = usableControl(*m_controls, label);
+    if (!control || m_controls->isCheckBox(*control)) {
+        return false;
+    }
+    userClicks(*control);
+    return true;
+}
+
+bool RecordingDialog::userToggles(const QString& label)
+{
+    const auto control = usableControl(*m_controls, label);
+    if (!control || !m_controls->isCheckBox(*control)) {
+        return false;
+    }
+    userToggles(*control);
+    return true;
+}
+
+bool RecordingDialog::userPicksItem(const QString& label)
+{
+    const auto found = m_controls->itemOf(label);
+    if (!found || m_controls->itemState(found->first, found->second) != CDCS_ENABLEDVISIBLE) {
+        return false;
+    }
+    userPicksItem(found->first, found->second);
+    return true;
+}
+
+void RecordingDialog::userClicks(DWORD control)
+{
+    fireControls([&](IFileDialogControlEvents& sink) { return sink.OnButtonClicked(m_controls.get(), control); });
+}
+
+void RecordingDialog::userToggles(DWORD control)
+{
+    const BOOL checked = m_controls->toggle(control) ? TRUE : FALSE;
+    fireControls(
+        [&](IFileDialogControlEvents& sink) { return sink.OnCheckButtonToggled(m_controls.get(), control, checked); });
+}
+
+void RecordingDialog::userPicksItem(DWORD control, DWORD item)
+{
+    m_controls->pick(control, item);
+    fireControls([&](IFileDialogControlEvents& sink) { return sink.OnItemSelected(m_controls.get(), control, item); });
+    userAccepts();
+}
+
+QStringList RecordingDialog::chosenPaths() const
+{
+    if (!m_shell.script.results.isEmpty()) {
+        return m_shell.script.results;
+    }
+    const bool isSeveralAllowed = (m_options & FOS_ALLOWMULTISELECT) != 0;
+    const QStringList listed = isSeveralAllowed ? ui::quotedNames(fileName()) : QStringList();
+    QStringList paths;
+    for (const QString& name : listed.isEmpty() ? QStringList(fileName()) : listed) {
+        if (!name.isEmpty()) {
+            paths.append(QDir(folder()).absoluteFilePath(name));
+        }
+    }
+    return paths;
 }
 
 QString RecordingDialog::folder() const

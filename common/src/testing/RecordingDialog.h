@@ -5,6 +5,10 @@
 #include <memory>
 #include <utility>
 
+namespace morvane::ui {
+class EventSinks;
+}
+
 namespace morvane::test {
 
 class RecordingControls;
@@ -19,10 +23,10 @@ class RecordingControls;
  *
  * @snippet 27-test-your-dialogs/main.cpp accept
  */
-class RecordingDialog final : public IFileOpenDialog
+class RecordingDialog : public IFileOpenDialog
 {
 public:
-    /** @cond created by the shell */
+    /** @cond created by the shell, as a class that implements the interface */
     RecordingDialog(RecordingShell& shell, bool saving);
     virtual ~RecordingDialog();
     RecordingDialog(const RecordingDialog&) = delete;
@@ -98,56 +102,17 @@ public:
     /** QueryInterface without recording the call. */
     HRESULT give(REFIID iid, void** object);
 
-    /** @cond called by the library */
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override;
-    HRESULT STDMETHODCALLTYPE Show(HWND owner) override;
-    HRESULT STDMETHODCALLTYPE SetFileTypes(UINT count, const COMDLG_FILTERSPEC* types) override;
-    HRESULT STDMETHODCALLTYPE SetFileTypeIndex(UINT index) override;
-    HRESULT STDMETHODCALLTYPE GetFileTypeIndex(UINT* index) override;
-    HRESULT STDMETHODCALLTYPE Advise(IFileDialogEvents* sink, DWORD* cookie) override;
-    HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) override;
-    HRESULT STDMETHODCALLTYPE SetOptions(FILEOPENDIALOGOPTIONS options) override;
-    HRESULT STDMETHODCALLTYPE GetOptions(FILEOPENDIALOGOPTIONS* options) override;
-    HRESULT STDMETHODCALLTYPE SetDefaultFolder(IShellItem* folder) override;
-    HRESULT STDMETHODCALLTYPE SetFolder(IShellItem* folder) override;
-    HRESULT STDMETHODCALLTYPE GetFolder(IShellItem** folder) override;
-    HRESULT STDMETHODCALLTYPE GetCurrentSelection(IShellItem** item) override;
-    HRESULT STDMETHODCALLTYPE SetFileName(LPCWSTR name) override;
-    HRESULT STDMETHODCALLTYPE GetFileName(LPWSTR* name) override;
-    HRESULT STDMETHODCALLTYPE SetTitle(LPCWSTR title) override;
-    HRESULT STDMETHODCALLTYPE SetOkButtonLabel(LPCWSTR text) override;
-    HRESULT STDMETHODCALLTYPE SetFileNameLabel(LPCWSTR label) override;
-    HRESULT STDMETHODCALLTYPE GetResult(IShellItem** item) override;
-    HRESULT STDMETHODCALLTYPE AddPlace(IShellItem* item, FDAP where) override;
-    HRESULT STDMETHODCALLTYPE SetDefaultExtension(LPCWSTR extension) override;
-    HRESULT STDMETHODCALLTYPE Close(HRESULT result) override;
-    HRESULT STDMETHODCALLTYPE SetClientGuid(REFGUID guid) override;
-    HRESULT STDMETHODCALLTYPE ClearClientData() override;
-    HRESULT STDMETHODCALLTYPE SetFilter(IShellItemFilter* filter) override;
-    HRESULT STDMETHODCALLTYPE GetResults(IShellItemArray** items) override;
-    HRESULT STDMETHODCALLTYPE GetSelectedItems(IShellItemArray** items) override;
-    /** @endcond */
-
-private:
-    std::optional<HRESULT> record(const char* method, const std::string& arguments = std::string());
-    void announceOpening();
-    void play();
-    void endByItself();
-    void finish(HRESULT outcome);
-    QStringList chosenPaths() const;
-    bool mayReplace(const QString& path);
-    HRESULT giveItem(const QString& path, IShellItem** item, HRESULT without);
+    /** @cond for the class that implements the interface */
+protected:
+    /** Opens the dialog for the user and the script; returns what Show returns. */
+    HRESULT run(HWND owner);
 
     RecordingShell& m_shell;
     const bool m_saving;
-    ULONG m_references = 1;
     FILEOPENDIALOGOPTIONS m_options;
     std::vector<std::pair<QString, QString>> m_types;
     UINT m_typeIndex = 0;
-    std::map<DWORD, ui::ComPtr<IFileDialogEvents>> m_sinks;
-    DWORD m_lastCookie = 0;
+    const std::unique_ptr<ui::EventSinks> m_sinks;
     std::optional<QString> m_fileName;
     QString m_folder;
     QString m_title;
@@ -158,6 +123,15 @@ private:
     bool m_replaces = true;
     std::optional<HRESULT> m_outcome;
     QStringList m_results;
+    /** @endcond */
+
+private:
+    void play();
+    void announceOpening();
+    void endByItself();
+    void finish(HRESULT outcome);
+    QStringList chosenPaths() const;
+    bool mayReplace(const QString& path);
 };
 
 } // namespace morvane::test

@@ -1,5 +1,7 @@
 #include "testing/RecordingItems_p.h"
 
+#include "ui/qt/dialogs/shell/ComObject_p.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
 #include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <QDir>
@@ -18,7 +20,7 @@ HRESULT withoutAttributes(const std::optional<HRESULT>& failure, SFGAOF* attribu
     return failure.value_or(E_NOTIMPL);
 }
 
-/** Counts references and live objects for an item or an array. */
+/** An item or an array; counts among the live objects of the Shell. */
 template <typename Interface>
 class RecordingObject : public Interface
 {
@@ -31,24 +33,8 @@ public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
         const auto failure = record("QueryInterface", nameOfIid(riid));
-        if (!object) {
-            return E_POINTER;
-        }
-        const bool known = riid == IID_IUnknown || riid == ui::iidOf<Interface>();
-        *object = known && !failure ? this : nullptr;
-        if (*object) {
-            AddRef();
-        }
-        return failure ? *failure : known ? S_OK : E_NOINTERFACE;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = --m_references;
-        if (left == 0) {
-            delete this;
-        }
-        return left;
+        static const QITAB table[] = {ui::interfaceRow<Interface, RecordingObject>(), QITAB{}};
+        return failure ? ui::withoutResult(object, *failure) : ui::searchInterfaces(this, table, riid, object);
     }
 
 protected:
@@ -61,10 +47,9 @@ protected:
 
 private:
     const char* const m_name;
-    ULONG m_references = 1;
 };
 
-class RecordingItem final : public RecordingObject<IShellItem>
+class RecordingItem : public RecordingObject<IShellItem>
 {
 public:
     RecordingItem(RecordingShell& shell, const QString& path) : RecordingObject(shell, "IShellItem"), m_path(path) {}
@@ -73,7 +58,7 @@ public:
 
     HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void** object) override
     {
-        return withoutResult(record("BindToHandler", ""), object);
+        return ui::withoutResult(object, record("BindToHandler", "").value_or(E_NOTIMPL));
     }
     HRESULT STDMETHODCALLTYPE GetParent(IShellItem** parent) override
     {
@@ -114,7 +99,7 @@ private:
     const QString m_path;
 };
 
-class RecordingArray final : public RecordingObject<IShellItemArray>
+class RecordingArray : public RecordingObject<IShellItemArray>
 {
 public:
     RecordingArray(RecordingShell& shell, const QStringList& paths)
@@ -124,15 +109,15 @@ public:
 
     HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void** object) override
     {
-        return withoutResult(record("BindToHandler", ""), object);
+        return ui::withoutResult(object, record("BindToHandler", "").value_or(E_NOTIMPL));
     }
     HRESULT STDMETHODCALLTYPE GetPropertyStore(GETPROPERTYSTOREFLAGS, REFIID, void** store) override
     {
-        return withoutResult(record("GetPropertyStore", ""), store);
+        return ui::withoutResult(store, record("GetPropertyStore", "").value_or(E_NOTIMPL));
     }
     HRESULT STDMETHODCALLTYPE GetPropertyDescriptionList(REFPROPERTYKEY, REFIID, void** list) override
     {
-        return withoutResult(record("GetPropertyDescriptionList", ""), list);
+        return ui::withoutResult(list, record("GetPropertyDescriptionList", "").value_or(E_NOTIMPL));
     }
     HRESULT STDMETHODCALLTYPE GetAttributes(SIATTRIBFLAGS, SFGAOF, SFGAOF* attributes) override
     {
@@ -162,7 +147,7 @@ public:
     }
     HRESULT STDMETHODCALLTYPE EnumItems(IEnumShellItems** items) override
     {
-        return withoutResult(record("EnumItems", ""), items);
+        return ui::withoutResult(items, record("EnumItems", "").value_or(E_NOTIMPL));
     }
 
 private:
@@ -173,12 +158,12 @@ private:
 
 ui::ComPtr<IShellItem> makeRecordingItem(RecordingShell& shell, const QString& path)
 {
-    return ui::ComPtr<IShellItem>(new RecordingItem(shell, path));
+    return ui::ComPtr<IShellItem>(new ui::ComObject<RecordingItem>(shell, path));
 }
 
 ui::ComPtr<IShellItemArray> makeRecordingArray(RecordingShell& shell, const QStringList& paths)
 {
-    return ui::ComPtr<IShellItemArray>(new RecordingArray(shell, paths));
+    return ui::ComPtr<IShellItemArray>(new ui::ComObject<RecordingArray>(shell, paths));
 }
 
 QString pathOf(RecordingShell&, IShellItem* item)

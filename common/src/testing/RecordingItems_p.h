@@ -8,19 +8,8 @@ namespace morvane::test {
 ui::ComPtr<IShellItem> makeRecordingItem(RecordingShell& shell, const QString& path);
 ui::ComPtr<IShellItemArray> makeRecordingArray(RecordingShell& shell, const QStringList& paths);
 
-/** The path of an item, read without leaving a trace in the record; empty for null and for items of another Shell. */
+/** The path of an item, read without being recorded; empty for null and for items of another Shell. */
 QString pathOf(RecordingShell& shell, IShellItem* item);
-
-/** The answer of a method that is not offered and would give something back; @p result is null afterwards. */
-template <typename Result>
-HRESULT withoutResult(const std::optional<HRESULT>& failure, Result** result)
-{
-    if (!result) {
-        return E_POINTER;
-    }
-    *result = nullptr;
-    return failure.value_or(E_NOTIMPL);
-}
 
 std::string nameOfIid(REFIID iid);
 std::string quoted(LPCWSTR text);

@@ -1,16 +1,17 @@
 #include "testing/RecordingShell.h"
 
 #include "testing/RecordingDialog.h"
+#include "testing/RecordingFileDialog_p.h"
 #include "testing/RecordingItems_p.h"
 #include "ui/qt/dialogs/save/KeptDialogs_p.h"
+#include "ui/qt/dialogs/shell/ComObject_p.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
 #include "ui/qt/dialogs/shell/ShellText_p.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cstdlib>
-#include <cstring>
 
 namespace morvane::test {
 
@@ -19,7 +20,7 @@ RecordingShell::RecordingShell() = default;
 RecordingShell::~RecordingShell()
 {
     for (void* const memory : m_liveStrings) {
-        std::free(memory); // counted as a leak by those who look; not to be reported a second time
+        ui::freeTaskMemory(memory); // liveStrings() counts them as leaks; a leak checker is not to report them again
     }
 }
 
@@ -64,12 +65,11 @@ std::optional<HRESULT> RecordingShell::record(const std::string& name, const std
 
 HRESULT RecordingShell::copyString(const QString& text, LPWSTR* copy)
 {
-    const ui::ShellString units = ui::toShellString(text);
-    const std::size_t bytes = (units.size() + 1) * sizeof(WCHAR);
-    *copy = static_cast<LPWSTR>(std::malloc(bytes));
-    std::memcpy(*copy, units.c_str(), bytes);
-    m_liveStrings.insert(*copy);
-    return S_OK;
+    const HRESULT result = ui::copyToTaskMemory(text, copy);
+    if (SUCCEEDED(result)) {
+        m_liveStrings.insert(*copy);
+    }
+    return result;
 }
 
 void RecordingShell::dialogGone(RecordingDialog* dialog)
@@ -110,7 +110,7 @@ HRESULT RecordingShell::coCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD 
     if (outer || (!saving && clsid != CLSID_FileOpenDialog)) {
         return outer ? CLASS_E_NOAGGREGATION : REGDB_E_CLASSNOTREG;
     }
-    auto* const dialog = new RecordingDialog(*this, saving);
+    auto* const dialog = new ui::ComObject<RecordingFileDialog>(*this, saving);
     m_dialogs.push_back(dialog);
     const HRESULT result = dialog->give(iid, object);
     dialog->Release();
@@ -124,7 +124,7 @@ void RecordingShell::coTaskMemFree(void* memory)
         m_calls.emplace_back("ERROR: memory freed that is not there");
         return;
     }
-    std::free(memory);
+    ui::freeTaskMemory(memory);
 }
 
 HRESULT RecordingShell::createItemFromParsingName(PCWSTR path, IBindCtx* context, REFIID iid, void** object)
@@ -150,22 +150,7 @@ HRESULT RecordingShell::createItemFromParsingName(PCWSTR path, IBindCtx* context
 HRESULT RecordingShell::qiSearch(void* that, const QITAB* table, REFIID iid, void** object)
 {
     const auto failure = record("QISearch", nameOfIid(iid));
-    if (!object) {
-        return E_POINTER;
-    }
-    *object = nullptr;
-    if (failure) {
-        return *failure;
-    }
-    for (const QITAB* row = table; row->piid; ++row) {
-        if (*row->piid == iid || (row == table && iid == IID_IUnknown)) {
-            auto* const found = reinterpret_cast<IUnknown*>(static_cast<char*>(that) + row->dwOffset);
-            found->AddRef();
-            *object = found;
-            return S_OK;
-        }
-    }
-    return E_NOINTERFACE;
+    return failure ? ui::withoutResult(object, *failure) : ui::searchInterfaces(that, table, iid, object);
 }
 
 } // namespace morvane::test

@@ -1,5 +1,6 @@
 #include "ui/qt/dialogs/shell/Shell.h"
 
+#include "contract/StackObject.h"
 #include "ui/qt/dialogs/shell/ComPtr.h"
 #include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
@@ -9,6 +10,7 @@
 
 namespace {
 
+using morvane::test::StackObject;
 using morvane::ui::ComPtr;
 using morvane::ui::Shell;
 using morvane::ui::ShellOverride;
@@ -17,10 +19,9 @@ using morvane::ui::WidgetShell;
 static_assert(
     !std::is_copy_constructible_v<ComPtr<IUnknown>> && std::is_nothrow_move_constructible_v<ComPtr<IUnknown>>);
 
-class Counted final : public IUnknown
+class Counted final : public StackObject<IUnknown>
 {
 public:
-    virtual ~Counted() = default;
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
         *object = riid == IID_IUnknown ? this : reinterpret_cast<Counted*>(0x10); // rubbish beside the failure
@@ -30,10 +31,6 @@ public:
         AddRef();
         return S_OK;
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-    ULONG STDMETHODCALLTYPE Release() override { return --references; }
-
-    ULONG references = 1;
 };
 
 TEST(ShellInstance, isTheSameObjectEachTime)
@@ -103,12 +100,9 @@ TEST(ComPointer, anEmptyPointerAnswersNoQuery)
     EXPECT_FALSE(ComPtr<IUnknown>().query<IShellItem>());
 }
 
-struct TwoInterfaces final : IFileDialogEvents, IFileDialogControlEvents
+struct TwoInterfaces final : StackObject<IFileDialogEvents, IFileDialogControlEvents>
 {
-    virtual ~TwoInterfaces() = default;
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOTIMPL; }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-    ULONG STDMETHODCALLTYPE Release() override { return --references; }
     HRESULT STDMETHODCALLTYPE OnFileOk(IFileDialog*) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnFolderChanging(IFileDialog*, IShellItem*) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnFolderChange(IFileDialog*) override { return S_OK; }
@@ -123,8 +117,6 @@ struct TwoInterfaces final : IFileDialogEvents, IFileDialogControlEvents
     HRESULT STDMETHODCALLTYPE OnButtonClicked(IFileDialogCustomize*, DWORD) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnCheckButtonToggled(IFileDialogCustomize*, DWORD, BOOL) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnControlActivating(IFileDialogCustomize*, DWORD) override { return S_OK; }
-
-    ULONG references = 1;
 };
 
 TEST(TableSearch, findsEachInterfaceAndAnswersForIUnknownWithTheFirst)

@@ -37,7 +37,8 @@ ExtendedWinFileDialog::ExtendedWinFileDialog(QWidget& parent, const std::string&
 
 ExtendedWinFileDialog::ExtendedWinFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode, bool useAcceptMenu)
-    : m_impl(std::make_unique<Impl>(parent, caption, directory, filter, helpTopic, acceptMode, useAcceptMenu))
+    : m_native(std::make_unique<morvane::ui::NativeFileDialog>(
+          parent, caption, directory, filter, helpTopic, acceptMode, useAcceptMenu))
 {
 }
 
@@ -45,98 +46,98 @@ ExtendedWinFileDialog::~ExtendedWinFileDialog() = default;
 
 QDialog::DialogCode ExtendedWinFileDialog::exec()
 {
-    return m_impl->exec();
+    return m_native->exec();
 }
 
 void ExtendedWinFileDialog::selectFile(const QString& file)
 {
-    m_impl->m_fileName->setValue(nameFieldText(file).toStdString());
+    m_native->fileName().setValue(nameFieldText(file).toStdString());
 }
 
 QStringList ExtendedWinFileDialog::selectedFiles()
 {
-    return m_impl->selectedFiles();
+    return m_native->selectedFiles();
 }
 
 void ExtendedWinFileDialog::setFileMode(QFileDialog::FileMode mode)
 {
-    m_impl->m_fileMode = mode;
+    m_native->setFileMode(mode);
 }
 
 QDir ExtendedWinFileDialog::directory()
 {
-    return QDir(QString::fromStdString(m_impl->m_directory->value()));
+    return QDir(QString::fromStdString(m_native->directory().value()));
 }
 
 void ExtendedWinFileDialog::setDirectory(const QString& dir)
 {
-    m_impl->m_directory->setValue(dir.toStdString());
+    m_native->directory().setValue(dir.toStdString());
 }
 
 void ExtendedWinFileDialog::selectNameFilter(const QString& filter)
 {
-    m_impl->m_currentFilterIndex->setValue(m_impl->m_nameFilters.indexOf(filter) + 1);
+    m_native->currentFilterIndex()->setValue(m_native->nameFilters().indexOf(filter) + 1);
 }
 
 QStringList ExtendedWinFileDialog::nameFilters()
 {
-    return m_impl->m_nameFilters;
+    return m_native->nameFilters();
 }
 
 void ExtendedWinFileDialog::setNameFilters(const QStringList& filters)
 {
-    m_impl->m_nameFilters = filters;
+    m_native->setNameFilters(filters);
 }
 
 QString ExtendedWinFileDialog::selectedNameFilter()
 {
-    return m_impl->currentNameFilter();
+    return m_native->currentNameFilter();
 }
 
 QWidget* ExtendedWinFileDialog::addCustomButton(const std::string& text, boost::function<void()> action)
 {
-    return m_impl->addCustomButton(text, std::move(action), false);
+    return m_native->controls().addButton(text, std::move(action), false);
 }
 
 QWidget* ExtendedWinFileDialog::addCustomCheckBox(
     const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked)
 {
-    return m_impl->addCustomCheckBox(text, std::move(checked));
+    return m_native->controls().addCheckBox(text, std::move(checked));
 }
 
 QWidget* ExtendedWinFileDialog::addAcceptButtonOption(const std::string& text, int value)
 {
-    return m_impl->addAcceptButtonOption(text, value);
+    return m_native->controls().addAcceptOption(text, value);
 }
 
 void ExtendedWinFileDialog::clearAcceptMenuOptions()
 {
-    m_impl->clearAcceptMenuOptions();
+    m_native->controls().clearAcceptOptions();
 }
 
 int ExtendedWinFileDialog::selectedAcceptMenuOption() const
 {
-    return m_impl->m_selectedAcceptMenuOption;
+    return m_native->controls().selectedAcceptOption();
 }
 
 boost::shared_ptr<morvane::PropertyAbstract<int>> ExtendedWinFileDialog::currentFilterIndex()
 {
-    return m_impl->m_currentFilterIndex;
+    return m_native->currentFilterIndex();
 }
 
 void ExtendedWinFileDialog::setDontConfirmOverwrite(bool on)
 {
-    m_impl->m_dontConfirmOverwrite = on;
+    m_native->setDontConfirmOverwrite(on);
 }
 
 void ExtendedWinFileDialog::setShowDirectoriesOnly(bool) {}
 
 QWidget* ExtendedWinFileDialog::parent()
 {
-    return m_impl->m_parent;
+    return m_native->parent();
 }
 
 void ExtendedWinFileDialog::close()
 {
-    m_impl->close();
+    m_native->close();
 }

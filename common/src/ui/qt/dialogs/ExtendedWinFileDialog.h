@@ -16,6 +16,9 @@
 #include <string>
 
 class QWidget;
+namespace morvane::ui {
+class NativeFileDialog;
+}
 
 /**
  * The platform's own file dialog, with an interface like that of QFileDialog. It has features that the Qt dialog does
@@ -190,6 +193,5 @@ private:
         const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode,
         bool useAcceptMenu);
 
-    struct Impl;
-    std::unique_ptr<Impl> m_impl;
+    std::unique_ptr<morvane::ui::NativeFileDialog> m_native;
 };

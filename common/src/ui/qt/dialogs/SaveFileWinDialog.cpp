@@ -1,6 +1,7 @@
 #include "ui/qt/dialogs/SaveFileWinDialog.h"
 
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
+#include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 #include "ui/qt/dialogs/native/NativeFileDialog_p.h"
 #include "ui/qt/dialogs/save/KeptDialogs_p.h"
 #include "ui/qt/dialogs/save/SaveFileFlow_p.h"
@@ -36,7 +37,7 @@ struct SaveFileWinDialog::Impl : morvane::ui::SaveFileFlow
         m_hasParent = m_parent;
         m_dialog = new ExtendedWinFileDialog(
             m_parent.data(), m_caption, m_directory, filter, helpTopic, QFileDialog::AcceptSave, false);
-        keptDialogs().push_back({m_dialog, m_dialog->m_impl->m_dialog.get()});
+        keptDialogs().push_back({m_dialog, m_dialog->m_native->shellDialog()});
     }
 
     void setNameFilters(const QStringList& filters) override { m_dialog->setNameFilters(filters); }

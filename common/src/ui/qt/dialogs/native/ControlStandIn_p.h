@@ -1,18 +1,33 @@
 #pragma once
 
-#include "ui/qt/dialogs/native/NativeFileDialog_p.h"
+#include "ui/qt/dialogs/shell/ShellInterfaces.h"
+
+#include <QWidget>
+
+namespace morvane::ui {
+
+enum class ControlKind : int
+{
+    PushButton = 0,
+    CheckBox = 1,
+    AcceptMenuItem = 2
+};
 
 /**
  * Stands for one control of the native dialog and passes on whether it is visible and enabled.
  *
- * Qt tells a widget of its visibility only while it counts as shown, so it is shown from the start, on no screen.
+ * Qt reports visibility changes only of a widget that counts as shown, so it is shown from the start, on no screen.
  */
-class ExtendedWinFileDialog::Impl::FakeWidget : public QWidget
+class ControlStandIn : public QWidget
 {
 public:
-    /** @param dialog borrowed; may be null, then nothing is passed on */
-    FakeWidget(IFileDialog* dialog, ControlKind kind, unsigned int controlId, unsigned int itemId);
-    ~FakeWidget() override;
+    /**
+     * @param dialog    not owned; null passes nothing on
+     * @param controlId of an item of the accept menu: the identifier of the menu
+     * @param itemId    0 for a button or check box
+     */
+    ControlStandIn(IFileDialog* dialog, ControlKind kind, unsigned int controlId, unsigned int itemId);
+    ~ControlStandIn() override;
 
     unsigned int itemId() const { return m_itemId; }
 
@@ -26,7 +41,9 @@ private:
     CDCONTROLSTATEF nativeState(IFileDialogCustomize& customize) const;
 
     IFileDialog* m_dialog = nullptr;
-    int m_kind;
+    ControlKind m_kind;
     unsigned int m_controlId;
     unsigned int m_itemId;
 };
+
+} // namespace morvane::ui

@@ -16,7 +16,7 @@ struct Enclosed
 
 Enclosed findEnclosed(std::string_view filter, std::string_view opening)
 {
-    // A dot in the expressions matches no line break, so a text that has one matches as a whole never.
+    // In the expressions a dot matches no line break, so a text with a line break never matches as a whole.
     if (filter.find('\n') != std::string_view::npos || filter.find('\r') != std::string_view::npos) {
         return {};
     }

@@ -11,7 +11,7 @@ namespace morvane::ui {
 // Reading name filters for the native dialog. Internal, not installed.
 // Every function takes time proportional to the length of the text and does not recurse.
 
-/** One file type as the Shell wants it, UTF-8. */
+/** One file type as the Shell takes it, UTF-8. */
 struct FileTypeText
 {
     std::string description;
@@ -27,12 +27,12 @@ FileTypeText splitNameFilter(std::string_view filter);
 
 /**
  * The extension that a filter gives to the typed name, as capture 1 of `.* \(\*\.(.*)\).*`: what stands between the
- * last blank, parenthesis, asterisk and dot and the last closing parenthesis. `Data (*.dat)` gives `dat`; two patterns
- * give both, blank and all. Empty when the filter has another form.
+ * last blank, parenthesis, asterisk and dot and the last closing parenthesis. `Data (*.dat)` gives `dat`; two
+ * patterns give both, with the blank. Empty when the filter has another form.
  */
 std::string extensionOfNameFilter(std::string_view filter);
 
-/** Whether an extension says nothing: `*`, as `All files (*.*)` has it, or a first pattern of wildcards alone. */
+/** Whether an extension fits every file: `*`, as in `All files (*.*)`, or a first pattern of wildcards alone. */
 bool isBareWildcard(std::string_view extension);
 
 /**

@@ -1,111 +1,89 @@
 #include "ui/qt/dialogs/native/NativeDialogEvents_p.h"
 
-ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::ExtendedWinFileDialogEventHandler(Impl& impl)
-    : m_shell(impl.m_shell), m_impl(&impl)
+namespace morvane::ui {
+
+NativeDialogEvents::NativeDialogEvents(Shell& shell, NativeDialogObserver& observer)
+    : m_shell(shell), m_observer(&observer)
 {
 }
 
-ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::~ExtendedWinFileDialogEventHandler() = default;
+NativeDialogEvents::~NativeDialogEvents() = default;
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::QueryInterface(
-    REFIID riid, void** object)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::QueryInterface(REFIID riid, void** object)
 {
-    using Handler = ExtendedWinFileDialogEventHandler;
-    static const QITAB table[] = {morvane::ui::interfaceRow<IFileDialogEvents, Handler>(),
-        morvane::ui::interfaceRow<IFileDialogControlEvents, Handler>(), QITAB{}};
+    static const QITAB table[] = {interfaceRow<IFileDialogEvents, NativeDialogEvents>(),
+        interfaceRow<IFileDialogControlEvents, NativeDialogEvents>(), QITAB{}};
     return m_shell.qiSearch(this, table, riid, object);
 }
 
-ULONG STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::AddRef()
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnFileOk(IFileDialog* dialog)
 {
-    return static_cast<ULONG>(++m_references);
-}
-
-ULONG STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::Release()
-{
-    const unsigned long left = --m_references;
-    if (left == 0) {
-        delete this;
-    }
-    return static_cast<ULONG>(left);
-}
-
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnFileOk(IFileDialog* dialog)
-{
-    if (m_impl && dialog) {
-        m_impl->accepting(*dialog);
+    if (m_observer && dialog) {
+        m_observer->onAccepting(*dialog);
     }
     return E_NOTIMPL;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnFolderChanging(
-    IFileDialog*, IShellItem*)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnFolderChanging(IFileDialog*, IShellItem*)
 {
     return E_NOTIMPL;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnFolderChange(
-    IFileDialog* dialog)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnFolderChange(IFileDialog* dialog)
 {
-    if (m_impl && dialog) {
-        m_impl->folderChanged(*dialog);
+    if (m_observer && dialog) {
+        m_observer->onFolderChanged(*dialog);
     }
     return S_OK;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnSelectionChange(
-    IFileDialog*)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnSelectionChange(IFileDialog*)
 {
     return E_NOTIMPL;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnShareViolation(
-    IFileDialog*, IShellItem*, FDE_SHAREVIOLATION_RESPONSE*)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnShareViolation(IFileDialog*, IShellItem*, FDE_SHAREVIOLATION_RESPONSE*)
 {
     return E_NOTIMPL;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnTypeChange(
-    IFileDialog* dialog)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnTypeChange(IFileDialog* dialog)
 {
-    if (m_impl && dialog) {
-        m_impl->typeChanged(*dialog);
+    if (m_observer && dialog) {
+        m_observer->onTypeChanged(*dialog);
     }
     return S_OK;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnOverwrite(
-    IFileDialog*, IShellItem*, FDE_OVERWRITE_RESPONSE*)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnOverwrite(IFileDialog*, IShellItem*, FDE_OVERWRITE_RESPONSE*)
 {
     return E_NOTIMPL;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnItemSelected(
-    IFileDialogCustomize*, DWORD, DWORD)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnItemSelected(IFileDialogCustomize*, DWORD, DWORD)
 {
     return E_NOTIMPL;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnButtonClicked(
-    IFileDialogCustomize*, DWORD control)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnButtonClicked(IFileDialogCustomize*, DWORD control)
 {
-    if (m_impl) {
-        m_impl->buttonClicked(control);
+    if (m_observer) {
+        m_observer->onButtonClicked(control);
     }
     return S_OK;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnCheckButtonToggled(
-    IFileDialogCustomize*, DWORD control, BOOL checked)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnCheckButtonToggled(IFileDialogCustomize*, DWORD control, BOOL checked)
 {
-    if (m_impl) {
-        m_impl->checkButtonToggled(control, checked);
+    if (m_observer) {
+        m_observer->onCheckButtonToggled(control, checked);
     }
     return S_OK;
 }
 
-HRESULT STDMETHODCALLTYPE ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler::OnControlActivating(
-    IFileDialogCustomize*, DWORD)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnControlActivating(IFileDialogCustomize*, DWORD)
 {
     return E_NOTIMPL;
 }
+
+} // namespace morvane::ui

@@ -1,27 +1,24 @@
 #pragma once
 
-#include "ui/qt/dialogs/native/NativeFileDialog_p.h"
+#include "ui/qt/dialogs/native/NativeDialogObserver_p.h"
+#include "ui/qt/dialogs/shell/Shell.h"
 
-#include <atomic>
+namespace morvane::ui {
 
 /**
- * Receives the events of a running dialog and hands those on that the dialog reacts to.
+ * Receives the events of a running dialog and passes to an observer those that it reacts to.
  *
- * Counted by reference. A Shell that keeps it too long calls an object that knows no dialog any more.
+ * Made as a ComObject. A Shell that keeps it too long calls an object without observer, which does nothing.
  */
-class ExtendedWinFileDialog::Impl::ExtendedWinFileDialogEventHandler final : public IFileDialogEvents,
-                                                                             public IFileDialogControlEvents
+class NativeDialogEvents : public IFileDialogEvents, public IFileDialogControlEvents
 {
 public:
-    /** Starts with one reference, the caller's. */
-    explicit ExtendedWinFileDialogEventHandler(Impl& impl);
+    NativeDialogEvents(Shell& shell, NativeDialogObserver& observer);
 
     /** From here on every event is ignored. */
-    void detach() { m_impl = nullptr; }
+    void detach() { m_observer = nullptr; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
 
     HRESULT STDMETHODCALLTYPE OnFileOk(IFileDialog* dialog) override;
     HRESULT STDMETHODCALLTYPE OnFolderChanging(IFileDialog* dialog, IShellItem* folder) override;
@@ -33,7 +30,7 @@ public:
     HRESULT STDMETHODCALLTYPE OnOverwrite(
         IFileDialog* dialog, IShellItem* item, FDE_OVERWRITE_RESPONSE* response) override;
 
-    virtual ~ExtendedWinFileDialogEventHandler();
+    virtual ~NativeDialogEvents();
 
     HRESULT STDMETHODCALLTYPE OnItemSelected(IFileDialogCustomize* customize, DWORD control, DWORD item) override;
     HRESULT STDMETHODCALLTYPE OnButtonClicked(IFileDialogCustomize* customize, DWORD control) override;
@@ -42,7 +39,8 @@ public:
     HRESULT STDMETHODCALLTYPE OnControlActivating(IFileDialogCustomize* customize, DWORD control) override;
 
 private:
-    morvane::ui::Shell& m_shell;
-    std::atomic<unsigned long> m_references{1};
-    Impl* m_impl;
+    Shell& m_shell;
+    NativeDialogObserver* m_observer;
 };
+
+} // namespace morvane::ui

@@ -1,45 +1,43 @@
 #include "ui/qt/dialogs/native/NativeFileDialog_p.h"
 
 #include "host/HelpLauncher.h"
-#include "host/StringConversion.h"
 #include "property/Property.h"
-#include "ui/qt/dialogs/native/ControlStandIn_p.h"
+#include "ui/qt/dialogs/native/AdvisedEvents_p.h"
 #include "ui/qt/dialogs/native/NameFilterText_p.h"
-#include "ui/qt/dialogs/native/NativeDialogEvents_p.h"
+#include "ui/qt/dialogs/native/NativeResults_p.h"
+#include "ui/qt/dialogs/native/NativeText_p.h"
 #include "ui/qt/dialogs/shell/TypedNames_p.h"
 #include "ui/qt/util/FilePath_p.h"
 #include "ui/qt/util/GuiThread_p.h"
 
-#include <QDir>
-
 #include <boost/filesystem/operations.hpp>
 #include <boost/make_shared.hpp>
 
-#include <utility>
-
-using morvane::Property;
-using morvane::ui::ComPtr;
-using morvane::ui::extensionOfNameFilter;
-using morvane::ui::iidOf;
-using morvane::ui::isBareWildcard;
-using morvane::ui::pathFromUtf8;
-using morvane::ui::pathToGenericUtf8;
-using morvane::ui::pathToUtf8;
-using morvane::ui::Shell;
-using morvane::ui::ShellString;
-using morvane::ui::splitNameFilters;
+namespace morvane::ui {
 
 namespace {
 
-/** What a name may gain without being asked: not the text of several patterns, and no wildcard. */
+/** Whether a name may get it without the user's choice: it is neither the text of several patterns nor a wildcard. */
 bool isOneExtension(const std::string& extension)
 {
     return !extension.empty() && extension.find_first_of(" ;*?") == std::string::npos;
 }
 
+class FlagGuard
+{
+public:
+    explicit FlagGuard(bool& flag) : m_flag(flag) { m_flag = true; }
+    ~FlagGuard() { m_flag = false; }
+    FlagGuard(const FlagGuard&) = delete;
+    FlagGuard& operator=(const FlagGuard&) = delete;
+
+private:
+    bool& m_flag;
+};
+
 } // namespace
 
-ExtendedWinFileDialog::Impl::Impl(QWidget* parent, const std::string& caption, const std::string& directory,
+NativeFileDialog::NativeFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode, bool useAcceptMenu)
     : m_shell(Shell::instance()),
       m_parent(parent),
@@ -49,9 +47,11 @@ ExtendedWinFileDialog::Impl::Impl(QWidget* parent, const std::string& caption, c
       m_acceptMode(acceptMode),
       m_currentFilterIndex(boost::make_shared<Property<int>>(1)),
       m_fileName(boost::make_shared<Property<std::string>>()),
-      m_useAcceptMenu(useAcceptMenu)
+      m_useAcceptMenu(useAcceptMenu),
+      m_controls(m_dialog),
+      m_state(m_shell, m_dialog)
 {
-    morvane::ui::expectGuiThread("ExtendedWinFileDialog");
+    expectGuiThread("ExtendedWinFileDialog");
     if (FAILED(m_shell.coInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE))) {
         return;
     }
@@ -63,13 +63,13 @@ ExtendedWinFileDialog::Impl::Impl(QWidget* parent, const std::string& caption, c
     }
 }
 
-ExtendedWinFileDialog::Impl::~Impl()
+NativeFileDialog::~NativeFileDialog()
 {
-    // Before the members and, last of all, the dialog go; hosts rely on the order.
+    // Before the members are destroyed and, last, the dialog is released. Hosts rely on the order.
     m_shell.coUninitialize();
 }
 
-void ExtendedWinFileDialog::Impl::init(const std::string& directory, const std::string& filter)
+void NativeFileDialog::init(const std::string& directory, const std::string& filter)
 {
     const CLSID& kind = m_acceptMode == QFileDialog::AcceptOpen ? CLSID_FileOpenDialog : CLSID_FileSaveDialog;
     m_shell.coCreateInstance(kind, nullptr, CLSCTX_INPROC_SERVER, iidOf<IFileDialog>(), m_dialog.putVoid());
@@ -80,14 +80,14 @@ void ExtendedWinFileDialog::Impl::init(const std::string& directory, const std::
         m_nameFilters = splitNameFilters(filter);
     }
     if (m_useAcceptMenu) {
-        initAcceptMenu();
+        m_controls.addAcceptMenu();
     }
     if (!m_helpTopic.empty()) {
         initHelpButton();
     }
 }
 
-void ExtendedWinFileDialog::Impl::initStartFolder(const std::string& directory)
+void NativeFileDialog::initStartFolder(const std::string& directory)
 {
     try {
         const boost::filesystem::path path = pathFromUtf8(directory);
@@ -101,205 +101,120 @@ void ExtendedWinFileDialog::Impl::initStartFolder(const std::string& directory)
     }
 }
 
-void ExtendedWinFileDialog::Impl::initAcceptMenu()
+void NativeFileDialog::initHelpButton()
 {
-    const auto customize = m_dialog.query<IFileDialogCustomize>();
-    m_acceptMenuId = m_nextControlId++;
-    if (customize) {
-        customize->EnableOpenDropDown(m_acceptMenuId);
-    }
+    m_controls.addButton(
+        "&Help", [this] { HelpLauncher::getInstance().showHelp(m_helpTopic); }, true);
 }
 
-void ExtendedWinFileDialog::Impl::initHelpButton()
-{
-    addCustomButton(
-        "&Help", [this] { showHelp(); }, true);
-}
-
-void ExtendedWinFileDialog::Impl::showHelp()
-{
-    morvane::HelpLauncher::getInstance().showHelp(m_helpTopic);
-}
-
-QString ExtendedWinFileDialog::Impl::currentNameFilter() const
+QString NativeFileDialog::currentNameFilter() const
 {
     const int index = m_currentFilterIndex->value();
     return index >= 1 ? m_nameFilters.value(index - 1) : QString();
 }
 
-void ExtendedWinFileDialog::Impl::close()
+QDialog::DialogCode NativeFileDialog::exec()
+{
+    expectGuiThread("ExtendedWinFileDialog");
+    // The Shell's dialog must not be shown while it runs.
+    if (!m_dialog || m_running) {
+        return QDialog::Rejected;
+    }
+    const FlagGuard running(m_running);
+    const AdvisedEvents events(m_shell, *m_dialog, *this);
+    prepareRun();
+    // Qt has the handle as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
+    const auto owner = m_parent ? reinterpret_cast<HWND>(m_parent->winId()) : HWND();
+    const HRESULT result = m_dialog->Show(owner);
+    m_accepted = result == S_OK && !m_closed;
+    if (m_useAcceptMenu) {
+        m_controls.readSelectedAcceptOption();
+    }
+    return result == S_OK ? QDialog::Accepted : QDialog::Rejected;
+}
+
+void NativeFileDialog::prepareRun()
+{
+    m_closed = false;
+    m_accepted = false;
+    m_firstRun = !m_optionsApplied;
+    if (m_optionsApplied) {
+        m_state.bringBack(m_nameFilters.size());
+    } else {
+        m_optionsApplied = true;
+        configure();
+    }
+    m_state.beginRun();
+}
+
+void NativeFileDialog::configure()
+{
+    m_state.tellTitle(m_caption);
+    m_state.tellOptions(m_fileMode, !m_dontConfirmOverwrite);
+    if (!m_directory->value().empty()) {
+        m_state.tellFolder(m_directory->value());
+    }
+    if (!m_nameFilters.isEmpty()) {
+        m_state.tellFileTypes(m_nameFilters);
+    }
+    m_state.tellFileType(m_currentFilterIndex->value(), m_nameFilters.size());
+    m_state.tellFileName(*m_dialog, m_fileName->value());
+}
+
+void NativeFileDialog::close()
 {
     if (m_dialog && SUCCEEDED(m_dialog->Close(S_OK))) {
         m_closed = m_closed || m_running;
     }
 }
 
-QStringList ExtendedWinFileDialog::Impl::selectedFiles()
+QStringList NativeFileDialog::selectedFiles()
 {
-    // Not every Shell forgets what an earlier run has chosen.
+    // Some Shells keep the result of an earlier run.
     if (!m_dialog || m_closed) {
         return {};
     }
-    FILEOPENDIALOGOPTIONS options = 0;
-    m_dialog->GetOptions(&options);
-    if ((options & FOS_ALLOWMULTISELECT) == 0) {
-        return oneResult();
-    }
-    if (const auto open = m_dialog.query<IFileOpenDialog>()) {
-        return severalResults(*open);
-    }
-    // A save dialog has no list of results.
-    const QStringList files = oneResult();
-    return files.isEmpty() ? acceptedNames() : files;
+    return NativeResults(m_shell, m_dialog).read(m_accepted ? m_state.acceptedName() : std::nullopt);
 }
 
-QStringList ExtendedWinFileDialog::Impl::oneResult()
-{
-    QStringList files;
-    ComPtr<IShellItem> item;
-    if (SUCCEEDED(m_dialog->GetResult(item.put())) && item) {
-        appendPath(files, *item);
-    }
-    return files;
-}
-
-QStringList ExtendedWinFileDialog::Impl::severalResults(IFileOpenDialog& dialog)
-{
-    QStringList files;
-    ComPtr<IShellItemArray> items;
-    if (FAILED(dialog.GetResults(items.put())) || !items) {
-        return files;
-    }
-    DWORD count = 0;
-    items->GetCount(&count);
-    for (DWORD i = 0; i < count; ++i) {
-        ComPtr<IShellItem> item;
-        items->GetItemAt(i, item.put());
-        if (item) {
-            appendPath(files, *item);
-        }
-    }
-    return files;
-}
-
-QStringList ExtendedWinFileDialog::Impl::acceptedNames()
-{
-    QStringList files;
-    ComPtr<IShellItem> folder;
-    if (!m_accepted || !m_acceptedName || FAILED(m_dialog->GetFolder(folder.put())) || !folder) {
-        return files;
-    }
-    const QString name = QString::fromStdString(*m_acceptedName);
-    for (const QString& path : morvane::ui::pathsOfTypedText(name, pathOf(*folder), true)) {
-        files.append(QDir::toNativeSeparators(path));
-    }
-    return files;
-}
-
-QWidget* ExtendedWinFileDialog::Impl::addCustomButton(
-    const std::string& text, boost::function<void()> action, bool prominent)
-{
-    const unsigned int id = addControl(ControlKind::PushButton, text, prominent, false);
-    m_buttonActions[id] = std::move(action);
-    m_controlWidgets.push_back(std::make_unique<FakeWidget>(m_dialog.get(), ControlKind::PushButton, id, 0));
-    return m_controlWidgets.back().get();
-}
-
-QWidget* ExtendedWinFileDialog::Impl::addCustomCheckBox(
-    const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked)
-{
-    const unsigned int id = addControl(ControlKind::CheckBox, text, false, checked && checked->value());
-    m_checkBoxProperties[id] = std::move(checked);
-    m_controlWidgets.push_back(std::make_unique<FakeWidget>(m_dialog.get(), ControlKind::CheckBox, id, 0));
-    return m_controlWidgets.back().get();
-}
-
-QWidget* ExtendedWinFileDialog::Impl::addAcceptButtonOption(const std::string& text, int value)
-{
-    const unsigned int id = addControl(ControlKind::AcceptMenuItem, text, false, false);
-    m_acceptMenuValues[id] = value;
-    m_acceptMenuWidgets.push_back(
-        std::make_unique<FakeWidget>(m_dialog.get(), ControlKind::AcceptMenuItem, m_acceptMenuId, id));
-    return m_acceptMenuWidgets.back().get();
-}
-
-void ExtendedWinFileDialog::Impl::clearAcceptMenuOptions()
-{
-    const auto customize = m_dialog.query<IFileDialogCustomize>();
-    for (const auto& widget : m_acceptMenuWidgets) {
-        if (customize) {
-            customize->RemoveControlItem(m_acceptMenuId, widget->itemId());
-        }
-    }
-    m_acceptMenuWidgets.clear();
-}
-
-unsigned int ExtendedWinFileDialog::Impl::addControl(
-    ControlKind kind, const std::string& text, bool prominent, bool checked)
-{
-    const auto customize = m_dialog.query<IFileDialogCustomize>();
-    const unsigned int id = m_nextControlId++;
-    if (customize && SUCCEEDED(requestControl(*customize, kind, id, text, checked)) && prominent) {
-        customize->MakeProminent(id);
-    }
-    return id;
-}
-
-HRESULT ExtendedWinFileDialog::Impl::requestControl(
-    IFileDialogCustomize& customize, ControlKind kind, DWORD id, const std::string& text, bool checked)
-{
-    const ShellString label = shellText(text);
-    switch (kind) {
-    case ControlKind::PushButton:
-        return customize.AddPushButton(id, label.c_str());
-    case ControlKind::CheckBox:
-        return customize.AddCheckButton(id, label.c_str(), checked ? TRUE : FALSE);
-    case ControlKind::AcceptMenuItem:
-        break;
-    }
-    return customize.AddControlItem(m_acceptMenuId, id, label.c_str());
-}
-
-void ExtendedWinFileDialog::Impl::accepting(IFileDialog& dialog)
+void NativeFileDialog::onAccepting(IFileDialog& dialog)
 {
     if (m_acceptMode == QFileDialog::AcceptOpen) {
         return;
     }
     if (const auto name = typedName(dialog)) {
-        m_acceptedName = name->toStdString();
+        m_state.nameAccepted(name->toStdString());
     }
 }
 
-void ExtendedWinFileDialog::Impl::folderChanged(IFileDialog& dialog)
+void NativeFileDialog::onFolderChanged(IFileDialog& dialog)
 {
     ComPtr<IShellItem> folder;
     dialog.GetFolder(folder.put());
     if (!folder) {
         return;
     }
-    const QString path = pathOf(*folder);
+    const QString path = nativePathOf(m_shell, *folder);
     if (path.isEmpty()) { // a virtual folder has none
         return;
     }
-    m_openedFolder = m_openedFolder.isEmpty() ? path : m_openedFolder;
-    m_leftFolder = path;
+    m_state.folderShown(path);
     m_directory->setValue(path.toStdString());
 }
 
-void ExtendedWinFileDialog::Impl::typeChanged(IFileDialog& dialog)
+void NativeFileDialog::onTypeChanged(IFileDialog& dialog)
 {
     UINT index = static_cast<UINT>(m_currentFilterIndex->value());
     dialog.GetFileTypeIndex(&index);
     // The Shell announces its type when it opens, too.
-    const bool picked = static_cast<int>(index) != m_shownType;
-    m_shownType = static_cast<int>(index);
-    m_currentFilterIndex->setValue(m_shownType);
+    const bool picked = m_state.typeShown(static_cast<int>(index));
+    m_currentFilterIndex->setValue(static_cast<int>(index));
     if (m_acceptMode == QFileDialog::AcceptSave && (picked || m_firstRun)) {
         replaceTypedExtension(dialog, picked);
     }
 }
 
-void ExtendedWinFileDialog::Impl::replaceTypedExtension(IFileDialog& dialog, bool picked)
+void NativeFileDialog::replaceTypedExtension(IFileDialog& dialog, bool picked)
 {
     const QString name = typedName(dialog).value_or(QString());
     const int index = m_currentFilterIndex->value();
@@ -309,62 +224,19 @@ void ExtendedWinFileDialog::Impl::replaceTypedExtension(IFileDialog& dialog, boo
     const std::string extension = extensionOfNameFilter(m_nameFilters[index - 1].toStdString());
     boost::filesystem::path path = pathFromUtf8(name.toStdString());
     const bool wanted = picked ? !isBareWildcard(extension) : isOneExtension(extension) && !path.has_extension();
-    if (!wanted || !morvane::ui::quotedNames(name).isEmpty()) {
+    if (!wanted || !quotedNames(name).isEmpty()) {
         return;
     }
     path.replace_extension(pathFromUtf8(extension));
-    tellFileName(dialog, pathToGenericUtf8(path));
+    m_state.tellFileName(dialog, pathToGenericUtf8(path));
 }
 
-std::optional<QString> ExtendedWinFileDialog::Impl::typedName(IFileDialog& dialog)
+std::optional<QString> NativeFileDialog::typedName(IFileDialog& dialog)
 {
     LPWSTR text = nullptr;
     const HRESULT result = dialog.GetFileName(&text);
-    const QString name = takeText(text);
+    const QString name = takeText(m_shell, text);
     return SUCCEEDED(result) ? std::optional<QString>(name) : std::nullopt;
 }
 
-void ExtendedWinFileDialog::Impl::buttonClicked(DWORD control)
-{
-    const auto found = m_buttonActions.find(control);
-    if (found != m_buttonActions.end()) {
-        const boost::function<void()> action = found->second; // it may add buttons
-        action();
-    }
-}
-
-void ExtendedWinFileDialog::Impl::checkButtonToggled(DWORD control, BOOL checked)
-{
-    const auto found = m_checkBoxProperties.find(control);
-    if (found != m_checkBoxProperties.end() && found->second) {
-        const auto property = found->second;
-        property->setValue(checked == TRUE);
-    }
-}
-
-ShellString ExtendedWinFileDialog::Impl::shellText(const std::string& utf8)
-{
-    return morvane::ui::toShellString(morvane::utf8ToWideString(utf8));
-}
-
-QString ExtendedWinFileDialog::Impl::takeText(LPWSTR text)
-{
-    const QString result = morvane::ui::toQString(text);
-    m_shell.coTaskMemFree(text);
-    return result;
-}
-
-void ExtendedWinFileDialog::Impl::appendPath(QStringList& files, IShellItem& item)
-{
-    const QString path = pathOf(item);
-    if (!path.isEmpty()) { // not told, or of something that is no file
-        files.append(path);
-    }
-}
-
-QString ExtendedWinFileDialog::Impl::pathOf(IShellItem& item)
-{
-    LPWSTR path = nullptr;
-    item.GetDisplayName(SIGDN_FILESYSPATH, &path);
-    return takeText(path);
-}
+} // namespace morvane::ui

@@ -42,7 +42,7 @@ AcceptMenu::~AcceptMenu() = default;
 
 void AcceptMenu::update(const Control& dropDown)
 {
-    // The menu may be the sender of what leads here, so the actions go later.
+    // A signal of an action may lead here, so the actions are deleted later.
     for (QAction* const action : m_menu->actions()) {
         m_menu->removeAction(action);
         action->deleteLater();
@@ -54,7 +54,7 @@ void AcceptMenu::update(const Control& dropDown)
     }
     setEnabled(dropDown.isEnabled());
     setVisible(any && dropDown.isVisible());
-    // Room on both sides keeps the text of the button in its middle.
+    // Space on both sides keeps the text of the button centred.
     m_acceptButton.setMinimumWidth(isHidden() ? 0 : m_acceptButton.sizeHint().width() + 2 * arrowWidth);
     fitToButton();
 }
@@ -79,13 +79,13 @@ bool AcceptMenu::filterMenu(QEvent& event)
     if (m_isResending || (event.type() != QEvent::MouseButtonRelease && event.type() != QEvent::KeyPress)) {
         return false;
     }
-    // QMenu goes on using itself after an action was triggered, so nobody is told before it is done.
+    // QMenu uses its members after an action was triggered, so the pick is reported once it has returned.
     m_isResending = true;
     QCoreApplication::sendEvent(m_menu, &event);
     m_isResending = false;
     if (const auto item = std::exchange(m_due, std::nullopt)) {
         event.accept();
-        m_picked(*item); // which may be the end of the dialog
+        m_picked(*item); // may end the dialog
     }
     return true;
 }
@@ -143,7 +143,7 @@ void AcceptMenu::placeMenu()
         menu.moveLeft(button.left());
     }
     if (screen && menu.top() < room.top()) {
-        // Beside the button, where none of the others is.
+        // Beside the button, where no other button lies.
         menu.moveTop(button.top());
         menu.moveLeft(button.right() + menu.width() < room.right() ? button.right() + 1 : button.left() - menu.width());
     }

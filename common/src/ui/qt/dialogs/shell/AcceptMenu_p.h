@@ -13,8 +13,8 @@ namespace morvane::ui {
 
 /**
  * The arrow at the right end of the accept button, with the menu of the drop-down's items. The arrow is hidden while
- * there is no item to choose. The button itself works as before. The menu opens above the button, since others of the
- * dialog lie below.
+ * there is no item to choose. The button itself works as before. The menu opens above the button, since other buttons
+ * of the dialog lie below.
  */
 class AcceptMenu : public QToolButton
 {
@@ -40,7 +40,7 @@ private:
     const std::function<void(DWORD)> m_picked;
     QMenu* m_menu;
     bool m_isResending = false;
-    std::optional<DWORD> m_due; ///< was picked, and nobody was told yet
+    std::optional<DWORD> m_due; ///< picked, but not reported yet
 };
 
 } // namespace morvane::ui

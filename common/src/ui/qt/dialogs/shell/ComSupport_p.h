@@ -3,36 +3,41 @@
 #include "ui/qt/dialogs/shell/ShellInterfaces.h"
 #include "ui/qt/dialogs/shell/ShellText_p.h"
 
-#include <atomic>
 #include <cstdlib>
 #include <cstring>
 
 namespace morvane::ui {
 
-/** The reference count of an object that is made with one reference. */
-class ReferenceCount
+/** Shell::qiSearch() where the operating system has none. */
+inline HRESULT searchInterfaces(void* that, const QITAB* table, REFIID iid, void** object)
 {
-public:
-    ULONG increment() { return ++m_count; }
-    /** The caller deletes the object when this returns 0. */
-    ULONG decrement() { return --m_count; }
+    if (!object) {
+        return E_POINTER;
+    }
+    *object = nullptr;
+    for (const QITAB* row = table; row->piid; ++row) {
+        if (*row->piid == iid || (row == table && iid == IID_IUnknown)) {
+            auto* const found = reinterpret_cast<IUnknown*>(static_cast<char*>(that) + row->dwOffset);
+            found->AddRef();
+            *object = found;
+            return S_OK;
+        }
+    }
+    return E_NOINTERFACE;
+}
 
-private:
-    std::atomic<ULONG> m_count{1};
-};
-
-/** The answer of a method that is not offered and would give something back; @p result is null afterwards. */
+/** Answers @p answer, with null in @p result. */
 template <typename Result>
-HRESULT notImplemented(Result** result)
+HRESULT withoutResult(Result** result, HRESULT answer = E_NOTIMPL)
 {
     if (!result) {
         return E_POINTER;
     }
     *result = nullptr;
-    return E_NOTIMPL;
+    return answer;
 }
 
-/** Hands @p text to a caller who frees it with Shell::coTaskMemFree() of WidgetShell. */
+/** A copy of @p text that the caller frees with freeTaskMemory(). */
 inline HRESULT copyToTaskMemory(const QString& text, LPWSTR* copy)
 {
     const ShellString units = toShellString(text);

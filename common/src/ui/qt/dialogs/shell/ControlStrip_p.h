@@ -18,8 +18,8 @@ class FileDialogWindow;
 
 /**
  * The widgets of the custom controls in one dialog made of widgets: a row below the file types, the prominent push
- * button below the dialog's own buttons, and the menu on the accept button, which carries the text of the menu's first
- * item then. A child of the dialog.
+ * button below the dialog's own buttons, and the menu on the accept button, which then shows the text of the menu's
+ * first item. A child of the dialog.
  */
 class ControlStrip : public QObject
 {
@@ -27,7 +27,7 @@ public:
     ControlStrip(FileDialogWindow& dialog, ControlActions actions);
     ~ControlStrip() override;
 
-    /** Makes the widgets look like @p controls; safe while one of them is being worked. */
+    /** Makes the widgets match @p controls. May be called from a signal of one of them. */
     void update(const std::vector<Control>& controls);
 
 private:

@@ -37,13 +37,13 @@ struct Control
     std::vector<ControlItem> items{};
     std::optional<DWORD> selectedItem{};
 
-    /** What the accept button stands for: the first item that can be chosen. Null without one. */
+    /** The item that the accept button itself chooses: the first that is visible and enabled. Null without one. */
     const ControlItem* firstChoice() const;
     bool isEnabled() const { return (state & CDCS_ENABLED) != 0; }
     bool isVisible() const { return (state & CDCS_VISIBLE) != 0; }
 };
 
-/** What the dialog does when the user works a control. */
+/** Called when the user uses a control. */
 struct ControlActions
 {
     std::function<void(DWORD control)> clicked;

@@ -19,9 +19,7 @@ auto* findById(Range& range, DWORD id)
 
 } // namespace
 
-CustomControls::CustomControls(IUnknown& owner, ControlActions actions) : m_owner(owner), m_actions(std::move(actions))
-{
-}
+CustomControls::CustomControls(ControlActions actions) : m_actions(std::move(actions)) {}
 
 CustomControls::~CustomControls() = default;
 
@@ -42,21 +40,6 @@ void CustomControls::refresh()
     if (m_strip) {
         m_strip->update(m_controls);
     }
-}
-
-HRESULT CustomControls::QueryInterface(REFIID riid, void** object)
-{
-    return m_owner.QueryInterface(riid, object);
-}
-
-ULONG CustomControls::AddRef()
-{
-    return m_owner.AddRef();
-}
-
-ULONG CustomControls::Release()
-{
-    return m_owner.Release();
 }
 
 HRESULT CustomControls::EnableOpenDropDown(DWORD control)
@@ -266,7 +249,7 @@ bool CustomControls::onItemPicked(DWORD id, DWORD item)
     const bool ended = m_actions.itemPicked(id, item);
     Control* const found = find(id);
     if (!ended && found && found->selectedItem == item) {
-        // The choice was refused. The next press on the button itself is for what the button says.
+        // The choice was refused. Pressing the button itself next chooses the item that the button shows.
         found->selectedItem = before && findItem(id, *before) ? before : std::nullopt;
     }
     return ended;

@@ -15,26 +15,22 @@ class FileDialogWindow;
 
 /**
  * The controls that an application adds to the dialog, kept from run to run, and shown in the window while there is
- * one. Part of the dialog object, whose identity and reference count it shares.
+ * one. Part of the dialog object, see ComPart.
  *
  * Push buttons, check buttons and the accept button's drop-down with its items exist. The other kinds of control
  * (menus, combo boxes, radio lists, edit boxes, separators, texts, visual groups) are answered with E_NOTIMPL.
  */
-class CustomControls final : public IFileDialogCustomize
+class CustomControls : public IFileDialogCustomize
 {
 public:
-    CustomControls(IUnknown& owner, ControlActions actions);
+    explicit CustomControls(ControlActions actions);
     virtual ~CustomControls();
 
     bool isEmpty() const { return m_controls.empty(); }
     /** Shows the controls in @p window until it is destroyed, and forgets which drop-down item was picked before. */
     void showIn(FileDialogWindow& window);
-    /** To be called when what the controls stand beside has changed. */
+    /** Updates the widgets after a change of the dialog's own texts. */
     void refresh();
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
 
     HRESULT STDMETHODCALLTYPE EnableOpenDropDown(DWORD control) override;
     HRESULT STDMETHODCALLTYPE AddMenu(DWORD, LPCWSTR) override { return E_NOTIMPL; }
@@ -48,7 +44,7 @@ public:
     HRESULT STDMETHODCALLTYPE SetControlLabel(DWORD control, LPCWSTR label) override;
     HRESULT STDMETHODCALLTYPE GetControlState(DWORD control, CDCONTROLSTATEF* state) override;
     HRESULT STDMETHODCALLTYPE SetControlState(DWORD control, CDCONTROLSTATEF state) override;
-    HRESULT STDMETHODCALLTYPE GetEditBoxText(DWORD, WCHAR** text) override { return notImplemented(text); }
+    HRESULT STDMETHODCALLTYPE GetEditBoxText(DWORD, WCHAR** text) override { return withoutResult(text); }
     HRESULT STDMETHODCALLTYPE SetEditBoxText(DWORD, LPCWSTR) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetCheckButtonState(DWORD control, BOOL* checked) override;
     HRESULT STDMETHODCALLTYPE SetCheckButtonState(DWORD control, BOOL checked) override;
@@ -73,7 +69,6 @@ private:
     bool onItemPicked(DWORD id, DWORD item);
     HRESULT updated();
 
-    IUnknown& m_owner;
     const ControlActions m_actions;
     std::vector<Control> m_controls;
     QPointer<ControlStrip> m_strip;

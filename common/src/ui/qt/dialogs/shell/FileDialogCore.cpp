@@ -16,7 +16,7 @@ namespace morvane::ui {
 
 namespace {
 
-// What the Shell's own dialogs report before anybody has set options.
+// The options of the Shell's own dialogs before the first SetOptions.
 constexpr FILEOPENDIALOGOPTIONS initialOpenOptions = FOS_FILEMUSTEXIST | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR;
 constexpr FILEOPENDIALOGOPTIONS initialSaveOptions =
     FOS_NOREADONLYRETURN | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR | FOS_OVERWRITEPROMPT;
@@ -41,7 +41,7 @@ FileTypeEntry fileTypeOf(const COMDLG_FILTERSPEC& spec)
     for (const QString& piece : toQString(spec.pszSpec).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
         const QString pattern = piece.trimmed();
         if (!pattern.isEmpty()) {
-            // To the Shell it means every file, to Qt only those with a dot.
+            // To the Shell this means every file, to Qt only names with a dot.
             type.patterns.append(pattern == QLatin1String("*.*") ? QStringLiteral("*") : pattern);
         }
     }
@@ -54,6 +54,7 @@ FileDialogCore::FileDialogCore(IFileDialog& dialog, bool saving, bool alwaysWidg
     : m_dialog(dialog),
       m_alwaysWidgets(alwaysWidgets),
       m_options(saving ? initialSaveOptions : initialOpenOptions),
+      m_notifier(dialog, [this] { end(E_FAIL); }),
       m_controls(dialog, controlActions())
 {
     m_settings.saving = saving;
@@ -69,7 +70,7 @@ HRESULT FileDialogCore::show(HWND owner)
     if (!canShowWindows()) {
         return E_UNEXPECTED;
     }
-    // A sink may give up the last other reference.
+    // A sink may release the last other reference.
     const auto self = ComPtr<IFileDialog>::share(&m_dialog);
     {
         begin();
@@ -79,16 +80,14 @@ HRESULT FileDialogCore::show(HWND owner)
     if (m_outcome != S_OK) {
         m_results.clear();
     }
-    if (m_exception) {
-        std::rethrow_exception(std::exchange(m_exception, nullptr));
-    }
+    m_notifier.rethrow();
     return m_outcome;
 }
 
 void FileDialogCore::begin()
 {
     m_running = true;
-    m_ended = false;
+    m_notifier.beginRun();
     m_outcome = cancelled;
     m_results.clear();
 }
@@ -102,7 +101,7 @@ void FileDialogCore::run(QWidget* owner)
         m_controls.showIn(*m_window);
     }
     announceOpening();
-    if (m_window && !m_ended) {
+    if (isOpen()) {
         m_window->run();
     }
     if (m_window) {
@@ -114,10 +113,10 @@ void FileDialogCore::run(QWidget* owner)
 void FileDialogCore::announceOpening()
 {
     mayEnterFolder(m_settings.folder);
-    if (m_window && !m_ended) {
+    if (isOpen()) {
         onFolderChanged(m_settings.folder);
     }
-    if (m_window && !m_ended && !m_settings.types.empty()) {
+    if (isOpen() && !m_settings.types.empty()) {
         onTypeChanged(m_settings.typeIndex);
     }
 }
@@ -132,7 +131,7 @@ HRESULT FileDialogCore::close(HRESULT result)
 
 void FileDialogCore::end(HRESULT result)
 {
-    m_ended = true;
+    m_notifier.endRun();
     m_outcome = result;
     if (m_window) {
         m_window->done(QDialog::Rejected);
@@ -350,6 +349,63 @@ HRESULT FileDialogCore::getResults(IShellItemArray** items) const
     }
     *items = m_results.isEmpty() ? nullptr : makeShellItemArray(m_results).detach();
     return *items ? S_OK : E_UNEXPECTED;
+}
+
+void FileDialogCore::onFolderChanged(const QString& folder)
+{
+    m_settings.folder = folder;
+    m_notifier.folderChanged();
+}
+
+void FileDialogCore::onTypeChanged(int index)
+{
+    m_settings.typeIndex = index;
+    m_notifier.typeChanged();
+}
+
+bool FileDialogCore::mayAccept(const QStringList& paths)
+{
+    // A sink may run an event loop before it answers; until then a second choice is refused.
+    if (m_deciding) {
+        return false;
+    }
+    m_deciding = true;
+    m_results = paths;
+    const bool accepted = m_notifier.accepting();
+    m_deciding = false;
+    if (accepted) {
+        m_notifier.endRun();
+        m_outcome = S_OK;
+    } else {
+        m_results.clear();
+    }
+    return accepted;
+}
+
+ControlActions FileDialogCore::controlActions()
+{
+    ControlActions actions;
+    actions.clicked = [this](DWORD id) {
+        m_notifier.tellControls([&](IFileDialogControlEvents& sink) { return sink.OnButtonClicked(&m_controls, id); });
+    };
+    actions.toggled = [this](DWORD id, bool checked) {
+        m_notifier.tellControls([&](IFileDialogControlEvents& sink) {
+            return sink.OnCheckButtonToggled(&m_controls, id, checked ? TRUE : FALSE);
+        });
+    };
+    actions.activating = [this](DWORD id) {
+        m_notifier.tellControls(
+            [&](IFileDialogControlEvents& sink) { return sink.OnControlActivating(&m_controls, id); });
+    };
+    actions.itemPicked = [this](DWORD id, DWORD item) {
+        m_notifier.tellControls(
+            [&](IFileDialogControlEvents& sink) { return sink.OnItemSelected(&m_controls, id, item); });
+        if (isOpen()) {
+            m_window->accept();
+        }
+        return m_notifier.hasRunEnded();
+    };
+    return actions;
 }
 
 } // namespace morvane::ui

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "ui/qt/dialogs/shell/ComPart_p.h"
 #include "ui/qt/dialogs/shell/CustomControls_p.h"
-#include "ui/qt/dialogs/shell/EventSinks_p.h"
 #include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
+#include "ui/qt/dialogs/shell/SinkNotifier_p.h"
 
 #include <QPointer>
 
-#include <exception>
 #include <optional>
 
 namespace morvane::ui {
@@ -31,8 +31,8 @@ public:
     HRESULT setFileTypes(UINT count, const COMDLG_FILTERSPEC* types);
     HRESULT setFileTypeIndex(UINT index);
     HRESULT getFileTypeIndex(UINT* index) const;
-    HRESULT advise(IFileDialogEvents* sink, DWORD* cookie) { return m_sinks.advise(sink, cookie); }
-    HRESULT unadvise(DWORD cookie) { return m_sinks.unadvise(cookie); }
+    HRESULT advise(IFileDialogEvents* sink, DWORD* cookie) { return m_notifier.advise(sink, cookie); }
+    HRESULT unadvise(DWORD cookie) { return m_notifier.unadvise(cookie); }
     HRESULT setOptions(FILEOPENDIALOGOPTIONS options);
     HRESULT getOptions(FILEOPENDIALOGOPTIONS* options) const;
     HRESULT setDefaultFolder(IShellItem* folder);
@@ -50,11 +50,11 @@ public:
     HRESULT getResults(IShellItemArray** items) const;
 
 private:
-    bool mayEnterFolder(const QString& folder) override;
+    bool mayEnterFolder(const QString& folder) override { return m_notifier.folderChanging(folder); }
     void onFolderChanged(const QString& folder) override;
-    void onSelectionChanged() override;
+    void onSelectionChanged() override { m_notifier.selectionChanged(); }
     void onTypeChanged(int index) override;
-    OverwriteAnswer mayOverwrite(const QString& path) override;
+    OverwriteAnswer mayOverwrite(const QString& path) override { return m_notifier.overwriting(path); }
     bool mayAccept(const QStringList& paths) override;
 
     ControlActions controlActions();
@@ -64,10 +64,9 @@ private:
     void begin();
     void run(QWidget* owner);
     void announceOpening();
+    /** The window is there, and nothing has ended the run. */
+    bool isOpen() const { return m_window && !m_notifier.hasRunEnded(); }
     void end(HRESULT result);
-    HRESULT guarded(const std::function<HRESULT()>& call);
-    HRESULT tell(const std::function<HRESULT(IFileDialogEvents&)>& call);
-    void tellControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call);
     void applyTexts();
 
     IFileDialog& m_dialog;
@@ -76,15 +75,13 @@ private:
     FileDialogSettings m_settings; // the flags that follow from the options are filled in for each run
     std::optional<QString> m_fileName;
     QString m_defaultFolder;
-    EventSinks m_sinks;
-    CustomControls m_controls;
+    SinkNotifier m_notifier;
+    ComPart<CustomControls> m_controls;
 
     QPointer<FileDialogWindow> m_window;
     bool m_running = false;
-    bool m_ended = false;
     bool m_deciding = false;
     HRESULT m_outcome = S_OK;
-    std::exception_ptr m_exception;
     QStringList m_results;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 
 #include "ui/qt/dialogs/shell/TypedNames_p.h"
+#include "ui/qt/dialogs/shell/TypedPatterns_p.h"
 #include "ui/qt/util/FileDialogAccessibility_p.h"
 #include "ui/qt/util/FileDialogLayout_p.h"
 
@@ -22,11 +23,16 @@ namespace morvane::ui {
 
 namespace {
 
-/** How a type is written where Qt takes it apart again. */
+/** The type as a filter for the desktop's dialog, which Qt parses. */
 QString nativeFilter(const FileTypeEntry& type)
 {
     const QString patterns = type.patterns.isEmpty() ? QStringLiteral("*") : type.patterns.join(QLatin1Char(' '));
     return QStringLiteral("%1 (%2)").arg(type.description, patterns).simplified();
+}
+
+bool isFolder(const QString& path)
+{
+    return QFileInfo(path).isDir();
 }
 
 } // namespace
@@ -119,8 +125,8 @@ void FileDialogWindow::setUpTypeCombo()
     if (m_settings.types.empty()) {
         return;
     }
-    // Qt is given filters without meaning, one for each type: it simplifies descriptions, and in save mode it would
-    // rewrite the typed suffix after the first pattern. What is shown and what is filtered is set here.
+    // Qt gets one placeholder for each type: it simplifies descriptions, and in save mode it would replace the typed
+    // suffix by that of the first pattern. The real texts and patterns are set here.
     QStringList placeholders;
     QStringList descriptions;
     for (const FileTypeEntry& type : m_settings.types) {
@@ -177,7 +183,7 @@ void FileDialogWindow::watchWidgets()
     });
     if (auto* const view = findChild<QAbstractItemView*>(QStringLiteral("listView"))) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-            updateAcceptButton(); // Qt goes by the typed text, which need not change
+            updateAcceptButton(); // Qt checks the typed text, which need not change
             m_selectionPending = true;
             deliverLater();
         });
@@ -205,7 +211,7 @@ QString FileDialogWindow::typedName() const
 void FileDialogWindow::setTypedName(const QString& name)
 {
     if (m_nameEdit) {
-        // A wildcard that is given another ending, as for another type, is still no name of a file.
+        // A wildcard that gets another extension, as for another type, is still no file name.
         m_editedName = holdsWildcard() ? name : m_editedName;
         m_nameEdit->setText(name);
         return;
@@ -286,7 +292,7 @@ void FileDialogWindow::updateAcceptButton()
 
 void FileDialogWindow::keepAcceptText()
 {
-    // Qt writes "Open" on it while a folder is selected, which is not what it does here: the name decides.
+    // Qt shows "Open" on it while a folder is selected, but here the button acts on the name.
     const QString& text = m_optionText.isEmpty() ? m_acceptText : m_optionText;
     if (consistsOfWidgets() && !text.isEmpty() && acceptButton()->text() != text) {
         acceptButton()->setText(text);
@@ -299,7 +305,7 @@ void FileDialogWindow::onTypePicked(int index)
         forgetWildcard();
     }
     m_settings.typeIndex = index;
-    applyPatterns(); // Qt has just put its placeholder there, also when the same type was picked again
+    applyPatterns(); // Qt has just set its placeholder, also when the same type was picked again
     deliverLater();
 }
 
@@ -316,7 +322,7 @@ void FileDialogWindow::onNativeTypePicked(const QString& filter)
 
 void FileDialogWindow::deliverLater()
 {
-    // These changes are reported from deep inside Qt's widgets, where the window must not be changed or destroyed.
+    // Qt emits these signals within its own changes, when the window must not be changed or destroyed.
     QMetaObject::invokeMethod(
         this, [this] { deliver(); }, Qt::QueuedConnection);
 }
@@ -356,6 +362,101 @@ void FileDialogWindow::deliverFolder()
     }
     m_folder = folder;
     m_observer.onFolderChanged(folder);
+}
+
+void FileDialogWindow::accept()
+{
+    const QPointer<FileDialogWindow> self(this);
+    deliver(); // reports earlier changes before the choice
+    if (!self || !isVisible()) {
+        return;
+    }
+    if (holdsWildcard()) {
+        filterByWildcard();
+        return;
+    }
+    const QStringList paths = consistsOfWidgets() ? chosenPaths() : selectedFiles();
+    if (paths.isEmpty() || (consistsOfWidgets() && (enterFolderAmong(paths) || !checks().exist(paths)))) {
+        return;
+    }
+    if (!self || (consistsOfWidgets() && m_settings.saving && !checks().mayReplaceAll(paths)) || !self) {
+        return;
+    }
+    const bool accepted = m_observer.mayAccept(paths);
+    if (self && accepted) {
+        done(QDialog::Accepted);
+    } else if (self && !consistsOfWidgets() && isVisible()) {
+        m_again = true;
+        done(QDialog::Rejected);
+    }
+}
+
+void FileDialogWindow::filterByWildcard()
+{
+    if (!enterFolderOfWildcard()) {
+        return;
+    }
+    forgetWildcard();
+    m_typedPatterns = patternsOfTypedText(m_nameEdit->text());
+    applyPatterns();
+    if (!m_settings.types.empty()) {
+        const auto& type = m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex));
+        const QString shown = m_typedPatterns.join(QLatin1Char(' '));
+        m_typeCombo->setItemText(m_settings.typeIndex, QStringLiteral("%1 (%2)").arg(type.description, shown));
+    }
+}
+
+bool FileDialogWindow::enterFolderOfWildcard()
+{
+    const QString text = QDir::fromNativeSeparators(m_nameEdit->text()).remove(QLatin1Char('"'));
+    const int end = text.lastIndexOf(QLatin1Char('/')) + 1;
+    if (end == 0) {
+        return true;
+    }
+    const QString folder = pathsOfTypedText(text.left(end), directory().absolutePath(), false).value(0);
+    if (!isFolder(folder)) {
+        checks().tellMissingFolder(folder);
+        return false;
+    }
+    setDirectory(folder);
+    setTypedName(text.mid(end));
+    return holdsWildcard();
+}
+
+void FileDialogWindow::forgetWildcard()
+{
+    if (!m_typedPatterns.isEmpty() && !m_settings.types.empty()) {
+        const auto& type = m_settings.types.at(static_cast<std::size_t>(m_settings.typeIndex));
+        m_typeCombo->setItemText(m_settings.typeIndex, type.description);
+    }
+    m_typedPatterns.clear();
+}
+
+QStringList FileDialogWindow::chosenPaths() const
+{
+    const QString text = m_nameEdit->text();
+    if (m_settings.picksFolders && text.isEmpty()) {
+        return QStringList(directory().absolutePath());
+    }
+    QStringList paths = pathsOfTypedText(text, directory().absolutePath(), m_settings.allowsSeveral);
+    for (QString& path : paths) {
+        const bool lacksSuffix = QFileInfo(path).suffix().isEmpty() && !QFileInfo::exists(path);
+        if (lacksSuffix && !m_settings.defaultSuffix.isEmpty() && !m_settings.picksFolders) {
+            path += QLatin1Char('.') + m_settings.defaultSuffix;
+        }
+    }
+    return paths;
+}
+
+bool FileDialogWindow::enterFolderAmong(const QStringList& paths)
+{
+    const auto found = std::find_if(paths.begin(), paths.end(), isFolder);
+    if (m_settings.picksFolders || found == paths.end()) {
+        return false;
+    }
+    setDirectory(*found);
+    m_nameEdit->clear();
+    return true;
 }
 
 } // namespace morvane::ui

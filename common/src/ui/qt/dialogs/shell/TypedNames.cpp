@@ -15,7 +15,7 @@ QString absolutePath(QString name, const QString& folder)
     if (name == QLatin1String("~") || name.startsWith(QLatin1String("~/"))) {
         name.replace(0, 1, QDir::homePath());
     }
-    // Qt takes a colon in front for something within the program itself.
+    // To Qt a leading colon means a resource of the program.
     const bool ordinary = name.startsWith(QLatin1Char(':'));
     return QDir::cleanPath(ordinary ? folder + QLatin1Char('/') + name : QDir(folder).absoluteFilePath(name));
 }

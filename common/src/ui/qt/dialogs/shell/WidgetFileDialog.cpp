@@ -1,13 +1,15 @@
 #include "ui/qt/dialogs/shell/WidgetFileDialog_p.h"
 
+#include "ui/qt/dialogs/shell/ComObject_p.h"
 #include "ui/qt/dialogs/shell/ComSupport_p.h"
 #include "ui/qt/dialogs/shell/FileDialogCore_p.h"
+#include "ui/qt/dialogs/shell/Shell.h"
 
 namespace morvane::ui {
 
 namespace {
 
-/** The dialog object: identity, reference count, and the slots of IFileDialog handed to the core. */
+/** The dialog object: its interfaces, with the operations of IFileDialog passed to the core. */
 template <typename Interface>
 class WidgetFileDialog : public Interface
 {
@@ -16,15 +18,6 @@ public:
     virtual ~WidgetFileDialog() = default;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return m_references.increment(); }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG count = m_references.decrement();
-        if (count == 0) {
-            delete this;
-        }
-        return count;
-    }
 
     HRESULT STDMETHODCALLTYPE Show(HWND owner) override { return m_core.show(owner); }
     HRESULT STDMETHODCALLTYPE SetFileTypes(UINT count, const COMDLG_FILTERSPEC* types) override
@@ -65,34 +58,21 @@ public:
 
 protected:
     FileDialogCore m_core;
-
-private:
-    ReferenceCount m_references;
 };
 
 template <typename Interface>
 HRESULT WidgetFileDialog<Interface>::QueryInterface(REFIID riid, void** object)
 {
-    if (!object) {
-        return E_POINTER;
+    if (riid == IID_IFileDialogCustomize) {
+        static const QITAB part[] = {interfaceRow<IFileDialogCustomize, CustomControls>(), QITAB{}};
+        return searchInterfaces(&m_core.controls(), part, riid, object);
     }
-    *object = nullptr;
-    if (riid == iidOf<Interface>()) {
-        *object = static_cast<Interface*>(this);
-    } else if (riid == IID_IFileDialog || riid == IID_IUnknown) {
-        *object = static_cast<IFileDialog*>(this);
-    } else if (riid == IID_IModalWindow) {
-        *object = static_cast<IModalWindow*>(this);
-    } else if (riid == IID_IFileDialogCustomize) {
-        *object = static_cast<IFileDialogCustomize*>(&m_core.controls());
-    } else {
-        return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
+    static const QITAB table[] = {interfaceRow<Interface, WidgetFileDialog>(),
+        interfaceRow<IFileDialog, WidgetFileDialog>(), interfaceRow<IModalWindow, WidgetFileDialog>(), QITAB{}};
+    return searchInterfaces(this, table, riid, object);
 }
 
-class WidgetOpenDialog final : public WidgetFileDialog<IFileOpenDialog>
+class WidgetOpenDialog : public WidgetFileDialog<IFileOpenDialog>
 {
 public:
     explicit WidgetOpenDialog(bool alwaysWidgets) : WidgetFileDialog(false, alwaysWidgets) {}
@@ -104,7 +84,7 @@ public:
     }
 };
 
-class WidgetSaveDialog final : public WidgetFileDialog<IFileSaveDialog>
+class WidgetSaveDialog : public WidgetFileDialog<IFileSaveDialog>
 {
 public:
     explicit WidgetSaveDialog(bool alwaysWidgets) : WidgetFileDialog(true, alwaysWidgets) {}
@@ -112,7 +92,7 @@ public:
     HRESULT STDMETHODCALLTYPE SetSaveAsItem(IShellItem*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetProperties(IPropertyStore*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetCollectedProperties(IPropertyDescriptionList*, BOOL) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetProperties(IPropertyStore** store) override { return notImplemented(store); }
+    HRESULT STDMETHODCALLTYPE GetProperties(IPropertyStore** store) override { return withoutResult(store); }
     HRESULT STDMETHODCALLTYPE ApplyProperties(IShellItem*, IPropertyStore*, HWND, IFileOperationProgressSink*) override
     {
         return E_NOTIMPL;
@@ -124,9 +104,9 @@ public:
 IFileDialog* makeWidgetFileDialog(bool saving, bool alwaysWidgets)
 {
     if (saving) {
-        return new WidgetSaveDialog(alwaysWidgets);
+        return new ComObject<WidgetSaveDialog>(alwaysWidgets);
     }
-    return new WidgetOpenDialog(alwaysWidgets);
+    return new ComObject<WidgetOpenDialog>(alwaysWidgets);
 }
 
 } // namespace morvane::ui

@@ -91,19 +91,7 @@ HRESULT WidgetShell::createItemFromParsingName(PCWSTR path, IBindCtx*, REFIID ii
 
 HRESULT WidgetShell::qiSearch(void* that, const QITAB* table, REFIID iid, void** object)
 {
-    if (!object) {
-        return E_POINTER;
-    }
-    *object = nullptr;
-    for (const QITAB* row = table; row->piid; ++row) {
-        if (*row->piid == iid || (row == table && iid == IID_IUnknown)) {
-            auto* const found = reinterpret_cast<IUnknown*>(static_cast<char*>(that) + row->dwOffset);
-            found->AddRef();
-            *object = found;
-            return S_OK;
-        }
-    }
-    return E_NOINTERFACE;
+    return searchInterfaces(that, table, iid, object);
 }
 
 } // namespace morvane::ui

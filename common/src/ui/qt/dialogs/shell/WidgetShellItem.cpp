@@ -1,6 +1,8 @@
 #include "ui/qt/dialogs/shell/WidgetShellItem_p.h"
 
+#include "ui/qt/dialogs/shell/ComObject_p.h"
 #include "ui/qt/dialogs/shell/ComSupport_p.h"
+#include "ui/qt/dialogs/shell/Shell.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -10,19 +12,7 @@ namespace morvane::ui {
 
 namespace {
 
-HRESULT answer(IUnknown* object, bool known, void** result)
-{
-    if (!result) {
-        return E_POINTER;
-    }
-    *result = known ? object : nullptr;
-    if (known) {
-        object->AddRef();
-    }
-    return known ? S_OK : E_NOINTERFACE;
-}
-
-class WidgetShellItem final : public IShellItem
+class WidgetShellItem : public IShellItem
 {
 public:
     explicit WidgetShellItem(const QString& path) : m_path(path) {}
@@ -30,21 +20,13 @@ public:
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
-        return answer(this, riid == IID_IUnknown || riid == IID_IShellItem, object);
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return m_references.increment(); }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG count = m_references.decrement();
-        if (count == 0) {
-            delete this;
-        }
-        return count;
+        static const QITAB table[] = {interfaceRow<IShellItem, WidgetShellItem>(), QITAB{}};
+        return searchInterfaces(this, table, riid, object);
     }
 
     HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void** object) override
     {
-        return notImplemented(object);
+        return withoutResult(object);
     }
     HRESULT STDMETHODCALLTYPE GetParent(IShellItem** parent) override;
     HRESULT STDMETHODCALLTYPE GetDisplayName(SIGDN form, LPWSTR* name) override;
@@ -52,7 +34,6 @@ public:
     HRESULT STDMETHODCALLTYPE Compare(IShellItem* other, SICHINTF hint, int* order) override;
 
 private:
-    ReferenceCount m_references;
     const QString m_path;
 };
 
@@ -116,7 +97,7 @@ HRESULT WidgetShellItem::Compare(IShellItem* other, SICHINTF, int* order)
     return *order == 0 ? S_OK : S_FALSE;
 }
 
-class WidgetShellItemArray final : public IShellItemArray
+class WidgetShellItemArray : public IShellItemArray
 {
 public:
     /** @param paths at least one */
@@ -125,29 +106,21 @@ public:
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
-        return answer(this, riid == IID_IUnknown || riid == IID_IShellItemArray, object);
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return m_references.increment(); }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG count = m_references.decrement();
-        if (count == 0) {
-            delete this;
-        }
-        return count;
+        static const QITAB table[] = {interfaceRow<IShellItemArray, WidgetShellItemArray>(), QITAB{}};
+        return searchInterfaces(this, table, riid, object);
     }
 
     HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx*, REFGUID, REFIID, void** object) override
     {
-        return notImplemented(object);
+        return withoutResult(object);
     }
     HRESULT STDMETHODCALLTYPE GetPropertyStore(GETPROPERTYSTOREFLAGS, REFIID, void** store) override
     {
-        return notImplemented(store);
+        return withoutResult(store);
     }
     HRESULT STDMETHODCALLTYPE GetPropertyDescriptionList(REFPROPERTYKEY, REFIID, void** list) override
     {
-        return notImplemented(list);
+        return withoutResult(list);
     }
     HRESULT STDMETHODCALLTYPE GetAttributes(SIATTRIBFLAGS how, SFGAOF mask, SFGAOF* attributes) override;
     HRESULT STDMETHODCALLTYPE GetCount(DWORD* count) override
@@ -159,10 +132,9 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetItemAt(DWORD index, IShellItem** item) override;
-    HRESULT STDMETHODCALLTYPE EnumItems(IEnumShellItems** items) override { return notImplemented(items); }
+    HRESULT STDMETHODCALLTYPE EnumItems(IEnumShellItems** items) override { return withoutResult(items); }
 
 private:
-    ReferenceCount m_references;
     const QStringList m_paths;
 };
 
@@ -198,12 +170,12 @@ HRESULT WidgetShellItemArray::GetItemAt(DWORD index, IShellItem** item)
 
 ComPtr<IShellItem> makeShellItem(const QString& path)
 {
-    return ComPtr<IShellItem>(new WidgetShellItem(path));
+    return ComPtr<IShellItem>(new ComObject<WidgetShellItem>(path));
 }
 
 ComPtr<IShellItemArray> makeShellItemArray(const QStringList& paths)
 {
-    return ComPtr<IShellItemArray>(new WidgetShellItemArray(paths));
+    return ComPtr<IShellItemArray>(new ComObject<WidgetShellItemArray>(paths));
 }
 
 QString pathOfShellItem(IShellItem* item)
@@ -223,7 +195,7 @@ QString pathOfParsingName(const QString& name)
     if (!path.startsWith(QLatin1Char('/')) || !QFileInfo::exists(path)) {
         path.replace(QLatin1Char('\\'), QLatin1Char('/'));
     }
-    if (path.startsWith(QLatin1Char(':'))) { // something within the program itself, for Qt; a file, for the Shell
+    if (path.startsWith(QLatin1Char(':'))) { // to Qt a resource of the program, to the Shell a file
         path.prepend(QDir::currentPath() + QLatin1Char('/'));
     }
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());

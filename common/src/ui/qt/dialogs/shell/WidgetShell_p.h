@@ -5,7 +5,7 @@
 namespace morvane::ui {
 
 /**
- * The Shell of every platform that has none: its dialog is QFileDialog behind the published interfaces.
+ * The Shell on platforms that have none: its dialog is QFileDialog behind the published interfaces.
  *
  * Paths given to it may use either separator; what it returns is in the platform's native form. Apartments are only
  * counted. Strings come from the C library's heap and go back to it.

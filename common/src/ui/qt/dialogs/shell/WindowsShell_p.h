@@ -4,7 +4,7 @@
 
 namespace morvane::ui {
 
-/** Hands every call to the operating system. Exists on Windows only. */
+/** Passes every call to the operating system. Exists on Windows only. */
 class WindowsShell final : public Shell
 {
 public:

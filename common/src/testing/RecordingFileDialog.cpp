@@ -1,0 +1,279 @@
+#include "testing/RecordingFileDialog_p.h"
+
+#include "testing/RecordingControls.h"
+#include "testing/RecordingItems_p.h"
+#include "ui/qt/dialogs/shell/ComSupport_p.h"
+#include "ui/qt/dialogs/shell/EventSinks_p.h"
+#include "ui/qt/dialogs/shell/ShellText_p.h"
+
+#include <algorithm>
+
+namespace morvane::test {
+
+std::optional<HRESULT> RecordingFileDialog::record(const char* method, const std::string& arguments)
+{
+    return m_shell.record(std::string("IFileDialog::") + method, arguments);
+}
+
+HRESULT RecordingFileDialog::QueryInterface(REFIID riid, void** object)
+{
+    const auto failure = record("QueryInterface", nameOfIid(riid));
+    return failure ? ui::withoutResult(object, *failure) : give(riid, object);
+}
+
+HRESULT RecordingFileDialog::Show(HWND owner)
+{
+    const auto failure = record("Show", owner ? "owner" : "null");
+    if (failure || m_running) {
+        return failure.value_or(HRESULT_FROM_WIN32(ERROR_BUSY));
+    }
+    const auto self = ui::ComPtr<IFileDialog>::share(this);
+    return run(owner);
+}
+
+HRESULT RecordingFileDialog::SetFileTypes(UINT count, const COMDLG_FILTERSPEC* types)
+{
+    std::string text = std::to_string(count);
+    for (UINT i = 0; types && i < count; ++i) {
+        text += ", " + quoted(types[i].pszName) + " " + quoted(types[i].pszSpec);
+    }
+    if (const auto failure = record("SetFileTypes", text)) {
+        return *failure;
+    }
+    if (!m_types.empty()) {
+        return E_UNEXPECTED;
+    }
+    if (count == 0 || !types) {
+        return E_INVALIDARG;
+    }
+    for (UINT i = 0; i < count; ++i) {
+        m_types.emplace_back(ui::toQString(types[i].pszName), ui::toQString(types[i].pszSpec));
+    }
+    m_typeIndex = 1;
+    return S_OK;
+}
+
+HRESULT RecordingFileDialog::SetFileTypeIndex(UINT index)
+{
+    if (const auto failure = record("SetFileTypeIndex", std::to_string(index))) {
+        return *failure;
+    }
+    if (m_types.empty()) {
+        return E_FAIL;
+    }
+    m_typeIndex = std::clamp<UINT>(index, 1, static_cast<UINT>(m_types.size()));
+    return S_OK;
+}
+
+HRESULT RecordingFileDialog::GetFileTypeIndex(UINT* index)
+{
+    const auto failure = record("GetFileTypeIndex");
+    if (!index) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    if (!failure) {
+        *index = m_typeIndex;
+    }
+    return failure.value_or(S_OK);
+}
+
+HRESULT RecordingFileDialog::Advise(IFileDialogEvents* sink, DWORD* cookie)
+{
+    if (const auto failure = record("Advise", sink ? "sink" : "null")) {
+        return *failure;
+    }
+    const HRESULT result = m_sinks->advise(sink, cookie);
+    if (SUCCEEDED(result) && m_shell.script.keepsSinks) {
+        m_shell.keep(sink);
+    }
+    return result;
+}
+
+HRESULT RecordingFileDialog::Unadvise(DWORD cookie)
+{
+    const auto failure = record("Unadvise", std::to_string(cookie));
+    return failure ? *failure : m_sinks->unadvise(cookie);
+}
+
+HRESULT RecordingFileDialog::SetOptions(FILEOPENDIALOGOPTIONS options)
+{
+    const QByteArray bits = QByteArray::number(static_cast<unsigned>(options), 16).toUpper();
+    const auto failure = record("SetOptions", "0x" + bits.toStdString());
+    m_options = failure ? m_options : options;
+    return failure.value_or(S_OK);
+}
+
+HRESULT RecordingFileDialog::GetOptions(FILEOPENDIALOGOPTIONS* options)
+{
+    const auto failure = record("GetOptions");
+    if (!options) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    if (!failure) {
+        *options = m_options;
+    }
+    return failure.value_or(S_OK);
+}
+
+HRESULT RecordingFileDialog::SetDefaultFolder(IShellItem* folder)
+{
+    const QString path = pathOf(m_shell, folder);
+    const auto failure = record("SetDefaultFolder", path.toStdString());
+    if (failure || path.isEmpty()) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    m_folder = m_folder.isEmpty() ? path : m_folder;
+    return S_OK;
+}
+
+HRESULT RecordingFileDialog::SetFolder(IShellItem* folder)
+{
+    const QString path = pathOf(m_shell, folder);
+    const auto failure = record("SetFolder", path.toStdString());
+    if (failure || path.isEmpty()) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    if (m_running) {
+        userEntersFolder(path);
+    } else {
+        m_folder = path;
+    }
+    return S_OK;
+}
+
+HRESULT RecordingFileDialog::GetFolder(IShellItem** item)
+{
+    const auto failure = record("GetFolder");
+    if (!item) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    *item = failure ? nullptr : makeRecordingItem(m_shell, folder()).detach();
+    return failure.value_or(S_OK);
+}
+
+HRESULT RecordingFileDialog::GetCurrentSelection(IShellItem** item)
+{
+    const auto failure = record("GetCurrentSelection");
+    if (!item) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    *item = nullptr;
+    return failure ? *failure : giveItem(m_selected, item, E_FAIL);
+}
+
+HRESULT RecordingFileDialog::SetFileName(LPCWSTR name)
+{
+    const auto failure = record("SetFileName", quoted(name));
+    if (!failure) {
+        m_fileName = ui::toQString(name);
+    }
+    return failure.value_or(S_OK);
+}
+
+HRESULT RecordingFileDialog::GetFileName(LPWSTR* name)
+{
+    const auto failure = record("GetFileName");
+    if (!name) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    *name = nullptr;
+    if (failure || (!m_fileName && !m_running)) {
+        return failure.value_or(E_FAIL);
+    }
+    return m_shell.copyString(fileName(), name);
+}
+
+HRESULT RecordingFileDialog::SetTitle(LPCWSTR title)
+{
+    const auto failure = record("SetTitle", quoted(title));
+    m_title = failure ? m_title : ui::toQString(title);
+    return failure.value_or(S_OK);
+}
+
+HRESULT RecordingFileDialog::SetOkButtonLabel(LPCWSTR text)
+{
+    return record("SetOkButtonLabel", quoted(text)).value_or(S_OK);
+}
+
+HRESULT RecordingFileDialog::SetFileNameLabel(LPCWSTR label)
+{
+    return record("SetFileNameLabel", quoted(label)).value_or(S_OK);
+}
+
+HRESULT RecordingFileDialog::GetResult(IShellItem** item)
+{
+    const auto failure = record("GetResult");
+    if (!item) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    *item = nullptr;
+    if (failure || m_results.size() > 1) {
+        return failure.value_or(E_FAIL);
+    }
+    return giveItem(m_results.value(0), item, E_UNEXPECTED);
+}
+
+HRESULT RecordingFileDialog::AddPlace(IShellItem* item, FDAP)
+{
+    return record("AddPlace", pathOf(m_shell, item).toStdString()).value_or(E_NOTIMPL);
+}
+
+HRESULT RecordingFileDialog::SetDefaultExtension(LPCWSTR extension)
+{
+    return record("SetDefaultExtension", quoted(extension)).value_or(S_OK);
+}
+
+HRESULT RecordingFileDialog::Close(HRESULT result)
+{
+    if (const auto failure = record("Close", std::to_string(result))) {
+        return *failure;
+    }
+    if (m_running) {
+        m_outcome = result;
+        m_results.clear();
+    }
+    return S_OK;
+}
+
+HRESULT RecordingFileDialog::SetClientGuid(REFGUID)
+{
+    return record("SetClientGuid").value_or(E_NOTIMPL);
+}
+
+HRESULT RecordingFileDialog::ClearClientData()
+{
+    return record("ClearClientData").value_or(E_NOTIMPL);
+}
+
+HRESULT RecordingFileDialog::SetFilter(IShellItemFilter*)
+{
+    return record("SetFilter").value_or(E_NOTIMPL);
+}
+
+HRESULT RecordingFileDialog::GetResults(IShellItemArray** items)
+{
+    const auto failure = record("GetResults");
+    if (!items) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    *items = failure || m_results.isEmpty() ? nullptr : makeRecordingArray(m_shell, m_results).detach();
+    return failure ? *failure : *items ? S_OK : E_UNEXPECTED;
+}
+
+HRESULT RecordingFileDialog::GetSelectedItems(IShellItemArray** items)
+{
+    const auto failure = record("GetSelectedItems");
+    if (!items) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    *items = failure || m_selected.isEmpty() ? nullptr : makeRecordingArray(m_shell, QStringList(m_selected)).detach();
+    return failure ? *failure : *items ? S_OK : E_FAIL;
+}
+
+HRESULT RecordingFileDialog::giveItem(const QString& path, IShellItem** item, HRESULT without)
+{
+    *item = path.isEmpty() ? nullptr : makeRecordingItem(m_shell, path).detach();
+    return *item ? S_OK : without;
+}
+
+} // namespace morvane::test

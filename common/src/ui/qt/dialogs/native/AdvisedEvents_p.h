@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ui/qt/dialogs/native/NativeDialogEvents_p.h"
+#include "ui/qt/dialogs/shell/ComObject_p.h"
+#include "ui/qt/dialogs/shell/ComPtr.h"
+
+namespace morvane::ui {
+
+/** Keeps a new event handler advised while it lives; afterwards the handler has no observer any more. */
+class AdvisedEvents
+{
+public:
+    AdvisedEvents(Shell& shell, IFileDialog& dialog, NativeDialogObserver& observer);
+    ~AdvisedEvents();
+    AdvisedEvents(const AdvisedEvents&) = delete;
+    AdvisedEvents& operator=(const AdvisedEvents&) = delete;
+
+private:
+    IFileDialog& m_dialog;
+    ComPtr<ComObject<NativeDialogEvents>> m_handler;
+    DWORD m_cookie = 0;
+};
+
+} // namespace morvane::ui
