@@ -13,6 +13,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -41,6 +42,20 @@ ValidationCache& validationCache()
 QLocale english()
 {
     return QLocale(QLocale::English, QLocale::UnitedStates);
+}
+
+QByteArray exactText(double number)
+{
+    return QLocale::c().toString(number, 'G', QLocale::FloatingPointShortest).toLatin1();
+}
+
+void setFromText(QScientificSpinBox& spinBox, void (QDoubleSpinBox::*set)(double), const QByteArray& text)
+{
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    if (isNumber && std::isfinite(number)) {
+        (spinBox.*set)(number);
+    }
 }
 
 } // namespace
@@ -141,6 +156,46 @@ void QScientificSpinBox::setDecimals(int digits)
     m_private->m_decimals = std::min(digits, mostDigits);
     // Shows the value anew and forgets the size hints, without rounding the value as setValue() does.
     setPrefix(prefix());
+}
+
+QByteArray QScientificSpinBox::minimumText() const
+{
+    return exactText(minimum());
+}
+
+void QScientificSpinBox::setMinimumText(const QByteArray& number)
+{
+    setFromText(*this, &QDoubleSpinBox::setMinimum, number);
+}
+
+QByteArray QScientificSpinBox::maximumText() const
+{
+    return exactText(maximum());
+}
+
+void QScientificSpinBox::setMaximumText(const QByteArray& number)
+{
+    setFromText(*this, &QDoubleSpinBox::setMaximum, number);
+}
+
+QByteArray QScientificSpinBox::singleStepText() const
+{
+    return exactText(singleStep());
+}
+
+void QScientificSpinBox::setSingleStepText(const QByteArray& number)
+{
+    setFromText(*this, &QDoubleSpinBox::setSingleStep, number);
+}
+
+QByteArray QScientificSpinBox::valueText() const
+{
+    return exactText(value());
+}
+
+void QScientificSpinBox::setValueText(const QByteArray& number)
+{
+    setFromText(*this, &QDoubleSpinBox::setValue, number);
 }
 
 bool QScientificSpinBox::hasOwnValidation() const
