@@ -1,5 +1,7 @@
 #include "host/ApplicationSettings.h"
 
+#include "host/ReplaceableInstance_p.h"
+
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -17,7 +19,7 @@ namespace morvane {
 
 namespace {
 
-ApplicationSettings* replacementInstance = nullptr;
+ui::ReplaceableInstance<ApplicationSettings> currentInstance;
 
 const qint64 largestFile = qint64(16) * 1024 * 1024;
 const int longestWaitMs = 1000; // for other processes, in one call
@@ -171,18 +173,12 @@ bool ApplicationSettings::Impl::hasRefused = false;
 
 ApplicationSettings& ApplicationSettings::getInstance()
 {
-    if (replacementInstance) {
-        return *replacementInstance;
-    }
-    static ApplicationSettings defaultInstance;
-    return defaultInstance;
+    return currentInstance.get();
 }
 
 ApplicationSettings* ApplicationSettings::setInstance(ApplicationSettings* replacement)
 {
-    ApplicationSettings* const previous = replacementInstance;
-    replacementInstance = replacement;
-    return previous;
+    return currentInstance.replace(replacement);
 }
 
 QString ApplicationSettings::defaultFileName()

@@ -66,16 +66,12 @@ public:
     explicit QScientificSpinBoxPrivate(QScientificSpinBox* spinBox);
 
     double validateAndInterpret(const QString& input, int& pos, QValidator::State& state) const;
-    void stepBy(int steps);
 
     QScientificSpinBox* q;
     int m_decimals = mostDigits;
     QChar m_delimiter = QLatin1Char('.');
     QChar m_groupSeparator = QLatin1Char(',');
     NumberLineValidator* m_validator;
-    QDoubleSpinBox* m_spinBox;
-    boost::signals2::signal<void()>* m_increment;
-    boost::signals2::signal<void()>* m_decrement;
     bool m_ownValidation = false;
     TypedText m_typed;
     WheelNotches m_wheel;
@@ -85,11 +81,7 @@ private:
 };
 
 QScientificSpinBoxPrivate::QScientificSpinBoxPrivate(QScientificSpinBox* spinBox)
-    : q(spinBox),
-      m_validator(new NumberLineValidator(spinBox)),
-      m_spinBox(spinBox),
-      m_increment(&spinBox->signalIncrement),
-      m_decrement(&spinBox->signalDecrement)
+    : q(spinBox), m_validator(new NumberLineValidator(spinBox))
 {
     m_validator->setLocale(english());
     m_validator->setDecimals(allDigits);
@@ -120,13 +112,6 @@ double QScientificSpinBoxPrivate::validateAndInterpret(const QString& input, int
     cache.cachedState = interpretation.state;
     state = interpretation.state;
     return interpretation.value;
-}
-
-void QScientificSpinBoxPrivate::stepBy(int steps)
-{
-    if (!handStepToHost(steps, *m_increment, *m_decrement)) {
-        m_spinBox->setValue(m_spinBox->value() + m_spinBox->singleStep() * steps);
-    }
 }
 
 QScientificSpinBox::QScientificSpinBox(QWidget* parent)
@@ -236,7 +221,9 @@ void QScientificSpinBox::fixup(QString& input) const
 
 void QScientificSpinBox::stepBy(int steps)
 {
-    m_private->stepBy(steps);
+    if (!handStepToHost(steps, signalIncrement, signalDecrement)) {
+        setValue(value() + singleStep() * steps);
+    }
     selectAll();
 }
 

@@ -26,11 +26,6 @@ struct ParentlessFileDialog
 
 namespace {
 
-QString fromUtf8(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
-
 std::string joinedFilters(const std::vector<std::string>& nameFilters)
 {
     std::stringstream joined;
@@ -53,12 +48,12 @@ QFileDialog::FileMode fileMode(bool saveMode, bool allowMultiple)
 QString selectionText(const std::vector<std::string>& selection, bool allowMultiple)
 {
     if (!allowMultiple) {
-        return fromUtf8(selection.front());
+        return QString::fromStdString(selection.front());
     }
     QString text;
     for (const std::string& entry : selection) {
         if (!entry.empty()) {
-            text += QLatin1Char('"') + fromUtf8(entry) + QLatin1String("\" ");
+            text += QLatin1Char('"') + QString::fromStdString(entry) + QLatin1String("\" ");
         }
     }
     return text;
@@ -68,7 +63,7 @@ void selectFilter(ExtendedFileDialog& dialog, const std::vector<std::string>& na
 {
     if (static_cast<std::size_t>(index) < nameFilters.size()) {
         // The Qt dialog has simplified the blanks.
-        const QString given = fromUtf8(nameFilters[static_cast<std::size_t>(index)]);
+        const QString given = QString::fromStdString(nameFilters[static_cast<std::size_t>(index)]);
         dialog.selectNameFilter(dialog.nameFilters().contains(given) ? given : given.simplified());
     }
 }
@@ -94,7 +89,7 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
         selectFilter(dialog, nameFilters, initialFilterIndex);
     }
     if (!initialSelection.empty()) {
-        dialog.setDirectory(QFileInfo(fromUtf8(initialSelection.front())).absolutePath());
+        dialog.setDirectory(QFileInfo(QString::fromStdString(initialSelection.front())).absolutePath());
         dialog.selectFile(selectionText(initialSelection, allowMultiple));
     }
     if (!filterFirst) {
@@ -114,7 +109,7 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
     }
     files.resize(static_cast<std::size_t>(selected.size()));
     for (int i = 0; i < selected.size(); ++i) {
-        files[static_cast<std::size_t>(i)] = selected[i].toUtf8().toStdString();
+        files[static_cast<std::size_t>(i)] = selected[i].toStdString();
     }
     filterIndex = ParentlessFileDialog::chosenFilter(dialog);
     return true;

@@ -6,6 +6,8 @@
 #include "ui/qt/util/FileDialogAccessibility_p.h"
 #include "ui/qt/util/FileDialogLayout_p.h"
 #include "ui/qt/util/GuiThread_p.h"
+#include "ui/qt/util/ModalArrowCursor_p.h"
+#include "ui/qt/util/QtFileDialogNames_p.h"
 
 #include <QComboBox>
 #include <QCursor>
@@ -25,15 +27,6 @@
 
 #include <utility>
 
-namespace {
-
-QString fromUtf8(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
-
-} // namespace
-
 QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
     const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode)
     : QExtendedFileDialog(&parent, caption, directory, filter, helpTopic, acceptMode)
@@ -42,7 +35,8 @@ QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, const std::string& cap
 
 QExtendedFileDialog::QExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode)
-    : QFileDialog(parent, fromUtf8(caption), fromUtf8(directory), fromUtf8(filter)),
+    : QFileDialog(
+          parent, QString::fromStdString(caption), QString::fromStdString(directory), QString::fromStdString(filter)),
       m_helpTopic(helpTopic),
       m_geometryPersistenceKey("QExtendedFileDialog/Geometry_v2")
 {
@@ -87,29 +81,29 @@ void QExtendedFileDialog::setShowDirectoriesOnly(bool on)
     setOption(QFileDialog::ShowDirsOnly, on);
 }
 
-void QExtendedFileDialog::show()
+void QExtendedFileDialog::prepareToShow()
 {
     restoreSizeAndPosition();
     restoreFilters();
     addSidebarUrls();
     morvane::ui::makeListsReachable(*this);
     morvane::ui::showTypesOfFilesOnly(*this);
+}
+
+void QExtendedFileDialog::show()
+{
+    prepareToShow();
     QWidget::show();
     saveSizeAndPosition();
 }
 
 int QExtendedFileDialog::exec()
 {
-    restoreSizeAndPosition();
-    restoreFilters();
-    addSidebarUrls();
-    morvane::ui::makeListsReachable(*this);
-    morvane::ui::showTypesOfFilesOnly(*this);
+    prepareToShow();
     const QPointer<QExtendedFileDialog> self(this);
     const bool waits = m_overrideCursorSet || isBeingRead(m_model->rootPath());
     restoreCursor(); // which would lie below the arrow
-    QGuiApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
-    const auto takeOff = qScopeGuard([] { morvane::ui::takeOffOverrideCursor(Qt::ArrowCursor); });
+    const morvane::ui::ModalArrowCursor arrow;
     const auto endWait = qScopeGuard([self] {
         if (self) {
             self->restoreCursor();
@@ -244,9 +238,9 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
     // Also what makes Qt build the child widgets that are looked up below.
     setOption(QFileDialog::DontUseNativeDialog, true);
 
-    m_fileTypeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
-    m_fileNameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    const auto* const view = findChild<QListView*>(QStringLiteral("listView"));
+    m_fileTypeCombo = findChild<QComboBox*>(morvane::ui::qtFileDialogNames::fileTypeCombo);
+    m_fileNameEdit = findChild<QLineEdit*>(morvane::ui::qtFileDialogNames::fileNameEdit);
+    const auto* const view = findChild<QListView*>(morvane::ui::qtFileDialogNames::listView);
     m_model = qobject_cast<QFileSystemModel*>(view->model());
     m_shownFolder = m_model->rootPath();
     connect(m_model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));
@@ -262,7 +256,7 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
 
 void QExtendedFileDialog::setHelpAction()
 {
-    auto* const buttons = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+    auto* const buttons = findChild<QDialogButtonBox*>(morvane::ui::qtFileDialogNames::buttonBox);
     buttons->addButton(QDialogButtonBox::Help);
     connect(buttons, SIGNAL(helpRequested()), this, SLOT(launchHelp()));
 }

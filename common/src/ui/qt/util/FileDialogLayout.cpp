@@ -1,5 +1,7 @@
 #include "ui/qt/util/FileDialogLayout_p.h"
 
+#include "ui/qt/util/QtFileDialogNames_p.h"
+
 #include <QComboBox>
 #include <QDateTime>
 #include <QEvent>
@@ -144,8 +146,8 @@ private:
 
 void showListsWhole(QFileDialog& dialog)
 {
-    auto* const sidebar = dialog.findChild<QListView*>(QStringLiteral("sidebar"));
-    auto* const files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    auto* const sidebar = dialog.findChild<QListView*>(qtFileDialogNames::sidebar);
+    auto* const files = dialog.findChild<QTreeView*>(qtFileDialogNames::treeView);
     if (sidebar && files && !dialog.findChild<QObject*>(helperName)) {
         new ListWidths(dialog, *sidebar, *files);
     }
@@ -157,8 +159,8 @@ void showTypesOfFilesOnly(const QFileDialog& dialog)
     // Of the two modes for directories one is deprecated and must not be named.
     const bool picksFolders =
         mode != QFileDialog::AnyFile && mode != QFileDialog::ExistingFile && mode != QFileDialog::ExistingFiles;
-    const QList<QWidget*> row = {dialog.findChild<QLabel*>(QStringLiteral("fileTypeLabel")),
-        dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))};
+    const QList<QWidget*> row = {dialog.findChild<QLabel*>(qtFileDialogNames::fileTypeLabel),
+        dialog.findChild<QComboBox*>(qtFileDialogNames::fileTypeCombo)};
     for (QWidget* const widget : row) {
         if (widget && picksFolders && !widget->isHidden()) {
             widget->hide();

@@ -1,12 +1,11 @@
 #include "ui/qt/dialogs/save/SaveFileFlow_p.h"
 
+#include "host/MessageBox_p.h"
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/save/SaveFileExtension_p.h"
 #include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
 #include "ui/qt/util/FilePath_p.h"
 #include "ui/qt/util/GuiThread_p.h"
-
-#include <QMessageBox>
 
 #include <boost/filesystem/operations.hpp>
 
@@ -19,14 +18,8 @@ namespace {
 /** Asks with No as the default; no answer, because the parent was destroyed, counts as No. */
 bool ask(QWidget* parent, const std::string& title, const std::string& question)
 {
-    // On the heap, since the parent may take the box with it.
-    const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::Question, QString::fromStdString(title),
-        QString::fromStdString(question), QMessageBox::Yes | QMessageBox::No, parent));
-    box->setDefaultButton(QMessageBox::No);
-    box->setTextFormat(Qt::PlainText);
-    const int answer = box->exec();
-    delete box.data();
-    return answer == QMessageBox::Yes;
+    return showMessageBox(QMessageBox::Question, QString::fromStdString(title), QString::fromStdString(question),
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No, parent) == QMessageBox::Yes;
 }
 
 bool existsInAnyForm(const std::string& name)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/InstanceOverride.h"
 #include "ui/qt/dialogs/shell/ShellInterfaces.h"
 #include "ui/qt/MorvaneUiExport.h"
 
@@ -64,7 +65,7 @@ public:
     ShellOverride& operator=(const ShellOverride&) = delete;
 
 private:
-    Shell* m_previous;
+    InstanceOverride<Shell> m_override;
 };
 
 /** The row for @p Interface, a base of @p Object, in a table for Shell::qiSearch(). */
