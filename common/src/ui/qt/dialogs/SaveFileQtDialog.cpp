@@ -1,6 +1,5 @@
 #include "ui/qt/dialogs/SaveFileQtDialog.h"
 
-#include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 #include "ui/qt/dialogs/save/SaveFileFlow_p.h"
 
@@ -55,7 +54,7 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
         m_dialog->setOptions(QFileDialog::DontConfirmOverwrite | QFileDialog::DontUseNativeDialog);
     }
 
-    bool run() override
+    bool runDialog() override
     {
         takeWildcardBack();
         return m_dialog->exec() == QDialog::Accepted;
@@ -98,33 +97,30 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic)
-    : SaveFileQtDialog(parent, caption, directory, filename, filter, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileQtDialog(parent, caption, directory, filename, filter, helpTopic, nullptr)
 {
 }
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic,
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(Impl::make<Impl>(parent, caption, directory, filename, std::move(handler), filter, helpTopic))
 {
-    m_impl->setUp(filter, helpTopic);
 }
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic)
-    : SaveFileQtDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileQtDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic, nullptr)
 {
 }
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(Impl::make<Impl>(
+          parent, caption, directory, filename, std::move(handler), writerFilters, selectedWriterIndex, helpTopic))
 {
-    m_impl->setUp(writerFilters, selectedWriterIndex, helpTopic);
 }
 
 SaveFileQtDialog::~SaveFileQtDialog()
@@ -134,8 +130,7 @@ SaveFileQtDialog::~SaveFileQtDialog()
 
 bool SaveFileQtDialog::launch()
 {
-    const std::shared_ptr<Impl> impl = m_impl; // this object may go while the dialog is open
-    return impl->launch();
+    return Impl::launch(m_impl);
 }
 
 std::string SaveFileQtDialog::selectedFilename()

@@ -1,6 +1,5 @@
 #include "ui/qt/dialogs/SaveFileWinDialog.h"
 
-#include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/native/NativeFileDialog_p.h"
 #include "ui/qt/dialogs/save/KeptDialogs_p.h"
 #include "ui/qt/dialogs/save/SaveFileFlow_p.h"
@@ -47,7 +46,7 @@ struct SaveFileWinDialog::Impl : morvane::ui::SaveFileFlow
         m_dialog->setDontConfirmOverwrite(true);
     }
 
-    bool run() override { return m_dialog->exec() == QDialog::Accepted; }
+    bool runDialog() override { return m_dialog->exec() == QDialog::Accepted; }
     QStringList selectedFiles() override { return m_dialog->selectedFiles(); }
     QStringList nameFilters() override { return m_dialog->nameFilters(); }
     int selectedPosition() override { return m_dialog->currentFilterIndex()->value() - 1; }
@@ -61,33 +60,30 @@ struct SaveFileWinDialog::Impl : morvane::ui::SaveFileFlow
 
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic)
-    : SaveFileWinDialog(parent, caption, directory, filename, filter, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileWinDialog(parent, caption, directory, filename, filter, helpTopic, nullptr)
 {
 }
 
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic,
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(Impl::make<Impl>(parent, caption, directory, filename, std::move(handler), filter, helpTopic))
 {
-    m_impl->setUp(filter, helpTopic);
 }
 
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic)
-    : SaveFileWinDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileWinDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic, nullptr)
 {
 }
 
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(Impl::make<Impl>(
+          parent, caption, directory, filename, std::move(handler), writerFilters, selectedWriterIndex, helpTopic))
 {
-    m_impl->setUp(writerFilters, selectedWriterIndex, helpTopic);
 }
 
 SaveFileWinDialog::~SaveFileWinDialog()
@@ -97,8 +93,7 @@ SaveFileWinDialog::~SaveFileWinDialog()
 
 bool SaveFileWinDialog::launch()
 {
-    const std::shared_ptr<Impl> impl = m_impl; // this object may go while the dialog is open
-    return impl->launch();
+    return Impl::launch(m_impl);
 }
 
 std::string SaveFileWinDialog::selectedFilename()

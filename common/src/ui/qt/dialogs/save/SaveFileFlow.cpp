@@ -73,10 +73,16 @@ void SaveFileFlow::setUp(
     finishDialog();
 }
 
-bool SaveFileFlow::launch()
+bool SaveFileFlow::launch(const std::shared_ptr<SaveFileFlow>& flow)
+{
+    const std::shared_ptr<SaveFileFlow> alive = flow; // its owner may be destroyed meanwhile
+    return alive->run();
+}
+
+bool SaveFileFlow::run()
 {
     morvane::ui::expectGuiThread("SaveFileDialog");
-    while (isAlive() && run() && isAlive()) {
+    while (isAlive() && runDialog() && isAlive()) {
         const QStringList files = selectedFiles();
         if (files.isEmpty()) {
             return false;
