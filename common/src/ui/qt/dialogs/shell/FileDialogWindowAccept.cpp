@@ -1,5 +1,4 @@
 // What happens between pressing the accept button and the end of the dialog.
-#include "host/MessageBox_p.h"
 #include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 #include "ui/qt/dialogs/shell/TypedNames_p.h"
 #include "ui/qt/dialogs/shell/TypedPatterns_p.h"
@@ -175,7 +174,13 @@ bool FileDialogWindow::mayReplace(const QString& path)
 QMessageBox::StandardButton FileDialogWindow::ask(
     const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
 {
-    return showMessageBox(QMessageBox::Warning, windowTitle(), text, buttons, defaultButton, this);
+    // On the heap, since the owner of the window may go while the box is open and take both with it.
+    const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::Warning, windowTitle(), text, buttons, this));
+    box->setTextFormat(Qt::PlainText);
+    box->setDefaultButton(defaultButton);
+    const auto answer = static_cast<QMessageBox::StandardButton>(box->exec());
+    delete box;
+    return answer;
 }
 
 } // namespace morvane::ui
