@@ -1,19 +1,10 @@
 #include "ui/qt/controls/AutoFilterEntries_p.h"
 
+#include "ui/qt/controls/EntryMatcher_p.h"
+
 #include <QAbstractProxyModel>
 
 namespace morvane::ui {
-
-EntryFit EntryMatcher::fit(const QString& entry) const
-{
-    if (m_contained.indexIn(entry) < 0) {
-        return EntryFit::None;
-    }
-    if (entry == m_text) {
-        return EntryFit::Equal;
-    }
-    return entry.compare(m_text, Qt::CaseInsensitive) == 0 ? EntryFit::EqualButForCase : EntryFit::Contained;
-}
 
 int findEntry(const QAbstractItemModel& entries, int column, const QModelIndex& root, const QString& text,
     EntryPreference preference, int rows)

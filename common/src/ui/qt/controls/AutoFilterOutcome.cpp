@@ -1,6 +1,7 @@
 #include "ui/qt/controls/AutoFilterOutcome_p.h"
 
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
+#include "ui/qt/controls/EntryMatcher_p.h"
 
 #include <QLineEdit>
 #include <QPointer>
