@@ -15,10 +15,10 @@ namespace {
 
 ui::ReplaceableInstance<HelpLauncher> currentInstance;
 
-/** The existing page for the topic, its path free of links; empty when it is missing or lies outside the directory. */
+/** The path of the page without links. Empty if there is no such file in the directory. */
 QString findPage(const QString& helpDirectory, const QString& topic)
 {
-    // QDir would take an absolute topic for the whole path, and a NUL would cut the file name.
+    // QDir would use an absolute topic as the whole path, and the file name would end at a NUL.
     if (helpDirectory.isEmpty() || topic.isEmpty() || QDir::isAbsolutePath(topic) || topic.contains(QChar::Null)) {
         return QString();
     }

@@ -14,7 +14,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** How many suggestions are searched with each key for the one to be marked. */
+/** The number of suggestions that are searched on each key for the one to mark. */
 constexpr int mostSuggestionsSearched = 10000;
 
 bool endsEditing(int key)

@@ -25,7 +25,7 @@ constexpr int mostDigits = 12;
 constexpr int initialDigits = 8;
 constexpr int allDigits = 1000;
 
-/** The text validated last, as it was read, by whichever spin box without validation of its own. */
+/** The text that was validated last by any spin box without ownValidation, and the result. */
 struct ValidationCache
 {
     QString cachedText;
@@ -118,7 +118,7 @@ QScientificSpinBox::QScientificSpinBox(QWidget* parent)
     : QDoubleSpinBox(parent), m_private(new QScientificSpinBoxPrivate(this))
 {
     expectGuiThread("QScientificSpinBox");
-    // Before anything that shows the value anew: the validator of the base class would ask validate() each time.
+    // Before all calls that update the text, because the validator of the base class would call validate() each time.
     lineEdit()->setValidator(m_private->m_validator);
     m_private->m_validator->follow(*lineEdit());
     setLocale(english());
@@ -139,7 +139,7 @@ int QScientificSpinBox::decimals() const
 void QScientificSpinBox::setDecimals(int digits)
 {
     m_private->m_decimals = std::min(digits, mostDigits);
-    // Shows the value anew and forgets the size hints, without rounding the value as setValue() does.
+    // Updates the text and the size hints. Unlike setValue(), it does not round the value.
     setPrefix(prefix());
 }
 

@@ -45,7 +45,7 @@ ExtendedFileDialog::ExtendedFileDialog(QWidget* parent, const std::string& capti
         m_winDialog.reset(new ExtendedWinFileDialog(parent, caption, directory, filter, helpTopic, acceptMode, false));
     } else {
         m_qtDialog.reset(new QExtendedFileDialog(parent, caption, directory, filter, helpTopic, acceptMode));
-        // A parent that is destroyed takes the dialog with it.
+        // A parent that is destroyed deletes the dialog.
         QObject::connect(m_qtDialog.get(), &QObject::destroyed, [this] { static_cast<void>(m_qtDialog.release()); });
     }
 }
@@ -106,7 +106,7 @@ void ExtendedFileDialog::setNameFilters(const QStringList& filters)
 int ExtendedFileDialog::chosenFilter()
 {
     if (m_qtDialog && !m_qtDialog->m_savedNameFilters.isEmpty()) {
-        // A filter that was edited by a typed wildcard may read like another one.
+        // A filter that a typed wildcard has changed may have the same text as another one.
         const QStringList& given = m_qtDialog->m_savedNameFilters;
         return given.indexOf(given.value(m_qtDialog->m_fileTypeCombo->currentIndex()));
     }

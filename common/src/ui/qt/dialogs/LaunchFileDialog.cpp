@@ -11,8 +11,8 @@
 
 namespace morvane::ui {
 
-// ExtendedFileDialog's friend. Befriending the exported function itself makes MinGW's compiler warn in every program
-// that includes both headers.
+// A friend of ExtendedFileDialog. If the exported function itself were the friend, MinGW's compiler would warn in every
+// program that includes both headers.
 struct ParentlessFileDialog
 {
     static ExtendedFileDialog make(
@@ -62,7 +62,7 @@ QString selectionText(const std::vector<std::string>& selection, bool allowMulti
 void selectFilter(ExtendedFileDialog& dialog, const std::vector<std::string>& nameFilters, int index)
 {
     if (static_cast<std::size_t>(index) < nameFilters.size()) {
-        // The Qt dialog has simplified the blanks.
+        // The Qt dialog simplifies white space.
         const QString given = QString::fromStdString(nameFilters[static_cast<std::size_t>(index)]);
         dialog.selectNameFilter(dialog.nameFilters().contains(given) ? given : given.simplified());
     }
@@ -82,8 +82,8 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
         joinedFilters(nameFilters), saveMode ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(fileMode(saveMode, allowMultiple));
 
-    // A save dialog whose first filter takes every name chooses its filter before it is given a name, which would
-    // otherwise be given the filter's extension.
+    // If the first filter of a save dialog accepts every name, the filter is selected before the name. Otherwise the
+    // dialog would append the filter's extension to the name.
     const bool filterFirst = saveMode && nameFilters.front().find("*.*") != std::string::npos;
     if (filterFirst) {
         selectFilter(dialog, nameFilters, initialFilterIndex);
@@ -95,7 +95,7 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
     if (!filterFirst) {
         selectFilter(dialog, nameFilters, initialFilterIndex);
         if (saveMode && allowMultiple && !initialSelection.empty()) {
-            // Qt gives the filter's extension to the end of the list, whatever stands there.
+            // Qt has appended the filter's extension to the list of names.
             dialog.selectFile(selectionText(initialSelection, allowMultiple));
         }
     }

@@ -46,7 +46,7 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
     void selectNameFilter(int position) override
     {
         m_dialog->selectNameFilter(m_dialog->nameFilters().at(position));
-        m_dialog->m_fileTypeCombo->setCurrentIndex(position); // where two look alike
+        m_dialog->m_fileTypeCombo->setCurrentIndex(position); // two filters may have the same text
     }
     void finishDialog() override
     {
@@ -74,7 +74,7 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
     QWidget* messageParent() override { return m_dialog; }
     bool hasDialog() override { return m_dialog; }
 
-    /** The dialog does so by itself when it is shown, but then selects its first filter and changes the name. */
+    /** The dialog itself would select its first filter and change the name when it is shown. */
     void takeWildcardBack()
     {
         if (m_dialog->m_savedNameFilters.isEmpty()) {
@@ -90,9 +90,9 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
     }
 
     QPointer<QExtendedFileDialog> m_dialog;
-    QStringList m_given;     // the caller's filters as they were given, one empty text where there are none
-    QStringList m_shown;     // the same as the dialog has them, which simplifies blanks and has one for all files
-    bool m_isOrphan = false; // nobody else deletes a dialog without a parent
+    QStringList m_given;     // the caller's filters, one empty text for none
+    QStringList m_shown;     // the same filters as the dialog shows them: simplified, and one for all files if none
+    bool m_isOrphan = false; // no parent deletes the dialog
 };
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,

@@ -10,14 +10,14 @@
 
 namespace {
 
-/** A dialog that outlives its save flow, on purpose, and the Shell's own that belongs to it. */
+/** A dialog that is never deleted, and the Shell's dialog that belongs to it. */
 struct Kept
 {
     ExtendedWinFileDialog* dialog;
     const IFileDialog* shellDialog;
 };
 
-/** Here they stay reachable. */
+/** Keeps the dialogs reachable, so that leak checkers do not report them. */
 std::vector<Kept>& keptDialogs()
 {
     static auto* const kept = new std::vector<Kept>;

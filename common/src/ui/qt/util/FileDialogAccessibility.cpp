@@ -24,7 +24,7 @@ void nameList(const QFileDialog& dialog, const QString& label, const QString& li
 
 void makeListsReachable(const QFileDialog& dialog)
 {
-    // The button box stands before the list of types in the order of Tab, and would pass the focus past it to a button.
+    // The button box precedes the list of types in the tab order. With a proxy, Tab would skip the list.
     if (auto* const buttons = dialog.findChild<QDialogButtonBox*>(qtFileDialogNames::buttonBox)) {
         buttons->setFocusProxy(nullptr);
     }

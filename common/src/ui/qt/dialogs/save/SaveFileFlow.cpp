@@ -15,7 +15,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** Asks with No as the default; no answer, because the parent was destroyed, counts as No. */
+/** Asks a question with No as the default answer. Returns false also if the parent was destroyed meanwhile. */
 bool ask(QWidget* parent, const std::string& title, const std::string& question)
 {
     return showMessageBox(QMessageBox::Question, QString::fromStdString(title), QString::fromStdString(question),
@@ -96,7 +96,7 @@ bool SaveFileFlow::run()
     return false;
 }
 
-// The message handler may destroy the parent, and the dialog with it, in each of its operations.
+// Each operation of the message handler may destroy the parent and the dialog with it.
 SaveFileFlow::Verdict SaveFileFlow::judge()
 {
     const std::string nameToCheck = m_messageHandler->filenameToCheck(m_selectedFilename);
