@@ -73,10 +73,10 @@ void SaveFileFlow::setUp(
     finishDialog();
 }
 
-bool SaveFileFlow::launch(const std::shared_ptr<SaveFileFlow>& flow)
+// The flow's owner may be destroyed meanwhile. NOLINTNEXTLINE(performance-unnecessary-value-param)
+bool SaveFileFlow::launch(std::shared_ptr<SaveFileFlow> flow)
 {
-    const std::shared_ptr<SaveFileFlow> alive = flow; // its owner may be destroyed meanwhile
-    return alive->run();
+    return flow->run();
 }
 
 bool SaveFileFlow::run()

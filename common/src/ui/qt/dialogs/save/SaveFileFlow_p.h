@@ -47,7 +47,7 @@ struct SaveFileFlow
      * Runs the flow. Ends when a name is picked, when the user gives up, or when the dialog is destroyed. The save-file
      * object may be destroyed meanwhile. Returns whether m_selectedFilename may be written.
      */
-    static bool launch(const std::shared_ptr<SaveFileFlow>& flow);
+    static bool launch(std::shared_ptr<SaveFileFlow> flow);
     /** The save-file object is destroyed. A flow that is running asks nothing more and ends. */
     virtual void abandon() { m_isAbandoned = true; }
     /** The position of the chosen filter among the caller's, the first one of equal ones. -1 if it is not there. */
