@@ -1,5 +1,7 @@
 #include "host/ApplicationSettings.h"
 
+#include "host/ReplaceableInstance_p.h"
+
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -17,12 +19,12 @@ namespace morvane {
 
 namespace {
 
-ApplicationSettings* replacementInstance = nullptr;
+ui::ReplaceableInstance<ApplicationSettings> currentInstance;
 
 const qint64 largestFile = qint64(16) * 1024 * 1024;
-const int longestWaitMs = 1000; // for other processes, in one call
+const int longestWaitMs = 1000; // in each call, for other processes
 
-/** Only lower case is kept as it is: on Windows the names in INI files differ by more than case. */
+/** Upper case is encoded, because QSettings ignores case in INI files on Windows. */
 QString nameOf(const std::string& key)
 {
     QByteArray name = "values/_"; // never empty
@@ -34,24 +36,25 @@ QString nameOf(const std::string& key)
     return QString::fromLatin1(name);
 }
 
-/** The file behind a link is locked and replaced, whichever of its names is used. */
+/** The file that a link leads to. That file is locked and replaced, so that all its names share one lock. */
 QString targetOf(const QString& fileName)
 {
     const QString canonical = QFileInfo(fileName).canonicalFilePath();
     return canonical.isEmpty() ? fileName : canonical;
 }
 
-/** Opening a pipe or a device would wait for its other end. */
+/** Other files are not opened: a pipe or a device would block. */
 bool isMissingOrFile(const QString& fileName)
 {
     const QFileInfo info(fileName);
     return info.exists() ? info.isFile() && info.size() <= largestFile : !info.isSymLink();
 }
 
-// QLockFile's own waiting backs off to seconds, which starves a process among busy ones.
+// QLockFile itself would wait for seconds between two attempts, and other processes would be faster each time.
 bool acquire(QLockFile& lock, const QDeadlineTimer& deadline)
 {
-    // A process that is killed while it makes its lock leaves an empty file. Qt takes no lock from a living process.
+    // A process that is killed while it makes its lock leaves an empty file. Qt never removes the lock of a process
+    // that is still running.
     lock.setStaleLockTime(longestWaitMs / 2);
     while (!lock.tryLock(0)) {
         if (lock.error() != QLockFile::LockFailedError || deadline.hasExpired()) {
@@ -62,7 +65,7 @@ bool acquire(QLockFile& lock, const QDeadlineTimer& deadline)
     return true;
 }
 
-/** QSettings waits for its lock without a limit, so nobody may hold it when QSettings is about to write. */
+/** QSettings waits for its lock without a limit, so it is free before QSettings writes. */
 bool waitUntilFree(const QString& target, const QDeadlineTimer& deadline)
 {
     QLockFile lock(target + QStringLiteral(".lock"));
@@ -92,8 +95,8 @@ struct FileState
     QDateTime modified;
 };
 
-// Windows neither opens nor lists a file while it is being replaced. The file is back at once, so only what was seen
-// before and after the reading tells whether nothing was read because there is nothing.
+// On Windows a file can be neither opened nor found while it is being replaced. It is back at once, so an empty result
+// counts only if the file was the same before and after the reading.
 std::unique_ptr<QSettings> openForReading(const QString& target)
 {
     const QDeadlineTimer deadline(longestWaitMs);
@@ -139,7 +142,7 @@ struct ApplicationSettings::Impl
             warnOnce("The settings file cannot be read");
             return QByteArray();
         }
-        // What the disk has refused is with QSettings still, which writes it as soon as it is asked for anything.
+        // QSettings still holds the values that could not be written, and tries to write them on every access.
         if (hasRefused && !waitUntilFree(target, QDeadlineTimer(longestWaitMs))) {
             return QByteArray();
         }
@@ -148,18 +151,17 @@ struct ApplicationSettings::Impl
             warnOnce(settings->status() == QSettings::FormatError ? "The settings file is damaged"
                                                                   : "The settings file cannot be read");
         }
-        // A value that was cut off is text to QSettings.
+        // QSettings reads a truncated value as text.
         const QVariant value = settings->value(nameOf(key));
         return value.type() == QVariant::ByteArray ? value.toByteArray() : QByteArray();
     }
 
-    /** Writes all that is not written yet. */
+    /** Writes all values that are not written yet. */
     bool write()
     {
         const QString target = targetOf(fileName);
         const QDeadlineTimer deadline(longestWaitMs);
-        // A lock of our own, for which we wait in our own way; then those that use this class never wait for
-        // QSettings'.
+        // All users of this class wait for this lock, and with a limit. So they do not wait for that of QSettings.
         QLockFile guard(target + QStringLiteral(".guard"));
         if (!isMissingOrFile(target) || !QDir().mkpath(QFileInfo(target).path()) || !acquire(guard, deadline) ||
             !waitUntilFree(target, deadline)) {
@@ -173,7 +175,7 @@ struct ApplicationSettings::Impl
 
     bool sync(const QString& target)
     {
-        // It complains of a damaged file, and an object that has complained once does not tell of a refused write.
+        // A second object, because one that has reported a damaged file does not report a failed write.
         if (QSettings(target, QSettings::IniFormat).status() == QSettings::FormatError) {
             warnOnce("The settings file is damaged");
         }
@@ -188,25 +190,19 @@ struct ApplicationSettings::Impl
     const QString fileName;
     bool warned = false;
     std::map<std::string, QByteArray> unwritten;
-    static bool hasRefused; // QSettings keeps what was refused for the whole process
+    static bool hasRefused; // static, because QSettings shares the values that it could not write
 };
 
 bool ApplicationSettings::Impl::hasRefused = false;
 
 ApplicationSettings& ApplicationSettings::getInstance()
 {
-    if (replacementInstance) {
-        return *replacementInstance;
-    }
-    static ApplicationSettings defaultInstance;
-    return defaultInstance;
+    return currentInstance.get();
 }
 
 ApplicationSettings* ApplicationSettings::setInstance(ApplicationSettings* replacement)
 {
-    ApplicationSettings* const previous = replacementInstance;
-    replacementInstance = replacement;
-    return previous;
+    return currentInstance.replace(replacement);
 }
 
 QString ApplicationSettings::defaultFileName()
@@ -234,7 +230,7 @@ QByteArray ApplicationSettings::getByteArrayValue(const std::string& key)
 
 void ApplicationSettings::depositValue(const std::string& key, const QByteArray& value)
 {
-    // A dialog that opens stores the geometry that it has just restored; that need not wait for the disk.
+    // A dialog stores the geometry that it has just restored when it opens. That needs no access to the disk.
     if (m_impl->unwritten.empty() && !value.isEmpty() && m_impl->read(key) == value) {
         return;
     }

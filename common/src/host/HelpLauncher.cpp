@@ -1,22 +1,24 @@
 #include "host/HelpLauncher.h"
 
+#include "host/MessageBox_p.h"
+#include "host/ReplaceableInstance_p.h"
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QUrl>
 
 namespace morvane {
 
 namespace {
 
-HelpLauncher* replacementInstance = nullptr;
+ui::ReplaceableInstance<HelpLauncher> currentInstance;
 
-/** The existing page for the topic, its path free of links; empty when it is missing or lies outside the directory. */
+/** The path of the page without links. Empty if there is no such file in the directory. */
 QString findPage(const QString& helpDirectory, const QString& topic)
 {
-    // QDir would take an absolute topic for the whole path, and a NUL would cut the file name.
+    // QDir would use an absolute topic as the whole path, and the file name would end at a NUL.
     if (helpDirectory.isEmpty() || topic.isEmpty() || QDir::isAbsolutePath(topic) || topic.contains(QChar::Null)) {
         return QString();
     }
@@ -32,12 +34,9 @@ QString findPage(const QString& helpDirectory, const QString& topic)
 
 void tellThatHelpCannotBeShown(const QString& topic)
 {
-    auto* const box = new QMessageBox(QMessageBox::Information, QCoreApplication::translate("HelpLauncher", "Help"),
+    ui::showMessageBox(QMessageBox::Information, QCoreApplication::translate("HelpLauncher", "Help"),
         QCoreApplication::translate("HelpLauncher", "The help for the topic \"%1\" could not be shown.").arg(topic),
-        QMessageBox::Ok, QApplication::activeWindow());
-    box->setTextFormat(Qt::PlainText);
-    box->setAttribute(Qt::WA_DeleteOnClose); // survives a parent that is destroyed while the box is open
-    box->exec();
+        QMessageBox::Ok, QMessageBox::NoButton, QApplication::activeWindow());
 }
 
 } // namespace
@@ -48,7 +47,7 @@ HelpLauncher::~HelpLauncher() = default;
 
 void HelpLauncher::showHelp(const std::string& topic)
 {
-    const QString text = QString::fromUtf8(topic.data(), static_cast<int>(topic.size()));
+    const QString text = QString::fromStdString(topic);
     const QString page = findPage(m_helpDirectory, text);
     if (page.isEmpty() || !QDesktopServices::openUrl(QUrl::fromLocalFile(page))) {
         tellThatHelpCannotBeShown(text);
@@ -57,18 +56,12 @@ void HelpLauncher::showHelp(const std::string& topic)
 
 HelpLauncher& HelpLauncher::getInstance()
 {
-    if (replacementInstance) {
-        return *replacementInstance;
-    }
-    static HelpLauncher defaultInstance;
-    return defaultInstance;
+    return currentInstance.get();
 }
 
 HelpLauncher* HelpLauncher::setInstance(HelpLauncher* replacement)
 {
-    HelpLauncher* const previous = replacementInstance;
-    replacementInstance = replacement;
-    return previous;
+    return currentInstance.replace(replacement);
 }
 
 QString HelpLauncher::helpDirectory() const

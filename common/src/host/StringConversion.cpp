@@ -6,7 +6,7 @@ namespace morvane {
 
 std::wstring utf8ToWideString(const std::string& utf8)
 {
-    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size())).toStdWString();
+    return QString::fromStdString(utf8).toStdWString();
 }
 
 } // namespace morvane

@@ -7,15 +7,15 @@
 namespace morvane::ui {
 
 /**
- * Tells whether a user has changed something in a ComboBoxAutoFilter since the last outcome, and keeps the entry that
- * was current before.
+ * Knows whether the user has changed something in a ComboBoxAutoFilter since the last outcome, and which entry was
+ * current before that.
  */
 class AutoFilterEdit
 {
 public:
     /**
-     * While one lives, a user is at work: what changes is no doing of the program, and an edit that begins has begun at
-     * the entry that was current when the outermost step was taken. Outlives the combo box when a slot deletes that.
+     * As long as one lives, the user changes the combo box and not the program. An edit that begins meanwhile begins at
+     * the entry that was current when the outermost step was made. May outlive the combo box.
      */
     class Step
     {
@@ -35,14 +35,14 @@ public:
     /**
      * Begins an edit, unless one has begun.
      *
-     * @param current the entry before it, unless a step was taken
+     * @param current the current entry; the one before the edit, unless there is a step
      */
     void begin(const QModelIndex& current);
     void end() { m_isBegun = false; }
-    /** Makes another entry the one from before the edit. */
+    /** Changes the entry before the edit. */
     void setBefore(const QModelIndex& entry);
 
-    /** The row of the entry before the edit; -1 for none, the other one when the entry is gone. */
+    /** The row of the entry before the edit, -1 for none. `rowIfGone` if the model has removed that entry. */
     int rowBefore(int rowIfGone) const;
 
 private:

@@ -1,37 +1,33 @@
 #include "ui/qt/controls/AutoFilterEntries_p.h"
 
+#include "ui/qt/controls/EntryMatcher_p.h"
+
 #include <QAbstractProxyModel>
-#include <QStringMatcher>
 
 namespace morvane::ui {
 
 int findEntry(const QAbstractItemModel& entries, int column, const QModelIndex& root, const QString& text,
     EntryPreference preference, int rows)
 {
-    // What findText(text, Qt::MatchContains) finds, with the text prepared once instead of for each entry.
-    const QStringMatcher contained(text, Qt::CaseInsensitive);
-    // A form field goes by what its line shows, which is the edit role.
+    const EntryMatcher matcher(text);
+    // A form field compares what its line shows, which is the edit role.
     const int role = preference == EntryPreference::Equal ? Qt::EditRole : Qt::DisplayRole;
     const int last = qMin(entries.rowCount(root), rows);
-    int equal = -1;
-    int containing = -1;
+    EntryFit best = preference == EntryPreference::Equal && text.isEmpty() ? EntryFit::Contained : EntryFit::None;
+    int bestRow = -1;
     for (int row = 0; row < last; ++row) {
         const QModelIndex entry = entries.index(row, column, root);
-        const QString candidate = entry.data(role).toString();
-        if (contained.indexIn(candidate) < 0 || !isEnabledEntry(entry)) {
+        const EntryFit fit = matcher.fit(entry.data(role).toString());
+        if (fit <= best || !isEnabledEntry(entry)) {
             continue;
         }
-        if (preference == EntryPreference::First || candidate == text) {
+        if (preference == EntryPreference::First || fit == EntryFit::Equal) {
             return row;
         }
-        if (equal < 0 && candidate.compare(text, Qt::CaseInsensitive) == 0) {
-            equal = row;
-        }
-        if (containing < 0 && !text.isEmpty()) {
-            containing = row;
-        }
+        best = fit;
+        bestRow = row;
     }
-    return equal < 0 ? containing : equal;
+    return bestRow;
 }
 
 bool isEnabledEntry(const QModelIndex& entry)

@@ -9,26 +9,26 @@ class QString;
 
 namespace morvane::ui {
 
-/** Which entry a text stands for, of those that contain it. */
+/** Which of the entries that fit a text is found. */
 enum class EntryPreference
 {
-    First, ///< the first one, also of an empty text
-    Equal  ///< the one that equals the text, with case before without; then the first one, and none of an empty text
+    First, ///< the first one, also for an empty text
+    Equal  ///< the one that fits best, the first one of these; for an empty text only an equal one
 };
 
 /**
- * The row of the entry that a text stands for, -1 for none. Case does not matter, and disabled entries do not count.
+ * The row of the entry that a text stands for, -1 for none. Disabled entries do not count.
  *
  * @param entries,column,root where the entries are
- * @param rows                how many of them are looked at
+ * @param rows                how many of them are searched
  */
 int findEntry(const QAbstractItemModel& entries, int column, const QModelIndex& root, const QString& text,
     EntryPreference preference, int rows = std::numeric_limits<int>::max());
 
-/** Whether it is an entry that a user may take. */
+/** Whether a user may take this entry. */
 bool isEnabledEntry(const QModelIndex& entry);
 
-/** The same entry in the model that the suggested ones come from; invalid when it does not come from there. */
+/** The entry of the model that a suggestion shows; invalid if the suggestion comes from another model. */
 QModelIndex entryOfSuggestion(QModelIndex suggestion, const QAbstractItemModel& entries);
 
 } // namespace morvane::ui

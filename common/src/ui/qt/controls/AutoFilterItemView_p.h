@@ -4,7 +4,7 @@
 
 namespace morvane::ui {
 
-/** The popup list of ComboBoxAutoFilter: tells which of its keys end the editing and which move its cursor. */
+/** The popup list of ComboBoxAutoFilter. Emits signals for the keys that end the editing or move its cursor. */
 class AutoFilterItemView : public QListView
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "ui/qt/controls/AutoFilterLineEdit_p.h"
 
 #include <QAbstractItemView>
+#include <QComboBox>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMetaMethod>
@@ -22,7 +23,7 @@ QMetaMethod lineSlot(const char* signature)
     return type.method(type.indexOfSlot(signature));
 }
 
-/** How a line follows a completer with a popup. Looked up once, because it is cut and mended with every key. */
+/** The signals and the slot with which a line follows a completer. Looked up once, because each key needs them. */
 struct CompleterConnections
 {
     const QMetaMethod activated = completerSignal("activated(QString)");
@@ -46,7 +47,7 @@ bool isMarked(const QAbstractItemView& popup, const QModelIndex& entry)
 AutoFilterLineEdit::CompleterDetached::CompleterDetached(QLineEdit& line, QCompleter& completer)
     : m_line(&line), m_completer(&completer)
 {
-    // Whatever the slots are: QLineEdit connects to a private one, which not every version of Qt has.
+    // From any slot: QLineEdit connects one of them to a private slot, which not every version of Qt has.
     const CompleterConnections& both = completerConnections();
     QObject::disconnect(m_completer, both.activated, m_line, QMetaMethod());
     QObject::disconnect(m_completer, both.highlighted, m_line, QMetaMethod());
@@ -66,6 +67,11 @@ AutoFilterLineEdit::AutoFilterLineEdit(QWidget* parent) : QLineEdit(parent)
     connect(this, &QLineEdit::textEdited, this, [this] { m_keepsMark = false; });
 }
 
+AutoFilterLineEdit* AutoFilterLineEdit::of(const QComboBox& box)
+{
+    return dynamic_cast<AutoFilterLineEdit*>(box.lineEdit());
+}
+
 bool AutoFilterLineEdit::isTabPress(const QEvent& event)
 {
     if (event.type() != QEvent::KeyPress) {
@@ -77,7 +83,7 @@ bool AutoFilterLineEdit::isTabPress(const QEvent& event)
 
 bool AutoFilterLineEdit::event(QEvent* event)
 {
-    // QWidget hands Tab to the focus chain and would leave none for keyPressEvent().
+    // QWidget would move the focus on Tab and not call keyPressEvent().
     if (isTabPress(*event)) {
         keyPressEvent(static_cast<QKeyEvent*>(event));
         return true;

@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QPointer>
 
+class QComboBox;
+
 namespace morvane::ui {
 
 /**
@@ -18,7 +20,10 @@ class AutoFilterLineEdit : public QLineEdit
 public:
     explicit AutoFilterLineEdit(QWidget* parent = nullptr);
 
-    /** Cuts a line edit off from the completer's entries, and lets them be written into it again when it goes. */
+    /** The line of a combo box, null if it is of another class. */
+    static AutoFilterLineEdit* of(const QComboBox& box);
+
+    /** As long as it lives, a completer does not write its entries into the line edit. */
     class CompleterDetached
     {
     public:
@@ -32,16 +37,16 @@ public:
         const QPointer<QCompleter> m_completer;
     };
 
-    /** Whether it is the press of the Tab key that Qt uses for moving the focus on, not Backtab and not Ctrl+Tab. */
+    /** Whether the event is the key press with which Qt moves the focus to the next widget: Tab, but not Ctrl+Tab. */
     static bool isTabPress(const QEvent& event);
 
-    /** Marks an entry in the completer's popup, and keeps it marked until the text is edited. */
+    /** Marks a suggestion in the completer's popup, or none if it is invalid, and calls keepMark(). */
     void markSuggestion(const QModelIndex& suggestion);
-    /** What is marked in the completer's popup, or that nothing is, stays so until the text is edited. */
+    /** Leaves the mark in the completer's popup alone until the text is edited. */
     void keepMark() { m_keepsMark = true; }
     bool keepsMark() const { return m_keepsMark; }
 
-    /** Looks as a line without the focus does: no cursor, nothing selected. Does not tell that the editing is over. */
+    /** Shows the line without cursor and selection, as a line without the focus. Emits no signal. */
     void showUnfocused(QFocusEvent& event);
 
 protected:

@@ -8,22 +8,22 @@ class QComboBox;
 namespace morvane::ui {
 
 /**
- * The very entry that a user has picked or marked, which its text alone may not tell: other entries can have the same
- * text, or contain it.
+ * The entry that the user has picked or marked. Its text does not identify it, since other entries may have the same
+ * text or contain it.
  */
 class AutoFilterPick
 {
 public:
-    /** @param lineText what the line shows since */
+    /** @param lineText the text that the line shows for the entry */
     void set(const QModelIndex& entry, const QString& lineText);
     void clear();
 
     bool isSet() const { return m_entry.isValid(); }
 
-    /** To be called when the entry has become current: from then on, it counts only as long as it is. */
+    /** The entry has become current. From now on it counts only as long as it is current. */
     void setTaken() { m_isTaken = true; }
 
-    /** The row of the entry; -1 when there is none, or when the combo box shows something else by now. */
+    /** The row of the entry. -1 if there is none or if the combo box shows another text now. */
     int row(const QComboBox& box) const;
 
 private:

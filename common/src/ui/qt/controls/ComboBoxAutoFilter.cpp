@@ -1,10 +1,11 @@
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 
-#include "ui/qt/controls/AutoFilterEdit_p.h"
-#include "ui/qt/controls/AutoFilterEntries_p.h"
+#include "ui/qt/controls/AutoFilterFocusWatch_p.h"
 #include "ui/qt/controls/AutoFilterItemView_p.h"
 #include "ui/qt/controls/AutoFilterLineEdit_p.h"
-#include "ui/qt/controls/AutoFilterPick_p.h"
+#include "ui/qt/controls/AutoFilterOutcome_p.h"
+#include "ui/qt/controls/AutoFilterSuggestions_p.h"
+#include "ui/qt/controls/EventResender_p.h"
 #include "ui/qt/util/GuiThread_p.h"
 
 #include <ctkCompleter.h>
@@ -13,81 +14,27 @@
 #include <QKeyEvent>
 #include <QPointer>
 
-#include <utility>
-
 namespace morvane::ui {
 
 struct ComboBoxAutoFilter::Impl
 {
+    explicit Impl(ComboBoxAutoFilter& box) : outcome(box), suggestions(box, outcome), listEvents(box), focusWatch(box)
+    {
+    }
+
     EditMode mode = SingleEdit;
-    std::shared_ptr<AutoFilterEdit> edit = std::make_shared<AutoFilterEdit>();
-    AutoFilterPick pick;
-    QPersistentModelIndex current;
-    /** Watches where the focus goes while another window, a menu or a popup has it. */
-    QMetaObject::Connection away;
-    QPointer<QAbstractItemModel> followedModel;
-    int followedColumn = 0;
+    AutoFilterOutcome outcome;
+    AutoFilterSuggestions suggestions;
+    EventResender listEvents;
+    AutoFilterFocusWatch focusWatch;
 };
 
-namespace {
-
-/** How many suggestions are searched with each key for the one to be marked. */
-constexpr int mostSuggestionsSearched = 10000;
-
-void setUniformItemSizes(QAbstractItemView* view)
-{
-    if (auto* const list = qobject_cast<QListView*>(view)) {
-        list->setUniformItemSizes(true);
-    }
-}
-
-AutoFilterLineEdit* ownLine(const QComboBox& box)
-{
-    return dynamic_cast<AutoFilterLineEdit*>(box.lineEdit());
-}
-
-bool endsEditing(int key)
-{
-    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab || key == Qt::Key_Escape;
-}
-
-bool movesMark(const QKeyEvent& event)
-{
-    switch (event.key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        return true;
-    case Qt::Key_Home:
-    case Qt::Key_End:
-        return event.modifiers() & Qt::ControlModifier;
-    default:
-        return false;
-    }
-}
-
-bool leavesAtEnd(const QAbstractItemView& popup, int key)
-{
-    const int row = popup.currentIndex().row();
-    const bool isLast = row >= 0 && row == popup.model()->rowCount() - 1;
-    return (key == Qt::Key_Up && row == 0) || (key == Qt::Key_Down && isLast);
-}
-
-/** Reasons after which the focus comes back by itself. */
-bool isAwayOnly(Qt::FocusReason reason)
-{
-    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
-}
-
-} // namespace
-
-ComboBoxAutoFilter::ComboBoxAutoFilter(QWidget* parent) : QComboBox(parent), m_impl(std::make_unique<Impl>())
+ComboBoxAutoFilter::ComboBoxAutoFilter(QWidget* parent) : QComboBox(parent), m_impl(std::make_unique<Impl>(*this))
 {
     expectGuiThread("ComboBoxAutoFilter");
     auto* const list = new AutoFilterItemView;
     setView(list);
-    // Filters installed later come first: these come before the ones of the popup that holds the list.
+    // Qt calls the filter that was installed last first: this one before those of the popup that contains the list.
     list->installEventFilter(this);
     list->viewport()->installEventFilter(this);
 
@@ -97,20 +44,16 @@ ComboBoxAutoFilter::ComboBoxAutoFilter(QWidget* parent) : QComboBox(parent), m_i
     connect(
         list, SIGNAL(currentIndexChanged(QModelIndex const&)), this, SLOT(onCurrentIndexChanged(QModelIndex const&)));
     connect(this, SIGNAL(activated(int)), this, SLOT(onItemActivated(int)));
+    connect(&m_impl->suggestions, &AutoFilterSuggestions::picked, this, &ComboBoxAutoFilter::onEditingFinished);
     connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
-        followModel();
-        const QModelIndex entry = currentEntry();
-        const bool hasOnlyMoved = entry.isValid() && entry == m_impl->current;
-        m_impl->current = entry;
-        if (!hasOnlyMoved && !m_impl->edit->isInStep()) {
-            m_impl->edit->end();
-        }
+        m_impl->suggestions.followModel();
+        m_impl->outcome.onCurrentEntryChanged();
     });
 }
 
 ComboBoxAutoFilter::~ComboBoxAutoFilter()
 {
-    disconnect(m_impl->away);
+    m_impl->focusWatch.stop();
     delete m_completer;
 }
 
@@ -138,22 +81,17 @@ void ComboBoxAutoFilter::init(
     setEditable(editable);
     setLineEdit(new AutoFilterLineEdit);
     m_completer = new ctkCompleter(model(), this);
-    m_impl->followedModel = model();
-    m_impl->followedColumn = m_completer->completionColumn();
+    m_impl->suggestions.setCompleter(*m_completer);
     m_completer->setModelFiltering(ctkCompleter::FilterContains);
     m_completer->setCompletionMode(mode);
-    if (QAbstractItemView* const popup = m_completer->popup()) {
-        popup->setTextElideMode(elide);
-        popup->installEventFilter(this);
-        popup->viewport()->installEventFilter(this);
-        // Marking an entry lays the popup out with every key, and measuring each entry would take most of the time.
-        setUniformItemSizes(popup);
-    }
+    m_impl->suggestions.setUpPopup(elide);
     m_completer->setCaseSensitivity(cs);
-    followModel();
+    m_impl->suggestions.followModel();
     setCompleter(m_completer);
     connectLine();
-    setUniformItemSizes(view());
+    if (auto* const list = qobject_cast<QListView*>(view())) {
+        list->setUniformItemSizes(true);
+    }
     setInsertPolicy(QComboBox::NoInsert);
 }
 
@@ -162,32 +100,17 @@ void ComboBoxAutoFilter::connectLine()
     if (!lineEdit()) {
         return;
     }
-    // QComboBox would take the entry that equals the text, also a disabled one. takeOutcome() does what is left of it.
+    // QComboBox would make the entry that equals the text current, even a disabled one. takeOutcome() replaces that.
     disconnect(lineEdit(), SIGNAL(editingFinished()), this, nullptr);
     connect(lineEdit(), SIGNAL(editingFinished()), this, SLOT(onEditingFinished()));
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
-        m_impl->pick.clear();
-        m_impl->edit->begin(currentEntry());
+        m_impl->outcome.clearPick();
+        m_impl->outcome.beginEdit();
         if (m_impl->mode == FormField) {
-            // While the suggestions are open, the completer keeps the loss of the focus to itself.
-            watchFocusFromAway();
+            // While the suggestions are open, the completer does not pass on that the focus is lost.
+            watchFocus();
         }
     });
-}
-
-void ComboBoxAutoFilter::followModel()
-{
-    if (!m_completer) {
-        return;
-    }
-    if (m_impl->followedModel != model()) {
-        m_impl->followedModel = model();
-        m_completer->setSourceModel(model());
-    }
-    if (m_impl->followedColumn != modelColumn()) {
-        m_impl->followedColumn = modelColumn();
-        m_completer->setCompletionColumn(modelColumn());
-    }
 }
 
 bool ComboBoxAutoFilter::isFiltering() const
@@ -224,42 +147,14 @@ bool ComboBoxAutoFilter::validateEntry()
     if (m_escapePressed && m_impl->mode == SingleEdit) {
         return true;
     }
-    const int index = findOutcome();
+    const int index = m_impl->outcome.findRow();
     if (index < 0) {
         return false;
     }
-    takeRow(index);
-    // The program goes on with this entry, and so does a user who cancels.
-    m_impl->edit->setBefore(currentEntry());
+    m_impl->outcome.takeRow(index);
+    // The program continues with this entry, and cancelling leads back to it.
+    m_impl->outcome.keepCurrent();
     return true;
-}
-
-int ComboBoxAutoFilter::findOutcome() const
-{
-    if (!lineEdit()) {
-        return -1;
-    }
-    const int picked = m_impl->pick.row(*this);
-    if (picked >= 0) {
-        return picked;
-    }
-    const bool isField = m_impl->mode == FormField;
-    const QString text = lineEdit()->text();
-    if (isField && currentIndex() >= 0 && text == itemText(currentIndex())) {
-        return currentIndex();
-    }
-    return findEntry(
-        *model(), modelColumn(), rootModelIndex(), text, isField ? EntryPreference::Equal : EntryPreference::First);
-}
-
-void ComboBoxAutoFilter::takeRow(int row)
-{
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
-    const bool isPicked = row == m_impl->pick.row(*this);
-    setCurrentIndex(row);
-    if (isPicked) {
-        m_impl->pick.setTaken();
-    }
 }
 
 bool ComboBoxAutoFilter::takeOutcome()
@@ -268,25 +163,9 @@ bool ComboBoxAutoFilter::takeOutcome()
     const QString text = lineEdit() ? lineEdit()->text() : QString();
     const bool isValid = validateEntry();
     if (isValid && currentIndex() != before && itemText(currentIndex()) == text) {
-        announceActivation();
+        m_impl->outcome.announceActivation();
     }
     return isValid;
-}
-
-void ComboBoxAutoFilter::announceActivation()
-{
-    const QPointer<ComboBoxAutoFilter> self(this);
-    const QString text = itemText(currentIndex());
-    Q_EMIT activated(currentIndex());
-    if (self) {
-        Q_EMIT textActivated(text);
-    }
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    if (self) {
-        // By name, since calling it is deprecated.
-        QMetaObject::invokeMethod(this, "activated", Q_ARG(QString, text));
-    }
-#endif
 }
 
 void ComboBoxAutoFilter::setSelectedText(const QString& text)
@@ -310,15 +189,15 @@ void ComboBoxAutoFilter::setFromValue(const QVariant& value)
 
 void ComboBoxAutoFilter::showPopup()
 {
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
-    followModel();
+    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    m_impl->suggestions.followModel();
     const int before = currentIndex();
-    const int index = findOutcome();
+    const int index = m_impl->outcome.findRow();
     if (index >= 0) {
-        takeRow(index);
+        m_impl->outcome.takeRow(index);
     }
     if (currentIndex() != before) {
-        m_impl->edit->begin(currentEntry());
+        m_impl->outcome.beginEdit();
     }
     if (m_indexBeforeEdit == -1) {
         m_indexBeforeEdit = currentIndex();
@@ -326,39 +205,23 @@ void ComboBoxAutoFilter::showPopup()
     QComboBox::showPopup();
 }
 
-QModelIndex ComboBoxAutoFilter::currentEntry() const
-{
-    return model()->index(currentIndex(), modelColumn(), rootModelIndex());
-}
-
-QAbstractItemView* ComboBoxAutoFilter::suggestions() const
-{
-    return m_completer && lineEdit() && lineEdit()->completer() == m_completer ? m_completer->popup() : nullptr;
-}
-
-bool ComboBoxAutoFilter::hasUnfinishedEdit() const
-{
-    return m_impl->edit->isBegun() ||
-           (lineEdit() && lineEdit()->text() != itemText(currentIndex()).left(lineEdit()->maxLength()));
-}
-
 bool ComboBoxAutoFilter::event(QEvent* event)
 {
     const bool isField = m_impl->mode == FormField;
-    if (isField && event->type() == QEvent::ShortcutOverride && hasUnfinishedEdit() &&
+    if (isField && event->type() == QEvent::ShortcutOverride && m_impl->outcome.isEditUnfinished() &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         event->accept();
         return true;
     }
-    // The combo box has the focus for its line, and QWidget would hand Tab to the focus chain before the line sees it.
-    if (AutoFilterLineEdit::isTabPress(*event) && (isField || ownLine(*this))) {
+    // The combo box is the focus proxy of its line. QWidget would move the focus on Tab before the line gets the key.
+    if (AutoFilterLineEdit::isTabPress(*event) && (isField || AutoFilterLineEdit::of(*this))) {
         const QPointer<ComboBoxAutoFilter> self(this);
         const QWidget* const focused = window()->focusWidget();
         keyPressEvent(static_cast<QKeyEvent*>(event));
         if (isField) {
             event->accept();
         }
-        // A slot may have moved it, by hiding or disabling the field for instance.
+        // A slot may have moved the focus, for instance by hiding or disabling the field.
         if (isField && self && window()->focusWidget() == focused) {
             focusNextPrevChild(true);
         }
@@ -369,7 +232,7 @@ bool ComboBoxAutoFilter::event(QEvent* event)
 
 bool ComboBoxAutoFilter::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event == m_resent) {
+    if (m_impl->listEvents.isResent(*event)) {
         return false;
     }
     const QEvent::Type type = event->type();
@@ -382,46 +245,21 @@ bool ComboBoxAutoFilter::eventFilter(QObject* watched, QEvent* event)
     if (watched == view()->viewport() && type == QEvent::MouseButtonRelease) {
         return filterListRelease(*watched, static_cast<QMouseEvent&>(*event));
     }
-    if (const QAbstractItemView* const popup = suggestions()) {
-        if (watched == popup && type == QEvent::KeyPress) {
-            return filterCompleterKey(*watched, static_cast<QKeyEvent&>(*event));
-        }
-        if (watched == popup->viewport()) {
-            return filterSuggestions(*watched, *event);
-        }
-    }
-    return QComboBox::eventFilter(watched, event);
-}
-
-bool ComboBoxAutoFilter::resend(QObject& receiver, QEvent& event)
-{
-    const QPointer<ComboBoxAutoFilter> self(this);
-    const QEvent* const outer = std::exchange(m_resent, &event);
-    QCoreApplication::sendEvent(&receiver, &event);
-    if (self) {
-        m_resent = outer;
-    }
-    return self;
-}
-
-bool ComboBoxAutoFilter::resendOutside(QObject& viewport, const QMouseEvent& event)
-{
-    QMouseEvent outside(event.type(), QPointF(-1, -1), event.button(), event.buttons(), event.modifiers());
-    return resend(viewport, outside);
+    return m_impl->suggestions.filter(*watched, *event) || QComboBox::eventFilter(watched, event);
 }
 
 bool ComboBoxAutoFilter::filterListKey(QKeyEvent& event)
 {
-    // An entry that was pressed but let go elsewhere is not what a key picks.
+    // The mouse was released outside of the entry that it had pressed; a key picks another one.
     m_itemClicked = false;
     if (event.key() == Qt::Key_Escape) {
-        // The popup would close on this and leave no key press for the list to cancel with.
+        // The popup would close now, and the list would not get the key press that cancels.
         event.accept();
         return true;
     }
-    // Return picks on the way of this event.
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
-    resend(*view(), event);
+    // Return picks an entry during this event.
+    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    m_impl->listEvents.resend(*view(), event);
     return true;
 }
 
@@ -431,7 +269,7 @@ bool ComboBoxAutoFilter::filterListTab(QKeyEvent& event)
     if (m_impl->mode == SingleEdit || (event.key() != Qt::Key_Tab && !isBack)) {
         return false;
     }
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
+    const AutoFilterEdit::Step step = m_impl->outcome.step();
     const QPointer<ComboBoxAutoFilter> self(this);
     const QWidget* const focused = window()->focusWidget();
     if (view()->currentIndex().isValid()) {
@@ -446,21 +284,21 @@ bool ComboBoxAutoFilter::filterListTab(QKeyEvent& event)
 
 bool ComboBoxAutoFilter::filterListRelease(QObject& viewport, QMouseEvent& event)
 {
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
+    const AutoFilterEdit::Step step = m_impl->outcome.step();
     event.accept();
     const QModelIndex entry = view()->indexAt(event.pos());
     if (!isEnabledEntry(entry)) {
-        // QComboBox would take the entry that the mouse was over last.
-        if (resendOutside(viewport, event)) {
+        // QComboBox would activate the entry that the mouse was over last.
+        if (m_impl->listEvents.resendOutside(viewport, event)) {
             m_itemClicked = false;
         }
         return true;
     }
     view()->setCurrentIndex(entry);
-    // QComboBox goes on using itself after activated(int), so nobody is told before it is done.
+    // QComboBox uses itself after activated(int), and a slot may delete it. So the signal is emitted afterwards.
     m_announcement = Announcement::Held;
     m_itemClicked = true;
-    if (!resend(viewport, event)) {
+    if (!m_impl->listEvents.resend(viewport, event)) {
         return true;
     }
     m_itemClicked = false;
@@ -472,118 +310,6 @@ bool ComboBoxAutoFilter::filterListRelease(QObject& viewport, QMouseEvent& event
     return true;
 }
 
-bool ComboBoxAutoFilter::filterCompleterKey(QObject& popup, QKeyEvent& event)
-{
-    if (endsEditing(event.key())) {
-        // Past the completer, which would go on using itself after a slot has deleted it with the combo box.
-        m_impl->edit->begin(currentEntry());
-        suggestions()->hide();
-        QCoreApplication::sendEvent(this, &event);
-        return true;
-    }
-    if (movesMark(event) && lineEdit()) {
-        moveCompleterMark(popup, event);
-        return true;
-    }
-    return false;
-}
-
-void ComboBoxAutoFilter::moveCompleterMark(QObject& popup, QKeyEvent& event)
-{
-    const bool isMarkedByUser = m_impl->pick.isSet();
-    if (!isMarkedByUser && leavesAtEnd(*suggestions(), event.key())) {
-        followCompleterMark();
-    } else if (resend(popup, event)) {
-        followCompleterMark();
-    }
-}
-
-void ComboBoxAutoFilter::followCompleterMark()
-{
-    const QAbstractItemView* const popup = suggestions();
-    AutoFilterLineEdit* const line = ownLine(*this);
-    if (!popup || !line) {
-        return;
-    }
-    line->keepMark();
-    const QModelIndex entry = entryOfSuggestion(popup->currentIndex(), *model());
-    if (!isEnabledEntry(entry) || !popup->selectionModel()->isSelected(popup->currentIndex())) {
-        m_impl->pick.clear();
-        return;
-    }
-    const QString text = itemText(entry.row());
-    if (line->text() != text) {
-        line->setText(text);
-    }
-    m_impl->pick.set(entry, line->text());
-}
-
-void ComboBoxAutoFilter::markOutcome()
-{
-    AutoFilterLineEdit* const line = ownLine(*this);
-    const QAbstractItemView* const popup = suggestions();
-    if (!line || line->keepsMark() || !popup || !popup->isVisible()) {
-        return;
-    }
-    const bool isField = m_impl->mode == FormField;
-    if (!isField && isEnabledEntry(popup->currentIndex())) {
-        return;
-    }
-    const QAbstractItemModel& suggested = *popup->model();
-    const int column = m_completer->completionColumn();
-    const int row = findEntry(suggested, column, QModelIndex(), line->text(),
-        isField ? EntryPreference::Equal : EntryPreference::First, mostSuggestionsSearched);
-    line->markSuggestion(suggested.index(row, column));
-}
-
-bool ComboBoxAutoFilter::filterSuggestions(QObject& viewport, QEvent& event)
-{
-    const QEvent::Type type = event.type();
-    const bool isMouse =
-        type == QEvent::MouseButtonPress || type == QEvent::MouseMove || type == QEvent::MouseButtonRelease;
-    if (!isMouse) {
-        return false;
-    }
-    auto& mouse = static_cast<QMouseEvent&>(event);
-    if (type == QEvent::MouseButtonRelease && mouse.button() == Qt::LeftButton) {
-        return filterSuggestionRelease(viewport, mouse);
-    }
-    if (type == QEvent::MouseMove && mouse.buttons() == Qt::NoButton) {
-        return false;
-    }
-    if (resend(viewport, event)) {
-        followCompleterMark();
-    }
-    return true;
-}
-
-bool ComboBoxAutoFilter::filterSuggestionRelease(QObject& viewport, QMouseEvent& event)
-{
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
-    const QPersistentModelIndex entry = entryOfSuggestion(suggestions()->indexAt(event.pos()), *model());
-    event.accept();
-    if (!isEnabledEntry(entry)) {
-        // The popup would close over an entry that cannot be had.
-        resendOutside(viewport, event);
-        return true;
-    }
-    if (!resend(viewport, event) || !entry.isValid()) {
-        return true;
-    }
-    // QCompleter takes it only where it was pressed, too.
-    const bool isTaken = currentIndex() == entry.row();
-    setCurrentIndex(entry.row());
-    m_impl->pick.set(currentEntry(), currentText());
-    const QPointer<ComboBoxAutoFilter> self(this);
-    if (!isTaken) {
-        announceActivation();
-    }
-    if (self) {
-        onEditingFinished();
-    }
-    return true;
-}
-
 void ComboBoxAutoFilter::onItemClicked(const QModelIndex&)
 {
     m_itemClicked = true;
@@ -591,7 +317,7 @@ void ComboBoxAutoFilter::onItemClicked(const QModelIndex&)
 
 void ComboBoxAutoFilter::onEditingFinished()
 {
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
+    const AutoFilterEdit::Step step = m_impl->outcome.step();
     const QPointer<ComboBoxAutoFilter> self(this);
     const bool isTaken = takeOutcome();
     if (!self) {
@@ -618,23 +344,21 @@ void ComboBoxAutoFilter::onEditingCanceled()
 
 void ComboBoxAutoFilter::cancelEdit()
 {
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
-    const AutoFilterEdit& edit = *m_impl->edit;
-    setCurrentIndex(edit.isBegun() ? edit.rowBefore(currentIndex()) : currentIndex());
-    m_impl->pick.clear();
+    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    setCurrentIndex(m_impl->outcome.rowBeforeEdit());
+    m_impl->outcome.clearPick();
     closeSelf();
     Q_EMIT editingCanceled();
 }
 
 void ComboBoxAutoFilter::onCurrentIndexChanged(const QModelIndex& index)
 {
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
+    const AutoFilterEdit::Step step = m_impl->outcome.step();
     if (index.row() != currentIndex()) {
-        m_impl->edit->begin(currentEntry());
+        m_impl->outcome.beginEdit();
     }
     setCurrentIndex(index.row());
-    m_impl->pick.set(currentEntry(), currentText());
-    m_impl->pick.setTaken();
+    m_impl->outcome.pickCurrent();
 }
 
 void ComboBoxAutoFilter::onItemActivated(int index)
@@ -642,9 +366,8 @@ void ComboBoxAutoFilter::onItemActivated(int index)
     if (m_indexBeforeEdit == -1) {
         m_indexBeforeEdit = index;
     }
-    m_impl->edit->begin(currentEntry());
-    m_impl->pick.set(currentEntry(), currentText());
-    m_impl->pick.setTaken();
+    m_impl->outcome.beginEdit();
+    m_impl->outcome.pickCurrent();
     if (!m_itemClicked) {
         return;
     }
@@ -660,9 +383,9 @@ void ComboBoxAutoFilter::onItemActivated(int index)
 
 void ComboBoxAutoFilter::keyPressEvent(QKeyEvent* event)
 {
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
+    const AutoFilterEdit::Step step = m_impl->outcome.step();
     const QPointer<ComboBoxAutoFilter> self(this);
-    followModel();
+    m_impl->suggestions.followModel();
     if (m_impl->mode == FormField && handleFieldKey(*event)) {
         return;
     }
@@ -676,16 +399,16 @@ void ComboBoxAutoFilter::keyPressEvent(QKeyEvent* event)
         QComboBox::keyPressEvent(event);
     }
     if (isEscape) {
-        // It has cancelled this edit, and not the dialog around.
+        // The key has cancelled this edit and must not close the dialog.
         event->accept();
     } else if (self) {
-        markOutcome();
+        m_impl->suggestions.mark();
     }
 }
 
 bool ComboBoxAutoFilter::handleFieldKey(QKeyEvent& event)
 {
-    const bool isUnfinished = hasUnfinishedEdit();
+    const bool isUnfinished = m_impl->outcome.isEditUnfinished();
     switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -700,7 +423,7 @@ bool ComboBoxAutoFilter::handleFieldKey(QKeyEvent& event)
         if (isUnfinished) {
             cancelEdit();
         }
-        // Held down, the key that has cancelled this edit goes on cancelling nothing else.
+        // Repeats of the key that has cancelled the edit must not close the dialog.
         event.setAccepted(isUnfinished || event.isAutoRepeat());
         return true;
     default:
@@ -710,9 +433,9 @@ bool ComboBoxAutoFilter::handleFieldKey(QKeyEvent& event)
 
 bool ComboBoxAutoFilter::handleFieldReturn(QKeyEvent& event)
 {
-    const bool isUnfinished = hasUnfinishedEdit();
+    const bool isUnfinished = m_impl->outcome.isEditUnfinished();
     const bool isHeld = event.isAutoRepeat();
-    if (!isHeld && (isUnfinished || (ownLine(*this) && currentIndex() >= 0))) {
+    if (!isHeld && (isUnfinished || (AutoFilterLineEdit::of(*this) && currentIndex() >= 0))) {
         onEditingFinished();
     }
     event.setAccepted(isUnfinished || isHeld);
@@ -722,28 +445,28 @@ bool ComboBoxAutoFilter::handleFieldReturn(QKeyEvent& event)
 void ComboBoxAutoFilter::inputMethodEvent(QInputMethodEvent* event)
 {
     const QPointer<ComboBoxAutoFilter> self(this);
-    followModel();
+    m_impl->suggestions.followModel();
     QComboBox::inputMethodEvent(event);
     if (self) {
-        markOutcome();
+        m_impl->suggestions.mark();
     }
 }
 
 void ComboBoxAutoFilter::wheelEvent(QWheelEvent* event)
 {
-    const AutoFilterEdit::Step step(m_impl->edit, currentEntry());
+    const AutoFilterEdit::Step step = m_impl->outcome.step();
     const QPointer<ComboBoxAutoFilter> self(this);
     QComboBox::wheelEvent(event);
-    // Without the focus, there is no losing it.
-    if (self && m_impl->mode == FormField && !hasFocus() && m_impl->edit->isBegun()) {
+    // Without the focus no focusOutEvent() will end the edit.
+    if (self && m_impl->mode == FormField && !hasFocus() && m_impl->outcome.isEditBegun()) {
         onEditingFinished();
     }
 }
 
 void ComboBoxAutoFilter::focusInEvent(QFocusEvent* event)
 {
-    disconnect(m_impl->away);
-    followModel();
+    m_impl->focusWatch.stop();
+    m_impl->suggestions.followModel();
     QComboBox::focusInEvent(event);
 }
 
@@ -753,29 +476,24 @@ void ComboBoxAutoFilter::focusOutEvent(QFocusEvent* event)
     if (m_impl->mode == SingleEdit) {
         return;
     }
-    if (AutoFilterLineEdit* const line = ownLine(*this)) {
+    if (AutoFilterLineEdit* const line = AutoFilterLineEdit::of(*this)) {
         line->showUnfocused(*event);
     }
-    // QComboBox gives its own list the focus as if it were any other widget.
+    // QComboBox gives its own list the focus with the reason that other widgets have.
     const QWidget* const now = QApplication::focusWidget();
     const bool isInList = now && view()->window()->isAncestorOf(now) && view()->window() != window();
-    if (isInList || isAwayOnly(event->reason())) {
-        watchFocusFromAway();
-    } else if (hasUnfinishedEdit()) {
+    if (isInList || AutoFilterFocusWatch::comesBackAfter(event->reason())) {
+        watchFocus();
+    } else if (m_impl->outcome.isEditUnfinished()) {
         onEditingFinished();
     }
 }
 
-void ComboBoxAutoFilter::watchFocusFromAway()
+void ComboBoxAutoFilter::watchFocus()
 {
-    disconnect(m_impl->away);
-    m_impl->away = connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        const bool isElsewhere = now && now != this && !isAncestorOf(now) && now->window() == window();
-        if (isElsewhere) {
-            disconnect(m_impl->away);
-            if (hasUnfinishedEdit()) {
-                onEditingFinished();
-            }
+    m_impl->focusWatch.start([this] {
+        if (m_impl->outcome.isEditUnfinished()) {
+            onEditingFinished();
         }
     });
 }
@@ -787,11 +505,9 @@ void ComboBoxAutoFilter::finishEditing()
 
 void ComboBoxAutoFilter::closeSelf()
 {
-    // Closing takes the combo box's own list along, but not the completer's.
-    if (QAbstractItemView* const popup = m_completer ? m_completer->popup() : nullptr) {
-        popup->hide();
-    }
-    m_impl->edit->end();
+    // Closing the combo box hides its list, but not the completer's popup.
+    m_impl->suggestions.hide();
+    m_impl->outcome.endEdit();
     if (m_impl->mode == SingleEdit) {
         close();
         return;

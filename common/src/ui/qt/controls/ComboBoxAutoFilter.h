@@ -221,30 +221,15 @@ private:
     void init(bool editable, QCompleter::CompletionMode mode, Qt::CaseSensitivity cs, Qt::TextElideMode elide,
         Qt::MatchFlag match);
     void connectLine();
-    void followModel();
 
-    QModelIndex currentEntry() const;
-    QAbstractItemView* suggestions() const;
-    bool hasUnfinishedEdit() const;
-    int findOutcome() const;
     bool takeOutcome();
-    void takeRow(int row);
-    void announceActivation();
     void closeSelf();
     void cancelEdit();
-    void watchFocusFromAway();
+    void watchFocus();
 
-    bool resend(QObject& receiver, QEvent& event);
-    bool resendOutside(QObject& viewport, const QMouseEvent& event);
     bool filterListKey(QKeyEvent& event);
     bool filterListTab(QKeyEvent& event);
     bool filterListRelease(QObject& viewport, QMouseEvent& event);
-    bool filterSuggestions(QObject& viewport, QEvent& event);
-    bool filterSuggestionRelease(QObject& viewport, QMouseEvent& event);
-    bool filterCompleterKey(QObject& popup, QKeyEvent& event);
-    void moveCompleterMark(QObject& popup, QKeyEvent& event);
-    void followCompleterMark();
-    void markOutcome();
     bool handleFieldKey(QKeyEvent& event);
     bool handleFieldReturn(QKeyEvent& event);
 
@@ -253,7 +238,6 @@ private:
     int m_indexBeforeEdit = -1;
     ctkCompleter* m_completer = nullptr;
     Announcement m_announcement = Announcement::AtOnce;
-    const QEvent* m_resent = nullptr;
     std::unique_ptr<Impl> m_impl;
 };
 

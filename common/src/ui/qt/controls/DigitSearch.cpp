@@ -9,10 +9,10 @@ namespace {
 
 constexpr quint64 patience = 500000;
 
-// Every number of 19 digits fits in 64 bits without sign, and the magnitude of every signed one has at most 19.
+// Each number of 19 digits fits into 64 bits without sign, and the magnitude of a signed number has at most 19 digits.
 constexpr int width = 19;
 
-/** Most significant first, zeros in front. */
+/** The digits with leading zeros, the most significant one first. */
 using Digits = std::array<int, width>;
 
 Digits digitsOf(quint64 number)
@@ -40,7 +40,7 @@ quint64 magnitude(qint64 number)
     return number < 0 ? ~bits + 1 : bits;
 }
 
-/** How far it is from @p low up to @p high; all of a qint64's range fits. */
+/** The distance from @p low up to @p high. That of any two qint64 fits. */
 quint64 distance(qint64 low, qint64 high)
 {
     return low < 0 && high >= 0 ? magnitude(low) + magnitude(high) : static_cast<quint64>(high - low);
@@ -57,7 +57,7 @@ enum Direction
     Up = 1
 };
 
-/** The digits that a candidate has to hold in this order. */
+/** The digits that a candidate must contain in this order. */
 class DigitPattern
 {
 public:
@@ -68,12 +68,11 @@ public:
         }
     }
 
-    /** The fitting number closest to `bound` that does not lie on the other side of it, if one has 19 digits at most.
-     */
+    /** The matching number closest to `bound` in this direction, or `bound` itself. None if it has over 19 digits. */
     std::optional<quint64> nearest(quint64 bound, Direction direction) const;
 
 private:
-    /** How far the digits of a candidate, read from the front, have come. */
+    /** How many digits of the pattern the first digits of a candidate contain. */
     struct Progress
     {
         int met = 0;

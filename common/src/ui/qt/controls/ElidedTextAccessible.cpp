@@ -25,7 +25,7 @@ public:
     }
 
 private:
-    ElidedTextLabel& m_label; // Qt drops the interface with its object
+    ElidedTextLabel& m_label; // Qt deletes the interface together with its object
 };
 
 QAccessibleInterface* make(const QString& className, QObject* object)
@@ -35,7 +35,7 @@ QAccessibleInterface* make(const QString& className, QObject* object)
     return label ? new ElidedTextAccessible(*label) : nullptr;
 }
 
-/** Takes the function back when the library is unloaded from a running application, as with a plugin. */
+/** Removes the factory when the library is unloaded before the application ends, for instance as part of a plugin. */
 class Installation
 {
 public:

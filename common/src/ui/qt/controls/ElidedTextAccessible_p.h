@@ -1,6 +1,4 @@
 #pragma once
 
-// Internal, not installed.
-
-/** Makes assistive software take every ElidedTextLabel for a text with its whole text as name. Once is enough. */
+/** Gives each ElidedTextLabel the role of a text and its whole text as accessible name. May be called again. */
 void installElidedTextAccessible();

@@ -12,26 +12,12 @@ namespace morvane::ui {
 class IntegralSpinBoxPrivate
 {
 public:
-    QSpinBox* m_spinBox;
-    boost::signals2::signal<void()>* m_increment;
-    boost::signals2::signal<void()>* m_decrement;
     TypedText m_typed;
     WheelNotches m_wheel;
-
-    void stepBy(int steps);
 };
 
-void IntegralSpinBoxPrivate::stepBy(int steps)
-{
-    if (handStepToHost(steps, *m_increment, *m_decrement)) {
-        return;
-    }
-    const qint64 value = m_spinBox->value() + static_cast<qint64>(m_spinBox->singleStep()) * steps;
-    m_spinBox->setValue(static_cast<int>(static_cast<quint32>(value)));
-}
-
 IntegralSpinBox::IntegralSpinBox(QWidget* parent)
-    : QSpinBox(parent), m_private(new IntegralSpinBoxPrivate{this, &signalIncrement, &signalDecrement, {}, {}})
+    : QSpinBox(parent), m_private(std::make_unique<IntegralSpinBoxPrivate>())
 {
     expectGuiThread("IntegralSpinBox");
     setKeyboardTracking(false);
@@ -42,7 +28,10 @@ IntegralSpinBox::~IntegralSpinBox() = default;
 
 void IntegralSpinBox::stepBy(int steps)
 {
-    m_private->stepBy(steps);
+    if (!handStepToHost(steps, signalIncrement, signalDecrement)) {
+        const qint64 stepped = value() + static_cast<qint64>(singleStep()) * steps;
+        setValue(static_cast<int>(static_cast<quint32>(stepped)));
+    }
     selectAll();
 }
 

@@ -39,7 +39,7 @@ NumberLineValidator::~NumberLineValidator() = default;
 void NumberLineValidator::follow(const QLineEdit& line)
 {
     connect(&line, &QLineEdit::selectionChanged, this, [this, &line] {
-        // It comes after the change that has taken the selection away was validated.
+        // When the user replaces the selection, the line validates the new text before it emits this signal.
         m_isNumberSelected = line.hasSelectedText() && line.selectionEnd() > m_spinBox.prefix().size() &&
                              line.selectionStart() < line.text().size() - m_spinBox.suffix().size();
     });

@@ -13,6 +13,7 @@
 #include <QVariant>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -24,7 +25,7 @@ constexpr int mostDigits = 12;
 constexpr int initialDigits = 8;
 constexpr int allDigits = 1000;
 
-/** The text validated last, as it was read, by whichever spin box without validation of its own. */
+/** The text that was validated last by any spin box without ownValidation, and the result. */
 struct ValidationCache
 {
     QString cachedText;
@@ -43,6 +44,20 @@ QLocale english()
     return QLocale(QLocale::English, QLocale::UnitedStates);
 }
 
+QByteArray exactText(double number)
+{
+    return QLocale::c().toString(number, 'G', QLocale::FloatingPointShortest).toLatin1();
+}
+
+void setFromText(QScientificSpinBox& spinBox, void (QDoubleSpinBox::*set)(double), const QByteArray& text)
+{
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    if (isNumber && std::isfinite(number)) {
+        (spinBox.*set)(number);
+    }
+}
+
 } // namespace
 
 class QScientificSpinBoxPrivate
@@ -51,16 +66,12 @@ public:
     explicit QScientificSpinBoxPrivate(QScientificSpinBox* spinBox);
 
     double validateAndInterpret(const QString& input, int& pos, QValidator::State& state) const;
-    void stepBy(int steps);
 
     QScientificSpinBox* q;
     int m_decimals = mostDigits;
     QChar m_delimiter = QLatin1Char('.');
     QChar m_groupSeparator = QLatin1Char(',');
     NumberLineValidator* m_validator;
-    QDoubleSpinBox* m_spinBox;
-    boost::signals2::signal<void()>* m_increment;
-    boost::signals2::signal<void()>* m_decrement;
     bool m_ownValidation = false;
     TypedText m_typed;
     WheelNotches m_wheel;
@@ -70,11 +81,7 @@ private:
 };
 
 QScientificSpinBoxPrivate::QScientificSpinBoxPrivate(QScientificSpinBox* spinBox)
-    : q(spinBox),
-      m_validator(new NumberLineValidator(spinBox)),
-      m_spinBox(spinBox),
-      m_increment(&spinBox->signalIncrement),
-      m_decrement(&spinBox->signalDecrement)
+    : q(spinBox), m_validator(new NumberLineValidator(spinBox))
 {
     m_validator->setLocale(english());
     m_validator->setDecimals(allDigits);
@@ -107,18 +114,11 @@ double QScientificSpinBoxPrivate::validateAndInterpret(const QString& input, int
     return interpretation.value;
 }
 
-void QScientificSpinBoxPrivate::stepBy(int steps)
-{
-    if (!handStepToHost(steps, *m_increment, *m_decrement)) {
-        m_spinBox->setValue(m_spinBox->value() + m_spinBox->singleStep() * steps);
-    }
-}
-
 QScientificSpinBox::QScientificSpinBox(QWidget* parent)
     : QDoubleSpinBox(parent), m_private(new QScientificSpinBoxPrivate(this))
 {
     expectGuiThread("QScientificSpinBox");
-    // Before anything that shows the value anew: the validator of the base class would ask validate() each time.
+    // Before all calls that update the text, because the validator of the base class would call validate() each time.
     lineEdit()->setValidator(m_private->m_validator);
     m_private->m_validator->follow(*lineEdit());
     setLocale(english());
@@ -139,8 +139,48 @@ int QScientificSpinBox::decimals() const
 void QScientificSpinBox::setDecimals(int digits)
 {
     m_private->m_decimals = std::min(digits, mostDigits);
-    // Shows the value anew and forgets the size hints, without rounding the value as setValue() does.
+    // Updates the text and the size hints. Unlike setValue(), it does not round the value.
     setPrefix(prefix());
+}
+
+QByteArray QScientificSpinBox::minimumText() const
+{
+    return exactText(minimum());
+}
+
+void QScientificSpinBox::setMinimumText(const QByteArray& number)
+{
+    setFromText(*this, &QDoubleSpinBox::setMinimum, number);
+}
+
+QByteArray QScientificSpinBox::maximumText() const
+{
+    return exactText(maximum());
+}
+
+void QScientificSpinBox::setMaximumText(const QByteArray& number)
+{
+    setFromText(*this, &QDoubleSpinBox::setMaximum, number);
+}
+
+QByteArray QScientificSpinBox::singleStepText() const
+{
+    return exactText(singleStep());
+}
+
+void QScientificSpinBox::setSingleStepText(const QByteArray& number)
+{
+    setFromText(*this, &QDoubleSpinBox::setSingleStep, number);
+}
+
+QByteArray QScientificSpinBox::valueText() const
+{
+    return exactText(value());
+}
+
+void QScientificSpinBox::setValueText(const QByteArray& number)
+{
+    setFromText(*this, &QDoubleSpinBox::setValue, number);
 }
 
 bool QScientificSpinBox::hasOwnValidation() const
@@ -181,7 +221,9 @@ void QScientificSpinBox::fixup(QString& input) const
 
 void QScientificSpinBox::stepBy(int steps)
 {
-    m_private->stepBy(steps);
+    if (!handStepToHost(steps, signalIncrement, signalDecrement)) {
+        setValue(value() + singleStep() * steps);
+    }
     selectAll();
 }
 

@@ -16,7 +16,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** The halves of a number before and behind its point. */
+/** The parts of a number before and after its decimal point. */
 struct Halves
 {
     qint64 left = 0;
@@ -25,7 +25,7 @@ struct Halves
 
 Halves halvesOfLimit(double limit, int decimals)
 {
-    // Beyond 64 bits the integer half reads as 0 and there is no fraction: not worth writing hundreds of digits for.
+    // An integer part beyond 64 bits counts as 0, and there is no fraction. So hundreds of digits need not be written.
     if (std::abs(limit) >= 1e19) {
         return {};
     }
@@ -46,12 +46,12 @@ qint64 powerOfTen(int exponent)
     return power;
 }
 
-/** A typed number, cut at its point. */
+/** A typed number, split at its decimal point. */
 struct TypedNumber
 {
     std::optional<qint64> left;
-    std::optional<qint64> right; ///< not looked at without integer half
-    QChar sign;                  ///< of a number without integer half
+    std::optional<qint64> right; ///< none if there is no integer part
+    QChar sign;                  ///< only if there is no integer part
 };
 
 TypedNumber cutAtPoint(const QString& text, QChar delimiter)
@@ -69,7 +69,7 @@ TypedNumber cutAtPoint(const QString& text, QChar delimiter)
         endsInPoint ? std::nullopt : std::make_optional(text.midRef(point + 1).toLongLong()), QChar()};
 }
 
-/** The integer and fraction parts of the range, and the searches in them. */
+/** Searches the integer parts and the fractions of a range. */
 class GrowthRange
 {
 public:
@@ -110,7 +110,7 @@ bool GrowthRange::reachesWithFraction(qint64 match, qint64 right) const
     return finds(right, match == m_min.left ? m_min.right : farEnd(), match == m_max.left ? m_max.right : nearEnd());
 }
 
-/** The number after this one; the first one after the last. */
+/** The next number. That after the last one is the first one. */
 qint64 successor(qint64 number)
 {
     using Limits = std::numeric_limits<qint64>;
@@ -168,7 +168,7 @@ bool isStartOfNumber(const QString& text, const NumberRules& rules)
     }
 }
 
-/** Whether blanks and group separators stand where they may; steps over a point typed on the point. */
+/** Whether blanks and group separators are where they may be. Removes a second point typed before the point. */
 bool settleSeparators(QString& text, int pos, const NumberRules& rules)
 {
     if (text.at(0) == rules.groupSeparator) {
@@ -272,7 +272,7 @@ bool mayGrowIntoRange(const QString& number, const NumberRules& rules)
 
 QString scientificText(double value, int significantDigits)
 {
-    // std::snprintf would take the decimal point from the C library's locale, which Qt sets to the user's.
+    // std::snprintf() would use the decimal point of the C locale, which Qt sets to that of the user.
     std::array<char, 1077> buffer;
     const int precision = significantDigits < 0 ? 6 : significantDigits;
     const auto end =

@@ -6,51 +6,50 @@
 
 namespace morvane::ui {
 
-/** What a text is read against. */
+/** The rules for interpreting a text. */
 struct NumberRules
 {
     double minimum;
     double maximum;
-    int decimals; ///< digits after the point that are looked at where a text may still grow into the range
+    int decimals; ///< digits after the point that count when a text may still grow into the range
     QChar delimiter;
     QChar groupSeparator;
-    QString prefix;           ///< dropped in front of the number, when it is there
-    QString suffix;           ///< dropped behind it, when it is there
+    QString prefix;           ///< removed before the number, if present
+    QString suffix;           ///< removed after the number, if present
     QString specialValueText; ///< a text that equals it keeps prefix and suffix; empty for none
 };
 
 struct NumberInterpretation
 {
     QValidator::State state;
-    double value; ///< of a text that is not Acceptable: the minimum when the maximum is above 0, else the maximum
-    QString text; ///< prefix, the number as it was read in the end, suffix
+    double value; ///< if the text is not Acceptable: the minimum if the maximum is above 0, else the maximum
+    QString text; ///< prefix, the number as it was interpreted, suffix
 };
 
 /**
- * Reads `input` as a number in US English, in plain or scientific notation.
+ * Interprets `input` as a number in US English, in plain or scientific notation.
  *
- * White space around the number, group separators that the parser does not like, and a second decimal point right
- * behind the first at the cursor are left out. `pos` goes back by the number of characters trimmed, which may bring it
- * below 0, and by the number of separators left out, which may not. A group separator left out makes a text
- * Intermediate at best.
+ * Removes white space around the number, group separators that the parser rejects, and a second decimal point that
+ * follows the first one at the cursor. Subtracts the number of removed blanks from `pos`, which may become negative,
+ * and the number of removed separators, but not below 0. A text with a removed separator is Intermediate at best.
  *
- * @param pos cursor position in `input`; any value will do
+ * @param pos cursor position in `input`; may have any value
  */
 NumberInterpretation interpretNumber(const QString& input, int& pos, const NumberRules& rules);
 
 /**
- * Whether a number outside the range may come into it when more digits are typed.
+ * Whether a number outside the range may get into the range when more digits are typed.
  *
- * The halves of the limits and of `number` before and behind the point are compared as 64-bit integers; a half that is
- * none (text with an exponent, digits beyond 64 bits) counts as 0. A fraction without integer part is not looked at
- * itself: in its place stands 0. With a negative number of decimals, the limits are taken with six, and the unit of
- * the fraction, 10 to the power of decimals, is 0.
+ * Compares the parts of the limits and of `number` before and after the point as 64-bit integers. A part that is no
+ * such integer (text with an exponent, digits beyond 64 bits) counts as 0. So does a fraction without integer part. If
+ * `decimals` is negative, the limits have six decimals, and the unit of the fraction, 10 to the power of `decimals`, is
+ * 0.
  *
- * @param number as it stands in NumberInterpretation::text between prefix and suffix
+ * @param number the part of NumberInterpretation::text between prefix and suffix
  */
 bool mayGrowIntoRange(const QString& number, const NumberRules& rules);
 
-/** `value` as printf's "%.*G" writes it in the C locale; fewer than 0 significant digits stand for six, 0 for one. */
+/** Writes `value` as printf's "%.*G" does in the C locale. A negative number of digits means six, 0 means one. */
 QString scientificText(double value, int significantDigits);
 
 } // namespace morvane::ui

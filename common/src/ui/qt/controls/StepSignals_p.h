@@ -5,8 +5,8 @@
 namespace morvane::ui {
 
 /**
- * Leaves a step to the host: fires `increment` for steps above 0, else `decrement`, if that one has a connected slot.
- * Returns whether it had. What a slot throws comes through.
+ * Calls the slots of `increment` if `steps` is above 0, else those of `decrement`. Returns whether there was a slot;
+ * then the step is left to the host. Passes on exceptions of the slots.
  */
 inline bool handStepToHost(
     int steps, boost::signals2::signal<void()>& increment, boost::signals2::signal<void()>& decrement)

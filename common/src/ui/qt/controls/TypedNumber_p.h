@@ -7,11 +7,11 @@
 
 namespace morvane::ui {
 
-/** The text that was typed into a spin box since its value was set. */
+/** Remembers the text that was typed into a spin box after its value was set. */
 class TypedText
 {
 public:
-    /** Begins to follow the line of a spin box, and the signal with which it announces its value. */
+    /** Watches the line of a spin box and the signal `valueChanged`. */
     template <typename SpinBox, typename ValueChanged>
     void follow(SpinBox& spinBox, const QLineEdit& line, ValueChanged valueChanged)
     {
@@ -19,7 +19,7 @@ public:
         QObject::connect(&spinBox, valueChanged, &spinBox, [this] { m_text = QString(); });
     }
 
-    /** Whether the line still shows it: a spin box that shows its value anew gives it up without a signal. */
+    /** Whether the line still shows the typed text. A spin box may replace it without a signal. */
     bool isShownBy(const QLineEdit& line) const { return !m_text.isNull() && m_text == line.displayText(); }
 
 private:
@@ -27,7 +27,7 @@ private:
 };
 
 /**
- * The value that the spin box would take on Return, with the text that `line` shows.
+ * The value that the spin box would have after Return, with the text in `line`.
  *
  * @param valueOf turns an acceptable text into a number
  */

@@ -7,14 +7,13 @@
 
 namespace morvane::ui {
 
-/** Adds up what wheels and touchpads report of a notch, until it is a whole one. */
+/** Adds up the parts of a notch that wheels and touchpads report. */
 class WheelNotches
 {
 public:
     /**
-     * Takes in a turn and returns how far it leads in whole notches: a multiple of 120, positive for up, 0 for none.
-     * A turn that goes more sideways than up or down counts as none. The part of a notch that is left over is kept for
-     * the next turn in the same direction.
+     * Adds a turn and returns the angle of the whole notches: a multiple of 120, positive for up, 0 for none. Ignores a
+     * turn that is more horizontal than vertical. Keeps the rest for the next turn in the same direction.
      */
     int add(const QWheelEvent& turn)
     {
@@ -37,14 +36,14 @@ private:
     int m_part = 0;
 };
 
-/** The same turn by whole notches. */
+/** A copy of the event with the angle of whole notches. */
 inline QWheelEvent turnBy(int wholeNotches, const QWheelEvent& turn)
 {
     return {turn.position(), turn.globalPosition(), turn.pixelDelta(), QPoint(0, wholeNotches), turn.buttons(),
         turn.modifiers(), turn.phase(), turn.inverted(), turn.source()};
 }
 
-/** Whether a turn of the wheel ends with this event: what is left of a notch then does not wait for the next turn. */
+/** Whether a turn of the wheel ends with this event, so that the rest of a notch is dropped. */
 inline bool endsTurn(const QEvent& event)
 {
     return event.type() == QEvent::FocusOut || event.type() == QEvent::Leave;

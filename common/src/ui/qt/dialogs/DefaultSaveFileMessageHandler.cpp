@@ -2,8 +2,6 @@
 
 namespace morvane {
 
-SaveFileMessageHandlerInterface::~SaveFileMessageHandlerInterface() = default;
-
 DefaultSaveFileMessageHandler::DefaultSaveFileMessageHandler() = default;
 
 DefaultSaveFileMessageHandler::DefaultSaveFileMessageHandler(const DefaultSaveFileMessageHandler& other) = default;

@@ -5,6 +5,21 @@
 
 #include <QComboBox>
 
+namespace {
+
+/** Calls a function with the dialog that exists. Returns a default value if there is none any more. */
+template <typename Call>
+auto withDialog(ExtendedWinFileDialog* winDialog, QExtendedFileDialog* qtDialog, Call call)
+{
+    using Result = decltype(call(*winDialog));
+    if (winDialog) {
+        return call(*winDialog);
+    }
+    return qtDialog ? call(*qtDialog) : Result();
+}
+
+} // namespace
+
 bool ExtendedFileDialog::m_useNativeFileDialog = true;
 
 bool ExtendedFileDialog::useNativeFileDialog()
@@ -30,7 +45,7 @@ ExtendedFileDialog::ExtendedFileDialog(QWidget* parent, const std::string& capti
         m_winDialog.reset(new ExtendedWinFileDialog(parent, caption, directory, filter, helpTopic, acceptMode, false));
     } else {
         m_qtDialog.reset(new QExtendedFileDialog(parent, caption, directory, filter, helpTopic, acceptMode));
-        // A parent that is destroyed takes the dialog with it.
+        // A parent that is destroyed deletes the dialog.
         QObject::connect(m_qtDialog.get(), &QObject::destroyed, [this] { static_cast<void>(m_qtDialog.release()); });
     }
 }
@@ -50,68 +65,48 @@ int ExtendedFileDialog::exec()
 
 void ExtendedFileDialog::selectFile(const QString& file)
 {
-    if (m_winDialog) {
-        m_winDialog->selectFile(file);
-    } else if (m_qtDialog) {
-        m_qtDialog->selectFile(file);
-    }
+    withDialog(m_winDialog.get(), m_qtDialog.get(), [&](auto& dialog) { dialog.selectFile(file); });
 }
 
 QStringList ExtendedFileDialog::selectedFiles()
 {
-    return m_winDialog ? m_winDialog->selectedFiles() : m_qtDialog ? m_qtDialog->selectedFiles() : QStringList();
+    return withDialog(m_winDialog.get(), m_qtDialog.get(), [](auto& dialog) { return dialog.selectedFiles(); });
 }
 
 void ExtendedFileDialog::setFileMode(QFileDialog::FileMode mode)
 {
-    if (m_winDialog) {
-        m_winDialog->setFileMode(mode);
-    } else if (m_qtDialog) {
-        m_qtDialog->setFileMode(mode);
-    }
+    withDialog(m_winDialog.get(), m_qtDialog.get(), [&](auto& dialog) { dialog.setFileMode(mode); });
 }
 
 QDir ExtendedFileDialog::directory()
 {
-    return m_winDialog ? m_winDialog->directory() : m_qtDialog ? m_qtDialog->directory() : QDir();
+    return withDialog(m_winDialog.get(), m_qtDialog.get(), [](auto& dialog) { return dialog.directory(); });
 }
 
 void ExtendedFileDialog::setDirectory(const QString& directory)
 {
-    if (m_winDialog) {
-        m_winDialog->setDirectory(directory);
-    } else if (m_qtDialog) {
-        m_qtDialog->setDirectory(directory);
-    }
+    withDialog(m_winDialog.get(), m_qtDialog.get(), [&](auto& dialog) { dialog.setDirectory(directory); });
 }
 
 void ExtendedFileDialog::selectNameFilter(const QString& filter)
 {
-    if (m_winDialog) {
-        m_winDialog->selectNameFilter(filter);
-    } else if (m_qtDialog) {
-        m_qtDialog->selectNameFilter(filter);
-    }
+    withDialog(m_winDialog.get(), m_qtDialog.get(), [&](auto& dialog) { dialog.selectNameFilter(filter); });
 }
 
 QStringList ExtendedFileDialog::nameFilters()
 {
-    return m_winDialog ? m_winDialog->nameFilters() : m_qtDialog ? m_qtDialog->nameFilters() : QStringList();
+    return withDialog(m_winDialog.get(), m_qtDialog.get(), [](auto& dialog) { return dialog.nameFilters(); });
 }
 
 void ExtendedFileDialog::setNameFilters(const QStringList& filters)
 {
-    if (m_winDialog) {
-        m_winDialog->setNameFilters(filters);
-    } else if (m_qtDialog) {
-        m_qtDialog->setNameFilters(filters);
-    }
+    withDialog(m_winDialog.get(), m_qtDialog.get(), [&](auto& dialog) { dialog.setNameFilters(filters); });
 }
 
 int ExtendedFileDialog::chosenFilter()
 {
     if (m_qtDialog && !m_qtDialog->m_savedNameFilters.isEmpty()) {
-        // A filter that was edited by a typed wildcard may read like another one.
+        // A filter that a typed wildcard has changed may have the same text as another one.
         const QStringList& given = m_qtDialog->m_savedNameFilters;
         return given.indexOf(given.value(m_qtDialog->m_fileTypeCombo->currentIndex()));
     }
@@ -120,23 +115,15 @@ int ExtendedFileDialog::chosenFilter()
 
 QString ExtendedFileDialog::selectedNameFilter()
 {
-    return m_winDialog ? m_winDialog->selectedNameFilter() : m_qtDialog ? m_qtDialog->selectedNameFilter() : QString();
+    return withDialog(m_winDialog.get(), m_qtDialog.get(), [](auto& dialog) { return dialog.selectedNameFilter(); });
 }
 
 void ExtendedFileDialog::setDontConfirmOverwrite(bool on)
 {
-    if (m_winDialog) {
-        m_winDialog->setDontConfirmOverwrite(on);
-    } else if (m_qtDialog) {
-        m_qtDialog->setDontConfirmOverwrite(on);
-    }
+    withDialog(m_winDialog.get(), m_qtDialog.get(), [&](auto& dialog) { dialog.setDontConfirmOverwrite(on); });
 }
 
 void ExtendedFileDialog::setShowDirectoriesOnly(bool on)
 {
-    if (m_winDialog) {
-        m_winDialog->setShowDirectoriesOnly(on);
-    } else if (m_qtDialog) {
-        m_qtDialog->setShowDirectoriesOnly(on);
-    }
+    withDialog(m_winDialog.get(), m_qtDialog.get(), [&](auto& dialog) { dialog.setShowDirectoriesOnly(on); });
 }

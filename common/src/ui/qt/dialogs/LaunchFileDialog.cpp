@@ -11,8 +11,8 @@
 
 namespace morvane::ui {
 
-// ExtendedFileDialog's friend. Befriending the exported function itself makes MinGW's compiler warn in every program
-// that includes both headers.
+// A friend of ExtendedFileDialog. If the exported function itself were the friend, MinGW's compiler would warn in every
+// program that includes both headers.
 struct ParentlessFileDialog
 {
     static ExtendedFileDialog make(
@@ -25,11 +25,6 @@ struct ParentlessFileDialog
 };
 
 namespace {
-
-QString fromUtf8(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 std::string joinedFilters(const std::vector<std::string>& nameFilters)
 {
@@ -53,12 +48,12 @@ QFileDialog::FileMode fileMode(bool saveMode, bool allowMultiple)
 QString selectionText(const std::vector<std::string>& selection, bool allowMultiple)
 {
     if (!allowMultiple) {
-        return fromUtf8(selection.front());
+        return QString::fromStdString(selection.front());
     }
     QString text;
     for (const std::string& entry : selection) {
         if (!entry.empty()) {
-            text += QLatin1Char('"') + fromUtf8(entry) + QLatin1String("\" ");
+            text += QLatin1Char('"') + QString::fromStdString(entry) + QLatin1String("\" ");
         }
     }
     return text;
@@ -67,8 +62,8 @@ QString selectionText(const std::vector<std::string>& selection, bool allowMulti
 void selectFilter(ExtendedFileDialog& dialog, const std::vector<std::string>& nameFilters, int index)
 {
     if (static_cast<std::size_t>(index) < nameFilters.size()) {
-        // The Qt dialog has simplified the blanks.
-        const QString given = fromUtf8(nameFilters[static_cast<std::size_t>(index)]);
+        // The Qt dialog simplifies white space.
+        const QString given = QString::fromStdString(nameFilters[static_cast<std::size_t>(index)]);
         dialog.selectNameFilter(dialog.nameFilters().contains(given) ? given : given.simplified());
     }
 }
@@ -87,20 +82,20 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
         joinedFilters(nameFilters), saveMode ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(fileMode(saveMode, allowMultiple));
 
-    // A save dialog whose first filter takes every name chooses its filter before it is given a name, which would
-    // otherwise be given the filter's extension.
+    // If the first filter of a save dialog accepts every name, the filter is selected before the name. Otherwise the
+    // dialog would append the filter's extension to the name.
     const bool filterFirst = saveMode && nameFilters.front().find("*.*") != std::string::npos;
     if (filterFirst) {
         selectFilter(dialog, nameFilters, initialFilterIndex);
     }
     if (!initialSelection.empty()) {
-        dialog.setDirectory(QFileInfo(fromUtf8(initialSelection.front())).absolutePath());
+        dialog.setDirectory(QFileInfo(QString::fromStdString(initialSelection.front())).absolutePath());
         dialog.selectFile(selectionText(initialSelection, allowMultiple));
     }
     if (!filterFirst) {
         selectFilter(dialog, nameFilters, initialFilterIndex);
         if (saveMode && allowMultiple && !initialSelection.empty()) {
-            // Qt gives the filter's extension to the end of the list, whatever stands there.
+            // Qt has appended the filter's extension to the list of names.
             dialog.selectFile(selectionText(initialSelection, allowMultiple));
         }
     }
@@ -114,7 +109,7 @@ bool LaunchFileDialog(std::vector<std::string>& files, int& filterIndex, const s
     }
     files.resize(static_cast<std::size_t>(selected.size()));
     for (int i = 0; i < selected.size(); ++i) {
-        files[static_cast<std::size_t>(i)] = selected[i].toUtf8().toStdString();
+        files[static_cast<std::size_t>(i)] = selected[i].toStdString();
     }
     filterIndex = ParentlessFileDialog::chosenFilter(dialog);
     return true;

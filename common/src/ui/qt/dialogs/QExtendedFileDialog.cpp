@@ -6,6 +6,8 @@
 #include "ui/qt/util/FileDialogAccessibility_p.h"
 #include "ui/qt/util/FileDialogLayout_p.h"
 #include "ui/qt/util/GuiThread_p.h"
+#include "ui/qt/util/ModalArrowCursor_p.h"
+#include "ui/qt/util/QtFileDialogNames_p.h"
 
 #include <QComboBox>
 #include <QCursor>
@@ -25,15 +27,6 @@
 
 #include <utility>
 
-namespace {
-
-QString fromUtf8(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
-
-} // namespace
-
 QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
     const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode)
     : QExtendedFileDialog(&parent, caption, directory, filter, helpTopic, acceptMode)
@@ -42,7 +35,8 @@ QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, const std::string& cap
 
 QExtendedFileDialog::QExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode)
-    : QFileDialog(parent, fromUtf8(caption), fromUtf8(directory), fromUtf8(filter)),
+    : QFileDialog(
+          parent, QString::fromStdString(caption), QString::fromStdString(directory), QString::fromStdString(filter)),
       m_helpTopic(helpTopic),
       m_geometryPersistenceKey("QExtendedFileDialog/Geometry_v2")
 {
@@ -87,29 +81,29 @@ void QExtendedFileDialog::setShowDirectoriesOnly(bool on)
     setOption(QFileDialog::ShowDirsOnly, on);
 }
 
-void QExtendedFileDialog::show()
+void QExtendedFileDialog::prepareToShow()
 {
     restoreSizeAndPosition();
     restoreFilters();
     addSidebarUrls();
     morvane::ui::makeListsReachable(*this);
     morvane::ui::showTypesOfFilesOnly(*this);
+}
+
+void QExtendedFileDialog::show()
+{
+    prepareToShow();
     QWidget::show();
     saveSizeAndPosition();
 }
 
 int QExtendedFileDialog::exec()
 {
-    restoreSizeAndPosition();
-    restoreFilters();
-    addSidebarUrls();
-    morvane::ui::makeListsReachable(*this);
-    morvane::ui::showTypesOfFilesOnly(*this);
+    prepareToShow();
     const QPointer<QExtendedFileDialog> self(this);
     const bool waits = m_overrideCursorSet || isBeingRead(m_model->rootPath());
-    restoreCursor(); // which would lie below the arrow
-    QGuiApplication::setOverrideCursor(QCursor(Qt::ArrowCursor));
-    const auto takeOff = qScopeGuard([] { morvane::ui::takeOffOverrideCursor(Qt::ArrowCursor); });
+    restoreCursor(); // the wait cursor belongs above the arrow
+    const morvane::ui::ModalArrowCursor arrow;
     const auto endWait = qScopeGuard([self] {
         if (self) {
             self->restoreCursor();
@@ -133,7 +127,7 @@ void QExtendedFileDialog::accept()
         if (m_performSelectedFileValidation) {
             QFileDialog::accept();
         } else {
-            QDialog::accept(); // past the checks of QFileDialog. NOLINT(bugprone-parent-virtual-call)
+            QDialog::accept(); // without the checks of QFileDialog. NOLINT(bugprone-parent-virtual-call)
         }
         return;
     }
@@ -144,9 +138,9 @@ void QExtendedFileDialog::accept()
     QStringList filters = nameFilters();
     const QString selected = selectedNameFilter();
     const QString description = selected.left(selected.indexOf(QLatin1Char('(')));
-    // setNameFilters() simplifies white space, and selectNameFilter() wants the very text that it shows.
+    // setNameFilters() simplifies white space, and selectNameFilter() expects the simplified text.
     m_modifiedNameFilter = QString(description + QLatin1Char('(') + text + QLatin1Char(')')).simplified();
-    // Found in the caller's list: an edited filter may read like another one.
+    // Searched in the caller's list, because a changed filter may have the same text as another one.
     const int position = m_savedNameFilters.size() == filters.size()
                              ? m_savedNameFilters.indexOf(m_savedNameFilters.value(m_fileTypeCombo->currentIndex()))
                              : filters.indexOf(selected);
@@ -158,10 +152,10 @@ void QExtendedFileDialog::accept()
     setNameFilters(filters);
     selectNameFilter(m_modifiedNameFilter);
     if (position >= 0) {
-        m_fileTypeCombo->setCurrentIndex(position); // it may read like another one now
+        m_fileTypeCombo->setCurrentIndex(position); // another filter may have the same text
     }
     m_fileTypeCombo->blockSignals(false);
-    m_fileNameEdit->setText(text); // Qt has given it the extension of the filter
+    m_fileNameEdit->setText(text); // Qt has appended the extension of the filter
     connect(m_fileTypeCombo, SIGNAL(activated(QString)), this, SLOT(revertModifiedFilterAndSelect(QString)),
         Qt::UniqueConnection);
 }
@@ -197,7 +191,7 @@ void QExtendedFileDialog::onDirectoryLoaded(const QString& path)
 {
     m_readFolders.insert(keyOf(path));
     restoreCursor();
-    // What ended the wait may have been another folder, read for the suggestions.
+    // The model may have read another folder, for the suggestions, and not the one that is waited for.
     if (isVisible() && m_shownFolder == m_model->rootPath() && isBeingRead(m_shownFolder)) {
         waitForFolder();
     }
@@ -207,7 +201,7 @@ void QExtendedFileDialog::onRootPathChanged(const QString& path)
 {
     const bool again = path == m_shownFolder;
     if (!again) {
-        // The model reads the folder that it leaves once more when it comes back there, and no other one twice.
+        // The model reads this folder again when the user comes back to it. It reads no other folder twice.
         m_readFolders.remove(keyOf(m_shownFolder));
         m_shownFolder = path;
     }
@@ -221,7 +215,7 @@ bool QExtendedFileDialog::isBeingRead(const QString& folder) const
     return QFileInfo(folder).isDir() && !m_readFolders.contains(keyOf(folder));
 }
 
-/** One text for all ways to write the path of a folder. */
+/** The same text for all spellings of the path of a folder. */
 QString QExtendedFileDialog::keyOf(const QString& folder) const
 {
     const QModelIndex index = m_model->index(folder);
@@ -241,18 +235,18 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
     morvane::ui::expectGuiThread("QExtendedFileDialog");
     setAcceptMode(acceptMode);
     setFileMode(acceptMode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    // Also what makes Qt build the child widgets that are looked up below.
+    // This also makes Qt create the child widgets that are looked up below.
     setOption(QFileDialog::DontUseNativeDialog, true);
 
-    m_fileTypeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
-    m_fileNameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    const auto* const view = findChild<QListView*>(QStringLiteral("listView"));
+    m_fileTypeCombo = findChild<QComboBox*>(morvane::ui::qtFileDialogNames::fileTypeCombo);
+    m_fileNameEdit = findChild<QLineEdit*>(morvane::ui::qtFileDialogNames::fileNameEdit);
+    const auto* const view = findChild<QListView*>(morvane::ui::qtFileDialogNames::listView);
     m_model = qobject_cast<QFileSystemModel*>(view->model());
     m_shownFolder = m_model->rootPath();
     connect(m_model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));
     connect(m_model, SIGNAL(rootPathChanged(const QString&)), this, SLOT(onRootPathChanged(const QString&)));
-    // For an empty name Qt's completion selects the open folder itself, out of sight, and a selected row wins over what
-    // is typed then: accepting would enter the folder and clear the name.
+    // For an empty name, Qt's completer selects the open folder itself, which is not visible. A selected row takes
+    // precedence over a name that is typed then: accepting would enter the folder and clear the name.
     connect(m_fileNameEdit, &QLineEdit::textChanged, view, [view](const QString& text) {
         if (text.isEmpty()) {
             view->selectionModel()->clearSelection();
@@ -262,7 +256,7 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
 
 void QExtendedFileDialog::setHelpAction()
 {
-    auto* const buttons = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+    auto* const buttons = findChild<QDialogButtonBox*>(morvane::ui::qtFileDialogNames::buttonBox);
     buttons->addButton(QDialogButtonBox::Help);
     connect(buttons, SIGNAL(helpRequested()), this, SLOT(launchHelp()));
 }

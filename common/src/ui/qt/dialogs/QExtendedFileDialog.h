@@ -126,6 +126,7 @@ private:
 
     void init(QFileDialog::AcceptMode acceptMode);
     void setHelpAction();
+    void prepareToShow();
     void addSidebarUrls();
     void saveSizeAndPosition();
     void restoreSizeAndPosition();

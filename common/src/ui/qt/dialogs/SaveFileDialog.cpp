@@ -1,6 +1,5 @@
 #include "ui/qt/dialogs/SaveFileDialog.h"
 
-#include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileQtDialog.h"
 #include "ui/qt/dialogs/SaveFileWinDialog.h"
@@ -9,8 +8,7 @@
 
 SaveFileDialog::SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic)
-    : SaveFileDialog(parent, caption, directory, filename, filter, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileDialog(parent, caption, directory, filename, filter, helpTopic, nullptr)
 {
 }
 
@@ -30,8 +28,7 @@ SaveFileDialog::SaveFileDialog(QWidget* parent, const std::string& caption, cons
 SaveFileDialog::SaveFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic)
-    : SaveFileDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic, nullptr)
 {
 }
 

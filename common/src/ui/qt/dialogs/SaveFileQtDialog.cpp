@@ -1,6 +1,5 @@
 #include "ui/qt/dialogs/SaveFileQtDialog.h"
 
-#include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 #include "ui/qt/dialogs/save/SaveFileFlow_p.h"
 
@@ -47,7 +46,7 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
     void selectNameFilter(int position) override
     {
         m_dialog->selectNameFilter(m_dialog->nameFilters().at(position));
-        m_dialog->m_fileTypeCombo->setCurrentIndex(position); // where two look alike
+        m_dialog->m_fileTypeCombo->setCurrentIndex(position); // two filters may have the same text
     }
     void finishDialog() override
     {
@@ -55,7 +54,7 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
         m_dialog->setOptions(QFileDialog::DontConfirmOverwrite | QFileDialog::DontUseNativeDialog);
     }
 
-    bool run() override
+    bool runDialog() override
     {
         takeWildcardBack();
         return m_dialog->exec() == QDialog::Accepted;
@@ -75,7 +74,7 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
     QWidget* messageParent() override { return m_dialog; }
     bool hasDialog() override { return m_dialog; }
 
-    /** The dialog does so by itself when it is shown, but then selects its first filter and changes the name. */
+    /** The dialog itself would select its first filter and change the name when it is shown. */
     void takeWildcardBack()
     {
         if (m_dialog->m_savedNameFilters.isEmpty()) {
@@ -91,40 +90,37 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
     }
 
     QPointer<QExtendedFileDialog> m_dialog;
-    QStringList m_given;     // the caller's filters as they were given, one empty text where there are none
-    QStringList m_shown;     // the same as the dialog has them, which simplifies blanks and has one for all files
-    bool m_isOrphan = false; // nobody else deletes a dialog without a parent
+    QStringList m_given;     // the caller's filters, one empty text for none
+    QStringList m_shown;     // the same filters as the dialog shows them: simplified, and one for all files if none
+    bool m_isOrphan = false; // no parent deletes the dialog
 };
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic)
-    : SaveFileQtDialog(parent, caption, directory, filename, filter, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileQtDialog(parent, caption, directory, filename, filter, helpTopic, nullptr)
 {
 }
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic,
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(Impl::make<Impl>(parent, caption, directory, filename, std::move(handler), filter, helpTopic))
 {
-    m_impl->setUp(filter, helpTopic);
 }
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic)
-    : SaveFileQtDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileQtDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic, nullptr)
 {
 }
 
 SaveFileQtDialog::SaveFileQtDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(Impl::make<Impl>(
+          parent, caption, directory, filename, std::move(handler), writerFilters, selectedWriterIndex, helpTopic))
 {
-    m_impl->setUp(writerFilters, selectedWriterIndex, helpTopic);
 }
 
 SaveFileQtDialog::~SaveFileQtDialog()
@@ -134,8 +130,7 @@ SaveFileQtDialog::~SaveFileQtDialog()
 
 bool SaveFileQtDialog::launch()
 {
-    const std::shared_ptr<Impl> impl = m_impl; // this object may go while the dialog is open
-    return impl->launch();
+    return Impl::launch(m_impl);
 }
 
 std::string SaveFileQtDialog::selectedFilename()

@@ -1,6 +1,5 @@
 #include "ui/qt/dialogs/SaveFileWinDialog.h"
 
-#include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 #include "ui/qt/dialogs/native/NativeFileDialog_p.h"
 #include "ui/qt/dialogs/save/KeptDialogs_p.h"
@@ -12,14 +11,14 @@
 
 namespace {
 
-/** A dialog that outlives its save flow, on purpose, and the Shell's own that belongs to it. */
+/** A dialog that is never deleted, and the Shell's dialog that belongs to it. */
 struct Kept
 {
     ExtendedWinFileDialog* dialog;
     const IFileDialog* shellDialog;
 };
 
-/** Here they stay reachable. */
+/** Keeps the dialogs reachable, so that leak checkers do not report them. */
 std::vector<Kept>& keptDialogs()
 {
     static auto* const kept = new std::vector<Kept>;
@@ -48,7 +47,7 @@ struct SaveFileWinDialog::Impl : morvane::ui::SaveFileFlow
         m_dialog->setDontConfirmOverwrite(true);
     }
 
-    bool run() override { return m_dialog->exec() == QDialog::Accepted; }
+    bool runDialog() override { return m_dialog->exec() == QDialog::Accepted; }
     QStringList selectedFiles() override { return m_dialog->selectedFiles(); }
     QStringList nameFilters() override { return m_dialog->nameFilters(); }
     int selectedPosition() override { return m_dialog->currentFilterIndex()->value() - 1; }
@@ -62,33 +61,30 @@ struct SaveFileWinDialog::Impl : morvane::ui::SaveFileFlow
 
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic)
-    : SaveFileWinDialog(parent, caption, directory, filename, filter, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileWinDialog(parent, caption, directory, filename, filter, helpTopic, nullptr)
 {
 }
 
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::string& filter, const std::string& helpTopic,
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(Impl::make<Impl>(parent, caption, directory, filename, std::move(handler), filter, helpTopic))
 {
-    m_impl->setUp(filter, helpTopic);
 }
 
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic)
-    : SaveFileWinDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic,
-          std::make_unique<morvane::DefaultSaveFileMessageHandler>())
+    : SaveFileWinDialog(parent, caption, directory, filename, writerFilters, selectedWriterIndex, helpTopic, nullptr)
 {
 }
 
 SaveFileWinDialog::SaveFileWinDialog(QWidget* parent, const std::string& caption, const std::string& directory,
     const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
     const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler)
-    : m_impl(std::make_shared<Impl>(parent, caption, directory, filename, std::move(handler)))
+    : m_impl(Impl::make<Impl>(
+          parent, caption, directory, filename, std::move(handler), writerFilters, selectedWriterIndex, helpTopic))
 {
-    m_impl->setUp(writerFilters, selectedWriterIndex, helpTopic);
 }
 
 SaveFileWinDialog::~SaveFileWinDialog()
@@ -98,8 +94,7 @@ SaveFileWinDialog::~SaveFileWinDialog()
 
 bool SaveFileWinDialog::launch()
 {
-    const std::shared_ptr<Impl> impl = m_impl; // this object may go while the dialog is open
-    return impl->launch();
+    return Impl::launch(m_impl);
 }
 
 std::string SaveFileWinDialog::selectedFilename()

@@ -22,7 +22,7 @@ bool CopyHandlerAbstract::eventFilter(QObject* /*watched*/, QEvent* event)
     if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
         return false;
     }
-    // Copying may delete this handler: nothing of it is used afterwards.
+    // Copying may delete this handler, so no member is used afterwards.
     copyToClipboard();
     return true;
 }

@@ -10,7 +10,7 @@ namespace morvane::ui {
 
 void takeOffOverrideCursor(Qt::CursorShape shape)
 {
-    // Qt shows and takes off the top only, so what lies above is taken off and put back.
+    // Qt removes only the top of the stack. So the cursors above are removed, too, and put back afterwards.
     std::vector<QCursor> above;
     bool found = false;
     while (const QCursor* const top = QGuiApplication::overrideCursor()) {

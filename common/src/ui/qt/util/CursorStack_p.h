@@ -5,11 +5,9 @@
 namespace morvane::ui {
 
 /**
- * Takes one override cursor of @p shape off the application's stack: the uppermost one, whatever others have put on top
- * of it since. Those stay, in their order. Without one of that shape somebody else has taken it off, and left one of
- * their own for it; the top of the stack goes then. Nothing when the stack is empty.
- *
- * Internal, not installed.
+ * Removes the uppermost override cursor of @p shape from the application's stack. The cursors above it stay in their
+ * order. If there is no cursor of that shape, other code has removed it instead of its own cursor, and the top of the
+ * stack is removed. Does nothing if the stack is empty.
  */
 void takeOffOverrideCursor(Qt::CursorShape shape);
 

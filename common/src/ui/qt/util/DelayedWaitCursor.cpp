@@ -23,7 +23,8 @@ void DelayedWaitCursor::look()
         m_stepsToLook = std::numeric_limits<int>::max();
         return;
     }
-    // Reading the clock costs as much as a quick step, and slow steps must not make the cursor late.
+    // Reading the clock takes as long as a quick step, so it is read less often then. Slow steps must not delay the
+    // cursor.
     const bool brisk = nowMs - m_lastLookMs < briskMs;
     m_stride = brisk ? std::min(2 * m_stride, longestStride) : std::max(m_stride / 2, 1);
     m_stepsToLook = m_stride;

@@ -9,9 +9,9 @@
 namespace morvane::ui {
 
 /**
- * Shows the wait cursor from the moment that the work has taken half a second until the object is destroyed.
+ * Shows the wait cursor when some work has taken half a second, until the object is destroyed.
  *
- * The work calls step() often; nothing happens between two calls. A call costs next to nothing.
+ * The work calls step() often, since only step() looks at the clock. Most calls only count.
  */
 class DelayedWaitCursor
 {

@@ -1,5 +1,7 @@
 #include "ui/qt/util/FileDialogAccessibility_p.h"
 
+#include "ui/qt/util/QtFileDialogNames_p.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -22,12 +24,12 @@ void nameList(const QFileDialog& dialog, const QString& label, const QString& li
 
 void makeListsReachable(const QFileDialog& dialog)
 {
-    // The button box stands before the list of types in the order of Tab, and would pass the focus past it to a button.
-    if (auto* const buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))) {
+    // The button box precedes the list of types in the tab order. With a proxy, Tab would skip the list.
+    if (auto* const buttons = dialog.findChild<QDialogButtonBox*>(qtFileDialogNames::buttonBox)) {
         buttons->setFocusProxy(nullptr);
     }
-    nameList(dialog, QStringLiteral("lookInLabel"), QStringLiteral("lookInCombo"));
-    nameList(dialog, QStringLiteral("fileTypeLabel"), QStringLiteral("fileTypeCombo"));
+    nameList(dialog, qtFileDialogNames::lookInLabel, qtFileDialogNames::lookInCombo);
+    nameList(dialog, qtFileDialogNames::fileTypeLabel, qtFileDialogNames::fileTypeCombo);
 }
 
 } // namespace morvane::ui

@@ -5,9 +5,8 @@ class QFileDialog;
 namespace morvane::ui {
 
 /**
- * Lets the keyboard and assistive software reach the lists of a file dialog that consists of widgets: Tab stops at the
- * types, and the lists of folders and of types take their names from the labels beside them. Does nothing to a dialog
- * that the desktop draws. May be called again.
+ * Makes the lists of a file dialog accessible: Tab stops at the list of types, and the lists of folders and of types
+ * have the labels beside them as names. Does nothing to a dialog that the desktop draws. May be called again.
  */
 void makeListsReachable(const QFileDialog& dialog);
 

@@ -1,5 +1,7 @@
 #include "ui/qt/util/FileDialogLayout_p.h"
 
+#include "ui/qt/util/QtFileDialogNames_p.h"
+
 #include <QComboBox>
 #include <QDateTime>
 #include <QEvent>
@@ -21,12 +23,12 @@ namespace morvane::ui {
 
 namespace {
 
-const char* const hiddenHere = "morvaneHidden"; // what the host has hidden itself stays so
+const char* const hiddenHere = "morvaneHidden"; // tells such widgets from those that the host has hidden
 const QString helperName = QStringLiteral("morvaneFileDialogLists");
 constexpr int nameColumn = 0;
 constexpr int dateColumn = 3;
 
-/** A child of the dialog that sets the widths of its lists, each when it is shown. */
+/** A child of the dialog. Sets the width of each list when the list is shown. */
 class ListWidths : public QObject
 {
 public:
@@ -61,7 +63,7 @@ private:
             return;
         }
         disconnect(m_loaded);
-        // The rows stand in the list when everybody else has heard of them, too.
+        // The list has the rows after all other receivers of the signal were called.
         QMetaObject::invokeMethod(
             this,
             [this] {
@@ -89,7 +91,7 @@ private:
 
     void fitColumns()
     {
-        m_files.doItemsLayout(); // shows the scroll bar that takes its share of the room
+        m_files.doItemsLayout(); // shows the scroll bar, which makes the viewport narrower
         const std::vector<int> needed = neededWidths();
         std::vector<int> widths = needed;
         for (int column = nameColumn + 1; column < m_files.header()->count(); ++column) {
@@ -99,7 +101,7 @@ private:
         const int room = m_files.viewport()->width();
         const int usualName = m_files.fontMetrics().horizontalAdvance(QStringLiteral("measurement.data"));
         if (std::accumulate(widths.begin() + 1, widths.end(), usualName) > room) {
-            widths = needed; // the names need the room more
+            widths = needed; // leaves more room for the names
         }
         const int others = std::accumulate(widths.begin() + 1, widths.end(), 0);
         widths.front() = std::max(room - others, usualName / 2);
@@ -108,7 +110,7 @@ private:
         }
     }
 
-    /** In which titles and texts are whole. */
+    /** The widths in which neither titles nor texts are cut. */
     std::vector<int> neededWidths()
     {
         std::vector<int> widths;
@@ -116,7 +118,7 @@ private:
         const bool isFirst = m_usual.empty();
         for (int column = nameColumn; column < m_files.header()->count(); ++column) {
             if (isFirst) {
-                m_usual.push_back(m_files.columnWidth(column)); // what Qt gives, for contents of any kind
+                m_usual.push_back(m_files.columnWidth(column)); // Qt's own width
             }
             m_files.resizeColumnToContents(column);
             widths.push_back(
@@ -125,7 +127,7 @@ private:
         return widths;
     }
 
-    /** For times when nothing is listed yet. */
+    /** The width of a date, used as long as nothing is listed. */
     int widthOfDate() const
     {
         const QDateTime wide(QDate(2000, 12, 28), QTime(20, 58, 58));
@@ -137,15 +139,15 @@ private:
     QListView& m_sidebar;
     QTreeView& m_files;
     QMetaObject::Connection m_loaded;
-    std::vector<int> m_usual; ///< of the columns
+    std::vector<int> m_usual; ///< widths that Qt gives the columns
 };
 
 } // namespace
 
 void showListsWhole(QFileDialog& dialog)
 {
-    auto* const sidebar = dialog.findChild<QListView*>(QStringLiteral("sidebar"));
-    auto* const files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    auto* const sidebar = dialog.findChild<QListView*>(qtFileDialogNames::sidebar);
+    auto* const files = dialog.findChild<QTreeView*>(qtFileDialogNames::treeView);
     if (sidebar && files && !dialog.findChild<QObject*>(helperName)) {
         new ListWidths(dialog, *sidebar, *files);
     }
@@ -154,11 +156,11 @@ void showListsWhole(QFileDialog& dialog)
 void showTypesOfFilesOnly(const QFileDialog& dialog)
 {
     const QFileDialog::FileMode mode = dialog.fileMode();
-    // Of the two modes for directories one is deprecated and must not be named.
+    // One of the two modes for directories is deprecated, and naming it is a warning.
     const bool picksFolders =
         mode != QFileDialog::AnyFile && mode != QFileDialog::ExistingFile && mode != QFileDialog::ExistingFiles;
-    const QList<QWidget*> row = {dialog.findChild<QLabel*>(QStringLiteral("fileTypeLabel")),
-        dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))};
+    const QList<QWidget*> row = {dialog.findChild<QLabel*>(qtFileDialogNames::fileTypeLabel),
+        dialog.findChild<QComboBox*>(qtFileDialogNames::fileTypeCombo)};
     for (QWidget* const widget : row) {
         if (widget && picksFolders && !widget->isHidden()) {
             widget->hide();

@@ -3,10 +3,8 @@
 namespace morvane::ui {
 
 /**
- * Says in the log, in builds for debugging, that `what` is used in another thread than that of the application. What
- * happens next is undefined then; hence the word. Nothing without an application object and in other builds.
- *
- * Internal, not installed.
+ * Logs a warning if `what` is used outside the thread of the application, because its behaviour is undefined there.
+ * Does nothing without an application object, and in builds without debugging.
  */
 #ifdef QT_NO_DEBUG
 inline void expectGuiThread(const char* /*what*/) {}

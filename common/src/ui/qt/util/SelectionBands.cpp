@@ -49,7 +49,7 @@ BlockPointers sortedByDigit(const BlockPointers& blocks, int shift)
     return sorted;
 }
 
-// Digit by digit: comparing thousands of scattered ranges would take as long as reading their cells.
+// A radix sort: comparing thousands of scattered ranges would take as long as reading their cells.
 BlockPointers sortedByFirstRow(const std::vector<SelectionBlock>& blocks)
 {
     int lastTop = 0;

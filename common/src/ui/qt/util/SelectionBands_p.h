@@ -6,7 +6,7 @@
 
 namespace morvane::ui {
 
-/** A selected range in plain numbers: reading them from a QItemSelectionRange goes through persistent indexes. */
+/** A selected range as plain numbers, because QItemSelectionRange reads them through persistent indexes. */
 struct SelectionBlock
 {
     int top;
@@ -17,7 +17,7 @@ struct SelectionBlock
 };
 
 /**
- * Walks a selection downwards in bands: runs of rows that are crossed by the same ranges.
+ * Iterates over a selection in bands from top to bottom. A band consists of rows that the same ranges cross.
  *
  * @code
  * SelectionBands bands(selectionModel.selection(), model);
@@ -26,8 +26,8 @@ struct SelectionBlock
  * }
  * @endcode
  *
- * Takes the time of sorting, and memory for the ranges. Ranges may overlap and may have different parents; rows with
- * the same number are then one row.
+ * Takes the time of sorting the ranges and the memory for them. Ranges may overlap. They may have different parents,
+ * and rows with the same number then count as one row.
  */
 class SelectionBands
 {
@@ -38,14 +38,14 @@ public:
     SelectionBands(const SelectionBands&) = delete;
     SelectionBands& operator=(const SelectionBands&) = delete;
 
-    /** Moves on to the next band, at first to the topmost; false when there is none. */
+    /** Goes to the next band, the first time to the topmost one. Returns false if there is none. */
     bool advance();
 
     int firstRow() const { return m_firstRow; }
     int lastRow() const { return m_lastRow; }
-    /** The ranges that cross the band, by first column. */
+    /** The ranges that cross the band, ordered by first column. */
     const std::vector<const SelectionBlock*>& blocks() const { return m_current; }
-    /** Whether ranges of the band share columns. */
+    /** Whether two ranges of the band have a column in common. */
     bool hasOverlaps() const;
 
 private:

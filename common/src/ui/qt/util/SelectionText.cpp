@@ -32,7 +32,7 @@ public:
 
     QString takeText()
     {
-        // It may stay on the clipboard for hours, up to twice as large as need be.
+        // The clipboard may keep the text for hours, and its buffer may be twice as large as the text.
         m_text.squeeze();
         return std::move(m_text);
     }
@@ -49,7 +49,7 @@ private:
     void forEachCell(const SelectionBlock& block, int row, Action action)
     {
         if (block.left == block.right && block.top == row) {
-            action(block.topLeft); // spares single cells, of which there may be thousands, the way through the model
+            action(block.topLeft); // faster than asking the model, and there may be thousands of single cells
             return;
         }
         const QModelIndex parent = block.topLeft.parent();
@@ -102,7 +102,7 @@ private:
 
     const QAbstractItemModel& m_model;
     QString m_text;
-    Separator m_separator = Separator::none; // due before the next cell
+    Separator m_separator = Separator::none; // written before the next cell
     std::vector<QModelIndex> m_rowIndexes;
     DelayedWaitCursor m_waitCursor;
 };

@@ -28,7 +28,7 @@ void TableCopyHandler::copyToClipboard()
 {
     expectGuiThread("TableCopyHandler");
     const QString text = selectedText(*m_tableView);
-    // Last of all: whoever listens to the clipboard may delete this handler.
+    // The last step, because a slot of the clipboard may delete this handler.
     QGuiApplication::clipboard()->setText(text, QClipboard::Clipboard);
 }
 

@@ -1,15 +1,14 @@
 #pragma once
 
-#include "ui/qt/dialogs/shell/ShellInterfaces.h"
 #include "ui/qt/MorvaneUiExport.h"
 
-// Internal, not installed.
+struct IFileDialog;
 
 namespace morvane::ui {
 
 /**
- * Whether the Shell's dialog belongs to a SaveFileWinDialog, which leaves it alive to the end of the process. For those
- * who count what is left over.
+ * Whether the Shell's dialog belongs to a SaveFileWinDialog, which never deletes it. For tests that count the objects
+ * that were not released.
  */
 MORVANE_UI_EXPORT bool isKeptForSaveFlow(const IFileDialog& dialog);
 

@@ -40,7 +40,7 @@ std::string applyFilterExtension(const std::string& filename, const std::string&
         boost::filesystem::path path = pathFromUtf8(filename);
         return pathToGenericUtf8(path.replace_extension(pathFromUtf8(extension)));
     }
-    // Without a dot there is nothing to replace, and no need to take the path apart.
+    // Without a dot there is no extension to replace, so the path need not be parsed.
     return withForwardSlashes(filename + (extension.front() == '.' ? "" : ".") + extension);
 }
 

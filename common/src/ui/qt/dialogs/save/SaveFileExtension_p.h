@@ -5,13 +5,15 @@
 namespace morvane::ui {
 
 /**
- * The name to save under: @p filename with the extension of the chosen name filter, if it has none of its own.
+ * Appends the extension of the chosen name filter to @p filename if the name has no extension.
  *
- * The extension is what follows the last dot of @p nameFilter, without white space, parentheses and asterisks: `.dat`
- * for `Data (*.dat)`, `.lay` for `Layouts (*.plt *.lay)`. A filter without a dot counts as a whole: `Allfiles` for `All
- * files (*)`. The name gets it, and comes back with forward slashes, when there is no dot in it, in none of its
- * directories either, or when it ends with one; any other name, and any name when the extension is empty, comes back as
- * it is. All text is UTF-8. Takes time proportional to the length of both.
+ * The extension starts at the last dot of @p nameFilter, and has no white space, parentheses and asterisks: `.dat` for
+ * `Data (*.dat)`, `.lay` for `Layouts (*.plt *.lay)`. The whole text of a filter without a dot is the extension:
+ * `Allfiles` for `All files (*)`.
+ *
+ * A name has no extension if the whole path contains no dot, or if it ends with a dot. It then gets the extension and
+ * is returned with forward slashes. Any other name is returned unchanged, and so is any name if the extension is empty.
+ * All text is UTF-8. The time is proportional to the length of both.
  */
 std::string applyFilterExtension(const std::string& filename, const std::string& nameFilter);
 

@@ -1,12 +1,11 @@
 #include "ui/qt/dialogs/save/SaveFileFlow_p.h"
 
+#include "host/MessageBox_p.h"
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/save/SaveFileExtension_p.h"
 #include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
 #include "ui/qt/util/FilePath_p.h"
 #include "ui/qt/util/GuiThread_p.h"
-
-#include <QMessageBox>
 
 #include <boost/filesystem/operations.hpp>
 
@@ -16,17 +15,11 @@ namespace morvane::ui {
 
 namespace {
 
-/** Asks with No as the default; no answer, because the parent was destroyed, counts as No. */
+/** Asks a question with No as the default answer. Returns false also if the parent was destroyed meanwhile. */
 bool ask(QWidget* parent, const std::string& title, const std::string& question)
 {
-    // On the heap, since the parent may take the box with it.
-    const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::Question, QString::fromStdString(title),
-        QString::fromStdString(question), QMessageBox::Yes | QMessageBox::No, parent));
-    box->setDefaultButton(QMessageBox::No);
-    box->setTextFormat(Qt::PlainText);
-    const int answer = box->exec();
-    delete box.data();
-    return answer == QMessageBox::Yes;
+    return showMessageBox(QMessageBox::Question, QString::fromStdString(title), QString::fromStdString(question),
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No, parent) == QMessageBox::Yes;
 }
 
 bool existsInAnyForm(const std::string& name)
@@ -80,10 +73,16 @@ void SaveFileFlow::setUp(
     finishDialog();
 }
 
-bool SaveFileFlow::launch()
+// The flow's owner may be destroyed meanwhile. NOLINTNEXTLINE(performance-unnecessary-value-param)
+bool SaveFileFlow::launch(std::shared_ptr<SaveFileFlow> flow)
+{
+    return flow->run();
+}
+
+bool SaveFileFlow::run()
 {
     morvane::ui::expectGuiThread("SaveFileDialog");
-    while (isAlive() && run() && isAlive()) {
+    while (isAlive() && runDialog() && isAlive()) {
         const QStringList files = selectedFiles();
         if (files.isEmpty()) {
             return false;
@@ -97,7 +96,7 @@ bool SaveFileFlow::launch()
     return false;
 }
 
-// The message handler may destroy the parent, and the dialog with it, in each of its operations.
+// Each operation of the message handler may destroy the parent and the dialog with it.
 SaveFileFlow::Verdict SaveFileFlow::judge()
 {
     const std::string nameToCheck = m_messageHandler->filenameToCheck(m_selectedFilename);

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace morvane {
@@ -15,46 +16,60 @@ class SaveFileMessageHandlerInterface;
 
 namespace morvane::ui {
 
-/** What a save-file object holds whatever its dialog is, and the loop that it runs. */
+/**
+ * The save flow: shows a file dialog until the user has picked a name that may be overwritten and can be written. Keeps
+ * what a SaveFileQtDialog and a SaveFileWinDialog have in common. Derived classes make the dialog and talk to it.
+ */
 struct SaveFileFlow
 {
-    /** @param handler null stands for the default one */
+    /** @param handler null for the default one */
     SaveFileFlow(QWidget* parent, const std::string& caption, const std::string& directory, const std::string& filename,
         std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
     virtual ~SaveFileFlow();
 
-    /** Makes the dialog with name filters that are joined by `;;`. Comes before anything else. */
+    /** Makes a flow and its dialog. `filters` are parameters of setUp(). */
+    template <typename Flow, typename... Filters>
+    static std::shared_ptr<Flow> make(QWidget* parent, const std::string& caption, const std::string& directory,
+        const std::string& filename, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler,
+        const Filters&... filters)
+    {
+        auto flow = std::make_shared<Flow>(parent, caption, directory, filename, std::move(handler));
+        flow->setUp(filters...);
+        return flow;
+    }
+
+    /** Makes the dialog with name filters that are joined by `;;`. */
     void setUp(const std::string& filter, const std::string& helpTopic);
-    /** Makes the dialog with one name filter a writer; an index outside of the list leaves the first one selected. */
+    /** Makes the dialog with one name filter for each writer. An index outside of the list selects the first one. */
     void setUp(const std::vector<std::string>& writerFilters, int selectedWriterIndex, const std::string& helpTopic);
 
     /**
-     * Runs the dialog until the user picks a name that may be overwritten and can be written, or gives up, or the
-     * dialog is destroyed. Returns whether m_selectedFilename may be written to.
+     * Runs the flow. Ends when a name is picked, when the user gives up, or when the dialog is destroyed. The save-file
+     * object may be destroyed meanwhile. Returns whether m_selectedFilename may be written.
      */
-    bool launch();
-    /** The save-file object is destroyed, perhaps while launch() runs: nothing more is asked then. */
+    static bool launch(std::shared_ptr<SaveFileFlow> flow);
+    /** The save-file object is destroyed. A flow that is running asks nothing more and ends. */
     virtual void abandon() { m_isAbandoned = true; }
-    /** The position of the chosen filter among the caller's, of equal ones the first; -1 when it is not there. */
+    /** The position of the chosen filter among the caller's, the first one of equal ones. -1 if it is not there. */
     int selectedWriter();
 
     virtual void createDialog(const std::string& filter, const std::string& helpTopic) = 0;
     virtual void setNameFilters(const QStringList& filters) = 0;
     virtual void selectNameFilter(int position) = 0;
-    /** Names the file to start with, and leaves the question before overwriting to launch(). */
+    /** Selects the file to start with. Switches off the dialog's own question before overwriting. */
     virtual void finishDialog() = 0;
 
-    /** Runs the dialog modally and returns whether the user accepted. */
-    virtual bool run() = 0;
+    /** Shows the dialog modally and returns whether the user has accepted. */
+    virtual bool runDialog() = 0;
     virtual QStringList selectedFiles() = 0;
-    /** The caller's filters, also while a wildcard that the user has typed stands in the place of one of them. */
+    /** The caller's filters, also while the dialog shows a typed wildcard instead of one of them. */
     virtual QStringList nameFilters() = 0;
-    /** The position of the chosen one among them. */
+    /** The position of the chosen filter among them. */
     virtual int selectedPosition() = 0;
-    /** The text of the chosen one as the dialog has it. */
+    /** The chosen filter as the dialog shows it. */
     virtual QString selectedFilter() = 0;
     virtual QWidget* messageParent() = 0;
-    /** False once the dialog or its parent was destroyed; then launch() asks nothing more of it. */
+    /** Whether neither the dialog nor its parent was destroyed. */
     virtual bool hasDialog() = 0;
 
     QPointer<QWidget> m_parent;
@@ -72,7 +87,8 @@ private:
         ShowAgain,
         GivenUp
     };
-    /** Asks about m_selectedFilename what there is to ask. */
+    bool run();
+    /** Checks m_selectedFilename and asks the user where that is necessary. */
     Verdict judge();
     bool isAlive() { return !m_isAbandoned && hasDialog(); }
     bool isConfirmed(const std::string& question);

@@ -33,7 +33,7 @@ fs::path scratchName(boost::system::error_code& error)
     return fs::unique_path("%%%%-%%%%-%%%%-%%%%", error);
 }
 
-// As many links as the kernel of Linux follows; also the limit where somebody else keeps making and removing the name.
+// Linux follows as many links. Also limits the attempts if another process keeps creating and removing the file.
 constexpr int maxAttempts = 41;
 
 #ifdef _WIN32
@@ -50,7 +50,7 @@ bool isNotThere(Error error)
     return error == ERROR_FILE_NOT_FOUND;
 }
 
-/** A file that is open for reading and writing, or why it is not. */
+/** A file that is open for reading and writing, or the error that has prevented it. */
 class OpenFile
 {
 public:
@@ -72,7 +72,7 @@ public:
 
     Error error() const { return m_error; }
 
-    /** Once it is closed, if that is allowed. */
+    /** Removes the file when it is closed, if that is allowed. */
     void remove() const
     {
         const DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -92,7 +92,7 @@ Error openExisting(const fs::path& path)
     return OpenFile(path, 0, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING, 0).error();
 }
 
-/** Where files may be made and not be deleted. Also after somebody else's file was in the way and has just gone. */
+/** For places where files may be created but not deleted, and for names whose file was deleted a moment ago. */
 Error makeAndTryToRemove(const fs::path& path)
 {
     const OpenFile file(path, 0, FILE_SHARE_DELETE, CREATE_NEW, 0);
@@ -103,8 +103,8 @@ Error makeAndTryToRemove(const fs::path& path)
 }
 
 /**
- * Makes the file exclusively. It goes with its own handle, so that no other file that got the name meanwhile can go in
- * its place. Others may rename a file onto the name while it is there, and may not write to it.
+ * Creates the file exclusively. Closing its handle deletes it, so that another file that has got the name meanwhile is
+ * not deleted. Other processes may rename a file to this name meanwhile, but cannot write to it.
  */
 Error makeAndRemove(const fs::path& path)
 {
@@ -112,7 +112,7 @@ Error makeAndRemove(const fs::path& path)
     return error == ERROR_ACCESS_DENIED ? makeAndTryToRemove(path) : error;
 }
 
-/** Creating goes through links by itself. */
+/** Creating a file follows links on Windows. */
 bool followLink(fs::path&)
 {
     return false;
@@ -142,7 +142,7 @@ int uninterrupted(Call call)
     return result;
 }
 
-/** A file that is open for appending, or why it is not. */
+/** A file that is open for appending, or the error that has prevented it. */
 class OpenFile
 {
 public:
@@ -163,7 +163,7 @@ public:
 
     Error error() const { return m_error; }
 
-    /** Of the file itself, whatever its name leads to by now. @return whether it is known */
+    /** Reads the status of the file itself, whatever its name leads to now. @return whether that was possible */
     bool readStatus(struct stat& status) const
     {
         return uninterrupted([&] { return ::fstat(m_descriptor, &status); }) == 0;
@@ -189,10 +189,10 @@ int renameFile(const fs::path& from, const fs::path& to)
     return uninterrupted([&] { return ::rename(from.c_str(), to.c_str()); });
 }
 
-/** Gives somebody else's file its name back, unless a later one has the name by now. */
+/** Gives the file of another process its name back, unless another file has the name now. */
 void putBack(const fs::path& scratch, const fs::path& path)
 {
-    // Unlike rename(), link() replaces nothing. Some file systems do not have it.
+    // Unlike rename(), link() never replaces a file. Some file systems do not support it.
     if (uninterrupted([&] { return ::link(scratch.c_str(), path.c_str()); }) == 0 || errno == EEXIST) {
         removeName(scratch);
     } else {
@@ -200,7 +200,7 @@ void putBack(const fs::path& scratch, const fs::path& path)
     }
 }
 
-/** Whether @p path leads to the file that was made, and nobody has written to it. */
+/** Whether @p path leads to the file that was created, and the file is still empty. */
 bool isStill(const struct stat& made, const fs::path& path)
 {
     struct stat named = {};
@@ -209,8 +209,8 @@ bool isStill(const struct stat& made, const fs::path& path)
 }
 
 /**
- * Removes the file that was made if it still is what @p path leads to. Another file may get the name after that was
- * seen. So whatever has the name is moved aside in one step and looked at again there.
+ * Removes the file that was created if @p path still leads to it. Another file may get the name after the comparison.
+ * So the file with this name is renamed first, in one step, and compared again under the new name.
  */
 void removeMade(const fs::path& path, const struct stat& made)
 {
@@ -220,7 +220,7 @@ void removeMade(const fs::path& path, const struct stat& made)
     boost::system::error_code error;
     const fs::path scratch = path.parent_path() / scratchName(error);
     if (error || (renameFile(path, scratch) != 0 && !isNotThere(errno))) {
-        removeName(path); // no place aside
+        removeName(path); // the file cannot be renamed
     } else if (isStill(made, scratch)) {
         removeName(scratch);
     } else {
@@ -228,18 +228,18 @@ void removeMade(const fs::path& path, const struct stat& made)
     }
 }
 
-/** Makes the file exclusively, and removes it if it is still the one that has the name. */
+/** Creates the file exclusively, and removes it if it still has the name. */
 Error makeAndRemove(const fs::path& path)
 {
     const OpenFile file(path, O_CREAT | O_EXCL);
     struct stat made = {};
     if (file.error() == 0 && file.readStatus(made)) {
-        removeMade(path, made); // the file stays open meanwhile: no other can have its number then
+        removeMade(path, made); // while the file is open, no other file gets its inode number
     }
     return file.error();
 }
 
-/** Creating exclusively does not follow links. @return whether it was one, and @p path is what it leads to */
+/** Creating exclusively does not follow links. @return whether @p path was a link; it is the target then */
 bool followLink(fs::path& path)
 {
     boost::system::error_code error;
@@ -255,7 +255,7 @@ bool followLink(fs::path& path)
 
 #endif
 
-/** Creating exclusively tells what was made here, and may be removed, from what somebody else made. */
+/** Creates exclusively, so that a file that another process has created is never removed. */
 bool probeByCreating(fs::path path)
 {
     for (int attempt = 0; attempt < maxAttempts; ++attempt) {
@@ -266,7 +266,7 @@ bool probeByCreating(fs::path path)
         if (followLink(path)) {
             continue;
         }
-        // Somebody else's, and perhaps removed again by now.
+        // The file belongs to another process, which may have removed it meanwhile.
         const Error existing = openExisting(path);
         if (!isNotThere(existing)) {
             return existing == 0;
@@ -295,14 +295,14 @@ bool checkWriteAccess(const fs::path& target)
     do {
         type = fs::status(target, error).type();
     } while (error == boost::system::errc::interrupted);
-    // Something may be there although its status cannot be read; creating exclusively finds out.
+    // A file may exist although its status cannot be read. Creating exclusively finds out.
     if (error || isAbsent(type)) {
         return probeOpenForAppend(target, true);
     }
     if (type != fs::directory_file) {
         return probeOpenForAppend(target, false);
     }
-    // Joined afterwards: a per cent sign in the name of the directory is no placeholder.
+    // unique_path() must not replace per cent signs in the name of the directory.
     const fs::path scratch = scratchName(error);
     return !error && probeOpenForAppend(target / scratch, true);
 }

@@ -4,6 +4,7 @@
 #include "ui/qt/dialogs/shell/TypedPatterns_p.h"
 #include "ui/qt/util/FileDialogAccessibility_p.h"
 #include "ui/qt/util/FileDialogLayout_p.h"
+#include "ui/qt/util/QtFileDialogNames_p.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -46,8 +47,8 @@ FileDialogWindow::FileDialogWindow(QWidget* owner, const FileDialogSettings& set
 {
     setOption(QFileDialog::DontUseNativeDialog, settings.usesWidgets);
     applySettings();
-    m_nameEdit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    m_typeCombo = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    m_nameEdit = findChild<QLineEdit*>(qtFileDialogNames::fileNameEdit);
+    m_typeCombo = findChild<QComboBox*>(qtFileDialogNames::fileTypeCombo);
     m_model = findChild<QFileSystemModel*>();
     if (consistsOfWidgets()) {
         m_acceptText = labelText(QFileDialog::Accept);
@@ -106,15 +107,15 @@ void FileDialogWindow::setOptionText(const QString& text)
 void FileDialogWindow::setUpWidgets()
 {
     if (m_settings.allowsSeveral && !m_settings.saving) {
-        for (const char* const name : {"listView", "treeView"}) {
-            if (auto* const view = findChild<QAbstractItemView*>(QLatin1String(name))) {
+        for (const QLatin1String name : {qtFileDialogNames::listView, qtFileDialogNames::treeView}) {
+            if (auto* const view = findChild<QAbstractItemView*>(name)) {
                 view->setSelectionMode(QAbstractItemView::ExtendedSelection);
             }
         }
     }
     if (m_settings.types.empty() || m_settings.picksFolders) {
         m_typeCombo->hide();
-        if (auto* const label = findChild<QLabel*>(QStringLiteral("fileTypeLabel"))) {
+        if (auto* const label = findChild<QLabel*>(qtFileDialogNames::fileTypeLabel)) {
             label->hide();
         }
     }
@@ -181,7 +182,7 @@ void FileDialogWindow::watchWidgets()
         m_folderPending = true;
         deliverLater();
     });
-    if (auto* const view = findChild<QAbstractItemView*>(QStringLiteral("listView"))) {
+    if (auto* const view = findChild<QAbstractItemView*>(qtFileDialogNames::listView)) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
             updateAcceptButton(); // Qt checks the typed text, which need not change
             m_selectionPending = true;
@@ -255,7 +256,7 @@ QStringList FileDialogWindow::selectedPaths() const
     if (!consistsOfWidgets()) {
         return selectedFiles();
     }
-    if (const auto* const view = findChild<QAbstractItemView*>(QStringLiteral("listView"))) {
+    if (const auto* const view = findChild<QAbstractItemView*>(qtFileDialogNames::listView)) {
         for (const QModelIndex& index : view->selectionModel()->selectedRows()) {
             paths.append(m_model->filePath(index));
         }

@@ -1,5 +1,7 @@
 #include "ui/qt/dialogs/shell/Shell.h"
 
+#include "host/ReplaceableInstance_p.h"
+
 #ifdef _WIN32
 #include "ui/qt/dialogs/shell/WindowsShell_p.h"
 #else
@@ -10,7 +12,7 @@ namespace morvane::ui {
 
 namespace {
 
-Shell* replacementInstance = nullptr;
+ReplaceableInstance<Shell> currentInstance;
 
 #ifdef _WIN32
 using DefaultShell = WindowsShell;
@@ -26,25 +28,16 @@ Shell::~Shell() = default;
 
 Shell& Shell::instance()
 {
-    if (replacementInstance) {
-        return *replacementInstance;
-    }
-    static DefaultShell defaultInstance;
-    return defaultInstance;
+    return currentInstance.get<DefaultShell>();
 }
 
 Shell* Shell::setInstance(Shell* replacement)
 {
-    Shell* const previous = replacementInstance;
-    replacementInstance = replacement;
-    return previous;
+    return currentInstance.replace(replacement);
 }
 
-ShellOverride::ShellOverride(Shell& replacement) : m_previous(Shell::setInstance(&replacement)) {}
+ShellOverride::ShellOverride(Shell& replacement) : m_override(replacement) {}
 
-ShellOverride::~ShellOverride()
-{
-    Shell::setInstance(m_previous);
-}
+ShellOverride::~ShellOverride() = default;
 
 } // namespace morvane::ui

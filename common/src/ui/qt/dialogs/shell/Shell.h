@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/InstanceOverride.h"
 #include "ui/qt/dialogs/shell/ShellInterfaces.h"
 #include "ui/qt/MorvaneUiExport.h"
 
@@ -67,7 +68,7 @@ public:
     ShellOverride& operator=(const ShellOverride&) = delete;
 
 private:
-    Shell* m_previous;
+    InstanceOverride<Shell> m_override;
 };
 
 /** Returns the row for @p Interface, a base class of @p Object, in a table for Shell::qiSearch(). */

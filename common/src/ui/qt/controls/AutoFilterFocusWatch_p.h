@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QMetaObject>
+#include <Qt>
+
+#include <functional>
+
+class QWidget;
+
+namespace morvane::ui {
+
+/**
+ * Finds out whether a ComboBoxAutoFilter has really lost the focus while another window, a menu or a popup has it: the
+ * focus may come back, or go on to another widget of the same window.
+ */
+class AutoFilterFocusWatch
+{
+public:
+    explicit AutoFilterFocusWatch(QWidget& field) : m_field(field) {}
+    ~AutoFilterFocusWatch() { stop(); }
+    AutoFilterFocusWatch(const AutoFilterFocusWatch&) = delete;
+    AutoFilterFocusWatch& operator=(const AutoFilterFocusWatch&) = delete;
+
+    /** Whether the focus usually comes back after it was lost for this reason. */
+    static bool comesBackAfter(Qt::FocusReason reason);
+
+    /** Calls `onLeft` once, when another widget of the field's window gets the focus. It may destroy the watch. */
+    void start(std::function<void()> onLeft);
+    void stop();
+
+private:
+    QWidget& m_field;
+    QMetaObject::Connection m_connection;
+};
+
+} // namespace morvane::ui

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringMatcher>
+
+namespace morvane::ui {
+
+/** How well a text fits an entry, the worst first. */
+enum class EntryFit
+{
+    None,
+    Contained,       ///< the entry contains the text, whatever the case
+    EqualButForCase, ///< the entry is the text but for the case
+    Equal
+};
+
+/** Compares one text with entries. Prepares the text once, and not for each entry. */
+class EntryMatcher
+{
+public:
+    explicit EntryMatcher(const QString& text) : m_text(text), m_contained(text, Qt::CaseInsensitive) {}
+
+    EntryFit fit(const QString& entry) const;
+
+private:
+    const QString m_text;
+    const QStringMatcher m_contained;
+};
+
+} // namespace morvane::ui

@@ -1,0 +1,7 @@
+#include "ui/qt/dialogs/SaveFileMessageHandlerInterface.h"
+
+namespace morvane {
+
+SaveFileMessageHandlerInterface::~SaveFileMessageHandlerInterface() = default;
+
+} // namespace morvane
