@@ -65,13 +65,18 @@ endfunction()
 
 # morvane_library(NAME morvane-ui EXPORT_NAME Ui EXPORT_HEADER ui/qt/MorvaneUiExport.h EXPORT_MACRO MORVANE_UI_EXPORT
 #                 PUBLIC_HEADERS ... SOURCES ...)
-# A versioned shared library with its export header; header paths are relative to the include root.
+# A versioned shared library with its export header; header paths are relative to the include root. Where SOURCES have
+# internal ones among them, there is also NAME-internals; see morvane_internals.
 function(morvane_library)
     cmake_parse_arguments(arg "" "NAME;EXPORT_NAME;EXPORT_HEADER;EXPORT_MACRO" "PUBLIC_HEADERS;SOURCES" ${ARGN})
     list(TRANSFORM arg_PUBLIC_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/common/src/ OUTPUT_VARIABLE header_files)
-    add_library(${arg_NAME} SHARED ${arg_SOURCES} ${header_files})
+    morvane_split_sources(public internal ${arg_SOURCES})
+    add_library(${arg_NAME} SHARED ${public} ${header_files})
     add_library(Morvane::${arg_EXPORT_NAME} ALIAS ${arg_NAME})
     morvane_own_code(${arg_NAME})
+    if(internal)
+        morvane_internals(${arg_NAME} ${internal})
+    endif()
     # The libraries find each other wherever they were installed or unpacked to.
     set_target_properties(${arg_NAME} PROPERTIES
         EXPORT_NAME ${arg_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
@@ -85,6 +90,47 @@ function(morvane_library)
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/morvane>)
     morvane_public_headers(${arg_NAME} ${arg_PUBLIC_HEADERS})
     morvane_install_headers(BASE ${generated} ${arg_EXPORT_HEADER})
+endfunction()
+
+# morvane_split_sources(PUBLIC INTERNAL source...): the internal ones have no public header, NAME.h, beside them.
+function(morvane_split_sources public internal)
+    set(public_sources)
+    set(internal_sources)
+    foreach(source IN LISTS ARGN)
+        string(REGEX REPLACE "\\.cpp>?$" ".h" header ${source})
+        if(NOT header MATCHES "_p\\.h$" AND EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${header})
+            list(APPEND public_sources ${source})
+        else()
+            list(APPEND internal_sources ${source})
+        endif()
+    endforeach()
+    set(${public} ${public_sources} PARENT_SCOPE)
+    set(${internal} ${internal_sources} PARENT_SCOPE)
+endfunction()
+
+# morvane_internals(LIBRARY source...)
+# Compiles the internal sources of LIBRARY once, as LIBRARY-objects. They become a part of LIBRARY, which does not export
+# them. The tests, the benchmarks and the fuzzers find them in the archive LIBRARY-internals: a program that links it takes
+# only the objects that it refers to, so that no other static variables exist twice.
+function(morvane_internals library)
+    set(objects ${library}-objects)
+    add_library(${objects} OBJECT ${ARGN})
+    morvane_own_code(${objects})
+    set_target_properties(${objects} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    # The definition makes what the headers declare exported rather than imported.
+    string(MAKE_C_IDENTIFIER ${library} identifier)
+    target_compile_definitions(${objects} PRIVATE ${identifier}_EXPORTS)
+    target_include_directories(${objects} PRIVATE $<TARGET_PROPERTY:${library},INCLUDE_DIRECTORIES>)
+    set(links $<TARGET_GENEX_EVAL:${library},$<TARGET_PROPERTY:${library},LINK_LIBRARIES>>)
+    target_link_libraries(${objects} PRIVATE ${links})
+    if(MORVANE_BUILD_QUICKLY)
+        target_precompile_headers(${objects} REUSE_FROM ${library})
+    endif()
+    target_sources(${library} PRIVATE $<TARGET_OBJECTS:${objects}>)
+
+    add_library(${library}-internals STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${objects}>)
+    set_target_properties(${library}-internals PROPERTIES LINKER_LANGUAGE CXX)
+    target_link_libraries(${library}-internals PUBLIC ${library} PRIVATE ${links})
 endfunction()
 
 # morvane_public_headers(TARGET header... [COMPONENT name])
