@@ -49,9 +49,16 @@ function(morvane_own_code target)
         CXX_EXTENSIONS OFF AUTOMOC ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 endfunction()
 
-# morvane_precompile(TARGET header...): a build that is to save time compiles these once for the whole target.
+# morvane_precompile(TARGET header...): a build that is to save time compiles these once for the whole target,
+# its internal sources included.
 function(morvane_precompile target)
-    if(MORVANE_BUILD_QUICKLY)
+    if(NOT MORVANE_BUILD_QUICKLY)
+        return()
+    endif()
+    if(TARGET ${target}-objects)
+        target_precompile_headers(${target}-objects PRIVATE ${ARGN})
+        target_precompile_headers(${target} REUSE_FROM ${target}-objects)
+    else()
         target_precompile_headers(${target} PRIVATE ${ARGN})
     endif()
 endfunction()
@@ -123,9 +130,6 @@ function(morvane_internals library)
     target_include_directories(${objects} PRIVATE $<TARGET_PROPERTY:${library},INCLUDE_DIRECTORIES>)
     set(links $<TARGET_GENEX_EVAL:${library},$<TARGET_PROPERTY:${library},LINK_LIBRARIES>>)
     target_link_libraries(${objects} PRIVATE ${links})
-    if(MORVANE_BUILD_QUICKLY)
-        target_precompile_headers(${objects} REUSE_FROM ${library})
-    endif()
     target_sources(${library} PRIVATE $<TARGET_OBJECTS:${objects}>)
 
     add_library(${library}-internals STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${objects}>)
