@@ -10,7 +10,7 @@ if(MSVC)
 else()
     target_compile_options(morvane-build-flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Wcast-align -Wformat=2
-        # The macros of GoogleTest for typed suites, which GCC takes without a word.
+        # For GoogleTest's macros for typed suites.
         $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
         # The system's COM interfaces, which our objects implement, have no virtual destructors.
         $<$<NOT:$<BOOL:${WIN32}>>:-Wnon-virtual-dtor>
@@ -40,7 +40,7 @@ endif()
 
 # Compiles TARGET the way all of Morvane's own code is compiled.
 function(morvane_own_code target)
-    # Taken over one by one rather than linked: a static library would hand what it links on to those who use it.
+    # Copied rather than linked: a static library would pass what it links on to its users.
     target_compile_definitions(${target} PRIVATE $<TARGET_PROPERTY:morvane-build-flags,INTERFACE_COMPILE_DEFINITIONS>)
     target_compile_options(${target} PRIVATE $<TARGET_PROPERTY:morvane-build-flags,INTERFACE_COMPILE_OPTIONS>)
     target_link_options(${target} PRIVATE $<TARGET_PROPERTY:morvane-build-flags,INTERFACE_LINK_OPTIONS>)
@@ -49,13 +49,19 @@ function(morvane_own_code target)
         CXX_EXTENSIONS OFF AUTOMOC ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 endfunction()
 
-# morvane_precompile(TARGET header...): a build that is to save time compiles these once for the whole target,
-# its internal sources included.
+# ccache requires this option for precompiled headers; see also MorvaneOptions.cmake.
+set(morvane_precompiled_options $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+
+# morvane_precompile(TARGET header...)
+# Precompiles the headers for TARGET and its internal sources, where MORVANE_BUILD_QUICKLY says so.
 function(morvane_precompile target)
-    if(NOT MORVANE_BUILD_QUICKLY)
+    get_target_property(type ${target} TYPE)
+    if(NOT MORVANE_BUILD_QUICKLY OR (MORVANE_BUILD_QUICKLY STREQUAL "TESTS" AND NOT type STREQUAL "EXECUTABLE"))
         return()
     endif()
+    target_compile_options(${target} PRIVATE ${morvane_precompiled_options})
     if(TARGET ${target}-objects)
+        target_compile_options(${target}-objects PRIVATE ${morvane_precompiled_options})
         target_precompile_headers(${target}-objects PRIVATE ${ARGN})
         target_precompile_headers(${target} REUSE_FROM ${target}-objects)
     else()
@@ -138,7 +144,8 @@ function(morvane_internals library)
 endfunction()
 
 # morvane_public_headers(TARGET header... [COMPONENT name])
-# Notes headers, relative to the include root, as public ones of TARGET: they are installed, and tested on their own.
+# Declares headers, relative to the include root, as public headers of TARGET. They are installed, and each is tested on its
+# own.
 function(morvane_public_headers target)
     cmake_parse_arguments(arg "" "COMPONENT" "" ${ARGN})
     set_property(TARGET ${target} APPEND PROPERTY MORVANE_PUBLIC_HEADERS ${arg_UNPARSED_ARGUMENTS})
