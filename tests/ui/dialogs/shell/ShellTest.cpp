@@ -58,7 +58,7 @@ TEST(ShellInstance, isReplacedWhileAGuardLives)
     EXPECT_EQ(&Shell::instance(), &original);
 }
 
-TEST(ComPointer, adoptsAndReleasesOneReference)
+TEST(ShellComPtr, adoptsAndReleasesOneReference)
 {
     Counted object;
     {
@@ -68,7 +68,7 @@ TEST(ComPointer, adoptsAndReleasesOneReference)
     EXPECT_EQ(object.references, 0u);
 }
 
-TEST(ComPointer, addsAReferenceOnlyWhenItShares)
+TEST(ShellComPtr, addsAReferenceOnlyWhenItShares)
 {
     Counted object;
     {
@@ -81,7 +81,7 @@ TEST(ComPointer, addsAReferenceOnlyWhenItShares)
     EXPECT_EQ(object.references, 1u);
 }
 
-TEST(ComPointer, putReleasesWhatWasHeld)
+TEST(ShellComPtr, putReleasesWhatWasHeld)
 {
     Counted object;
     ComPtr<IUnknown> pointer(&object);
@@ -89,7 +89,7 @@ TEST(ComPointer, putReleasesWhatWasHeld)
     EXPECT_EQ(object.references, 0u);
 }
 
-TEST(ComPointer, aFailedQueryGivesNothingWhateverItWrote)
+TEST(ShellComPtr, aFailedQueryGivesNothingWhateverItWrote)
 {
     Counted object;
     const ComPtr<IUnknown> pointer(&object);
@@ -98,7 +98,7 @@ TEST(ComPointer, aFailedQueryGivesNothingWhateverItWrote)
     EXPECT_EQ(object.references, 1u);
 }
 
-TEST(ComPointer, anEmptyPointerAnswersNoQuery)
+TEST(ShellComPtr, anEmptyPointerAnswersNoQuery)
 {
     EXPECT_FALSE(ComPtr<IUnknown>().query<IShellItem>());
 }
@@ -127,7 +127,7 @@ struct TwoInterfaces final : IFileDialogEvents, IFileDialogControlEvents
     ULONG references = 1;
 };
 
-TEST(TableSearch, findsEachInterfaceAndAnswersForIUnknownWithTheFirst)
+TEST(ShellTableSearch, findsEachInterfaceAndAnswersForIUnknownWithTheFirst)
 {
     TwoInterfaces object;
     const QITAB table[] = {morvane::ui::interfaceRow<IFileDialogEvents, TwoInterfaces>(),
@@ -200,7 +200,7 @@ TEST(ShellConstants, nameEachInterfaceByItsIdentifier)
     EXPECT_EQ(iidOf<IFileDialogControlEvents>(), IID_IFileDialogControlEvents);
 }
 
-TEST(ComPointer, isTheObjectThatItHolds)
+TEST(ShellComPtr, isTheObjectThatItHolds)
 {
     Counted object;
     const ComPtr<IUnknown> pointer(&object);
@@ -209,7 +209,7 @@ TEST(ComPointer, isTheObjectThatItHolds)
     EXPECT_FALSE(ComPtr<IUnknown>::share(nullptr));
 }
 
-TEST(ComPointer, releasesWhatItHeldWhenItTakesAnother)
+TEST(ShellComPtr, releasesWhatItHeldWhenItTakesAnother)
 {
     Counted first;
     Counted second;
