@@ -38,14 +38,15 @@ endif()
 
 include(GNUInstallDirs)
 
+if(MORVANE_BUILD_QUICKLY AND NOT CMAKE_HOST_WIN32)
+    # ccache requires this for precompiled headers.
+    set_property(DIRECTORY PROPERTY RULE_LAUNCH_COMPILE "env CCACHE_SLOPPINESS=pch_defines,time_macros")
+endif()
+
 if(PROJECT_IS_TOP_LEVEL)
     find_program(CCACHE_PROGRAM ccache)
     if(CCACHE_PROGRAM AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
         set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
-    endif()
-    if(MORVANE_BUILD_QUICKLY AND NOT CMAKE_HOST_WIN32)
-        # ccache requires this for precompiled headers.
-        set_property(GLOBAL PROPERTY RULE_LAUNCH_COMPILE "env CCACHE_SLOPPINESS=pch_defines,time_macros")
     endif()
     # One directory for programs and libraries, so that a Windows build finds its DLLs.
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)

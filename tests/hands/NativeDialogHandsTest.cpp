@@ -105,7 +105,7 @@ protected:
     void pickType(FileDialogDriver& driver, int row)
     {
         click(driver.typeCombo());
-        QAbstractItemView& list = driver.typeCombo().view();
+        QAbstractItemView& list = *driver.typeCombo().view();
         ASSERT_TRUE(eventually([&] { return list.isVisible(); }));
         press(Key::Home);
         for (int step = 0; step < row; ++step) {
