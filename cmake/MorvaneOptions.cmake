@@ -1,4 +1,4 @@
-# What a person may switch. Everything beside the libraries is off when Morvane is embedded.
+# Options. Everything except the libraries is off when Morvane is embedded.
 option(MORVANE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(MORVANE_BUILD_EXAMPLES "Build the gallery and the examples" ${PROJECT_IS_TOP_LEVEL})
 option(MORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
@@ -11,7 +11,9 @@ set(MORVANE_BUILD_DESIGNER ${designer_default} CACHE STRING
     "The plugin for Qt Designer: AUTO (where Qt's files for plugins are found), ON (required) or OFF")
 option(MORVANE_WARNINGS_AS_ERRORS "Treat warnings in Morvane's own sources as errors" OFF)
 option(MORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
-option(MORVANE_BUILD_QUICKLY "Build faster: precompile headers, which hides missing includes; do not optimise tests" OFF)
+set(MORVANE_BUILD_QUICKLY OFF CACHE STRING
+    "Build faster: ON precompiles headers, which hides missing includes, and does not optimise tests; TESTS leaves the libraries as they are")
+set_property(CACHE MORVANE_BUILD_QUICKLY PROPERTY STRINGS OFF TESTS ON)
 option(MORVANE_COVERAGE "Build for measuring the coverage by the tests (g++)" OFF)
 option(MORVANE_BUILD_FUZZERS "Build the fuzzing harnesses with libFuzzer (clang)" OFF)
 option(MORVANE_INSTALL "Provide the install rules" ${PROJECT_IS_TOP_LEVEL})
@@ -21,7 +23,7 @@ set_property(CACHE MORVANE_BUILD_DESIGNER PROPERTY STRINGS AUTO ON OFF)
 option(MORVANE_WITH_CTK "Take ctkCompleter from CTK instead of the stand-in" OFF)
 option(MORVANE_WITH_QXT "Take QxtLabel from Qxt instead of the stand-in" OFF)
 foreach(switch IN ITEMS MORVANE_WITH_CTK MORVANE_WITH_QXT)
-    # What these switches held initially in earlier versions: build directories of that time still have it.
+    # The default of earlier versions, which older build directories still have.
     if(${switch} STREQUAL "AUTO")
         message(WARNING "${switch} no longer knows AUTO and is OFF now: the stand-in is used. ON takes the package.")
         set(${switch} OFF CACHE BOOL "" FORCE)
@@ -29,12 +31,17 @@ foreach(switch IN ITEMS MORVANE_WITH_CTK MORVANE_WITH_QXT)
     endif()
 endforeach()
 
-# They are written with it.
+# They use it.
 if(MORVANE_BUILD_TESTS OR MORVANE_BUILD_EXAMPLES OR MORVANE_BUILD_BENCHMARKS OR MORVANE_BUILD_FUZZERS)
     set(MORVANE_BUILD_TESTING_LIBRARY ON)
 endif()
 
 include(GNUInstallDirs)
+
+if(MORVANE_BUILD_QUICKLY AND NOT CMAKE_HOST_WIN32)
+    # ccache requires this for precompiled headers.
+    set_property(DIRECTORY PROPERTY RULE_LAUNCH_COMPILE "env CCACHE_SLOPPINESS=pch_defines,time_macros")
+endif()
 
 if(PROJECT_IS_TOP_LEVEL)
     find_program(CCACHE_PROGRAM ccache)

@@ -10,7 +10,7 @@ if(MSVC)
 else()
     target_compile_options(morvane-build-flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Woverloaded-virtual -Wcast-align -Wformat=2
-        # The macros of GoogleTest for typed suites, which GCC takes without a word.
+        # For GoogleTest's macros for typed suites.
         $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
         # The system's COM interfaces, which our objects implement, have no virtual destructors.
         $<$<NOT:$<BOOL:${WIN32}>>:-Wnon-virtual-dtor>
@@ -40,18 +40,31 @@ endif()
 
 # Compiles TARGET the way all of Morvane's own code is compiled.
 function(morvane_own_code target)
-    # Taken over one by one rather than linked: a static library would hand what it links on to those who use it.
+    # Copied rather than linked: a static library would pass what it links on to its users.
     target_compile_definitions(${target} PRIVATE $<TARGET_PROPERTY:morvane-build-flags,INTERFACE_COMPILE_DEFINITIONS>)
     target_compile_options(${target} PRIVATE $<TARGET_PROPERTY:morvane-build-flags,INTERFACE_COMPILE_OPTIONS>)
     target_link_options(${target} PRIVATE $<TARGET_PROPERTY:morvane-build-flags,INTERFACE_LINK_OPTIONS>)
     target_compile_features(${target} PUBLIC cxx_std_17)
     set_target_properties(${target} PROPERTIES
-        CXX_EXTENSIONS OFF AUTOMOC ON CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+        CXX_EXTENSIONS OFF CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 endfunction()
 
-# morvane_precompile(TARGET header...): a build that is to save time compiles these once for the whole target.
+# ccache requires this option for precompiled headers; see also MorvaneOptions.cmake.
+set(morvane_precompiled_options $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+
+# morvane_precompile(TARGET header...)
+# Precompiles the headers for TARGET and its internal sources, where MORVANE_BUILD_QUICKLY says so.
 function(morvane_precompile target)
-    if(MORVANE_BUILD_QUICKLY)
+    get_target_property(type ${target} TYPE)
+    if(NOT MORVANE_BUILD_QUICKLY OR (MORVANE_BUILD_QUICKLY STREQUAL "TESTS" AND NOT type STREQUAL "EXECUTABLE"))
+        return()
+    endif()
+    target_compile_options(${target} PRIVATE ${morvane_precompiled_options})
+    if(TARGET ${target}-objects)
+        target_compile_options(${target}-objects PRIVATE ${morvane_precompiled_options})
+        target_precompile_headers(${target}-objects PRIVATE ${ARGN})
+        target_precompile_headers(${target} REUSE_FROM ${target}-objects)
+    else()
         target_precompile_headers(${target} PRIVATE ${ARGN})
     endif()
 endfunction()
@@ -65,13 +78,19 @@ endfunction()
 
 # morvane_library(NAME morvane-ui EXPORT_NAME Ui EXPORT_HEADER ui/qt/MorvaneUiExport.h EXPORT_MACRO MORVANE_UI_EXPORT
 #                 PUBLIC_HEADERS ... SOURCES ...)
-# A versioned shared library with its export header; header paths are relative to the include root.
+# A versioned shared library with its export header; header paths are relative to the include root. Where SOURCES have
+# internal ones among them, there is also NAME-internals; see morvane_internals.
 function(morvane_library)
     cmake_parse_arguments(arg "" "NAME;EXPORT_NAME;EXPORT_HEADER;EXPORT_MACRO" "PUBLIC_HEADERS;SOURCES" ${ARGN})
     list(TRANSFORM arg_PUBLIC_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/common/src/ OUTPUT_VARIABLE header_files)
-    add_library(${arg_NAME} SHARED ${arg_SOURCES} ${header_files})
+    morvane_split_sources(public internal ${arg_SOURCES})
+    add_library(${arg_NAME} SHARED ${public} ${header_files})
     add_library(Morvane::${arg_EXPORT_NAME} ALIAS ${arg_NAME})
     morvane_own_code(${arg_NAME})
+    set_target_properties(${arg_NAME} PROPERTIES AUTOMOC ON)
+    if(internal)
+        morvane_internals(${arg_NAME} ${internal})
+    endif()
     # The libraries find each other wherever they were installed or unpacked to.
     set_target_properties(${arg_NAME} PROPERTIES
         EXPORT_NAME ${arg_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
@@ -87,8 +106,47 @@ function(morvane_library)
     morvane_install_headers(BASE ${generated} ${arg_EXPORT_HEADER})
 endfunction()
 
+# morvane_split_sources(PUBLIC INTERNAL source...): the internal ones have no public header, NAME.h, beside them.
+function(morvane_split_sources public internal)
+    set(public_sources)
+    set(internal_sources)
+    foreach(source IN LISTS ARGN)
+        string(REGEX REPLACE "\\.cpp>?$" ".h" header ${source})
+        if(NOT header MATCHES "_p\\.h$" AND EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${header})
+            list(APPEND public_sources ${source})
+        else()
+            list(APPEND internal_sources ${source})
+        endif()
+    endforeach()
+    set(${public} ${public_sources} PARENT_SCOPE)
+    set(${internal} ${internal_sources} PARENT_SCOPE)
+endfunction()
+
+# morvane_internals(LIBRARY source...)
+# Compiles the internal sources of LIBRARY once, as LIBRARY-objects. They become a part of LIBRARY, which does not export
+# them. The tests, the benchmarks and the fuzzers find them in the archive LIBRARY-internals: a program that links it takes
+# only the objects that it refers to, so that no other static variables exist twice.
+function(morvane_internals library)
+    set(objects ${library}-objects)
+    add_library(${objects} OBJECT ${ARGN})
+    morvane_own_code(${objects})
+    set_target_properties(${objects} PROPERTIES AUTOMOC ON POSITION_INDEPENDENT_CODE ON)
+    # The definition makes what the headers declare exported rather than imported.
+    string(MAKE_C_IDENTIFIER ${library} identifier)
+    target_compile_definitions(${objects} PRIVATE ${identifier}_EXPORTS)
+    target_include_directories(${objects} PRIVATE $<TARGET_PROPERTY:${library},INCLUDE_DIRECTORIES>)
+    set(links $<TARGET_GENEX_EVAL:${library},$<TARGET_PROPERTY:${library},LINK_LIBRARIES>>)
+    target_link_libraries(${objects} PRIVATE ${links})
+    target_sources(${library} PRIVATE $<TARGET_OBJECTS:${objects}>)
+
+    add_library(${library}-internals STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:${objects}>)
+    set_target_properties(${library}-internals PROPERTIES LINKER_LANGUAGE CXX)
+    target_link_libraries(${library}-internals PUBLIC ${library} PRIVATE ${links})
+endfunction()
+
 # morvane_public_headers(TARGET header... [COMPONENT name])
-# Notes headers, relative to the include root, as public ones of TARGET: they are installed, and tested on their own.
+# Declares headers, relative to the include root, as public headers of TARGET. They are installed, and each is tested on its
+# own.
 function(morvane_public_headers target)
     cmake_parse_arguments(arg "" "COMPONENT" "" ${ARGN})
     set_property(TARGET ${target} APPEND PROPERTY MORVANE_PUBLIC_HEADERS ${arg_UNPARSED_ARGUMENTS})

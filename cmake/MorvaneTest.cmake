@@ -1,10 +1,10 @@
-# Where the build is to save time, TARGET, code of tests, is compiled without optimisation and with the headers that
-# nearly every test includes precompiled: once, for the support library, with the same options.
+# With MORVANE_BUILD_QUICKLY, compiles TARGET without optimisation and with the precompiled headers of the support library,
+# which is compiled with the same options.
 function(morvane_compile_quickly target)
     if(NOT MORVANE_BUILD_QUICKLY)
         return()
     endif()
-    target_compile_options(${target} PRIVATE -O0)
+    target_compile_options(${target} PRIVATE -O0 ${morvane_precompiled_options})
     if(target STREQUAL morvane-test-support)
         target_precompile_headers(${target} PRIVATE
             <QtTest> <QtWidgets> <gmock/gmock.h> <gtest/gtest.h> <algorithm> <functional> <map> <memory> <string> <vector>)
@@ -13,7 +13,7 @@ function(morvane_compile_quickly target)
     endif()
 endfunction()
 
-# Tests whose names say CompleterStandIn or LabelStandIn hold for the stand-ins and not for CTK's and Qxt's own classes.
+# The tests of CompleterStandIn and LabelStandIn apply to the stand-ins only, not to the classes of CTK and Qxt.
 set(morvane_test_filter)
 if(MORVANE_WITH_CTK)
     list(APPEND morvane_test_filter *CompleterStandIn*)
@@ -29,8 +29,8 @@ endif()
 # morvane_add_test(NAME SOURCES... [LIBRARIES ...] [TIMEOUT seconds] [SEPARATE])
 # A test program of GoogleTest cases; CTest runs each case in a process of its own, as NAME/Suite.case.
 #
-# Cross-built programs run in an emulator, where each start of a process costs much more: there CTest runs the whole
-# program as the one test NAME, on the target's own window system, unless SEPARATE asks for a process a case.
+# Cross-built programs run in an emulator, where starting a process takes long. There CTest runs the whole program as one
+# test, NAME, on the target's own window system. With SEPARATE, each case still runs in its own process.
 function(morvane_add_test name)
     cmake_parse_arguments(arg "SEPARATE" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     if(NOT arg_TIMEOUT)
@@ -55,7 +55,7 @@ endfunction()
 # morvane_header_test(TARGET LIBRARY)
 # Compiles each public header of LIBRARY on its own: once as Morvane's own code is compiled, and once with Qt's keywords
 # (`signals`, `slots`, `emit`) on, as many hosts have them. Building TARGET is the test.
-# A cross build, which comes after a native one, looks for what differs by platform: all headers together in one source.
+# A cross build only checks what differs by platform, so it compiles all headers together in one source.
 function(morvane_header_test target library)
     get_target_property(headers ${library} MORVANE_PUBLIC_HEADERS)
     set(sources)
@@ -78,6 +78,5 @@ function(morvane_header_test target library)
     endforeach()
     add_library(${target} OBJECT ${sources})
     morvane_own_code(${target})
-    set_target_properties(${target} PROPERTIES AUTOMOC OFF)
     target_link_libraries(${target} PRIVATE ${library})
 endfunction()

@@ -1,5 +1,5 @@
 // Name filters, against the expressions that define what they mean.
-#include "dialogs/LiteralNameFilter.h"
+#include "dialogs/native/LiteralNameFilter.h"
 #include "support/FuzzInput.h"
 #include "support/Require.h"
 #include "ui/qt/dialogs/native/NameFilterText_p.h"

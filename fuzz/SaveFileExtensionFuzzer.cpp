@@ -1,5 +1,5 @@
 // A file name and a name filter, one a line, against the rule for the extension in its own words.
-#include "dialogs/LiteralExtensionRule.h"
+#include "dialogs/save/LiteralExtensionRule.h"
 #include "support/FuzzInput.h"
 #include "support/Require.h"
 #include "ui/qt/dialogs/save/SaveFileExtension_p.h"

@@ -1,14 +1,40 @@
 #include "contract/ShellDriver.h"
 
-#include "contract/WidgetUser.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
 
 namespace morvane::test {
 
 namespace {
+
+class WidgetShellUser final : public ShellUser
+{
+public:
+    explicit WidgetShellUser(QFileDialog& dialog) : m_driver(FileDialogDriver::whenActive(dialog)) {}
+
+    void pressAccept() override { m_driver.pressAccept(); }
+    void pressCancel() override { m_driver.pressCancel(); }
+    void typeName(const QString& name) override { m_driver.typeName(name); }
+    void pickType(unsigned position) override { m_driver.stepToType(static_cast<int>(position) - 1); }
+    void enterFolder(const QString& folder) override { m_driver.enterFolder(folder); }
+    void selectFile(const QString& path) override
+    {
+        m_driver.clickFile(QFileInfo(path).fileName());
+        QCoreApplication::processEvents(); // what a user sees before going on
+    }
+    void clickButton(DWORD, const QString& label) override { m_driver.clickControl(label); }
+    void toggleCheck(DWORD, const QString& label) override { m_driver.toggleControl(label); }
+    void pickAcceptItem(DWORD, DWORD, const QString& label) override { m_driver.pickAcceptItem(label); }
+    void pressAcceptAndAnswer(bool replace) override { m_driver.pressAcceptAndAnswer(replace); }
+
+private:
+    const FileDialogDriver m_driver;
+};
 
 class WidgetShellDriver final : public ShellDriver
 {
@@ -19,7 +45,7 @@ public:
         ModalScript script;
         script.on<QFileDialog>([&play](QFileDialog& window) {
             const QPointer<QFileDialog> guard(&window);
-            WidgetUser user(window);
+            WidgetShellUser user(window);
             play(user);
             if (guard && guard->isVisible()) {
                 guard->reject();

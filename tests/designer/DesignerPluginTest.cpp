@@ -42,10 +42,10 @@ std::unique_ptr<QWidget> load(QIODevice& form)
     return window;
 }
 
-class LoadedForm : public ::testing::Test
+class DesignerPluginForm : public ::testing::Test
 {
 protected:
-    LoadedForm()
+    DesignerPluginForm()
     {
         QFile file(QStringLiteral(DESIGNER_FORM));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
@@ -64,7 +64,7 @@ protected:
     std::unique_ptr<QWidget> window;
 };
 
-TEST_F(LoadedForm, hasAComboBoxThatFiltersItsEntries)
+TEST_F(DesignerPluginForm, hasAComboBoxThatFiltersItsEntries)
 {
     auto* const box = find<ComboBoxAutoFilter>("substance");
     ASSERT_TRUE(box);
@@ -77,7 +77,7 @@ TEST_F(LoadedForm, hasAComboBoxThatFiltersItsEntries)
     EXPECT_EQ(box->completer()->currentCompletion(), "Benzene");
 }
 
-TEST_F(LoadedForm, hasAScientificSpinBoxWithNumbersThatDoublesInFormsCannotHold)
+TEST_F(DesignerPluginForm, hasAScientificSpinBoxWithNumbersThatDoublesInFormsCannotHold)
 {
     auto* const current = find<QScientificSpinBox>("current");
     ASSERT_TRUE(current);
@@ -89,7 +89,7 @@ TEST_F(LoadedForm, hasAScientificSpinBoxWithNumbersThatDoublesInFormsCannotHold)
     EXPECT_TRUE(current->hasOwnValidation());
 }
 
-TEST_F(LoadedForm, hasAnIntegerSpinBoxWhoseStepsCanBeTaken)
+TEST_F(DesignerPluginForm, hasAnIntegerSpinBoxWhoseStepsCanBeTaken)
 {
     auto* const samples = find<IntegralSpinBox>("samples");
     ASSERT_TRUE(samples);
@@ -102,7 +102,7 @@ TEST_F(LoadedForm, hasAnIntegerSpinBoxWhoseStepsCanBeTaken)
     EXPECT_EQ(samples->value(), 1024);
 }
 
-TEST_F(LoadedForm, hasALabelThatElidesAtTheStart)
+TEST_F(DesignerPluginForm, hasALabelThatElidesAtTheStart)
 {
     auto* const file = find<ElidedTextLabel>("file");
     ASSERT_TRUE(file);
@@ -110,7 +110,7 @@ TEST_F(LoadedForm, hasALabelThatElidesAtTheStart)
     EXPECT_EQ(file->elideMode(), Qt::ElideLeft);
 }
 
-TEST_F(LoadedForm, hasACommandLinkThatKeepsItsSize)
+TEST_F(DesignerPluginForm, hasACommandLinkThatKeepsItsSize)
 {
     auto* const start = find<CorrectFontCommandLinkButton>("start");
     ASSERT_TRUE(start);
@@ -120,7 +120,7 @@ TEST_F(LoadedForm, hasACommandLinkThatKeepsItsSize)
 }
 
 // What dropping it on a form does.
-TEST(ANewScientificSpinBox, validatesByItselfAndCanBeToldNotTo)
+TEST(DesignerPluginSpinBox, validatesByItselfAndCanBeToldNotTo)
 {
     QPluginLoader plugin(pluginFile());
     auto* const collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
@@ -143,10 +143,10 @@ std::string lastPart(const ::testing::TestParamInfo<int>& info)
     return names[info.param];
 }
 
-class EachWidget : public ::testing::TestWithParam<int>
+class DesignerPluginWidget : public ::testing::TestWithParam<int>
 {
 protected:
-    EachWidget()
+    DesignerPluginWidget()
     {
         auto* const collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
         EXPECT_TRUE(collection) << plugin.errorString().toStdString();
@@ -160,7 +160,7 @@ protected:
     QDesignerCustomWidgetInterface* entry = nullptr;
 };
 
-TEST_P(EachWidget, isDescribedForTheWidgetBox)
+TEST_P(DesignerPluginWidget, isDescribedForTheWidgetBox)
 {
     ASSERT_TRUE(entry);
     EXPECT_EQ(entry->group(), "Morvane");
@@ -172,7 +172,7 @@ TEST_P(EachWidget, isDescribedForTheWidgetBox)
 }
 
 // What dropping it on a form does.
-TEST_P(EachWidget, comesOutOfItsOwnDescriptionWithASizeThatShowsItWhole)
+TEST_P(DesignerPluginWidget, comesOutOfItsOwnDescriptionWithASizeThatShowsItWhole)
 {
     ASSERT_TRUE(entry);
     const QByteArray description = entry->domXml().toUtf8();
@@ -186,7 +186,7 @@ TEST_P(EachWidget, comesOutOfItsOwnDescriptionWithASizeThatShowsItWhole)
     EXPECT_GE(widget->height(), widget->minimumSizeHint().height());
 }
 
-TEST(NewComboBox, isAFieldOfAForm)
+TEST(DesignerPluginComboBox, isAFieldOfAForm)
 {
     QPluginLoader plugin(pluginFile());
     const auto* const collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
@@ -207,7 +207,7 @@ TEST(NewComboBox, isAFieldOfAForm)
 }
 
 // Designer's property editor offers the names of an enumeration.
-TEST(NewComboBox, offersItsModesByName)
+TEST(DesignerPluginComboBox, offersItsModesByName)
 {
     const QMetaObject& type = ComboBoxAutoFilter::staticMetaObject;
     const QMetaProperty mode = type.property(type.indexOfProperty("editMode"));
@@ -215,7 +215,7 @@ TEST(NewComboBox, offersItsModesByName)
     EXPECT_EQ(QByteArray(mode.enumerator().valueToKeys(ComboBoxAutoFilter::FormField)), "FormField");
 }
 
-TEST_P(EachWidget, isMadeWithTheParentThatIsGiven)
+TEST_P(DesignerPluginWidget, isMadeWithTheParentThatIsGiven)
 {
     ASSERT_TRUE(entry);
     QWidget form;
@@ -223,13 +223,13 @@ TEST_P(EachWidget, isMadeWithTheParentThatIsGiven)
 }
 
 // Designer writes the class name of the meta-object into the form.
-TEST_P(EachWidget, hasAMetaObjectOfItsOwnName)
+TEST_P(DesignerPluginWidget, hasAMetaObjectOfItsOwnName)
 {
     ASSERT_TRUE(entry);
     QWidget form;
     EXPECT_EQ(QLatin1String(entry->createWidget(&form)->metaObject()->className()), entry->name());
 }
 
-INSTANTIATE_TEST_SUITE_P(Plugin, EachWidget, ::testing::Range(0, 5), lastPart);
+INSTANTIATE_TEST_SUITE_P(Plugin, DesignerPluginWidget, ::testing::Range(0, 5), lastPart);
 
 } // namespace

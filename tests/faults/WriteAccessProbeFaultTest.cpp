@@ -148,7 +148,7 @@ TEST_P(WriteAccessProbeFaults, refusesWhenTheFileCannotBeOpened)
 namespace {
 
 /** Somebody else at work between two calls of the probe. */
-class WriteAccessProbeRival : public testing::Test
+class WriteAccessProbeFaultRival : public testing::Test
 {
 protected:
     QString path(const char* name) const { return m_directory.filePath(QLatin1String(name)); }
@@ -178,7 +178,7 @@ protected:
 
 } // namespace
 
-TEST_F(WriteAccessProbeRival, keepsAFileThatItRenamesOntoTheName)
+TEST_F(WriteAccessProbeFaultRival, keepsAFileThatItRenamesOntoTheName)
 {
     for (const char* const call : {"fstat", "lstat", "rename"}) {
         SCOPED_TRACE(call);
@@ -190,14 +190,14 @@ TEST_F(WriteAccessProbeRival, keepsAFileThatItRenamesOntoTheName)
     }
 }
 
-TEST_F(WriteAccessProbeRival, keepsWhatItWritesIntoTheFileThatTheProbeMade)
+TEST_F(WriteAccessProbeFaultRival, keepsWhatItWritesIntoTheFileThatTheProbeMade)
 {
     const SystemCallFaults rival("fstat", [this] { write("new", "theirs"); });
     EXPECT_TRUE(probe("new"));
     EXPECT_EQ(contentOf("new"), "theirs");
 }
 
-TEST_F(WriteAccessProbeRival, keepsTheLaterOfTwoFilesThatItRenamesOntoTheName)
+TEST_F(WriteAccessProbeFaultRival, keepsTheLaterOfTwoFilesThatItRenamesOntoTheName)
 {
     std::unique_ptr<SystemCallFaults> next;
     const auto renameTwice = [&] {
@@ -213,7 +213,7 @@ TEST_F(WriteAccessProbeRival, keepsTheLaterOfTwoFilesThatItRenamesOntoTheName)
     EXPECT_EQ(entries(), QStringList("new"));
 }
 
-TEST_F(WriteAccessProbeRival, getsItsNameBackWhereThereAreNoHardLinks)
+TEST_F(WriteAccessProbeFaultRival, getsItsNameBackWhereThereAreNoHardLinks)
 {
     std::unique_ptr<SystemCallFaults> next;
     const auto renameWithoutLinks = [&] {
@@ -227,21 +227,21 @@ TEST_F(WriteAccessProbeRival, getsItsNameBackWhereThereAreNoHardLinks)
     EXPECT_EQ(entries(), QStringList("new"));
 }
 
-TEST_F(WriteAccessProbeRival, mayTakeTheFileAwayThatTheProbeMade)
+TEST_F(WriteAccessProbeFaultRival, mayTakeTheFileAwayThatTheProbeMade)
 {
     const SystemCallFaults rival("lstat", [this] { fs::remove(path("new").toStdString()); });
     EXPECT_TRUE(probe("new"));
     EXPECT_EQ(entries(), QStringList());
 }
 
-TEST_F(WriteAccessProbeRival, keepsAFileThatItMakesBeforeTheProbeDoes)
+TEST_F(WriteAccessProbeFaultRival, keepsAFileThatItMakesBeforeTheProbeDoes)
 {
     const SystemCallFaults rival("open", [this] { renameOnto("new"); });
     EXPECT_TRUE(probe("new"));
     EXPECT_EQ(contentOf("new"), "theirs");
 }
 
-TEST_F(WriteAccessProbeRival, seesItsFileVanishAgainAndTheProbeLeavesNothing)
+TEST_F(WriteAccessProbeFaultRival, seesItsFileVanishAgainAndTheProbeLeavesNothing)
 {
     write("old", "content");
     const SystemCallFaults rival("open", [this] { fs::remove(path("old").toStdString()); });
@@ -249,7 +249,7 @@ TEST_F(WriteAccessProbeRival, seesItsFileVanishAgainAndTheProbeLeavesNothing)
     EXPECT_EQ(entries(), QStringList());
 }
 
-TEST_F(WriteAccessProbeRival, removesTheNameBetweenTwoLooksAtIt)
+TEST_F(WriteAccessProbeFaultRival, removesTheNameBetweenTwoLooksAtIt)
 {
     write("new", "content");
     const SystemCallFaults rival("readlink", [this] { fs::remove(path("new").toStdString()); });
@@ -257,7 +257,7 @@ TEST_F(WriteAccessProbeRival, removesTheNameBetweenTwoLooksAtIt)
     EXPECT_EQ(entries(), QStringList());
 }
 
-TEST_F(WriteAccessProbeRival, isNoReasonToTakeAnUnreadableStatusForAnAbsentFile)
+TEST_F(WriteAccessProbeFaultRival, isNoReasonToTakeAnUnreadableStatusForAnAbsentFile)
 {
     write("old", "content");
     const SystemCallFaults faults(1, EIO);

@@ -1,6 +1,6 @@
 // The native dialog and the launcher, used with keyboard and mouse.
 #include "hands/HandsTest.h"
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "support/RecordingSettings.h"
 
@@ -51,61 +51,61 @@ protected:
     QString folder() const { return m_folder.path(); }
     QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
     std::string text(const char* name) const { return path(name).toStdString(); }
-    static QAbstractItemView& view(const FileDialogPage& page)
+    static QAbstractItemView& view(const FileDialogDriver& driver)
     {
-        const bool details = page.dialog().viewMode() == QFileDialog::Detail;
-        return *page.dialog().findChild<QAbstractItemView*>(details ? "treeView" : "listView");
+        const bool details = driver.dialog().viewMode() == QFileDialog::Detail;
+        return *driver.dialog().findChild<QAbstractItemView*>(details ? "treeView" : "listView");
     }
 
     /** The next dialog, once it takes keys. */
-    void onDialog(ModalScript& user, const std::function<void(FileDialogPage&)>& act)
+    void onDialog(ModalScript& user, const std::function<void(FileDialogDriver&)>& act)
     {
         user.on<QFileDialog>([this, act](QFileDialog& dialog) {
             const QPointer<QFileDialog> open(&dialog);
             ASSERT_TRUE(eventually([&] { return dialog.isActiveWindow(); }));
             settle();
-            FileDialogPage page(dialog);
-            act(page);
+            FileDialogDriver driver(dialog);
+            act(driver);
             if (open && open->isVisible()) {
-                ADD_FAILURE() << "the dialog is still open, with " << page.name().toStdString();
+                ADD_FAILURE() << "the dialog is still open, with " << driver.name().toStdString();
                 dialog.reject();
             }
         });
     }
     /** Clicks on the files, the second and later ones with Control. */
-    void pick(FileDialogPage& page, const std::vector<const char*>& names)
+    void pick(FileDialogDriver& driver, const std::vector<const char*>& names)
     {
         for (const char* const name : names) {
             const QString label = QString::fromUtf8(name);
-            ASSERT_TRUE(eventually([&] { return page.listed().contains(label) && isSorted(view(page)); })) << name;
+            ASSERT_TRUE(eventually([&] { return driver.listed().contains(label) && isSorted(view(driver)); })) << name;
             settle();
-            const QModelIndex index = indexOf(view(page), label);
+            const QModelIndex index = indexOf(view(driver), label);
             if (name == names.front()) {
-                click(view(page), index);
+                click(view(driver), index);
             } else {
-                screen().click(onScreen(view(page), index), Key::Control);
+                screen().click(onScreen(view(driver), index), Key::Control);
                 settle();
             }
         }
     }
-    void pressAccept(FileDialogPage& page)
+    void pressAccept(FileDialogDriver& driver)
     {
-        const bool saving = page.dialog().acceptMode() == QFileDialog::AcceptSave;
-        QAbstractButton* const button = page.button(saving ? QDialogButtonBox::Save : QDialogButtonBox::Open);
-        ASSERT_TRUE(eventually([&] { return button->isEnabled(); })) << page.name().toStdString();
+        const bool saving = driver.dialog().acceptMode() == QFileDialog::AcceptSave;
+        QAbstractButton* const button = driver.button(saving ? QDialogButtonBox::Save : QDialogButtonBox::Open);
+        ASSERT_TRUE(eventually([&] { return button->isEnabled(); })) << driver.name().toStdString();
         click(*button);
     }
-    void enterName(FileDialogPage& page, const QString& name)
+    void enterName(FileDialogDriver& driver, const QString& name)
     {
-        click(page.nameEdit());
+        click(driver.nameEdit());
         press({Key::Control}, 'a');
         type(name);
     }
     /** Takes a row of the list of types. */
-    void pickType(FileDialogPage& page, int row)
+    void pickType(FileDialogDriver& driver, int row)
     {
-        click(page.typeCombo());
-        QAbstractItemView& list = *page.typeCombo().view();
+        click(driver.typeCombo());
+        QAbstractItemView& list = *driver.typeCombo().view();
         ASSERT_TRUE(eventually([&] { return list.isVisible(); }));
         press(Key::Home);
         for (int step = 0; step < row; ++step) {
@@ -153,7 +153,7 @@ private:
 
 const char* const csv = "\xC3\xBC\xE2\x82\xAC\xF0\x9F\x93\x81.csv";
 
-class ReadmeSample : public NativeDialogHands, public ::testing::WithParamInterface<bool>
+class NativeDialogHandsReadme : public NativeDialogHands, public ::testing::WithParamInterface<bool>
 {
 protected:
     void SetUp() override
@@ -165,7 +165,7 @@ protected:
     /** What a person does in each dialog that the button of the sample opens, and the files that are listed then. */
     struct Click
     {
-        std::function<void(FileDialogPage&)> act;
+        std::function<void(FileDialogDriver&)> act;
         std::vector<const char*> listed;
     };
 
@@ -185,11 +185,11 @@ protected:
         show(window);
         for (const Click& step : clicks) {
             ModalScript user;
-            onDialog(user, [&](FileDialogPage& page) {
+            onDialog(user, [&](FileDialogDriver& driver) {
                 if (list->count() == 0) {
-                    page.dialog().setDirectory(folder()); // nothing was chosen that it could start at
+                    driver.dialog().setDirectory(folder()); // nothing was chosen that it could start at
                 }
-                step.act(page);
+                step.act(driver);
             });
             click(*button);
             EXPECT_TRUE(user.finished());
@@ -217,58 +217,58 @@ private:
     }
 };
 
-TEST_P(ReadmeSample, opensAFileTenTimesInARow)
+TEST_P(NativeDialogHandsReadme, opensAFileTenTimesInARow)
 {
     std::vector<Click> clicks;
     for (const char* const name : {"b b.dat", csv, "a.dat"}) {
-        clicks.push_back({[this, name](FileDialogPage& page) {
-                              pick(page, {name});
-                              pressAccept(page);
+        clicks.push_back({[this, name](FileDialogDriver& driver) {
+                              pick(driver, {name});
+                              pressAccept(driver);
                           },
             {name}});
         // The dialog starts with the file of the time before.
-        clicks.push_back({[this](FileDialogPage& page) { pressAccept(page); }, {name}});
-        clicks.push_back({[this](FileDialogPage&) { press(Key::Return); }, {name}});
+        clicks.push_back({[this](FileDialogDriver& driver) { pressAccept(driver); }, {name}});
+        clicks.push_back({[this](FileDialogDriver&) { press(Key::Return); }, {name}});
     }
     clicks.push_back(clicks.front());
     clickThrough(clicks);
 }
 
-TEST_P(ReadmeSample, opensThreeFilesTenTimesInARow)
+TEST_P(NativeDialogHandsReadme, opensThreeFilesTenTimesInARow)
 {
     const std::vector<const char*> files{"a.dat", "b b.dat", csv};
-    const Click three{[this, files](FileDialogPage& page) {
-                          pick(page, files);
-                          pressAccept(page);
+    const Click three{[this, files](FileDialogDriver& driver) {
+                          pick(driver, files);
+                          pressAccept(driver);
                       },
         files};
     clickThrough(std::vector<Click>(10, three));
 }
 
-TEST_P(ReadmeSample, goesOnWhenTheFileHasGoneMeanwhile)
+TEST_P(NativeDialogHandsReadme, goesOnWhenTheFileHasGoneMeanwhile)
 {
-    clickThrough({{[this](FileDialogPage& page) {
-                       pick(page, {"a.dat"});
-                       pressAccept(page);
+    clickThrough({{[this](FileDialogDriver& driver) {
+                       pick(driver, {"a.dat"});
+                       pressAccept(driver);
                        ASSERT_TRUE(QFile::rename(path("a.dat"), path("moved.dat")));
                    },
                       {"a.dat"}},
-        {[this](FileDialogPage& page) {
-             pick(page, {"moved.dat"});
-             pressAccept(page);
+        {[this](FileDialogDriver& driver) {
+             pick(driver, {"moved.dat"});
+             pressAccept(driver);
          },
             {"moved.dat"}},
-        {[this](FileDialogPage& page) {
-             enterName(page, QStringLiteral("b b.dat"));
+        {[this](FileDialogDriver& driver) {
+             enterName(driver, QStringLiteral("b b.dat"));
              press(Key::Return);
          },
             {"b b.dat"}}});
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, ReadmeSample, ::testing::Bool(),
+INSTANTIATE_TEST_SUITE_P(Dialogs, NativeDialogHandsReadme, ::testing::Bool(),
     [](const auto& tested) { return std::string(tested.param ? "native" : "qt"); });
 
-class LauncherHands : public NativeDialogHands, public ::testing::WithParamInterface<bool>
+class NativeDialogHandsLauncher : public NativeDialogHands, public ::testing::WithParamInterface<bool>
 {
 protected:
     void SetUp() override
@@ -300,24 +300,24 @@ protected:
     int filter = -1;
 };
 
-TEST_P(LauncherHands, startsWithSeveralFilesAndOpensThemByTheButtonAlone)
+TEST_P(NativeDialogHandsLauncher, startsWithSeveralFilesAndOpensThemByTheButtonAlone)
 {
     ModalScript user;
-    onDialog(user, [this](FileDialogPage& page) { pressAccept(page); });
+    onDialog(user, [this](FileDialogDriver& driver) { pressAccept(driver); });
     EXPECT_TRUE(launch({"a.dat", "b b.dat", csv}, false, true));
     EXPECT_THAT(files, UnorderedElementsAreArray(paths({"a.dat", "b b.dat", csv})));
 }
 
-TEST_P(LauncherHands, givesTheFileThatWasPickedToBeSavedWhereSeveralAreAllowed)
+TEST_P(NativeDialogHandsLauncher, givesTheFileThatWasPickedToBeSavedWhereSeveralAreAllowed)
 {
     for (int time = 0; time < 2; ++time) {
         ModalScript user;
-        onDialog(user, [this, &user](FileDialogPage& page) {
-            pick(page, {"b b.dat"});
+        onDialog(user, [this, &user](FileDialogDriver& driver) {
+            pick(driver, {"b b.dat"});
             if (GetParam()) {
                 answerQuestion(user, QMessageBox::Yes);
             }
-            pressAccept(page);
+            pressAccept(driver);
         });
         EXPECT_TRUE(launch({"a.dat"}, true, true));
         EXPECT_TRUE(user.finished());
@@ -325,21 +325,21 @@ TEST_P(LauncherHands, givesTheFileThatWasPickedToBeSavedWhereSeveralAreAllowed)
     }
 }
 
-TEST_P(LauncherHands, givesTheSeveralFilesThatItStartedWithToBeSaved)
+TEST_P(NativeDialogHandsLauncher, givesTheSeveralFilesThatItStartedWithToBeSaved)
 {
     ModalScript user;
-    onDialog(user, [this, &user](FileDialogPage& page) {
+    onDialog(user, [this, &user](FileDialogDriver& driver) {
         if (GetParam()) {
             answerQuestion(user, QMessageBox::Yes);
             answerQuestion(user, QMessageBox::Yes);
         }
-        pressAccept(page);
+        pressAccept(driver);
     });
     EXPECT_TRUE(launch({"b b.dat", "a.dat"}, true, true));
     EXPECT_THAT(files, UnorderedElementsAreArray(paths({"b b.dat", "a.dat"})));
 }
 
-TEST_P(LauncherHands, opensFilesWithQuotesInTheirNames)
+TEST_P(NativeDialogHandsLauncher, opensFilesWithQuotesInTheirNames)
 {
     const char* const said = "he said \"hi\".dat";
     const char* const quoted = "\"q\".dat";
@@ -349,21 +349,21 @@ TEST_P(LauncherHands, opensFilesWithQuotesInTheirNames)
     }
     for (const char* const name : {said, quoted, said}) {
         ModalScript user;
-        onDialog(user, [this, name](FileDialogPage& page) {
-            pick(page, {name});
-            pressAccept(page);
+        onDialog(user, [this, name](FileDialogDriver& driver) {
+            pick(driver, {name});
+            pressAccept(driver);
         });
         EXPECT_TRUE(launch({name}, false, true));
         EXPECT_THAT(files, ElementsAre(text(name)));
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, LauncherHands, ::testing::Bool(),
+INSTANTIATE_TEST_SUITE_P(Dialogs, NativeDialogHandsLauncher, ::testing::Bool(),
     [](const auto& tested) { return std::string(tested.param ? "native" : "qt"); });
 
-using NativeSaveHands = NativeDialogHands;
+using NativeDialogHandsSave = NativeDialogHands;
 
-TEST_F(NativeSaveHands, opensWithTheNameAsItWasGiven)
+TEST_F(NativeDialogHandsSave, opensWithTheNameAsItWasGiven)
 {
     QWidget window;
     show(window);
@@ -371,36 +371,36 @@ TEST_F(NativeSaveHands, opensWithTheNameAsItWasGiven)
         "All files (*.*);;Data (*.dat);;Everything (*)", "", QFileDialog::AcceptSave, false);
     dialog.selectFile(QStringLiteral("report2.txt"));
     ModalScript user;
-    onDialog(user, [this](FileDialogPage& page) {
-        EXPECT_EQ(page.name(), QStringLiteral("report2.txt"));
-        pickType(page, 1);
-        EXPECT_EQ(page.name(), QStringLiteral("report2.dat")) << "a type that was picked";
-        pickType(page, 0);
-        EXPECT_EQ(page.name(), QStringLiteral("report2.dat")) << "a wildcard is no extension";
-        pickType(page, 2);
-        EXPECT_EQ(page.name(), QStringLiteral("report2"));
-        enterName(page, QStringLiteral("report2.raw"));
-        pressAccept(page);
+    onDialog(user, [this](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.name(), QStringLiteral("report2.txt"));
+        pickType(driver, 1);
+        EXPECT_EQ(driver.name(), QStringLiteral("report2.dat")) << "a type that was picked";
+        pickType(driver, 0);
+        EXPECT_EQ(driver.name(), QStringLiteral("report2.dat")) << "a wildcard is no extension";
+        pickType(driver, 2);
+        EXPECT_EQ(driver.name(), QStringLiteral("report2"));
+        enterName(driver, QStringLiteral("report2.raw"));
+        pressAccept(driver);
     });
     EXPECT_EQ(dialog.exec(), QDialog::Accepted);
     EXPECT_EQ(dialog.selectedFiles(), QStringList(path("report2.raw")));
 }
 
-TEST_F(NativeSaveHands, comesBackWithTheNameAsItWasTypedWhenItIsNotToBeReplaced)
+TEST_F(NativeDialogHandsSave, comesBackWithTheNameAsItWasTypedWhenItIsNotToBeReplaced)
 {
     QWidget window;
     show(window);
     SaveFileDialog dialog(&window, "Save", folder().toStdString(), "new.dat", "Data (*.dat);;Text (*.txt)", "");
     for (int time = 0; time < 2; ++time) {
         ModalScript user;
-        onDialog(user, [this](FileDialogPage& page) {
-            enterName(page, QStringLiteral("old.txt"));
-            pressAccept(page);
+        onDialog(user, [this](FileDialogDriver& driver) {
+            enterName(driver, QStringLiteral("old.txt"));
+            pressAccept(driver);
         });
         answerQuestion(user, QMessageBox::No);
-        onDialog(user, [this](FileDialogPage& page) {
-            EXPECT_EQ(page.name(), QStringLiteral("old.txt"));
-            enterName(page, QStringLiteral("free.txt"));
+        onDialog(user, [this](FileDialogDriver& driver) {
+            EXPECT_EQ(driver.name(), QStringLiteral("old.txt"));
+            enterName(driver, QStringLiteral("free.txt"));
             press(Key::Return);
         });
         EXPECT_TRUE(dialog.launch());

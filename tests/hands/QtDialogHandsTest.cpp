@@ -3,7 +3,7 @@
 
 #include "host/InstanceOverride.h"
 #include "property/Property.h"
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "support/OverrideCursors.h"
 #include "support/RecordingSettings.h"
@@ -70,13 +70,13 @@ protected:
     QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
 
     /** What a user does in the file dialog that opens next; cancels it when it is still open then. */
-    std::function<void(QFileDialog&)> user(std::function<void(FileDialogPage&)> act)
+    std::function<void(QFileDialog&)> user(std::function<void(FileDialogDriver&)> act)
     {
         return [this, act = std::move(act)](QFileDialog& dialog) {
             activate(dialog);
             const QPointer<QFileDialog> open(&dialog);
-            FileDialogPage page(dialog);
-            act(page);
+            FileDialogDriver driver(dialog);
+            act(driver);
             // The first one may be for the suggestions.
             for (int escapes = 0; open && open->isVisible() && escapes < 3; ++escapes) {
                 press(Key::Escape);
@@ -87,49 +87,39 @@ protected:
             }
         };
     }
-    void replaceName(const FileDialogPage& page, const QString& text)
+    void replaceName(const FileDialogDriver& driver, const QString& text)
     {
-        click(page.nameEdit());
+        click(driver.nameEdit());
         press({Key::Control}, 'a');
         type(text);
     }
     /** The suggestions take the next click for themselves. */
-    void closeSuggestions(const FileDialogPage& page)
+    void closeSuggestions(const FileDialogDriver& driver)
     {
-        if (page.nameEdit().completer()->popup()->isVisible()) {
-            click(*page.dialog().findChild<QLabel*>(QStringLiteral("lookInLabel")));
+        if (driver.nameEdit().completer()->popup()->isVisible()) {
+            click(*driver.dialog().findChild<QLabel*>(QStringLiteral("lookInLabel")));
         }
     }
-    void clickAccept(const FileDialogPage& page)
+    void clickAccept(const FileDialogDriver& driver)
     {
-        closeSuggestions(page);
-        click(acceptButton(page));
+        closeSuggestions(driver);
+        click(driver.acceptButton());
     }
-    void enterName(const FileDialogPage& page, const QString& text)
+    void enterName(const FileDialogDriver& driver, const QString& text)
     {
-        replaceName(page, text);
-        const QPointer<QFileDialog> open(&page.dialog());
-        const bool suggests = page.nameEdit().completer()->popup()->isVisible();
+        replaceName(driver, text);
+        const QPointer<QFileDialog> open(&driver.dialog());
+        const bool suggests = driver.nameEdit().completer()->popup()->isVisible();
         press(Key::Return);
         if (suggests && open && open->isVisible()) {
             press(Key::Return); // the first one was for the suggestions
         }
     }
-    static QAbstractButton& acceptButton(const FileDialogPage& page)
-    {
-        auto* const box = page.dialog().findChild<QDialogButtonBox*>();
-        for (QAbstractButton* const button : box->buttons()) {
-            if (box->buttonRole(button) == QDialogButtonBox::AcceptRole) {
-                return *button;
-            }
-        }
-        throw std::logic_error("no accept button");
-    }
     /** Opens the menu on the accept button and acts in it; returns when it is closed. */
-    void inAcceptMenu(const FileDialogPage& page, const std::function<void(QMenu&)>& act)
+    void inAcceptMenu(const FileDialogDriver& driver, const std::function<void(QMenu&)>& act)
     {
-        auto& opener = *page.dialog().findChild<QToolButton*>(QStringLiteral("acceptMenuArrow"));
-        closeSuggestions(page);
+        auto& opener = *driver.dialog().findChild<QToolButton*>(QStringLiteral("acceptMenuArrow"));
+        closeSuggestions(driver);
         bool opened = false;
         QTimer poll; // the menu runs a loop of its own
         QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
@@ -142,9 +132,9 @@ protected:
         click(opener);
         EXPECT_TRUE(opened);
     }
-    static void expectListed(const FileDialogPage& page, const QStringList& names)
+    static void expectListed(const FileDialogDriver& driver, const QStringList& names)
     {
-        EXPECT_TRUE(page.waitForListed(names));
+        EXPECT_TRUE(driver.waitForListed(names));
     }
 
     QWidget m_host;
@@ -165,17 +155,17 @@ TEST_F(QtDialogHands, theCursorIsAnArrowWhileNothingIsReadAndTheHostsStackIsAsIt
     for (int round = 0; round < 2; ++round) {
         dialog.setDirectory(m_folder.path());
         ModalScript script;
-        script.on<QFileDialog>(user([&](FileDialogPage& page) {
-            expectListed(page, {"a.txt", "b.txt", "sub"});
+        script.on<QFileDialog>(user([&](FileDialogDriver& driver) {
+            expectListed(driver, {"a.txt", "b.txt", "sub"});
             EXPECT_TRUE(waitUntil([&] { return overrideCursors() == idle; })) << "set before the run, " << round;
-            replaceName(page, QStringLiteral("sub/"));
+            replaceName(driver, QStringLiteral("sub/"));
             EXPECT_TRUE(waitUntil([&] { return loaded.contains({path("sub")}); })) << "read for the suggestions";
             press(Key::Return);
             EXPECT_TRUE(waitUntil([&] { return model.rootPath() == path("sub"); }));
             settle();
             EXPECT_EQ(overrideCursors(), idle) << "typed, and read already, " << round;
-            enterName(page, QStringLiteral("../"));
-            expectListed(page, {"a.txt", "b.txt", "sub"});
+            enterName(driver, QStringLiteral("../"));
+            expectListed(driver, {"a.txt", "b.txt", "sub"});
             EXPECT_TRUE(waitUntil([&] { return overrideCursors() == idle; }));
         }));
         EXPECT_EQ(dialog.exec(), QDialog::Rejected);
@@ -185,9 +175,9 @@ TEST_F(QtDialogHands, theCursorIsAnArrowWhileNothingIsReadAndTheHostsStackIsAsIt
 
     ExtendedFileDialog::setUseNativeFileDialog(false);
     ModalScript script;
-    script.on<QFileDialog>(user([&](FileDialogPage& page) {
+    script.on<QFileDialog>(user([&](FileDialogDriver& driver) {
         EXPECT_TRUE(waitUntil([] { return overrideCursors() == arrow; })) << "a selection in another folder";
-        click(acceptButton(page));
+        click(driver.acceptButton());
     }));
     std::vector<std::string> files;
     int filter = 0;
@@ -206,7 +196,7 @@ TEST_F(QtDialogHands, theCursorWaitsWhileAFolderIsRead)
     QExtendedFileDialog dialog(m_host, "Open", folder(), filters, "", QFileDialog::AcceptOpen);
     QSignalSpy loaded(dialog.findChild<QFileSystemModel*>(), &QFileSystemModel::directoryLoaded);
     ModalScript script;
-    script.on<QFileDialog>(user([&](FileDialogPage& page) {
+    script.on<QFileDialog>(user([&](FileDialogDriver& driver) {
         EXPECT_TRUE(waitUntil([] { return overrideCursors() == arrow; }));
         dialog.setDirectory(many.path());
         EXPECT_TRUE(waitUntil([&] {
@@ -215,7 +205,7 @@ TEST_F(QtDialogHands, theCursorWaitsWhileAFolderIsRead)
         }));
         dialog.setDirectory(m_folder.path());
         press(Key::Escape); // perhaps before it is read
-        EXPECT_FALSE(page.isOpen());
+        EXPECT_FALSE(driver.isOpen());
     }));
     EXPECT_EQ(dialog.exec(), QDialog::Rejected);
     EXPECT_EQ(overrideCursors(), Cursors());
@@ -227,26 +217,26 @@ TEST_F(QtDialogHands, aTypedWildcardFiltersTheDialogOfWidgetsAndIsNeverReturned)
         ExtendedWinFileDialog dialog(m_host, "Choose", folder(), filters, "", mode, false);
         dialog.addCustomButton("Host", [] {}); // so that it consists of widgets everywhere
         ModalScript script;
-        script.on<QFileDialog>(user([&](FileDialogPage& page) {
-            expectListed(page, {"a.txt", "b.txt", "sub"});
-            enterName(page, QStringLiteral("*.dat"));
-            expectListed(page, {"c.dat", "sub"});
-            EXPECT_TRUE(page.isOpen());
-            EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.dat)"));
-            replaceName(page, QStringLiteral("sub/d*"));
-            clickAccept(page);
-            expectListed(page, {"d.dat"});
-            EXPECT_TRUE(page.isOpen());
-            clickAccept(page);
-            EXPECT_TRUE(page.isOpen()) << "the same once more";
+        script.on<QFileDialog>(user([&](FileDialogDriver& driver) {
+            expectListed(driver, {"a.txt", "b.txt", "sub"});
+            enterName(driver, QStringLiteral("*.dat"));
+            expectListed(driver, {"c.dat", "sub"});
+            EXPECT_TRUE(driver.isOpen());
+            EXPECT_EQ(driver.currentType(), QStringLiteral("Text (*.dat)"));
+            replaceName(driver, QStringLiteral("sub/d*"));
+            clickAccept(driver);
+            expectListed(driver, {"d.dat"});
+            EXPECT_TRUE(driver.isOpen());
+            clickAccept(driver);
+            EXPECT_TRUE(driver.isOpen()) << "the same once more";
             press(Key::Escape);
         }));
         EXPECT_EQ(dialog.exec(), QDialog::Rejected);
         ModalScript again;
-        again.on<QFileDialog>(user([&](FileDialogPage& page) {
-            clickAccept(page); // what was left in the field is a wildcard still
-            EXPECT_TRUE(page.isOpen());
-            enterName(page, path("c.dat"));
+        again.on<QFileDialog>(user([&](FileDialogDriver& driver) {
+            clickAccept(driver); // what was left in the field is a wildcard still
+            EXPECT_TRUE(driver.isOpen());
+            enterName(driver, path("c.dat"));
             if (mode == QFileDialog::AcceptSave) {
                 press(Key::Tab);
                 press(Key::Return);
@@ -270,26 +260,26 @@ TEST_F(QtDialogHands, theAcceptButtonSaysWhatItDoesAndClosingChoosesNothing)
     dialog.addAcceptButtonOption("Import", 11);
     dialog.addAcceptButtonOption("Import and close", 22);
     dialog.addCustomButton("Done", [&] { dialog.close(); });
-    const auto pickSecond = [this](const FileDialogPage& page) {
-        inAcceptMenu(page, [this](QMenu& menu) { click(menu, menu.actionGeometry(menu.actions().last()).center()); });
+    const auto pickSecond = [this](const FileDialogDriver& driver) {
+        inAcceptMenu(driver, [this](QMenu& menu) { click(menu, menu.actionGeometry(menu.actions().last()).center()); });
     };
     ModalScript script;
-    script.on<QFileDialog>(user([&](FileDialogPage& page) {
-        EXPECT_EQ(acceptButton(page).text(), QStringLiteral("Import"));
-        replaceName(page, QStringLiteral("a.txt"));
-        EXPECT_EQ(acceptButton(page).text(), QStringLiteral("Import"));
-        clickAccept(page);
+    script.on<QFileDialog>(user([&](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.acceptButton().text(), QStringLiteral("Import"));
+        replaceName(driver, QStringLiteral("a.txt"));
+        EXPECT_EQ(driver.acceptButton().text(), QStringLiteral("Import"));
+        clickAccept(driver);
     }));
     ASSERT_EQ(dialog.exec(), QDialog::Accepted);
     EXPECT_EQ(dialog.selectedAcceptMenuOption(), 11);
     EXPECT_EQ(dialog.selectedFiles(), QStringList(path("a.txt")));
 
     ModalScript closing;
-    closing.on<QFileDialog>(user([&](FileDialogPage& page) {
-        replaceName(page, QStringLiteral("b.txt"));
-        for (QAbstractButton* const button : page.dialog().findChildren<QAbstractButton*>()) {
+    closing.on<QFileDialog>(user([&](FileDialogDriver& driver) {
+        replaceName(driver, QStringLiteral("b.txt"));
+        for (QAbstractButton* const button : driver.dialog().findChildren<QAbstractButton*>()) {
             if (button->text() == QStringLiteral("Done")) {
-                closeSuggestions(page);
+                closeSuggestions(driver);
                 click(*button);
                 return;
             }
@@ -299,11 +289,11 @@ TEST_F(QtDialogHands, theAcceptButtonSaysWhatItDoesAndClosingChoosesNothing)
     EXPECT_EQ(dialog.selectedFiles(), QStringList());
 
     ModalScript picking;
-    picking.on<QFileDialog>(user([&](FileDialogPage& page) {
-        replaceName(page, QStringLiteral("missing.txt"));
-        pickSecond(page);
-        replaceName(page, QStringLiteral("a.txt"));
-        clickAccept(page);
+    picking.on<QFileDialog>(user([&](FileDialogDriver& driver) {
+        replaceName(driver, QStringLiteral("missing.txt"));
+        pickSecond(driver);
+        replaceName(driver, QStringLiteral("a.txt"));
+        clickAccept(driver);
     }));
     picking.on<QMessageBox>([this](QMessageBox& box) {
         activate(box);
@@ -323,10 +313,10 @@ TEST_F(QtDialogHands, whatTheHeadersSayOfFiltersAndDirectoriesHappens)
             std::vector<std::string> files;
             int filter = -5;
             ModalScript script;
-            script.on<QFileDialog>(user([&](FileDialogPage& page) {
-                EXPECT_EQ(page.typeCombo().currentIndex(), 0);
-                page.pickTypeWithKeys(2);
-                enterName(page, QStringLiteral("c.dat"));
+            script.on<QFileDialog>(user([&](FileDialogDriver& driver) {
+                EXPECT_EQ(driver.typeCombo().currentIndex(), 0);
+                driver.pickTypeWithKeys(2);
+                enterName(driver, QStringLiteral("c.dat"));
             }));
             EXPECT_TRUE(ui::LaunchFileDialog(files, filter, "Open", {"Text (*.txt);;Data (*.dat)", "All (*)"},
                 {path("a.txt").toStdString()}, false, false, start));
@@ -342,49 +332,49 @@ TEST_F(QtDialogHands, whatTheHeadersSayOfFiltersAndDirectoriesHappens)
     // Only Enter takes a wildcard: the button for files that exist stays grey.
     QExtendedFileDialog wildcard(m_host, "Open", folder(), filters, "", QFileDialog::AcceptOpen);
     ModalScript script;
-    script.on<QFileDialog>(user([&](FileDialogPage& page) {
-        expectListed(page, {"a.txt", "b.txt", "sub"});
-        replaceName(page, QStringLiteral("*.dat"));
-        EXPECT_FALSE(acceptButton(page).isEnabled());
+    script.on<QFileDialog>(user([&](FileDialogDriver& driver) {
+        expectListed(driver, {"a.txt", "b.txt", "sub"});
+        replaceName(driver, QStringLiteral("*.dat"));
+        EXPECT_FALSE(driver.acceptButton().isEnabled());
         press(Key::Return);
-        expectListed(page, {"c.dat", "sub"});
+        expectListed(driver, {"c.dat", "sub"});
     }));
     EXPECT_EQ(wildcard.exec(), QDialog::Rejected);
 }
 
-class QtDialogLooksHands : public QtDialogHands
+class QtDialogHandsLooks : public QtDialogHands
 {
 protected:
     /** Nothing is cut, no row is there for nothing, and the suggestions hang below the field. */
-    void expectGoodLooks(const FileDialogPage& page, bool picksFolders)
+    void expectGoodLooks(const FileDialogDriver& driver, bool picksFolders)
     {
-        EXPECT_TRUE(waitUntil([&] { return !page.listed().isEmpty() && page.cutParts().isEmpty(); }))
-            << page.cutParts().join(QStringLiteral("; ")).toStdString();
-        EXPECT_EQ(page.typeCombo().isVisible(), !picksFolders);
-        EXPECT_EQ(page.dialog().findChild<QLabel*>(QStringLiteral("fileTypeLabel"))->isVisible(), !picksFolders);
-        replaceName(page, QStringLiteral("s"));
-        const QWidget& list = *page.nameEdit().completer()->popup();
+        EXPECT_TRUE(waitUntil([&] { return !driver.listed().isEmpty() && driver.cutParts().isEmpty(); }))
+            << driver.cutParts().join(QStringLiteral("; ")).toStdString();
+        EXPECT_EQ(driver.typeCombo().isVisible(), !picksFolders);
+        EXPECT_EQ(driver.dialog().findChild<QLabel*>(QStringLiteral("fileTypeLabel"))->isVisible(), !picksFolders);
+        replaceName(driver, QStringLiteral("s"));
+        const QWidget& list = *driver.nameEdit().completer()->popup();
         ASSERT_TRUE(waitUntil([&] { return list.isVisible(); }));
-        const QRect field(page.nameEdit().mapToGlobal(QPoint(0, 0)), page.nameEdit().size());
+        const QRect field(driver.nameEdit().mapToGlobal(QPoint(0, 0)), driver.nameEdit().size());
         EXPECT_LE(std::abs(list.geometry().top() - field.bottom()), 2);
         EXPECT_EQ(list.geometry().left(), field.left());
         press(Key::Escape);
-        EXPECT_TRUE(page.isOpen());
+        EXPECT_TRUE(driver.isOpen());
     }
-    void expectMenuBesideTheButtons(const FileDialogPage& page)
+    void expectMenuBesideTheButtons(const FileDialogDriver& driver)
     {
-        inAcceptMenu(page, [&](QMenu& menu) {
-            for (const QAbstractButton* const button : page.dialog().findChildren<QAbstractButton*>()) {
+        inAcceptMenu(driver, [&](QMenu& menu) {
+            for (const QAbstractButton* const button : driver.dialog().findChildren<QAbstractButton*>()) {
                 const QRect place(button->mapToGlobal(QPoint(0, 0)), button->size());
                 EXPECT_FALSE(button->isVisible() && place.intersects(menu.geometry())) << button->text().toStdString();
             }
             press(Key::Escape);
         });
-        EXPECT_TRUE(page.isOpen());
+        EXPECT_TRUE(driver.isOpen());
     }
 };
 
-TEST_F(QtDialogLooksHands, eachDialogShowsAllOfItselfWhenItOpens)
+TEST_F(QtDialogHandsLooks, eachDialogShowsAllOfItselfWhenItOpens)
 {
     for (const auto mode : {QFileDialog::ExistingFile, QFileDialog::ExistingFiles, QFileDialog::Directory}) {
         const bool picksFolders = mode == QFileDialog::Directory;
@@ -393,7 +383,7 @@ TEST_F(QtDialogLooksHands, eachDialogShowsAllOfItselfWhenItOpens)
         dialog.setGeometryPersistenceKey(std::to_string(mode));
         dialog.setFileMode(mode);
         ModalScript script;
-        script.on<QFileDialog>(user([&](FileDialogPage& page) { expectGoodLooks(page, picksFolders); }));
+        script.on<QFileDialog>(user([&](FileDialogDriver& driver) { expectGoodLooks(driver, picksFolders); }));
         dialog.exec();
 
         ExtendedWinFileDialog native(m_host, "Open", folder(), filters, "topic", QFileDialog::AcceptOpen, true);
@@ -403,16 +393,16 @@ TEST_F(QtDialogLooksHands, eachDialogShowsAllOfItselfWhenItOpens)
         native.addAcceptButtonOption("Open as copy", 1);
         native.addAcceptButtonOption("Open read-only", 2);
         ModalScript second;
-        second.on<QFileDialog>(user([&](FileDialogPage& page) {
-            expectGoodLooks(page, picksFolders);
-            replaceName(page, QStringLiteral("a"));
-            expectMenuBesideTheButtons(page);
+        second.on<QFileDialog>(user([&](FileDialogDriver& driver) {
+            expectGoodLooks(driver, picksFolders);
+            replaceName(driver, QStringLiteral("a"));
+            expectMenuBesideTheButtons(driver);
         }));
         native.exec();
     }
     for (const bool native : {false, true}) {
         ModalScript script;
-        script.on<QFileDialog>(user([&](FileDialogPage& page) { expectGoodLooks(page, false); }));
+        script.on<QFileDialog>(user([&](FileDialogDriver& driver) { expectGoodLooks(driver, false); }));
         if (native) {
             ExtendedWinFileDialog(m_host, "Save", folder(), filters, "", QFileDialog::AcceptSave, false).exec();
         } else {

@@ -1,6 +1,6 @@
 // The save flow, on the native dialog and on the Qt dialog, in the hands of a person.
 #include "hands/HandsTest.h"
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
@@ -65,8 +65,8 @@ protected:
     void enter(QFileDialog& dialog, const char* text)
     {
         activate(dialog);
-        const FileDialogPage page(dialog);
-        click(page.nameEdit());
+        const FileDialogDriver driver(dialog);
+        click(driver.nameEdit());
         press({Key::Control}, 'a');
         press(Key::Delete);
         type(QString::fromUtf8(text));
@@ -75,8 +75,8 @@ protected:
     void pickType(QFileDialog& dialog, int steps)
     {
         activate(dialog);
-        const FileDialogPage page(dialog);
-        click(page.typeCombo());
+        const FileDialogDriver driver(dialog);
+        click(driver.typeCombo());
         for (int step = 0; step < steps; ++step) {
             press(Key::Down);
         }
@@ -179,9 +179,9 @@ TEST_P(SaveFlowHands, comesBackAfterNoAsThePersonLeftIt)
     makeFile("sub/odd.name.txt");
     const auto flow = makeFlow({"Text (*.txt)", "Table (*.csv)", "Page (*.html)"});
     const auto expectState = [this](QFileDialog& dialog, const char* name) {
-        const FileDialogPage page(dialog);
-        EXPECT_EQ(page.name(), QString::fromUtf8(name));
-        EXPECT_EQ(page.typeCombo().currentIndex(), 1);
+        const FileDialogDriver driver(dialog);
+        EXPECT_EQ(driver.name(), QString::fromUtf8(name));
+        EXPECT_EQ(driver.typeCombo().currentIndex(), 1);
         EXPECT_EQ(dialog.directory().absolutePath(), path("sub"));
     };
     ModalScript user;
@@ -221,15 +221,15 @@ TEST_P(SaveFlowHands, comesBackAfterNoWithItsWriterAlsoWhenAWildcardWasTypedBefo
     user.on<QFileDialog>([this](QFileDialog& dialog) {
         pickType(dialog, 1);
         enter(dialog, "*.log");
-        EXPECT_TRUE(FileDialogPage(dialog).waitForListed({QStringLiteral("old.log")}));
+        EXPECT_TRUE(FileDialogDriver(dialog).waitForListed({QStringLiteral("old.log")}));
         enter(dialog, "old.log");
     });
     user.on<QMessageBox>([this](QMessageBox& box) { answer(box, Key::Return); });
     user.on<QFileDialog>([this](QFileDialog& dialog) {
         activate(dialog);
-        const FileDialogPage page(dialog);
-        EXPECT_EQ(page.name(), QStringLiteral("old.log"));
-        EXPECT_EQ(page.typeCombo().currentIndex(), 1);
+        const FileDialogDriver driver(dialog);
+        EXPECT_EQ(driver.name(), QStringLiteral("old.log"));
+        EXPECT_EQ(driver.typeCombo().currentIndex(), 1);
         press(Key::Return);
     });
     user.on<QMessageBox>([this](QMessageBox& box) { answerYes(box); });
@@ -247,7 +247,7 @@ TEST_P(SaveFlowHands, takesTheExtensionOfTheWriterAndNotThatOfATypedWildcard)
         user.on<QFileDialog>([&](QFileDialog& dialog) {
             enter(dialog, wildcard);
             enter(dialog, "*.dat *.bin"); // after the first, another type may read like this one
-            EXPECT_TRUE(GetParam() || FileDialogPage(dialog).name() == QStringLiteral("*.dat *.bin"));
+            EXPECT_TRUE(GetParam() || FileDialogDriver(dialog).name() == QStringLiteral("*.dat *.bin"));
             enter(dialog, "new");
         });
         EXPECT_TRUE(flow->launch());
@@ -265,7 +265,7 @@ TEST_P(SaveFlowHands, startsWithTheSelectedWriterWhateverBlanksTheTextsHave)
         EXPECT_EQ(flow->selectedWriter(), writer) << "before it is shown";
         ModalScript user;
         user.on<QFileDialog>([&](QFileDialog& dialog) {
-            EXPECT_EQ(FileDialogPage(dialog).typeCombo().currentIndex(), writer);
+            EXPECT_EQ(FileDialogDriver(dialog).typeCombo().currentIndex(), writer);
             enter(dialog, "new");
         });
         EXPECT_TRUE(flow->launch());

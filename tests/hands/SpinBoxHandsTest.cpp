@@ -1,5 +1,6 @@
 #include "hands/HandsTest.h"
 #include "support/QtPrinters.h"
+#include "support/SpinBoxButton.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
 
@@ -11,7 +12,6 @@
 #include <QStandardItemModel>
 #include <QStyle>
 #include <QStyledItemDelegate>
-#include <QStyleOptionSpinBox>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -23,6 +23,10 @@
 namespace morvane::test {
 
 namespace {
+
+class SpinBoxHandsPlain : public HandsTest
+{
+};
 
 using ui::IntegralSpinBox;
 using ui::QScientificSpinBox;
@@ -77,15 +81,7 @@ protected:
         type(text);
     }
 
-    void clickButton(QStyle::SubControl button)
-    {
-        QStyleOptionSpinBox option;
-        option.initFrom(&spin);
-        option.subControls = QStyle::SC_All;
-        option.buttonSymbols = spin.buttonSymbols();
-        option.frame = spin.hasFrame();
-        click(spin, spin.style()->subControlRect(QStyle::CC_SpinBox, &option, button, &spin).center());
-    }
+    void clickButton(QStyle::SubControl button) { click(spin, spinBoxButton(spin, button).center()); }
 
     /** Turns a wheel that resolves finely: the window system reports this angle; 120 are a notch up. */
     void turn(QPoint angle, Qt::ScrollPhase phase = Qt::NoScrollPhase, Qt::KeyboardModifiers held = Qt::NoModifier)
@@ -312,7 +308,7 @@ TYPED_TEST(SpinBoxHands, noTurnStepsBeyondTheEndOfTheRangeOrInAReadOnlyField)
     EXPECT_EQ(this->downs, 1);
 }
 
-TEST_F(HandsTest, aNotchInEighthsTakesADecadeStepUp)
+TEST_F(SpinBoxHandsPlain, aNotchInEighthsTakesADecadeStepUp)
 {
     Form<QScientificSpinBox> form;
     form.spin.setRange(1e-15, 1);
@@ -346,7 +342,7 @@ public:
 };
 
 template <typename SpinBox>
-class SpinBoxCell : public HandsTest
+class SpinBoxHandsCell : public HandsTest
 {
 protected:
     using Number = decltype(std::declval<SpinBox>().value());
@@ -406,9 +402,9 @@ protected:
     QTableWidget table{3, 1};
 };
 
-TYPED_TEST_SUITE(SpinBoxCell, SpinBoxes, );
+TYPED_TEST_SUITE(SpinBoxHandsCell, SpinBoxes, );
 
-TYPED_TEST(SpinBoxCell, storesTheTypedNumberOnReturnOnTabAndOnAClickElsewhere)
+TYPED_TEST(SpinBoxHandsCell, storesTheTypedNumberOnReturnOnTabAndOnAClickElsewhere)
 {
     this->storeInEachWay(QStringLiteral("47"));
     for (const int row : {0, 1, 2}) {
@@ -420,7 +416,7 @@ TYPED_TEST(SpinBoxCell, storesTheTypedNumberOnReturnOnTabAndOnAClickElsewhere)
     }
 }
 
-TYPED_TEST(SpinBoxCell, storesWhatIsTypedOverAChosenCell)
+TYPED_TEST(SpinBoxHandsCell, storesWhatIsTypedOverAChosenCell)
 {
     this->click(this->table, this->table.model()->index(0, 0));
     this->type(QStringLiteral("47"));
@@ -431,7 +427,7 @@ TYPED_TEST(SpinBoxCell, storesWhatIsTypedOverAChosenCell)
     EXPECT_EQ(this->valueAt(1), 48);
 }
 
-TYPED_TEST(SpinBoxCell, storesTheOldNumberForATextThatIsNotAcceptable)
+TYPED_TEST(SpinBoxHandsCell, storesTheOldNumberForATextThatIsNotAcceptable)
 {
     this->storeInEachWay(QStringLiteral("-"));
     for (const int row : {0, 1, 2}) {
@@ -439,7 +435,7 @@ TYPED_TEST(SpinBoxCell, storesTheOldNumberForATextThatIsNotAcceptable)
     }
 }
 
-TYPED_TEST(SpinBoxCell, storesAStepAndWhatIsTypedAfterIt)
+TYPED_TEST(SpinBoxHandsCell, storesAStepAndWhatIsTypedAfterIt)
 {
     this->edit(0);
     this->press(Key::Up);
@@ -452,7 +448,7 @@ TYPED_TEST(SpinBoxCell, storesAStepAndWhatIsTypedAfterIt)
     EXPECT_EQ(this->valueAt(1), 3);
 }
 
-TYPED_TEST(SpinBoxCell, escapeStoresNothing)
+TYPED_TEST(SpinBoxHandsCell, escapeStoresNothing)
 {
     this->edit(0);
     this->type(QStringLiteral("47"));
@@ -465,7 +461,7 @@ TYPED_TEST(SpinBoxCell, escapeStoresNothing)
     EXPECT_EQ(this->valueAt(0), 48);
 }
 
-TYPED_TEST(SpinBoxCell, storesWhatIsTypedWhenTheWindowIsLeft)
+TYPED_TEST(SpinBoxHandsCell, storesWhatIsTypedWhenTheWindowIsLeft)
 {
     QLineEdit elsewhere;
     this->show(elsewhere);
@@ -476,7 +472,7 @@ TYPED_TEST(SpinBoxCell, storesWhatIsTypedWhenTheWindowIsLeft)
     EXPECT_EQ(this->valueAt(0), 47);
 }
 
-TEST_F(HandsTest, aFormThatIsMappedToAModelStoresTheTypedNumberOnTab)
+TEST_F(SpinBoxHandsPlain, aFormThatIsMappedToAModelStoresTheTypedNumberOnTab)
 {
     QStandardItemModel model(1, 2);
     model.setItem(0, 0, new QStandardItem);
@@ -546,7 +542,7 @@ TYPED_TEST(SpinBoxHands, theSameCharactersAreRefusedWithAndWithoutPrefixAndSuffi
     }
 }
 
-class ScientificLineHands : public HandsTest
+class SpinBoxHandsScientificLine : public HandsTest
 {
 protected:
     void begin(const QString& prefix, const QString& suffix)
@@ -562,7 +558,7 @@ protected:
     QScientificSpinBox& spin = form.spin;
 };
 
-TEST_F(ScientificLineHands, pastesANumberInScientificNotationWithALineBreak)
+TEST_F(SpinBoxHandsScientificLine, pastesANumberInScientificNotationWithALineBreak)
 {
     begin(QString(), QString());
     QApplication::clipboard()->setText(QStringLiteral("\t1.5E3 \n"));
@@ -573,7 +569,7 @@ TEST_F(ScientificLineHands, pastesANumberInScientificNotationWithALineBreak)
     EXPECT_EQ(spin.value(), 1500);
 }
 
-TEST_F(ScientificLineHands, takesWhatIsTypedOverPrefixNumberAndSuffix)
+TEST_F(SpinBoxHandsScientificLine, takesWhatIsTypedOverPrefixNumberAndSuffix)
 {
     begin(QStringLiteral("E = "), QStringLiteral(" J"));
     const QString whole = QStringLiteral("E = 9 J");
@@ -588,7 +584,7 @@ TEST_F(ScientificLineHands, takesWhatIsTypedOverPrefixNumberAndSuffix)
     EXPECT_EQ(spin.value(), 1500);
 }
 
-TEST_F(ScientificLineHands, takesANumberThatBeginsWithTheOneItReplaces)
+TEST_F(SpinBoxHandsScientificLine, takesANumberThatBeginsWithTheOneItReplaces)
 {
     begin(QStringLiteral("$"), QStringLiteral(" F"));
     const QString whole = QStringLiteral("$9 F");
@@ -602,7 +598,7 @@ TEST_F(ScientificLineHands, takesANumberThatBeginsWithTheOneItReplaces)
     EXPECT_EQ(spin.value(), 95);
 }
 
-TEST_F(ScientificLineHands, keepsPrefixAndSuffixWhateverIsDeleted)
+TEST_F(SpinBoxHandsScientificLine, keepsPrefixAndSuffixWhateverIsDeleted)
 {
     begin(QStringLiteral("E = "), QStringLiteral("%"));
     press({Key::Control}, 'a');
@@ -618,7 +614,7 @@ TEST_F(ScientificLineHands, keepsPrefixAndSuffixWhateverIsDeleted)
     EXPECT_EQ(spin.text(), "E = 9%") << "undone";
 }
 
-TEST_F(ScientificLineHands, theSpaceBarDeletesNoNumber)
+TEST_F(SpinBoxHandsScientificLine, theSpaceBarDeletesNoNumber)
 {
     begin(QString(), QStringLiteral(" J"));
     press({Key::Control}, 'a');
@@ -629,7 +625,7 @@ TEST_F(ScientificLineHands, theSpaceBarDeletesNoNumber)
     EXPECT_EQ(spin.text(), "9 J");
 }
 
-TEST_F(ScientificLineHands, takesANumberInPlaceOfTheSpecialValueTextAndNothingElse)
+TEST_F(SpinBoxHandsScientificLine, takesANumberInPlaceOfTheSpecialValueTextAndNothingElse)
 {
     spin.setRange(0, 10);
     spin.setSpecialValueText(QStringLiteral("auto"));
@@ -647,7 +643,7 @@ TEST_F(ScientificLineHands, takesANumberInPlaceOfTheSpecialValueTextAndNothingEl
 
 // What spin boxes remember of each other
 
-class TwoScientificFields : public HandsTest
+class SpinBoxHandsTwoFields : public HandsTest
 {
 protected:
     void SetUp() override
@@ -681,7 +677,7 @@ protected:
     QScientificSpinBox& wide = *new QScientificSpinBox(&window);
 };
 
-TEST_F(TwoScientificFields, shareTheAnswerForATextInitially)
+TEST_F(SpinBoxHandsTwoFields, shareTheAnswerForATextInitially)
 {
     show(window);
     enter(narrow, QStringLiteral("50"));
@@ -690,7 +686,7 @@ TEST_F(TwoScientificFields, shareTheAnswerForATextInitially)
     EXPECT_EQ(wide.value(), 9);
 }
 
-TEST_F(TwoScientificFields, withTheirOwnValidationTakeANumberThatTheOtherHasRefused)
+TEST_F(SpinBoxHandsTwoFields, withTheirOwnValidationTakeANumberThatTheOtherHasRefused)
 {
     narrow.setOwnValidation(true);
     wide.setOwnValidation(true);
@@ -704,7 +700,7 @@ TEST_F(TwoScientificFields, withTheirOwnValidationTakeANumberThatTheOtherHasRefu
     }
 }
 
-TEST_F(TwoScientificFields, withItsOwnValidationNeitherFillsNorUsesTheSharedAnswer)
+TEST_F(SpinBoxHandsTwoFields, withItsOwnValidationNeitherFillsNorUsesTheSharedAnswer)
 {
     narrow.setOwnValidation(true);
     show(window);
@@ -716,7 +712,7 @@ TEST_F(TwoScientificFields, withItsOwnValidationNeitherFillsNorUsesTheSharedAnsw
     EXPECT_EQ(narrow.value(), 9) << "not used";
 }
 
-TEST_F(TwoScientificFields, withTheirOwnValidationTake125AfterACommaWasTypedAndNeverForIt)
+TEST_F(SpinBoxHandsTwoFields, withTheirOwnValidationTake125AfterACommaWasTypedAndNeverForIt)
 {
     narrow.setOwnValidation(true);
     wide.setOwnValidation(true);
@@ -742,7 +738,7 @@ TEST_F(TwoScientificFields, withTheirOwnValidationTake125AfterACommaWasTypedAndN
     EXPECT_EQ(narrow.value(), 1250) << "leaving the field";
 }
 
-TEST_F(TwoScientificFields, rememberTheAnswerWhenAnotherIsMade)
+TEST_F(SpinBoxHandsTwoFields, rememberTheAnswerWhenAnotherIsMade)
 {
     show(window);
     enter(narrow, QStringLiteral("50"));

@@ -1,16 +1,22 @@
 // Help pages behind symbolic links. Windows makes none without a privilege, and Qt makes shortcuts there.
 #include "host/HelpLauncherFixture.h"
 
-using morvane::test::HelpLauncherTest;
+namespace {
 
-TEST_F(HelpLauncherTest, opensAPageThroughALinkInsideTheDirectory)
+class HelpLauncherLinksTest : public morvane::test::HelpLauncherTest
+{
+};
+
+} // namespace
+
+TEST_F(HelpLauncherLinksTest, opensAPageThroughALinkInsideTheDirectory)
 {
     makePage(QStringLiteral("help/real.html"));
     ASSERT_TRUE(QFile::link(QStringLiteral("real.html"), m_directory.filePath(QStringLiteral("help/alias.html"))));
     expectPage("alias", QStringLiteral("help/real.html"));
 }
 
-TEST_F(HelpLauncherTest, worksWithAHelpDirectoryThatIsALinkOrEndsInASlash)
+TEST_F(HelpLauncherLinksTest, worksWithAHelpDirectoryThatIsALinkOrEndsInASlash)
 {
     makePage(QStringLiteral("help/open.html"));
     const QString link = m_directory.filePath(QStringLiteral("link"));
@@ -20,7 +26,7 @@ TEST_F(HelpLauncherTest, worksWithAHelpDirectoryThatIsALinkOrEndsInASlash)
     expectPage("open", QStringLiteral("help/open.html"));
 }
 
-TEST_F(HelpLauncherTest, followsNoLinkOutOfTheHelpDirectory)
+TEST_F(HelpLauncherLinksTest, followsNoLinkOutOfTheHelpDirectory)
 {
     makePage(QStringLiteral("secret.html"));
     ASSERT_TRUE(QFile::link(QStringLiteral("../secret.html"), m_directory.filePath(QStringLiteral("help/page.html"))));

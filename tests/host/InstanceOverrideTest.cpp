@@ -92,7 +92,7 @@ public:
 
 } // namespace
 
-TEST(HostSubclasses, answerInThePlaceOfTheDefaults)
+TEST(InstanceOverrideHostSubclasses, answerInThePlaceOfTheDefaults)
 {
     RecordingLauncher launcher;
     ConstantSettings settings;

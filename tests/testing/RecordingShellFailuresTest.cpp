@@ -297,7 +297,7 @@ TEST_F(RecordingShellFailures, knowForeignMemoryFromTheirOwn)
     EXPECT_THAT(shell.calls(), Not(Contains(HasSubstr("ERROR"))));
 }
 
-TEST(RecordingShellEnd, freesTheStringsThatNobodyFreed)
+TEST(RecordingShellFailuresEnd, freesTheStringsThatNobodyFreed)
 {
     RecordingShell shell; // the leak check of the address sanitizer sees what is left
     LPWSTR text = nullptr;
@@ -305,7 +305,7 @@ TEST(RecordingShellEnd, freesTheStringsThatNobodyFreed)
     EXPECT_EQ(shell.liveStrings(), 1);
 }
 
-TEST(RecordingShellControls, thatAreNotThereLookLikeNothing)
+TEST(RecordingShellFailuresControls, thatAreNotThereLookLikeNothing)
 {
     RecordingShell shell;
     ui::ComPtr<IFileDialog> dialog;
@@ -319,7 +319,7 @@ TEST(RecordingShellControls, thatAreNotThereLookLikeNothing)
     EXPECT_FALSE(controls.itemOf(QStringLiteral("x")));
 }
 
-TEST(RecordingShellRecord, namesInterfacesAndArguments)
+TEST(RecordingShellFailuresRecord, namesInterfacesAndArguments)
 {
     RecordingShell shell;
     ui::ComPtr<IFileDialog> dialog;

@@ -82,7 +82,7 @@ protected:
     int m_filter = -1;
 };
 
-class NativeReadmeSample : public NativeLauncher
+class NativeLauncherReadme : public NativeLauncher
 {
 protected:
     /** What the person does in the dialog, and the files that are listed then. */
@@ -142,7 +142,7 @@ private:
     }
 };
 
-TEST_F(NativeReadmeSample, opensAFileTenTimesInARow)
+TEST_F(NativeLauncherReadme, opensAFileTenTimesInARow)
 {
     std::vector<Click> clicks;
     for (const wchar_t* const name : {L"b b.dat", photo, L"a.dat", L"b b.dat", L"a.dat"}) {
@@ -161,7 +161,7 @@ TEST_F(NativeReadmeSample, opensAFileTenTimesInARow)
     clickThrough(clicks);
 }
 
-TEST_F(NativeReadmeSample, opensThreeFilesTenTimesInARow)
+TEST_F(NativeLauncherReadme, opensThreeFilesTenTimesInARow)
 {
     const Names files{L"a.dat", L"b b.dat", photo};
     const Click three{[files](NativeDialog& shown) {

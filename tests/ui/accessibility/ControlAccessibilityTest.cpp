@@ -1,10 +1,10 @@
-#include "Accessible.h"
 #include "support/QtPrinters.h"
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 #include "ui/qt/controls/ElidedTextLabel.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
+#include "WidgetAccessibility.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -29,10 +29,10 @@ using ui::IntegralSpinBox;
 using ui::QScientificSpinBox;
 
 /** Every control of the library in a form with labels, as a host has them. */
-class Controls : public ::testing::Test
+class ControlAccessibility : public ::testing::Test
 {
 protected:
-    Controls()
+    ControlAccessibility()
     {
         box->setList({"Acetone", "Benzene", "Ethanol"});
         box->setFiltering(true);
@@ -64,7 +64,7 @@ protected:
     CorrectFontCommandLinkButton* button = new CorrectFontCommandLinkButton(&window);
 };
 
-TEST_F(Controls, haveRoles)
+TEST_F(ControlAccessibility, haveRoles)
 {
     EXPECT_EQ(roleOf(box), QAccessible::ComboBox);
     EXPECT_EQ(roleOf(current), QAccessible::SpinBox);
@@ -73,7 +73,7 @@ TEST_F(Controls, haveRoles)
     EXPECT_EQ(roleOf(button), QAccessible::Button);
 }
 
-TEST_F(Controls, haveNamesFromTheirLabelsOrTexts)
+TEST_F(ControlAccessibility, haveNamesFromTheirLabelsOrTexts)
 {
     EXPECT_EQ(nameOf(box), "Substance:");
     EXPECT_EQ(nameOf(current), "Current:");
@@ -84,7 +84,7 @@ TEST_F(Controls, haveNamesFromTheirLabelsOrTexts)
     EXPECT_EQ(namelessPartsOf(window), QStringList());
 }
 
-TEST_F(Controls, haveTheNamesThatTheHostGives)
+TEST_F(ControlAccessibility, haveTheNamesThatTheHostGives)
 {
     // Not the combo box: what Qt tells of it depends on the platform.
     for (QWidget* const widget : {static_cast<QWidget*>(current), static_cast<QWidget*>(samples),
@@ -95,7 +95,7 @@ TEST_F(Controls, haveTheNamesThatTheHostGives)
     }
 }
 
-TEST_F(Controls, tellTheirValuesAsTheyShowThem)
+TEST_F(ControlAccessibility, tellTheirValuesAsTheyShowThem)
 {
     current->setValue(2.5e-15);
     samples->setValue(64);
@@ -105,7 +105,7 @@ TEST_F(Controls, tellTheirValuesAsTheyShowThem)
     EXPECT_EQ(valueOf(box), "Benzene");
 }
 
-TEST_F(Controls, areReachedWithTabInTheOrderOfTheForm)
+TEST_F(ControlAccessibility, areReachedWithTabInTheOrderOfTheForm)
 {
     show();
     // Tab ends the editing in the combo box and closes it, so the walk starts below it.
@@ -118,7 +118,7 @@ TEST_F(Controls, areReachedWithTabInTheOrderOfTheForm)
     EXPECT_EQ(window.focusWidget(), samples);
 }
 
-TEST_F(Controls, areReachedWithTheKeysOfTheirLabels)
+TEST_F(ControlAccessibility, areReachedWithTheKeysOfTheirLabels)
 {
     show();
     QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
@@ -129,7 +129,7 @@ TEST_F(Controls, areReachedWithTheKeysOfTheirLabels)
     EXPECT_EQ(window.focusWidget(), box);
 }
 
-TEST_F(Controls, workByKeysAlone)
+TEST_F(ControlAccessibility, workByKeysAlone)
 {
     show();
     button->setFocus();
@@ -155,7 +155,7 @@ TEST_F(Controls, workByKeysAlone)
     EXPECT_EQ(clicks.size(), 1);
 }
 
-TEST_F(Controls, offerTheEntriesOfTheListByTheirTexts)
+TEST_F(ControlAccessibility, offerTheEntriesOfTheListByTheirTexts)
 {
     QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(box->view());
     ASSERT_TRUE(list);
@@ -164,7 +164,7 @@ TEST_F(Controls, offerTheEntriesOfTheListByTheirTexts)
     EXPECT_EQ(list->child(1)->text(QAccessible::Name), "Benzene");
 }
 
-TEST_F(Controls, offerWhatFitsTheTypedTextByItsTexts)
+TEST_F(ControlAccessibility, offerWhatFitsTheTypedTextByItsTexts)
 {
     show();
     box->lineEdit()->selectAll();
@@ -178,7 +178,7 @@ TEST_F(Controls, offerWhatFitsTheTypedTextByItsTexts)
     EXPECT_EQ(list->child(0)->text(QAccessible::Name), "Ethanol");
 }
 
-TEST_F(Controls, offerReadableEntriesOnADarkPalette)
+TEST_F(ControlAccessibility, offerReadableEntriesOnADarkPalette)
 {
     const DarkPalette dark;
     show();
@@ -188,7 +188,7 @@ TEST_F(Controls, offerReadableEntriesOnADarkPalette)
     EXPECT_GE(drawnContrast(*box->completer()->popup()->viewport()), 4.5);
 }
 
-TEST_F(Controls, canBeReadOnADarkPalette)
+TEST_F(ControlAccessibility, canBeReadOnADarkPalette)
 {
     const DarkPalette dark;
     show();
@@ -203,7 +203,7 @@ TEST_F(Controls, canBeReadOnADarkPalette)
     }
 }
 
-TEST_F(Controls, standOnTheOtherSideFromRightToLeft)
+TEST_F(ControlAccessibility, standOnTheOtherSideFromRightToLeft)
 {
     window.setLayoutDirection(Qt::RightToLeft);
     show();
@@ -218,7 +218,7 @@ TEST_F(Controls, standOnTheOtherSideFromRightToLeft)
     EXPECT_EQ(current->text(), "-2.5E-15");
 }
 
-TEST_F(Controls, tellOfANewTextInTheLabel)
+TEST_F(ControlAccessibility, tellOfANewTextInTheLabel)
 {
     label->setText("/measurements/run-18.dat");
     EXPECT_EQ(nameOf(label), "/measurements/run-18.dat");

@@ -1,6 +1,5 @@
-#include "Accessible.h"
 #include "property/Property.h"
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
@@ -8,6 +7,7 @@
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
 #include "ui/qt/dialogs/shell/WidgetShell_p.h"
+#include "WidgetAccessibility.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -236,10 +236,9 @@ TEST_F(DialogAccessibility, theQtDialogMirrorsFromRightToLeft)
 {
     QApplication::setLayoutDirection(Qt::RightToLeft);
     showQt([](QFileDialog& window) {
-        const auto* const name = window.findChild<QLineEdit*>("fileNameEdit");
-        ASSERT_TRUE(name);
-        EXPECT_LT(buttonNamed(window, "Open")->mapTo(&window, QPoint()).x(), name->x());
-        EXPECT_LT(buttonNamed(window, "Help")->mapTo(&window, QPoint()).x(), name->x());
+        const QLineEdit& name = FileDialogDriver(window).nameEdit();
+        EXPECT_LT(buttonNamed(window, "Open")->mapTo(&window, QPoint()).x(), name.x());
+        EXPECT_LT(buttonNamed(window, "Help")->mapTo(&window, QPoint()).x(), name.x());
     });
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
@@ -249,11 +248,10 @@ TEST_F(DialogAccessibility, theQtDialogCanBeReadOnADarkPalette)
     const DarkPalette dark;
     showQt([](QFileDialog& window) {
         QApplication::processEvents();
-        auto* const name = window.findChild<QLineEdit*>("fileNameEdit");
-        ASSERT_TRUE(name);
-        name->setText("run-17.dat");
+        QLineEdit& name = FileDialogDriver(window).nameEdit();
+        name.setText("run-17.dat");
         for (QWidget* const part : {static_cast<QWidget*>(buttonNamed(window, "Open")),
-                 static_cast<QWidget*>(buttonNamed(window, "Help")), static_cast<QWidget*>(name)}) {
+                 static_cast<QWidget*>(buttonNamed(window, "Help")), static_cast<QWidget*>(&name)}) {
             EXPECT_GE(drawnContrast(*part), 4.5) << nameOf(part).toStdString();
         }
     });
@@ -273,17 +271,17 @@ TEST_F(DialogAccessibility, controlsOfTheHostCanBeReadOnADarkPalette)
 }
 
 /** The questions of the save flow, on the native dialog (true) and the Qt dialog (false). */
-class SaveQuestions : public ::testing::TestWithParam<bool>
+class DialogAccessibilityQuestions : public ::testing::TestWithParam<bool>
 {
 protected:
-    SaveQuestions()
+    DialogAccessibilityQuestions()
     {
         ExtendedFileDialog::setUseNativeFileDialog(GetParam());
         QFile file(folder.filePath("report.txt"));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         owner.show();
     }
-    ~SaveQuestions() override { ExtendedFileDialog::setUseNativeFileDialog(true); }
+    ~DialogAccessibilityQuestions() override { ExtendedFileDialog::setUseNativeFileDialog(true); }
 
     /** Accepts the existing name by keys, or another one, and lets @p look look at the question. */
     void askOnce(const std::function<void(QMessageBox&)>& look, const QString& otherName = QString())
@@ -292,11 +290,11 @@ protected:
         ModalScript user;
         user.on<QFileDialog>([&otherName](QFileDialog& window) {
             ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-            auto* const name = window.findChild<QLineEdit*>("fileNameEdit");
+            const FileDialogDriver driver(window);
             if (!otherName.isEmpty()) {
-                name->setText(otherName);
+                driver.nameEdit().setText(otherName);
             }
-            QTest::keyClick(name, Qt::Key_Return);
+            driver.pressEnter();
         });
         user.on<QMessageBox>([&look](QMessageBox& box) {
             ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
@@ -313,7 +311,7 @@ protected:
     bool saved = false;
 };
 
-TEST_P(SaveQuestions, haveNamesAndRoles)
+TEST_P(DialogAccessibilityQuestions, haveNamesAndRoles)
 {
     askOnce([](QMessageBox& box) {
         EXPECT_EQ(namelessPartsOf(box), QStringList());
@@ -324,7 +322,7 @@ TEST_P(SaveQuestions, haveNamesAndRoles)
     });
 }
 
-TEST_P(SaveQuestions, startAtNoAndAreAnsweredByKeys)
+TEST_P(DialogAccessibilityQuestions, startAtNoAndAreAnsweredByKeys)
 {
     askOnce([](QMessageBox& box) {
         EXPECT_EQ(box.focusWidget(), box.button(QMessageBox::No));
@@ -335,7 +333,7 @@ TEST_P(SaveQuestions, startAtNoAndAreAnsweredByKeys)
     EXPECT_TRUE(saved);
 }
 
-TEST_P(SaveQuestions, aboutARefusedPlaceHaveNamesAndAreAnsweredByKeys)
+TEST_P(DialogAccessibilityQuestions, aboutARefusedPlaceHaveNamesAndAreAnsweredByKeys)
 {
 #ifndef __linux__
     GTEST_SKIP() << "no place refuses everybody here";
@@ -352,7 +350,7 @@ TEST_P(SaveQuestions, aboutARefusedPlaceHaveNamesAndAreAnsweredByKeys)
     EXPECT_FALSE(saved);
 }
 
-TEST_P(SaveQuestions, canBeReadOnADarkPalette)
+TEST_P(DialogAccessibilityQuestions, canBeReadOnADarkPalette)
 {
     const DarkPalette dark;
     askOnce([](QMessageBox& box) {
@@ -362,7 +360,7 @@ TEST_P(SaveQuestions, canBeReadOnADarkPalette)
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialog, SaveQuestions, ::testing::Values(true, false),
+INSTANTIATE_TEST_SUITE_P(Dialog, DialogAccessibilityQuestions, ::testing::Values(true, false),
     [](const ::testing::TestParamInfo<bool>& dialog) { return dialog.param ? "native" : "qt"; });
 
 } // namespace

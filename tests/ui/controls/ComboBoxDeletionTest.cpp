@@ -137,13 +137,13 @@ INSTANTIATE_TEST_SUITE_P(, ComboBoxDeletion, ::testing::Values(Disposal::Delete,
 
 namespace {
 
-class ComboBoxEnd : public morvane::test::ComboBoxForm
+class ComboBoxDeletionEnd : public morvane::test::ComboBoxForm
 {
 };
 
 } // namespace
 
-TEST_F(ComboBoxEnd, comesWhileTheListIsOpen)
+TEST_F(ComboBoxDeletionEnd, comesWhileTheListIsOpen)
 {
     setUp({"Dog", "Bar", "Car"});
     openList();
@@ -153,7 +153,7 @@ TEST_F(ComboBoxEnd, comesWhileTheListIsOpen)
     EXPECT_EQ(complete.count() + cancel.count(), 0);
 }
 
-TEST_F(ComboBoxEnd, comesWhileTheCompleterIsOpen)
+TEST_F(ComboBoxDeletionEnd, comesWhileTheCompleterIsOpen)
 {
     setUp({"Dog", "Bar", "Car"});
     box->lineEdit()->clear();
@@ -165,7 +165,7 @@ TEST_F(ComboBoxEnd, comesWhileTheCompleterIsOpen)
     EXPECT_EQ(complete.count() + cancel.count(), 0);
 }
 
-TEST_F(ComboBoxEnd, comesBeforeItWasSetUp)
+TEST_F(ComboBoxDeletionEnd, comesBeforeItWasSetUp)
 {
     delete box;
     EXPECT_EQ(complete.count() + cancel.count(), 0);

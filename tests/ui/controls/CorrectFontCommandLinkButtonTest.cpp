@@ -33,10 +33,10 @@ int largestDifference(const QImage& shown, const QImage& wanted)
     return largest;
 }
 
-class CommandLink : public ::testing::Test
+class CorrectFontCommandLinkButtonTest : public ::testing::Test
 {
 protected:
-    CommandLink()
+    CorrectFontCommandLinkButtonTest()
     {
         button->setText("Start the measurement with the settings of the last run");
         window.setLayout(new QVBoxLayout);
@@ -58,7 +58,7 @@ const QString longDescription("Every channel is zeroed, the old file is kept bes
 
 } // namespace
 
-TEST_F(CommandLink, isNeverSmallerThanItPrefers)
+TEST_F(CorrectFontCommandLinkButtonTest, isNeverSmallerThanItPrefers)
 {
     EXPECT_EQ(button->minimumSizeHint(), preferred(*button));
     button->setDescription(longDescription);
@@ -67,7 +67,7 @@ TEST_F(CommandLink, isNeverSmallerThanItPrefers)
     EXPECT_EQ(button->minimumSizeHint(), preferred(*button));
 }
 
-TEST_F(CommandLink, keepsItsPreferredSizeWhereTheLayoutOverflows)
+TEST_F(CorrectFontCommandLinkButtonTest, keepsItsPreferredSizeWhereTheLayoutOverflows)
 {
     button->setDescription(longDescription);
     QScrollArea area;
@@ -82,7 +82,7 @@ TEST_F(CommandLink, keepsItsPreferredSizeWhereTheLayoutOverflows)
     area.takeWidget();
 }
 
-TEST_F(CommandLink, showsTheWholeWrappedDescriptionInANarrowLayout)
+TEST_F(CorrectFontCommandLinkButtonTest, showsTheWholeWrappedDescriptionInANarrowLayout)
 {
     button->setFocusPolicy(Qt::NoFocus); // some styles draw a frame for it
     button->setDescription(longDescription);
@@ -106,7 +106,7 @@ TEST_F(CommandLink, showsTheWholeWrappedDescriptionInANarrowLayout)
     EXPECT_EQ(wanted, blank);
 }
 
-TEST_F(CommandLink, sharesANarrowRowWithoutBeingSqueezed)
+TEST_F(CorrectFontCommandLinkButtonTest, sharesANarrowRowWithoutBeingSqueezed)
 {
     QWidget row;
     auto* const layout = new QHBoxLayout(&row);
@@ -127,20 +127,20 @@ TEST_F(CommandLink, sharesANarrowRowWithoutBeingSqueezed)
     EXPECT_FALSE(first->geometry().intersects(second->geometry()));
 }
 
-TEST_F(CommandLink, aPlainOneCanBeSqueezed)
+TEST_F(CorrectFontCommandLinkButtonTest, aPlainOneCanBeSqueezed)
 {
     const QCommandLinkButton plain("Start", longDescription);
     EXPECT_LT(static_cast<const QWidget&>(plain).minimumSizeHint().height(), preferred(plain).height());
 }
 
-TEST_F(CommandLink, makesItsWindowWideEnough)
+TEST_F(CorrectFontCommandLinkButtonTest, makesItsWindowWideEnough)
 {
     show();
     window.resize(1, 1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return window.width() >= preferred(*button).width(); }));
 }
 
-TEST_F(CommandLink, growsWithItsFont)
+TEST_F(CorrectFontCommandLinkButtonTest, growsWithItsFont)
 {
     show();
     const QSize before = button->minimumSizeHint();

@@ -33,10 +33,10 @@ protected:
     }
 };
 
-class ElidedLabel : public ::testing::Test
+class ElidedTextLabelTest : public ::testing::Test
 {
 protected:
-    ElidedLabel()
+    ElidedTextLabelTest()
     {
         QPalette palette;
         palette.setColor(QPalette::Window, Qt::white);
@@ -87,7 +87,7 @@ protected:
 
 } // namespace
 
-TEST_F(ElidedLabel, startsAtTheLeftAndElidesThere)
+TEST_F(ElidedTextLabelTest, startsAtTheLeftAndElidesThere)
 {
     const ElidedTextLabel fresh;
     EXPECT_EQ(fresh.alignment(), Qt::AlignLeft);
@@ -100,7 +100,7 @@ TEST_F(ElidedLabel, startsAtTheLeftAndElidesThere)
     EXPECT_TRUE(child.isWindow());
 }
 
-TEST_F(ElidedLabel, showsTheEndOfTheTextBehindAnEllipsis)
+TEST_F(ElidedTextLabelTest, showsTheEndOfTheTextBehindAnEllipsis)
 {
     narrow();
     const QImage image = picture();
@@ -109,7 +109,7 @@ TEST_F(ElidedLabel, showsTheEndOfTheTextBehindAnEllipsis)
     EXPECT_EQ(label.toolTip(), path);
 }
 
-TEST_F(ElidedLabel, showsTheWholeTextWithoutToolTipWhereItFitsExactly)
+TEST_F(ElidedTextLabelTest, showsTheWholeTextWithoutToolTipWhereItFitsExactly)
 {
     EXPECT_EQ(label.width(), label.fontMetrics().horizontalAdvance(path));
     EXPECT_EQ(picture(), drawn(path));
@@ -119,7 +119,7 @@ TEST_F(ElidedLabel, showsTheWholeTextWithoutToolTipWhereItFitsExactly)
     EXPECT_EQ(label.toolTip(), path);
 }
 
-TEST_F(ElidedLabel, theToolTipFollowsTheSize)
+TEST_F(ElidedTextLabelTest, theToolTipFollowsTheSize)
 {
     label.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&label));
@@ -129,7 +129,7 @@ TEST_F(ElidedLabel, theToolTipFollowsTheSize)
     EXPECT_TRUE(QTest::qWaitFor([this] { return label.toolTip().isEmpty(); }));
 }
 
-TEST_F(ElidedLabel, theFrameTakesFromTheRoom)
+TEST_F(ElidedTextLabelTest, theFrameTakesFromTheRoom)
 {
     label.setFrameStyle(QFrame::Box);
     label.grab();
@@ -139,7 +139,7 @@ TEST_F(ElidedLabel, theFrameTakesFromTheRoom)
     EXPECT_EQ(label.toolTip(), "");
 }
 
-TEST_F(ElidedLabel, withTheLabelStandInTheSizeHintHasRoomForTheFrame)
+TEST_F(ElidedTextLabelTest, withTheLabelStandInTheSizeHintHasRoomForTheFrame)
 {
     label.setFrameStyle(QFrame::Box);
     label.resize(label.sizeHint());
@@ -147,7 +147,7 @@ TEST_F(ElidedLabel, withTheLabelStandInTheSizeHintHasRoomForTheFrame)
     EXPECT_EQ(label.toolTip(), "");
 }
 
-TEST_F(ElidedLabel, aToolTipOfTheHostStays)
+TEST_F(ElidedTextLabelTest, aToolTipOfTheHostStays)
 {
     label.setToolTip("where the file is");
     narrow();
@@ -161,7 +161,7 @@ TEST_F(ElidedLabel, aToolTipOfTheHostStays)
     EXPECT_EQ(label.toolTip(), "where the file is");
 }
 
-TEST_F(ElidedLabel, anEmptyToolTipGivesItBackToTheLabel)
+TEST_F(ElidedTextLabelTest, anEmptyToolTipGivesItBackToTheLabel)
 {
     label.setToolTip("where the file is");
     label.setToolTip("");
@@ -170,7 +170,7 @@ TEST_F(ElidedLabel, anEmptyToolTipGivesItBackToTheLabel)
     EXPECT_EQ(label.toolTip(), path);
 }
 
-TEST_F(ElidedLabel, theToolTipFollowsTheText)
+TEST_F(ElidedTextLabelTest, theToolTipFollowsTheText)
 {
     narrow();
     label.grab();
@@ -184,7 +184,7 @@ TEST_F(ElidedLabel, theToolTipFollowsTheText)
     EXPECT_EQ(label.toolTip(), "");
 }
 
-TEST_F(ElidedLabel, theToolTipFollowsTheFont)
+TEST_F(ElidedTextLabelTest, theToolTipFollowsTheFont)
 {
     label.grab();
     ASSERT_EQ(label.toolTip(), "");
@@ -195,7 +195,7 @@ TEST_F(ElidedLabel, theToolTipFollowsTheFont)
     EXPECT_EQ(label.toolTip(), path);
 }
 
-TEST_F(ElidedLabel, paintingNeverAsksForPainting)
+TEST_F(ElidedTextLabelTest, paintingNeverAsksForPainting)
 {
     label.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&label));
@@ -211,7 +211,7 @@ TEST_F(ElidedLabel, paintingNeverAsksForPainting)
     }
 }
 
-TEST_F(ElidedLabel, rightToLeftTextIsWholeOrInTheToolTip)
+TEST_F(ElidedTextLabelTest, rightToLeftTextIsWholeOrInTheToolTip)
 {
     setText(hebrew);
     EXPECT_EQ(picture(), drawn(hebrew));
@@ -221,7 +221,7 @@ TEST_F(ElidedLabel, rightToLeftTextIsWholeOrInTheToolTip)
     EXPECT_EQ(label.toolTip(), hebrew);
 }
 
-TEST_F(ElidedLabel, withTheLabelStandInRightToLeftTextKeepsItsEnd)
+TEST_F(ElidedTextLabelTest, withTheLabelStandInRightToLeftTextKeepsItsEnd)
 {
     setText(hebrew);
     narrow();
@@ -239,7 +239,7 @@ TEST_F(ElidedLabel, withTheLabelStandInRightToLeftTextKeepsItsEnd)
     EXPECT_EQ(label.toolTip(), hebrew);
 }
 
-TEST_F(ElidedLabel, withTheLabelStandInARightToLeftWindowPutsTheTextToTheRight)
+TEST_F(ElidedTextLabelTest, withTheLabelStandInARightToLeftWindowPutsTheTextToTheRight)
 {
     setText("x");
     label.resize(100, label.height());
@@ -249,7 +249,7 @@ TEST_F(ElidedLabel, withTheLabelStandInARightToLeftWindowPutsTheTextToTheRight)
     EXPECT_NE(image, drawn(""));
 }
 
-TEST_F(ElidedLabel, theCutNeverSplitsACharacter)
+TEST_F(ElidedTextLabelTest, theCutNeverSplitsACharacter)
 {
     const QString smileys = QString::fromUtf8("😀😁😂😃😄😅😆😇");
     const QString accents = QString::fromUtf8("e\xcc\x81"
@@ -274,7 +274,7 @@ TEST_F(ElidedLabel, theCutNeverSplitsACharacter)
     }
 }
 
-TEST_F(ElidedLabel, anEmptyTextHasNoToolTip)
+TEST_F(ElidedTextLabelTest, anEmptyTextHasNoToolTip)
 {
     label.setText("");
     label.resize(0, 0);

@@ -20,7 +20,7 @@ protected:
     }
 };
 
-class ElidedText : public ::testing::Test
+class ElidedTextUtilTest : public ::testing::Test
 {
 protected:
     int width() const { return widget.fontMetrics().horizontalAdvance(text); }
@@ -33,7 +33,7 @@ protected:
 
 } // namespace
 
-TEST_F(ElidedText, hasTheToolTipWhileTheTextIsWider)
+TEST_F(ElidedTextUtilTest, hasTheToolTipWhileTheTextIsWider)
 {
     update(width() - 1);
     EXPECT_EQ(widget.toolTip(), "tip");
@@ -43,7 +43,7 @@ TEST_F(ElidedText, hasTheToolTipWhileTheTextIsWider)
     EXPECT_EQ(widget.toolTip(), "tip");
 }
 
-TEST_F(ElidedText, leavesTheToolTipOfSomebodyElse)
+TEST_F(ElidedTextUtilTest, leavesTheToolTipOfSomebodyElse)
 {
     widget.setToolTip("mine");
     update(0);
@@ -52,14 +52,14 @@ TEST_F(ElidedText, leavesTheToolTipOfSomebodyElse)
     EXPECT_EQ(widget.toolTip(), "mine");
 }
 
-TEST_F(ElidedText, takesAToolTipOfTheSameTextForItsOwn)
+TEST_F(ElidedTextUtilTest, takesAToolTipOfTheSameTextForItsOwn)
 {
     widget.setToolTip("tip");
     update(width());
     EXPECT_EQ(widget.toolTip(), "");
 }
 
-TEST_F(ElidedText, tellsTheWidgetOfChangesOnly)
+TEST_F(ElidedTextUtilTest, tellsTheWidgetOfChangesOnly)
 {
     update(width());
     EXPECT_EQ(widget.changes, 0);
@@ -71,7 +71,7 @@ TEST_F(ElidedText, tellsTheWidgetOfChangesOnly)
     EXPECT_EQ(widget.changes, 2);
 }
 
-TEST_F(ElidedText, measuresWithTheFontOfTheWidget)
+TEST_F(ElidedTextUtilTest, measuresWithTheFontOfTheWidget)
 {
     const int room = width();
     QFont font = widget.font();
@@ -81,13 +81,13 @@ TEST_F(ElidedText, measuresWithTheFontOfTheWidget)
     EXPECT_EQ(widget.toolTip(), "tip");
 }
 
-TEST_F(ElidedText, anEmptyTextFitsInNoRoom)
+TEST_F(ElidedTextUtilTest, anEmptyTextFitsInNoRoom)
 {
     util.updateToolTip(&widget, 0, "", "tip");
     EXPECT_EQ(widget.toolTip(), "");
 }
 
-TEST_F(ElidedText, canBeReplaced)
+TEST_F(ElidedTextUtilTest, canBeReplaced)
 {
     struct Silent : ElidedTextUtil
     {

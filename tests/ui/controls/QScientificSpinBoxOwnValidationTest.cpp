@@ -15,10 +15,10 @@ QValidator::State stateOf(const QScientificSpinBox& spin, QString text)
 }
 
 /** What the spin boxes share is a refusal of this number, which every one of them would take by itself. */
-class SharedRefusal : public ::testing::Test
+class QScientificSpinBoxOwnValidationShared : public ::testing::Test
 {
 protected:
-    SharedRefusal()
+    QScientificSpinBoxOwnValidationShared()
     {
         narrow.setRange(0, 10);
         EXPECT_EQ(stateOf(narrow, refused), QValidator::Invalid);
@@ -33,14 +33,14 @@ protected:
 
 } // namespace
 
-TEST_F(SharedRefusal, isUsedWithoutOwnValidation)
+TEST_F(QScientificSpinBoxOwnValidationShared, isUsedWithoutOwnValidation)
 {
     EXPECT_FALSE(wide.hasOwnValidation());
     EXPECT_TRUE(isRemembered());
     EXPECT_EQ(wide.valueFromText(refused), narrow.minimum());
 }
 
-TEST_F(SharedRefusal, isNotUsedWithOwnValidation)
+TEST_F(QScientificSpinBoxOwnValidationShared, isNotUsedWithOwnValidation)
 {
     wide.setOwnValidation(true);
     EXPECT_TRUE(wide.hasOwnValidation());
@@ -51,7 +51,7 @@ TEST_F(SharedRefusal, isNotUsedWithOwnValidation)
     EXPECT_TRUE(isRemembered()) << "and was not replaced";
 }
 
-TEST_F(SharedRefusal, isNotReplacedByOneWithOwnValidation)
+TEST_F(QScientificSpinBoxOwnValidationShared, isNotReplacedByOneWithOwnValidation)
 {
     QScientificSpinBox own;
     own.setOwnValidation(true);
@@ -60,7 +60,7 @@ TEST_F(SharedRefusal, isNotReplacedByOneWithOwnValidation)
     EXPECT_TRUE(isRemembered());
 }
 
-TEST_F(SharedRefusal, isNotTouchedByMakingAndSettingUpASpinBox)
+TEST_F(QScientificSpinBoxOwnValidationShared, isNotTouchedByMakingAndSettingUpASpinBox)
 {
     QLocale::setDefault(QLocale(QLocale::German));
     for (int number = 0; number < 2; ++number) {
@@ -80,13 +80,13 @@ TEST_F(SharedRefusal, isNotTouchedByMakingAndSettingUpASpinBox)
     QLocale::setDefault(QLocale::c());
 }
 
-TEST_F(SharedRefusal, isReplacedByAnyOtherTextTheEmptyOneIncluded)
+TEST_F(QScientificSpinBoxOwnValidationShared, isReplacedByAnyOtherTextTheEmptyOneIncluded)
 {
     EXPECT_EQ(stateOf(narrow, ""), QValidator::Intermediate);
     EXPECT_FALSE(isRemembered());
 }
 
-TEST(OwnValidation, isAPropertyThatIsOffInitially)
+TEST(QScientificSpinBoxOwnValidation, isAPropertyThatIsOffInitially)
 {
     QScientificSpinBox spin;
     EXPECT_EQ(spin.property("ownValidation"), false);
@@ -96,7 +96,7 @@ TEST(OwnValidation, isAPropertyThatIsOffInitially)
     EXPECT_TRUE(type.property(type.indexOfProperty("ownValidation")).isDesignable());
 }
 
-TEST(OwnValidation, givesTheSameAnswersAsTheSharedOneGivesForTextsReadAnew)
+TEST(QScientificSpinBoxOwnValidation, givesTheSameAnswersAsTheSharedOneGivesForTextsReadAnew)
 {
     QScientificSpinBox shared;
     QScientificSpinBox own;
@@ -117,7 +117,7 @@ TEST(OwnValidation, givesTheSameAnswersAsTheSharedOneGivesForTextsReadAnew)
     }
 }
 
-TEST(OwnValidation, repairsNoGroupSeparators)
+TEST(QScientificSpinBoxOwnValidation, repairsNoGroupSeparators)
 {
     QScientificSpinBox spin;
     QString text = "12,5";
@@ -129,7 +129,7 @@ TEST(OwnValidation, repairsNoGroupSeparators)
     EXPECT_EQ(text, "12,5");
 }
 
-TEST(OwnValidation, givesTheOldValueBackForAComma)
+TEST(QScientificSpinBoxOwnValidation, givesTheOldValueBackForAComma)
 {
     Window window;
     window.spin.setOwnValidation(true);

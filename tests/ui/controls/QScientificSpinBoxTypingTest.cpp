@@ -53,17 +53,17 @@ private:
     const QTemporaryDir m_directory;
 };
 
-class QScientificSpinBoxLocale : public ::testing::TestWithParam<const char*>
+class QScientificSpinBoxTypingLocale : public ::testing::TestWithParam<const char*>
 {
 };
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Users, QScientificSpinBoxLocale,
+INSTANTIATE_TEST_SUITE_P(Users, QScientificSpinBoxTypingLocale,
     ::testing::Values("en_US", "de_DE", "de_CH", "fr_FR", "ar_EG", "hi_IN", "fa_IR", "C"),
     [](const auto& locale) { return std::string(locale.param); });
 
-TEST_P(QScientificSpinBoxLocale, takesAScientificNumberKeyByKey)
+TEST_P(QScientificSpinBoxTypingLocale, takesAScientificNumberKeyByKey)
 {
     const UserLocale user(GetParam());
     Window window;
@@ -79,7 +79,7 @@ TEST_P(QScientificSpinBoxLocale, takesAScientificNumberKeyByKey)
     EXPECT_EQ(window.shown(), number);
 }
 
-TEST_P(QScientificSpinBoxLocale, textValueAndValidationAgree)
+TEST_P(QScientificSpinBoxTypingLocale, textValueAndValidationAgree)
 {
     const UserLocale user(GetParam());
     Window window;
@@ -92,7 +92,7 @@ TEST_P(QScientificSpinBoxLocale, textValueAndValidationAgree)
     EXPECT_TRUE(window.spin.lineEdit()->hasAcceptableInput());
 }
 
-TEST_P(QScientificSpinBoxLocale, aNumberOutsideTheRangeIsNotRepairedIntoAnotherOne)
+TEST_P(QScientificSpinBoxTypingLocale, aNumberOutsideTheRangeIsNotRepairedIntoAnotherOne)
 {
     const UserLocale user(GetParam());
     Window window;
@@ -104,7 +104,7 @@ TEST_P(QScientificSpinBoxLocale, aNumberOutsideTheRangeIsNotRepairedIntoAnotherO
     EXPECT_EQ(window.shown(), "3");
 }
 
-TEST_P(QScientificSpinBoxLocale, groupsOfDigitsAreCommaSeparated)
+TEST_P(QScientificSpinBoxTypingLocale, groupsOfDigitsAreCommaSeparated)
 {
     const UserLocale user(GetParam());
     Window window;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/SpinBoxButton.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
 
@@ -8,7 +9,6 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QStyle>
-#include <QStyleOptionSpinBox>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -68,13 +68,7 @@ struct SpinBoxWindow
     /** Clicks on the button up, or down, of the spin box. */
     void clickButton(QStyle::SubControl button)
     {
-        QStyleOptionSpinBox option;
-        option.initFrom(&spin);
-        option.subControls = QStyle::SC_All;
-        option.buttonSymbols = spin.buttonSymbols();
-        option.frame = spin.hasFrame();
-        const QRect rect = spin.style()->subControlRect(QStyle::CC_SpinBox, &option, button, &spin);
-        QTest::mouseClick(&spin, Qt::LeftButton, Qt::NoModifier, rect.center());
+        QTest::mouseClick(&spin, Qt::LeftButton, Qt::NoModifier, spinBoxButton(spin, button).center());
     }
 
     QWidget window;

@@ -176,7 +176,7 @@ TYPED_TEST(SpinBoxValueProperty, isStoredByAMapperThatSubmits)
     }
 }
 
-TEST(ScientificValueProperty, givesEveryDigitOfAValueOverWhichNothingWasTyped)
+TEST(SpinBoxValuePropertyScientific, givesEveryDigitOfAValueOverWhichNothingWasTyped)
 {
     SpinBoxWindow<ScientificSpinBox> window;
     window.spin.setValue(1.23456789012);
@@ -187,14 +187,14 @@ TEST(ScientificValueProperty, givesEveryDigitOfAValueOverWhichNothingWasTyped)
     EXPECT_EQ(window.spin.property("value"), 1.23456789013);
 }
 
-TEST(ScientificValueProperty, givesEveryDigitThatWasTyped)
+TEST(SpinBoxValuePropertyScientific, givesEveryDigitThatWasTyped)
 {
     SpinBoxWindow<ScientificSpinBox> window;
     window.type("6.02214076E+23");
     EXPECT_EQ(window.spin.property("value"), 6.02214076e23);
 }
 
-TEST(ScientificValueProperty, leavesTheSharedAnswerAsItIs)
+TEST(SpinBoxValuePropertyScientific, leavesTheSharedAnswerAsItIs)
 {
     SpinBoxWindow<ScientificSpinBox> window;
     ScientificSpinBox narrow(nullptr);
@@ -207,7 +207,7 @@ TEST(ScientificValueProperty, leavesTheSharedAnswerAsItIs)
     EXPECT_EQ(window.spin.validate(text, pos), QValidator::Invalid) << "still remembered";
 }
 
-TEST(ScientificValueProperty, asksTheSharedAnswerAsReturnDoes)
+TEST(SpinBoxValuePropertyScientific, asksTheSharedAnswerAsReturnDoes)
 {
     SpinBoxWindow<ScientificSpinBox> window;
     ScientificSpinBox narrow(nullptr);
@@ -222,7 +222,7 @@ TEST(ScientificValueProperty, asksTheSharedAnswerAsReturnDoes)
     EXPECT_EQ(window.spin.property("value"), 50.5);
 }
 
-TEST(ScientificValueProperty, isBroughtIntoTheRangeAsByReturnWhereTheSharedAnswerIsOfAWiderOne)
+TEST(SpinBoxValuePropertyScientific, isBroughtIntoTheRangeAsByReturnWhereTheSharedAnswerIsOfAWiderOne)
 {
     SpinBoxWindow<ScientificSpinBox> window;
     const ScientificSpinBox wide(nullptr);
@@ -242,7 +242,7 @@ TEST(ScientificValueProperty, isBroughtIntoTheRangeAsByReturnWhereTheSharedAnswe
     }
 }
 
-TEST(ScientificValueProperty, isWhatReturnTakesOfATextThatAProgramHasPutIntoTheLine)
+TEST(SpinBoxValuePropertyScientific, isWhatReturnTakesOfATextThatAProgramHasPutIntoTheLine)
 {
     SpinBoxWindow<ScientificSpinBox> window;
     window.spin.setOwnValidation(true);

@@ -1,5 +1,5 @@
 // Dialogs within dialogs, and the end of the application while one is open: every dialog, in both of its kinds.
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
@@ -89,17 +89,17 @@ protected:
     ModalScript m_user;
 };
 
-class EveryDialog : public DialogReentrancy, public ::testing::WithParamInterface<Dialog>
+class DialogReentrancyOfEach : public DialogReentrancy, public ::testing::WithParamInterface<Dialog>
 {
 };
 
-class DialogInDialog : public DialogReentrancy, public ::testing::WithParamInterface<std::tuple<Dialog, Dialog>>
+class DialogReentrancyNested : public DialogReentrancy, public ::testing::WithParamInterface<std::tuple<Dialog, Dialog>>
 {
 };
 
 } // namespace
 
-TEST_P(EveryDialog, endsAsCancelledWhenTheApplicationQuits)
+TEST_P(DialogReentrancyOfEach, endsAsCancelledWhenTheApplicationQuits)
 {
     m_user.on<QFileDialog>([](QFileDialog&) { QCoreApplication::quit(); });
     bool accepted = true;
@@ -111,7 +111,7 @@ TEST_P(EveryDialog, endsAsCancelledWhenTheApplicationQuits)
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-TEST_P(EveryDialog, endsAsCancelledWhenAllWindowsClose)
+TEST_P(DialogReentrancyOfEach, endsAsCancelledWhenAllWindowsClose)
 {
     m_user.on<QFileDialog>([](QFileDialog&) { QApplication::closeAllWindows(); });
     EXPECT_FALSE(GetParam().run(*m_parent));
@@ -119,10 +119,10 @@ TEST_P(EveryDialog, endsAsCancelledWhenAllWindowsClose)
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Dialogs, EveryDialog, ::testing::ValuesIn(dialogs), [](const auto& tested) { return tested.param.name; });
+INSTANTIATE_TEST_SUITE_P(Dialogs, DialogReentrancyOfEach, ::testing::ValuesIn(dialogs),
+    [](const auto& tested) { return tested.param.name; });
 
-TEST_P(DialogInDialog, theInnerOneEndsFirstAndTheOuterOneGoesOn)
+TEST_P(DialogReentrancyNested, theInnerOneEndsFirstAndTheOuterOneGoesOn)
 {
     const auto& [outer, inner] = GetParam();
     bool innerAccepted = true;
@@ -142,7 +142,7 @@ TEST_P(DialogInDialog, theInnerOneEndsFirstAndTheOuterOneGoesOn)
     EXPECT_TRUE(m_user.finished());
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, DialogInDialog,
+INSTANTIATE_TEST_SUITE_P(Dialogs, DialogReentrancyNested,
     ::testing::Combine(::testing::ValuesIn(dialogs), ::testing::ValuesIn(dialogs)), [](const auto& tested) {
         return std::string(std::get<1>(tested.param).name) + "_in_" + std::get<0>(tested.param).name;
     });
@@ -230,7 +230,7 @@ TEST_F(DialogReentrancy, quittingAtTheQuestionOfTheSaveFlowSavesNothing)
     file.close();
     ExtendedFileDialog::setUseNativeFileDialog(false);
     SaveFileDialog dialog(m_parent, "Save", directory.path().toStdString(), "old.dat", std::string("Data (*.dat)"), "");
-    m_user.on<QFileDialog>([](QFileDialog& window) { FileDialogPage(window).click(QDialogButtonBox::Save); });
+    m_user.on<QFileDialog>([](QFileDialog& window) { FileDialogDriver(window).click(QDialogButtonBox::Save); });
     m_user.on<QMessageBox>([](QMessageBox&) { QCoreApplication::quit(); });
     bool mayBeWritten = true;
     QTimer::singleShot(0, [&] { mayBeWritten = dialog.launch(); });

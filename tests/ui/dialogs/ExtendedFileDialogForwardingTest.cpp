@@ -5,13 +5,17 @@ namespace morvane::test {
 
 namespace {
 
+class ExtendedFileDialogForwarding : public ExtendedFileDialogTest
+{
+};
+
 using ::testing::Contains;
 using ::testing::IsEmpty;
 
 const QString dataFilter = QStringLiteral("Data (*.dat)");
 const QString allFilter = QStringLiteral("All (*)");
 
-TEST_F(ExtendedFileDialogTest, selectsAFile)
+TEST_F(ExtendedFileDialogForwarding, selectsAFile)
 {
     const auto native = make(true);
     native->selectFile(QStringLiteral("/elsewhere/b.dat"));
@@ -19,11 +23,11 @@ TEST_F(ExtendedFileDialogTest, selectsAFile)
     EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::SetFileName(\"b.dat\")"));
     const auto widgets = make(false, QFileDialog::AcceptSave);
     widgets->selectFile(path("b.dat"));
-    EXPECT_EQ(FileDialogPage(*qt()).name(), QStringLiteral("b.dat"));
+    EXPECT_EQ(FileDialogDriver(*qt()).name(), QStringLiteral("b.dat"));
     EXPECT_EQ(widgets->selectedFiles(), QStringList(path("b.dat")));
 }
 
-TEST_F(ExtendedFileDialogTest, setsTheFileMode)
+TEST_F(ExtendedFileDialogForwarding, setsTheFileMode)
 {
     const auto native = make(true);
     native->setFileMode(QFileDialog::ExistingFiles);
@@ -34,7 +38,7 @@ TEST_F(ExtendedFileDialogTest, setsTheFileMode)
     EXPECT_EQ(qt()->fileMode(), QFileDialog::Directory);
 }
 
-TEST_F(ExtendedFileDialogTest, setsAndTellsTheDirectory)
+TEST_F(ExtendedFileDialogForwarding, setsAndTellsTheDirectory)
 {
     for (const bool native : {true, false}) {
         const auto dialog = make(native);
@@ -47,7 +51,7 @@ TEST_F(ExtendedFileDialogTest, setsAndTellsTheDirectory)
     }
 }
 
-TEST_F(ExtendedFileDialogTest, selectsAndTellsTheNameFilter)
+TEST_F(ExtendedFileDialogForwarding, selectsAndTellsTheNameFilter)
 {
     for (const bool native : {true, false}) {
         const auto dialog = make(native);
@@ -57,7 +61,7 @@ TEST_F(ExtendedFileDialogTest, selectsAndTellsTheNameFilter)
     }
 }
 
-TEST_F(ExtendedFileDialogTest, unknownFilterSelectsNoneInTheNativeDialogAndNothingInTheQtDialog)
+TEST_F(ExtendedFileDialogForwarding, unknownFilterSelectsNoneInTheNativeDialogAndNothingInTheQtDialog)
 {
     const auto native = make(true);
     native->selectNameFilter(QStringLiteral("Other (*.o)"));
@@ -67,7 +71,7 @@ TEST_F(ExtendedFileDialogTest, unknownFilterSelectsNoneInTheNativeDialogAndNothi
     EXPECT_EQ(widgets->selectedNameFilter(), dataFilter);
 }
 
-TEST_F(ExtendedFileDialogTest, setsAndTellsTheNameFilters)
+TEST_F(ExtendedFileDialogForwarding, setsAndTellsTheNameFilters)
 {
     const QStringList filters({QStringLiteral("A (*.a)"), QStringLiteral("B (*.b)"), QStringLiteral("C (*.c)")});
     for (const bool native : {true, false}) {
@@ -80,7 +84,7 @@ TEST_F(ExtendedFileDialogTest, setsAndTellsTheNameFilters)
     }
 }
 
-TEST_F(ExtendedFileDialogTest, setsWhetherOverwritingIsConfirmed)
+TEST_F(ExtendedFileDialogForwarding, setsWhetherOverwritingIsConfirmed)
 {
     for (const bool on : {true, false}) {
         const auto native = make(true, QFileDialog::AcceptSave);
@@ -97,7 +101,7 @@ TEST_F(ExtendedFileDialogTest, setsWhetherOverwritingIsConfirmed)
     }
 }
 
-TEST_F(ExtendedFileDialogTest, showsDirectoriesOnlyInTheQtDialogAlone)
+TEST_F(ExtendedFileDialogForwarding, showsDirectoriesOnlyInTheQtDialogAlone)
 {
     const auto native = make(true);
     m_shell.clearCalls();

@@ -49,7 +49,7 @@ TEST_F(ExtendedFileDialogTest, keepsItsKindWhenTheSwitchIsTurned)
     EXPECT_EQ(m_shell.count("IFileDialog::Show"), 1);
     ExtendedFileDialog::setUseNativeFileDialog(true);
     m_shell.clearCalls();
-    EXPECT_EQ(runQt(*widgets, [](FileDialogPage& page) { page.dialog().reject(); }), QDialog::Rejected);
+    EXPECT_EQ(runQt(*widgets, [](FileDialogDriver& driver) { driver.dialog().reject(); }), QDialog::Rejected);
     EXPECT_THAT(m_shell.calls(), IsEmpty());
 }
 
@@ -80,9 +80,9 @@ TEST_F(ExtendedFileDialogTest, handsItsArgumentsToTheQtDialog)
     EXPECT_EQ(qt()->directory().path(), m_folder.path());
     EXPECT_EQ(qt()->nameFilters(), QStringList({dataFilter, allFilter}));
     EXPECT_EQ(qt()->acceptMode(), QFileDialog::AcceptSave);
-    runQt(*dialog, [](FileDialogPage& page) {
-        page.click(QDialogButtonBox::Help);
-        page.dialog().reject();
+    runQt(*dialog, [](FileDialogDriver& driver) {
+        driver.click(QDialogButtonBox::Help);
+        driver.dialog().reject();
     });
     EXPECT_THAT(m_help.topics, ElementsAre("topic"));
 }
@@ -102,18 +102,18 @@ TEST_F(ExtendedFileDialogTest, returnsTheResultOfTheQtDialog)
 {
     const auto dialog = make(false);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    EXPECT_EQ(runQt(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("a.dat")); }), 1);
+    EXPECT_EQ(runQt(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("a.dat")); }), 1);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path("a.dat")));
-    EXPECT_EQ(runQt(*dialog, [](FileDialogPage& page) { QTest::keyClick(&page.dialog(), Qt::Key_Escape); }), 0);
+    EXPECT_EQ(runQt(*dialog, [](FileDialogDriver& driver) { QTest::keyClick(&driver.dialog(), Qt::Key_Escape); }), 0);
 }
 
 TEST_F(ExtendedFileDialogTest, runsTheQtDialogThroughItsVirtualExec)
 {
     const auto dialog = make(false);
     int restored = 0;
-    runQt(*dialog, [&](FileDialogPage& page) {
-        restored = page.dialog().sidebarUrls().size();
-        page.dialog().reject();
+    runQt(*dialog, [&](FileDialogDriver& driver) {
+        restored = driver.dialog().sidebarUrls().size();
+        driver.dialog().reject();
     });
     EXPECT_GT(restored, 0) << "the places are added by the dialog's own exec";
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"
 #include "support/RecordingHelpLauncher.h"
@@ -50,12 +50,12 @@ protected:
     }
     QExtendedFileDialog* qt() { return m_parent.findChild<QExtendedFileDialog*>(); }
     /** Runs the Qt dialog and lets the user act on it. */
-    int runQt(ExtendedFileDialog& dialog, const std::function<void(FileDialogPage&)>& act)
+    int runQt(ExtendedFileDialog& dialog, const std::function<void(FileDialogDriver&)>& act)
     {
         ModalScript user;
         user.on<QFileDialog>([act](QFileDialog& window) {
-            FileDialogPage page(window);
-            act(page);
+            FileDialogDriver driver(window);
+            act(driver);
         });
         return dialog.exec();
     }

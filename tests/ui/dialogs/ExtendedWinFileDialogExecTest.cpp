@@ -332,11 +332,12 @@ void PrintTo(const OptionCase& c, std::ostream* out)
     *out << c.name;
 }
 
-class ExtendedWinFileDialogOptions : public ExtendedWinFileDialogTest, public ::testing::WithParamInterface<OptionCase>
+class ExtendedWinFileDialogExecOptions : public ExtendedWinFileDialogTest,
+                                         public ::testing::WithParamInterface<OptionCase>
 {
 };
 
-TEST_P(ExtendedWinFileDialogOptions, changesTheBitsOfItsModeAndNoOther)
+TEST_P(ExtendedWinFileDialogExecOptions, changesTheBitsOfItsModeAndNoOther)
 {
     const OptionCase& c = GetParam();
     constexpr FILEOPENDIALOGOPTIONS modeBits = 0x20 | 0x200 | 0x800 | 0x1000;
@@ -361,7 +362,7 @@ TEST_P(ExtendedWinFileDialogOptions, changesTheBitsOfItsModeAndNoOther)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Modes, ExtendedWinFileDialogOptions,
+INSTANTIATE_TEST_SUITE_P(Modes, ExtendedWinFileDialogExecOptions,
     ::testing::Values(OptionCase{"directory", QFileDialog::Directory, 0x820, 0x1200},
         OptionCase{"existingFiles", QFileDialog::ExistingFiles, 0x1200, 0x820},
         OptionCase{"existingFile", QFileDialog::ExistingFile, 0x1000, 0xA20},

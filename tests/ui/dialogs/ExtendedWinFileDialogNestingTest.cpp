@@ -106,7 +106,8 @@ void PrintTo(const Callback& c, std::ostream* out)
     *out << c.name;
 }
 
-class ExtendedWinFileDialogCallback : public ExtendedWinFileDialogTest, public ::testing::WithParamInterface<Callback>
+class ExtendedWinFileDialogNestingCallback : public ExtendedWinFileDialogTest,
+                                             public ::testing::WithParamInterface<Callback>
 {
 protected:
     // The host can hear of an event through an action, a property of its own, or the filter index.
@@ -123,7 +124,7 @@ protected:
     }
 };
 
-TEST_P(ExtendedWinFileDialogCallback, mayCloseTheDialog)
+TEST_P(ExtendedWinFileDialogNestingCallback, mayCloseTheDialog)
 {
     Dialog dialog;
     int heard = 0;
@@ -137,7 +138,7 @@ TEST_P(ExtendedWinFileDialogCallback, mayCloseTheDialog)
     EXPECT_THAT(dialog->selectedFiles(), IsEmpty());
 }
 
-TEST_P(ExtendedWinFileDialogCallback, cannotRunTheDialogASecondTime)
+TEST_P(ExtendedWinFileDialogNestingCallback, cannotRunTheDialogASecondTime)
 {
     Dialog dialog;
     int heard = 0;
@@ -155,7 +156,7 @@ TEST_P(ExtendedWinFileDialogCallback, cannotRunTheDialogASecondTime)
     EXPECT_EQ(dialog->selectedFiles(), QStringList(native(QStringLiteral("/a"))));
 }
 
-TEST_P(ExtendedWinFileDialogCallback, mayDestroyTheParent)
+TEST_P(ExtendedWinFileDialogNestingCallback, mayDestroyTheParent)
 {
     int heard = 0;
     const Dialog dialog = makeDialog([&] {
@@ -167,7 +168,7 @@ TEST_P(ExtendedWinFileDialogCallback, mayDestroyTheParent)
     EXPECT_EQ(dialog->parent(), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(Callbacks, ExtendedWinFileDialogCallback,
+INSTANTIATE_TEST_SUITE_P(Callbacks, ExtendedWinFileDialogNestingCallback,
     ::testing::Values(Callback{"button", [](RecordingDialog& user) { user.userClicks(0); }},
         Callback{"checkBox", [](RecordingDialog& user) { user.userToggles(1); }},
         Callback{"type", [](RecordingDialog& user) { user.userPicksType(2); }},
@@ -200,7 +201,7 @@ TEST_F(ExtendedWinFileDialogNesting, showsNoOwnerOnceTheParentIsGone)
 }
 
 /** The same events in a dialog with a modal loop. */
-class ExtendedWinFileDialogLoop : public ExtendedWinFileDialogTest
+class ExtendedWinFileDialogNestingLoop : public ExtendedWinFileDialogTest
 {
 protected:
     static void click(QFileDialog& window, const char* label)
@@ -219,7 +220,7 @@ protected:
     ui::ShellOverride m_widgetsOverride{m_widgets};
 };
 
-TEST_F(ExtendedWinFileDialogLoop, anActionMayShowAMessageBox)
+TEST_F(ExtendedWinFileDialogNestingLoop, anActionMayShowAMessageBox)
 {
     const auto dialog = openDialog();
     int answer = 0;
@@ -235,7 +236,7 @@ TEST_F(ExtendedWinFileDialogLoop, anActionMayShowAMessageBox)
     EXPECT_TRUE(user.finished());
 }
 
-TEST_F(ExtendedWinFileDialogLoop, refusesToRunWithinItself)
+TEST_F(ExtendedWinFileDialogNestingLoop, refusesToRunWithinItself)
 {
     const auto dialog = openDialog();
     bool refused = false;
@@ -251,7 +252,7 @@ TEST_F(ExtendedWinFileDialogLoop, refusesToRunWithinItself)
     EXPECT_TRUE(refused);
 }
 
-TEST_F(ExtendedWinFileDialogLoop, endsWhenTheParentIsDestroyed)
+TEST_F(ExtendedWinFileDialogNestingLoop, endsWhenTheParentIsDestroyed)
 {
     m_parent->show();
     const auto dialog = saveDialog("A (*.a);;B (*.b)");
@@ -266,7 +267,7 @@ TEST_F(ExtendedWinFileDialogLoop, endsWhenTheParentIsDestroyed)
     EXPECT_TRUE(user.finished());
 }
 
-TEST_F(ExtendedWinFileDialogLoop, anObserverOfACheckBoxMayDestroyTheParent)
+TEST_F(ExtendedWinFileDialogNestingLoop, anObserverOfACheckBoxMayDestroyTheParent)
 {
     m_parent->show();
     const auto dialog = openDialog();
@@ -280,7 +281,7 @@ TEST_F(ExtendedWinFileDialogLoop, anObserverOfACheckBoxMayDestroyTheParent)
     EXPECT_EQ(dialog->parent(), nullptr);
 }
 
-TEST_F(ExtendedWinFileDialogLoop, anObserverOfTheTypeMayDestroyTheParent)
+TEST_F(ExtendedWinFileDialogNestingLoop, anObserverOfTheTypeMayDestroyTheParent)
 {
     m_parent->show();
     const auto dialog = saveDialog("A (*.a);;B (*.b)");
@@ -294,7 +295,7 @@ TEST_F(ExtendedWinFileDialogLoop, anObserverOfTheTypeMayDestroyTheParent)
     EXPECT_EQ(dialog->parent(), nullptr);
 }
 
-TEST_F(ExtendedWinFileDialogLoop, anActionMayDestroyTheParent)
+TEST_F(ExtendedWinFileDialogNestingLoop, anActionMayDestroyTheParent)
 {
     m_parent->show();
     const auto dialog = openDialog();

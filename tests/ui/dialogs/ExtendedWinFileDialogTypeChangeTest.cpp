@@ -33,12 +33,12 @@ protected:
     void SetUp() override { m_shell.script.announcesOpening = false; }
 };
 
-class ExtendedWinFileDialogTypedName : public ExtendedWinFileDialogTypeChange,
-                                       public ::testing::WithParamInterface<TypeCase>
+class ExtendedWinFileDialogTypeChangeTypedName : public ExtendedWinFileDialogTypeChange,
+                                                 public ::testing::WithParamInterface<TypeCase>
 {
 };
 
-TEST_P(ExtendedWinFileDialogTypedName, getsTheExtensionOfThePickedType)
+TEST_P(ExtendedWinFileDialogTypeChangeTypedName, getsTheExtensionOfThePickedType)
 {
     const TypeCase& c = GetParam();
     const auto dialog = saveDialog(filters);
@@ -52,7 +52,7 @@ TEST_P(ExtendedWinFileDialogTypedName, getsTheExtensionOfThePickedType)
     EXPECT_EQ(dialog->currentFilterIndex()->value(), static_cast<int>(c.type));
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, ExtendedWinFileDialogTypedName,
+INSTANTIATE_TEST_SUITE_P(Names, ExtendedWinFileDialogTypeChangeTypedName,
     ::testing::Values(TypeCase{"otherExtension", 1, "out.txt", "out.dat"}, TypeCase{"noExtension", 1, "out", "out.dat"},
         TypeCase{"trailingDot", 1, "out.", "out.dat"}, TypeCase{"lastOfTwo", 1, "out.tar.gz", "out.tar.dat"},
         TypeCase{"sameExtension", 1, "out.dat", "out.dat"}, TypeCase{"dropped", 2, "out.dat", "out"},
@@ -175,11 +175,12 @@ void PrintTo(const OpeningCase& c, std::ostream* out)
     *out << c.name;
 }
 
-class ExtendedWinFileDialogOpening : public ExtendedWinFileDialogTest, public ::testing::WithParamInterface<OpeningCase>
+class ExtendedWinFileDialogTypeChangeOpening : public ExtendedWinFileDialogTest,
+                                               public ::testing::WithParamInterface<OpeningCase>
 {
 };
 
-TEST_P(ExtendedWinFileDialogOpening, announcesATypeThatNobodyHasPicked)
+TEST_P(ExtendedWinFileDialogTypeChangeOpening, announcesATypeThatNobodyHasPicked)
 {
     const OpeningCase& c = GetParam();
     const auto dialog = saveDialog(c.filters);
@@ -189,7 +190,7 @@ TEST_P(ExtendedWinFileDialogOpening, announcesATypeThatNobodyHasPicked)
     EXPECT_EQ(m_shell.count("IFileDialog::SetFileName"), std::string(c.given) == c.opened ? 1 : 2);
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, ExtendedWinFileDialogOpening,
+INSTANTIATE_TEST_SUITE_P(Names, ExtendedWinFileDialogTypeChangeOpening,
     ::testing::Values(OpeningCase{"wildcard", "All files (*.*);;Data (*.dat)", 1, "report2.txt", "report2.txt"},
         OpeningCase{"wildcardWithoutExtension", "All files (*.*);;Data (*.dat)", 1, "report2", "report2"},
         OpeningCase{"otherExtension", "Data (*.dat);;All (*)", 1, "out.txt", "out.txt"},

@@ -1,8 +1,7 @@
 #include "ExtendedWinFileDialogTest.h"
 
-#include "contract/WidgetUser.h"
 #include "property/Property.h"
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/shell/WidgetShell_p.h"
 
@@ -47,26 +46,18 @@ protected:
         return make(arguments);
     }
     /** Cancels when @p act has not closed the dialog. */
-    QDialog::DialogCode use(ExtendedWinFileDialog& dialog, const std::function<void(FileDialogPage&)>& act)
+    QDialog::DialogCode use(ExtendedWinFileDialog& dialog, const std::function<void(FileDialogDriver&)>& act)
     {
-        m_user.on<QFileDialog>([act](QFileDialog& window) {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-            const QPointer<QFileDialog> open(&window);
-            FileDialogPage page(window);
-            act(page);
-            if (open && open->isVisible()) {
-                open->reject();
-            }
-        });
+        m_user.on<QFileDialog>(FileDialogDriver::playing(act));
         return dialog.exec();
     }
-    static QAbstractButton* control(const FileDialogPage& page, const char* label)
+    static QAbstractButton* control(const FileDialogDriver& driver, const char* label)
     {
-        return WidgetUser(page.dialog()).control(QString::fromUtf8(label));
+        return FileDialogDriver::whenActive(driver.dialog()).control(QString::fromUtf8(label));
     }
-    static void press(const FileDialogPage& page, const char* label)
+    static void press(const FileDialogDriver& driver, const char* label)
     {
-        QAbstractButton* const button = control(page, label);
+        QAbstractButton* const button = control(driver, label);
         ASSERT_TRUE(button) << label;
         QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button->height() / 2));
     }
@@ -81,11 +72,11 @@ TEST_F(ExtendedWinFileDialogWidgets, opensTheTypedFile)
     const auto dialog = dialogIn(false, "Data (*.dat);;All (*)");
     dialog->setFileMode(QFileDialog::ExistingFile);
     EXPECT_EQ(use(*dialog,
-                  [](FileDialogPage& page) {
-                      EXPECT_EQ(page.dialog().windowTitle(), QStringLiteral("Measurement"));
-                      EXPECT_TRUE(page.waitForListed(
+                  [](FileDialogDriver& driver) {
+                      EXPECT_EQ(driver.dialog().windowTitle(), QStringLiteral("Measurement"));
+                      EXPECT_TRUE(driver.waitForListed(
                           {QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")}));
-                      page.enterName(QStringLiteral("b.dat"));
+                      driver.enterName(QStringLiteral("b.dat"));
                   }),
         QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("b.dat"))));
@@ -96,8 +87,8 @@ TEST_F(ExtendedWinFileDialogWidgets, opensTheClickedFile)
 {
     const auto dialog = dialogIn(false);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    EXPECT_EQ(
-        use(*dialog, [](FileDialogPage& page) { page.doubleClickFile(QStringLiteral("c.txt")); }), QDialog::Accepted);
+    EXPECT_EQ(use(*dialog, [](FileDialogDriver& driver) { driver.doubleClickFile(QStringLiteral("c.txt")); }),
+        QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("c.txt"))));
 }
 
@@ -106,10 +97,10 @@ TEST_F(ExtendedWinFileDialogWidgets, opensSeveralFiles)
     const auto dialog = dialogIn(false);
     dialog->setFileMode(QFileDialog::ExistingFiles);
     EXPECT_EQ(use(*dialog,
-                  [](FileDialogPage& page) {
-                      page.clickFile(QStringLiteral("a.dat"));
-                      page.clickFile(QStringLiteral("c.txt"), Qt::ControlModifier);
-                      page.click(QDialogButtonBox::Open);
+                  [](FileDialogDriver& driver) {
+                      driver.clickFile(QStringLiteral("a.dat"));
+                      driver.clickFile(QStringLiteral("c.txt"), Qt::ControlModifier);
+                      driver.click(QDialogButtonBox::Open);
                   }),
         QDialog::Accepted);
     QStringList files = dialog->selectedFiles();
@@ -122,9 +113,9 @@ TEST_F(ExtendedWinFileDialogWidgets, picksAFolder)
     const auto dialog = dialogIn(false);
     dialog->setFileMode(QFileDialog::Directory);
     EXPECT_EQ(use(*dialog,
-                  [](FileDialogPage& page) {
-                      page.clickFile(QStringLiteral("inner"));
-                      WidgetUser(page.dialog()).pressAccept();
+                  [](FileDialogDriver& driver) {
+                      driver.clickFile(QStringLiteral("inner"));
+                      FileDialogDriver::whenActive(driver.dialog()).pressAccept();
                   }),
         QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("inner"))));
@@ -133,8 +124,8 @@ TEST_F(ExtendedWinFileDialogWidgets, picksAFolder)
 TEST_F(ExtendedWinFileDialogWidgets, cancelsWithEscape)
 {
     const auto dialog = dialogIn(false);
-    EXPECT_EQ(
-        use(*dialog, [](FileDialogPage& page) { QTest::keyClick(&page.dialog(), Qt::Key_Escape); }), QDialog::Rejected);
+    EXPECT_EQ(use(*dialog, [](FileDialogDriver& driver) { QTest::keyClick(&driver.dialog(), Qt::Key_Escape); }),
+        QDialog::Rejected);
     EXPECT_THAT(dialog->selectedFiles(), IsEmpty());
 }
 
@@ -143,13 +134,13 @@ TEST_F(ExtendedWinFileDialogWidgets, rewritesTheTypedExtensionWithTheType)
     const auto dialog = dialogIn(true, "Data (*.dat);;All (*)");
     std::vector<int> seen;
     dialog->currentFilterIndex()->signalValueChanged.connect([&](const int& index) { seen.push_back(index); });
-    use(*dialog, [&](FileDialogPage& page) {
-        page.typeName(QStringLiteral("out.dat"));
-        page.pickTypeWithMouse(1);
-        EXPECT_EQ(page.name(), QStringLiteral("out"));
+    use(*dialog, [&](FileDialogDriver& driver) {
+        driver.typeName(QStringLiteral("out.dat"));
+        driver.pickTypeWithMouse(1);
+        EXPECT_EQ(driver.name(), QStringLiteral("out"));
         EXPECT_EQ(dialog->selectedNameFilter(), QStringLiteral("All (*)"));
-        page.pickTypeWithKeys(0);
-        EXPECT_EQ(page.name(), QStringLiteral("out.dat"));
+        driver.pickTypeWithKeys(0);
+        EXPECT_EQ(driver.name(), QStringLiteral("out.dat"));
     });
     EXPECT_THAT(seen, ::testing::ElementsAre(2, 1));
 }
@@ -159,9 +150,9 @@ TEST_F(ExtendedWinFileDialogWidgets, savesTheNewNameThatItStartsWith)
     const auto dialog = dialogIn(true, "Data (*.dat);;All (*)");
     dialog->selectFile(QStringLiteral("/elsewhere/new.dat"));
     EXPECT_EQ(use(*dialog,
-                  [](FileDialogPage& page) {
-                      EXPECT_EQ(page.name(), QStringLiteral("new.dat"));
-                      page.click(QDialogButtonBox::Save);
+                  [](FileDialogDriver& driver) {
+                      EXPECT_EQ(driver.name(), QStringLiteral("new.dat"));
+                      driver.click(QDialogButtonBox::Save);
                   }),
         QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("new.dat"))));
@@ -171,10 +162,10 @@ TEST_F(ExtendedWinFileDialogWidgets, asksBeforeOverwriting)
 {
     const auto dialog = dialogIn(true);
     m_user.on<QFileDialog>([](QFileDialog& window) {
-        FileDialogPage page(window);
-        page.enterName(QStringLiteral("a.dat"));
+        FileDialogDriver driver(window);
+        driver.enterName(QStringLiteral("a.dat"));
         EXPECT_TRUE(window.isVisible()) << "refused";
-        page.enterName(QStringLiteral("a.dat"));
+        driver.enterName(QStringLiteral("a.dat"));
     });
     m_user.on<QMessageBox>([](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton); });
     m_user.on<QMessageBox>([](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton); });
@@ -187,14 +178,15 @@ TEST_F(ExtendedWinFileDialogWidgets, overwritesWithoutQuestionWhenTold)
 {
     const auto dialog = dialogIn(true);
     dialog->setDontConfirmOverwrite(true);
-    EXPECT_EQ(use(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("a.dat")); }), QDialog::Accepted);
+    EXPECT_EQ(
+        use(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("a.dat")); }), QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("a.dat"))));
 }
 
 TEST_F(ExtendedWinFileDialogWidgets, showsHelp)
 {
     const auto dialog = dialogIn(false);
-    use(*dialog, [](FileDialogPage& page) { press(page, "&Help"); });
+    use(*dialog, [](FileDialogDriver& driver) { press(driver, "&Help"); });
     EXPECT_THAT(m_help.topics, ::testing::ElementsAre("topic"));
 }
 
@@ -203,9 +195,9 @@ TEST_F(ExtendedWinFileDialogWidgets, aButtonMayCloseTheDialog)
     const auto dialog = dialogIn(false);
     dialog->addCustomButton("Use defaults", [&] { dialog->close(); });
     EXPECT_EQ(use(*dialog,
-                  [](FileDialogPage& page) {
-                      page.typeName(QStringLiteral("a.dat"));
-                      press(page, "Use defaults");
+                  [](FileDialogDriver& driver) {
+                      driver.typeName(QStringLiteral("a.dat"));
+                      press(driver, "Use defaults");
                   }),
         QDialog::Accepted);
     EXPECT_THAT(dialog->selectedFiles(), IsEmpty()) << "typed, but not chosen";
@@ -216,14 +208,14 @@ TEST_F(ExtendedWinFileDialogWidgets, bindsACheckBoxToItsProperty)
     const auto dialog = dialogIn(true);
     const auto compress = boost::make_shared<Property<bool>>(true);
     dialog->addCustomCheckBox("Compress", compress);
-    use(*dialog, [&](FileDialogPage& page) {
-        EXPECT_TRUE(control(page, "Compress")->isChecked());
-        press(page, "Compress");
+    use(*dialog, [&](FileDialogDriver& driver) {
+        EXPECT_TRUE(control(driver, "Compress")->isChecked());
+        press(driver, "Compress");
         EXPECT_FALSE(compress->value());
     });
-    use(*dialog, [&](FileDialogPage& page) {
-        EXPECT_FALSE(control(page, "Compress")->isChecked()) << "the second run keeps the state";
-        press(page, "Compress");
+    use(*dialog, [&](FileDialogDriver& driver) {
+        EXPECT_FALSE(control(driver, "Compress")->isChecked()) << "the second run keeps the state";
+        press(driver, "Compress");
     });
     EXPECT_TRUE(compress->value());
 }
@@ -234,16 +226,16 @@ TEST_F(ExtendedWinFileDialogWidgets, reportsTheOptionThatWasPickedInTheMenu)
     dialog->addAcceptButtonOption("Save", 10);
     dialog->addAcceptButtonOption("Save and close", 20);
     EXPECT_EQ(use(*dialog,
-                  [](FileDialogPage& page) {
-                      page.typeName(QStringLiteral("new.dat"));
-                      WidgetUser(page.dialog()).pickAcceptItem(0, 0, QStringLiteral("Save and close"));
+                  [](FileDialogDriver& driver) {
+                      driver.typeName(QStringLiteral("new.dat"));
+                      FileDialogDriver::whenActive(driver.dialog()).pickAcceptItem(QStringLiteral("Save and close"));
                   }),
         QDialog::Accepted);
     EXPECT_EQ(dialog->selectedAcceptMenuOption(), 20);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("new.dat"))));
     dialog->clearAcceptMenuOptions();
     dialog->addAcceptButtonOption("Keep", 30);
-    use(*dialog, [](FileDialogPage& page) { QTest::keyClick(&page.dialog(), Qt::Key_Escape); });
+    use(*dialog, [](FileDialogDriver& driver) { QTest::keyClick(&driver.dialog(), Qt::Key_Escape); });
     EXPECT_EQ(dialog->selectedAcceptMenuOption(), 30);
 }
 
@@ -261,17 +253,17 @@ TEST_F(ExtendedWinFileDialogWidgets, changesItsControlsWhileItRuns)
         target->show();
         early->show();
     });
-    use(*dialog, [](FileDialogPage& page) {
-        EXPECT_FALSE(control(page, "Early"));
-        press(page, "Target");
-        press(page, "Disable");
-        EXPECT_FALSE(control(page, "Target")->isEnabled());
-        press(page, "Target");
-        press(page, "Hide");
-        EXPECT_FALSE(control(page, "Target"));
-        press(page, "Restore");
-        EXPECT_TRUE(control(page, "Early"));
-        press(page, "Target");
+    use(*dialog, [](FileDialogDriver& driver) {
+        EXPECT_FALSE(control(driver, "Early"));
+        press(driver, "Target");
+        press(driver, "Disable");
+        EXPECT_FALSE(control(driver, "Target")->isEnabled());
+        press(driver, "Target");
+        press(driver, "Hide");
+        EXPECT_FALSE(control(driver, "Target"));
+        press(driver, "Restore");
+        EXPECT_TRUE(control(driver, "Early"));
+        press(driver, "Target");
     });
     EXPECT_EQ(clicks, 2);
 }
@@ -279,17 +271,17 @@ TEST_F(ExtendedWinFileDialogWidgets, changesItsControlsWhileItRuns)
 TEST_F(ExtendedWinFileDialogWidgets, keepsFolderNameAndTypeForTheSecondRun)
 {
     const auto dialog = dialogIn(true, "Data (*.dat);;All (*)");
-    use(*dialog, [](FileDialogPage& page) {
-        page.pickTypeWithKeys(1);
-        WidgetUser(page.dialog()).enterFolder(QStringLiteral("inner"));
-        page.typeName(QStringLiteral("kept.raw"));
+    use(*dialog, [](FileDialogDriver& driver) {
+        driver.pickTypeWithKeys(1);
+        FileDialogDriver::whenActive(driver.dialog()).enterFolder(QStringLiteral("inner"));
+        driver.typeName(QStringLiteral("kept.raw"));
     });
     EXPECT_EQ(dialog->directory().path(), path(QStringLiteral("inner")));
     EXPECT_EQ(dialog->selectedNameFilter(), QStringLiteral("All (*)"));
     EXPECT_EQ(use(*dialog,
-                  [](FileDialogPage& page) {
-                      EXPECT_EQ(page.typeCombo().currentIndex(), 1);
-                      page.enterName(QStringLiteral("again.raw"));
+                  [](FileDialogDriver& driver) {
+                      EXPECT_EQ(driver.typeCombo().currentIndex(), 1);
+                      driver.enterName(QStringLiteral("again.raw"));
                   }),
         QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(nativePath(QStringLiteral("inner/again.raw"))));

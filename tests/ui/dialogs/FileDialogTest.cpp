@@ -70,8 +70,8 @@ int FileDialogTest::run(QExtendedFileDialog& dialog, ModalScript& script, const 
         }
         acted = true;
         const QPointer<QExtendedFileDialog> open(&dialog);
-        FileDialogPage page(dialog);
-        act(page);
+        FileDialogDriver driver(dialog);
+        act(driver);
         if (open && open->isVisible()) {
             open->reject();
         }

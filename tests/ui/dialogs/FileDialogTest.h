@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "support/OverrideCursors.h"
 #include "support/QtPrinters.h"
@@ -26,7 +26,7 @@ namespace morvane::test {
 class FileDialogTest : public ::testing::Test
 {
 protected:
-    using Act = std::function<void(FileDialogPage&)>;
+    using Act = std::function<void(FileDialogDriver&)>;
     using Dialog = std::unique_ptr<QExtendedFileDialog>;
 
     FileDialogTest();

@@ -17,8 +17,8 @@ protected:
     {
         filters = given;
         std::pair<std::string, int> seen;
-        launch({text(selection)}, true, false, index, [&](FileDialogPage& page) {
-            seen = {page.name().toStdString(), page.typeCombo().currentIndex()};
+        launch({text(selection)}, true, false, index, [&](FileDialogDriver& driver) {
+            seen = {driver.name().toStdString(), driver.typeCombo().currentIndex()};
         });
         return seen;
     }
@@ -56,9 +56,9 @@ TEST_F(LaunchFileDialogQt, opensWithTheNameAsItIsWhateverTheFilter)
 {
     for (const int index : {0, 1, 2}) {
         filters = anyFirst;
-        launch({text("c.txt")}, false, false, index, [&](FileDialogPage& page) {
-            EXPECT_EQ(page.name(), QStringLiteral("c.txt"));
-            EXPECT_EQ(page.typeCombo().currentIndex(), index);
+        launch({text("c.txt")}, false, false, index, [&](FileDialogDriver& driver) {
+            EXPECT_EQ(driver.name(), QStringLiteral("c.txt"));
+            EXPECT_EQ(driver.typeCombo().currentIndex(), index);
         });
     }
 }
@@ -66,24 +66,24 @@ TEST_F(LaunchFileDialogQt, opensWithTheNameAsItIsWhateverTheFilter)
 TEST_F(LaunchFileDialogQt, quotesWholePathsAndEndsInABlank)
 {
     const std::string quotes = '"' + text("a.dat") + "\" \"" + text("c.txt") + "\" ";
-    launch({text("a.dat"), "", text("c.txt")}, false, true, 0, [&](FileDialogPage& page) {
-        EXPECT_EQ(page.dialog().directory().path(), path(""));
-        EXPECT_EQ(page.name().toStdString(), quotes);
+    launch({text("a.dat"), "", text("c.txt")}, false, true, 0, [&](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.dialog().directory().path(), path(""));
+        EXPECT_EQ(driver.name().toStdString(), quotes);
     });
 }
 
 TEST_F(LaunchFileDialogQt, handsOnAnEmptyTextWhenEveryEntryIsEmpty)
 {
-    launch({"", ""}, false, true, 0, [](FileDialogPage& page) { EXPECT_EQ(page.name(), QString()); });
+    launch({"", ""}, false, true, 0, [](FileDialogDriver& driver) { EXPECT_EQ(driver.name(), QString()); });
 }
 
 TEST_F(LaunchFileDialogQt, aTypeEditedByAWildcardKeepsItsPosition)
 {
-    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("*.dat"));
-        EXPECT_NE(page.currentType(), QStringLiteral("Text (*.txt)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")}));
-        page.enterName(QStringLiteral("b.dat"));
+    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("*.dat"));
+        EXPECT_NE(driver.currentType(), QStringLiteral("Text (*.txt)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")}));
+        driver.enterName(QStringLiteral("b.dat"));
     }));
     EXPECT_THAT(files, ElementsAre(text("b.dat")));
     EXPECT_EQ(filterIndex, 1);
@@ -93,7 +93,7 @@ TEST_F(LaunchFileDialogQt, reportsTheFirstOfEqualFilters)
 {
     filters = {"Data (*.dat)", "Data (*.dat)"};
     EXPECT_TRUE(launch(
-        {text("a.dat")}, false, false, 1, [](FileDialogPage& page) { page.enterName(QStringLiteral("b.dat")); }));
+        {text("a.dat")}, false, false, 1, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("b.dat")); }));
     EXPECT_THAT(files, ElementsAre(text("b.dat")));
     EXPECT_EQ(filterIndex, 0);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"
 #include "support/RecordingSettings.h"
@@ -55,18 +55,10 @@ protected:
     std::string text(const char* name) const { return path(name).toStdString(); }
 
     /** Launches while the user acts; cancels when that has not closed the dialog. */
-    bool launch(const Texts& selection, bool save, bool several, int index, std::function<void(FileDialogPage&)> act)
+    bool launch(const Texts& selection, bool save, bool several, int index, std::function<void(FileDialogDriver&)> act)
     {
         ModalScript user;
-        user.on<QFileDialog>([act](QFileDialog& window) {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-            const QPointer<QFileDialog> open(&window);
-            FileDialogPage page(window);
-            act(page);
-            if (open && open->isVisible()) {
-                open->reject();
-            }
-        });
+        user.on<QFileDialog>(FileDialogDriver::playing(std::move(act)));
         const bool accepted =
             ui::LaunchFileDialog(files, filterIndex, "Caption", filters, selection, save, several, index);
         EXPECT_TRUE(user.finished());

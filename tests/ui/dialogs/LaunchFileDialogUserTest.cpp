@@ -22,16 +22,16 @@ protected:
 
 TEST_P(LaunchFileDialogUser, opensTheTypedFile)
 {
-    EXPECT_TRUE(launch({text("a.dat")}, false, false, 0, [this](FileDialogPage& page) {
-        EXPECT_EQ(page.dialog().windowTitle(), QStringLiteral("Caption"));
-        EXPECT_EQ(page.dialog().acceptMode(), QFileDialog::AcceptOpen);
-        EXPECT_TRUE(GetParam() || page.dialog().fileMode() == QFileDialog::ExistingFile);
-        EXPECT_EQ(page.dialog().directory().path(), path(""));
-        EXPECT_EQ(page.name(), QStringLiteral("a.dat"));
-        EXPECT_FALSE(page.button(QDialogButtonBox::Help));
-        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
-        page.typeName(QStringLiteral("b.dat"));
-        page.click(QDialogButtonBox::Open);
+    EXPECT_TRUE(launch({text("a.dat")}, false, false, 0, [this](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.dialog().windowTitle(), QStringLiteral("Caption"));
+        EXPECT_EQ(driver.dialog().acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_TRUE(GetParam() || driver.dialog().fileMode() == QFileDialog::ExistingFile);
+        EXPECT_EQ(driver.dialog().directory().path(), path(""));
+        EXPECT_EQ(driver.name(), QStringLiteral("a.dat"));
+        EXPECT_FALSE(driver.button(QDialogButtonBox::Help));
+        driver.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+        driver.typeName(QStringLiteral("b.dat"));
+        driver.click(QDialogButtonBox::Open);
     }));
     EXPECT_THAT(files, ElementsAre(reported("b.dat")));
     EXPECT_EQ(filterIndex, 0);
@@ -40,10 +40,10 @@ TEST_P(LaunchFileDialogUser, opensTheTypedFile)
 TEST_P(LaunchFileDialogUser, reportsTheChosenFilterWhateverWildcardWasTyped)
 {
     filters = {"Data (*.dat)", "Data (*.csv)"};
-    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("*.dat"));
-        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
-        page.enterName(QStringLiteral("b.dat"));
+    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("*.dat"));
+        driver.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+        driver.enterName(QStringLiteral("b.dat"));
     }));
     EXPECT_THAT(files, ElementsAre(reported("b.dat")));
     EXPECT_EQ(filterIndex, 1);
@@ -52,10 +52,10 @@ TEST_P(LaunchFileDialogUser, reportsTheChosenFilterWhateverWildcardWasTyped)
 TEST_P(LaunchFileDialogUser, startsWithTheFilterWhateverBlanksItsTextHas)
 {
     filters = {"Text (*.txt)", "Table  (*.dat )"};
-    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogPage& page) {
-        EXPECT_EQ(page.typeCombo().currentIndex(), 1);
-        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
-        page.enterName(QStringLiteral("b.dat"));
+    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.typeCombo().currentIndex(), 1);
+        driver.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+        driver.enterName(QStringLiteral("b.dat"));
     }));
     EXPECT_EQ(filterIndex, 1);
 }
@@ -63,19 +63,19 @@ TEST_P(LaunchFileDialogUser, startsWithTheFilterWhateverBlanksItsTextHas)
 TEST_P(LaunchFileDialogUser, startsSavingWithTheNamesOfSeveralFilesAsTheyAre)
 {
     filters = {"Text (*.txt)", "Data (*.dat)"};
-    launch({text("a.dat"), text("b.dat")}, true, true, 0, [](FileDialogPage& page) {
-        EXPECT_EQ(page.name().count(QLatin1Char('"')), 4) << page.name().toStdString();
-        EXPECT_EQ(page.name().count(QStringLiteral(".dat\"")), 2) << page.name().toStdString();
+    launch({text("a.dat"), text("b.dat")}, true, true, 0, [](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.name().count(QLatin1Char('"')), 4) << driver.name().toStdString();
+        EXPECT_EQ(driver.name().count(QStringLiteral(".dat\"")), 2) << driver.name().toStdString();
     });
 }
 
 TEST_P(LaunchFileDialogUser, opensTheClickedFileOfThePickedType)
 {
-    EXPECT_TRUE(launch({text("a.dat")}, false, false, 0, [](FileDialogPage& page) {
-        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
-        page.pickTypeWithMouse(1);
-        page.waitForListed({QStringLiteral("c.txt"), QStringLiteral("inner")});
-        page.doubleClickFile(QStringLiteral("c.txt"));
+    EXPECT_TRUE(launch({text("a.dat")}, false, false, 0, [](FileDialogDriver& driver) {
+        driver.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+        driver.pickTypeWithMouse(1);
+        driver.waitForListed({QStringLiteral("c.txt"), QStringLiteral("inner")});
+        driver.doubleClickFile(QStringLiteral("c.txt"));
     }));
     EXPECT_THAT(files, ElementsAre(reported("c.txt")));
     EXPECT_EQ(filterIndex, 1);
@@ -84,11 +84,11 @@ TEST_P(LaunchFileDialogUser, opensTheClickedFileOfThePickedType)
 TEST_P(LaunchFileDialogUser, opensTheNameThatIsEnteredWithTheKeyboard)
 {
     for (const bool several : {false, true}) {
-        EXPECT_TRUE(launch({text("a.dat")}, false, several, 0, [](FileDialogPage& page) {
-            page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
-            page.typeName(QStringLiteral("a"));
-            page.typeName(QString());
-            page.enterName(QStringLiteral("b.dat"));
+        EXPECT_TRUE(launch({text("a.dat")}, false, several, 0, [](FileDialogDriver& driver) {
+            driver.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+            driver.typeName(QStringLiteral("a"));
+            driver.typeName(QString());
+            driver.enterName(QStringLiteral("b.dat"));
         }));
         EXPECT_THAT(files, ElementsAre(reported("b.dat"))) << several;
     }
@@ -97,15 +97,15 @@ TEST_P(LaunchFileDialogUser, opensTheNameThatIsEnteredWithTheKeyboard)
 TEST_P(LaunchFileDialogUser, refusesAMissingFileAlsoWhenSaving)
 {
     for (const bool saving : {false, true}) {
-        EXPECT_FALSE(launch({text("a.dat")}, saving, true, 0, [](FileDialogPage& page) {
+        EXPECT_FALSE(launch({text("a.dat")}, saving, true, 0, [](FileDialogDriver& driver) {
             ModalScript inner;
             inner.on<QMessageBox>([](QMessageBox& box) {
                 EXPECT_TRUE(box.text().contains(QStringLiteral("missing.dat"))) << box.text().toStdString();
                 QTest::keyClick(&box, Qt::Key_Escape);
             });
-            page.enterName(QStringLiteral("missing.dat"));
+            driver.enterName(QStringLiteral("missing.dat"));
             EXPECT_TRUE(inner.finished()) << "no message was shown";
-            EXPECT_TRUE(page.isOpen());
+            EXPECT_TRUE(driver.isOpen());
         }));
         EXPECT_THAT(files, ElementsAre("old", "older", "oldest"));
     }
@@ -113,9 +113,9 @@ TEST_P(LaunchFileDialogUser, refusesAMissingFileAlsoWhenSaving)
 
 TEST_P(LaunchFileDialogUser, startsWithTheFilterAtTheIndex)
 {
-    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogPage& page) {
-        EXPECT_EQ(page.typeCombo().currentIndex(), 1);
-        page.enterName(QStringLiteral("c.txt"));
+    EXPECT_TRUE(launch({text("a.dat")}, false, false, 1, [](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.typeCombo().currentIndex(), 1);
+        driver.enterName(QStringLiteral("c.txt"));
     }));
     EXPECT_THAT(files, ElementsAre(reported("c.txt")));
     EXPECT_EQ(filterIndex, 1);
@@ -123,11 +123,11 @@ TEST_P(LaunchFileDialogUser, startsWithTheFilterAtTheIndex)
 
 TEST_P(LaunchFileDialogUser, opensSeveralFiles)
 {
-    EXPECT_TRUE(launch({text("a.dat")}, false, true, 2, [this](FileDialogPage& page) {
-        EXPECT_TRUE(m_widgets || page.dialog().fileMode() == QFileDialog::ExistingFiles);
-        page.clickFile(QStringLiteral("a.dat"));
-        page.clickFile(QStringLiteral("c.txt"), Qt::ControlModifier);
-        page.click(QDialogButtonBox::Open);
+    EXPECT_TRUE(launch({text("a.dat")}, false, true, 2, [this](FileDialogDriver& driver) {
+        EXPECT_TRUE(m_widgets || driver.dialog().fileMode() == QFileDialog::ExistingFiles);
+        driver.clickFile(QStringLiteral("a.dat"));
+        driver.clickFile(QStringLiteral("c.txt"), Qt::ControlModifier);
+        driver.click(QDialogButtonBox::Open);
     }));
     EXPECT_THAT(files, UnorderedElementsAre(reported("a.dat"), reported("c.txt")));
     EXPECT_EQ(filterIndex, 2);
@@ -135,10 +135,10 @@ TEST_P(LaunchFileDialogUser, opensSeveralFiles)
 
 TEST_P(LaunchFileDialogUser, acceptsTheInitialSelectionOfSeveralAsItStands)
 {
-    EXPECT_TRUE(launch({"a.dat", "b.dat"}, false, true, 2, [this](FileDialogPage& page) {
-        EXPECT_EQ(page.name(), QStringLiteral("\"a.dat\" \"b.dat\" "));
-        page.dialog().setDirectory(path(""));
-        page.enterName(QStringLiteral("\"a.dat\" \"b.dat\" "));
+    EXPECT_TRUE(launch({"a.dat", "b.dat"}, false, true, 2, [this](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.name(), QStringLiteral("\"a.dat\" \"b.dat\" "));
+        driver.dialog().setDirectory(path(""));
+        driver.enterName(QStringLiteral("\"a.dat\" \"b.dat\" "));
     }));
     EXPECT_THAT(files, UnorderedElementsAre(reported("a.dat"), reported("b.dat")));
 }
@@ -146,9 +146,9 @@ TEST_P(LaunchFileDialogUser, acceptsTheInitialSelectionOfSeveralAsItStands)
 TEST_P(LaunchFileDialogUser, startsElsewhereWhenTheFolderHasGone)
 {
     for (const bool several : {false, true}) {
-        EXPECT_TRUE(launch({text("gone/a.dat")}, false, several, 0, [this](FileDialogPage& page) {
-            EXPECT_TRUE(page.dialog().directory().exists());
-            page.enterName(path("b.dat"));
+        EXPECT_TRUE(launch({text("gone/a.dat")}, false, several, 0, [this](FileDialogDriver& driver) {
+            EXPECT_TRUE(driver.dialog().directory().exists());
+            driver.enterName(path("b.dat"));
         }));
         EXPECT_THAT(files, ElementsAre(reported("b.dat")));
     }
@@ -156,24 +156,24 @@ TEST_P(LaunchFileDialogUser, startsElsewhereWhenTheFolderHasGone)
 
 TEST_P(LaunchFileDialogUser, startsWithFilesOfWhichOneHasGone)
 {
-    EXPECT_TRUE(launch({text("gone.dat"), text("a.dat")}, false, true, 0, [this](FileDialogPage& page) {
-        EXPECT_EQ(page.dialog().directory().path(), path(""));
-        page.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
-        page.clickFile(QStringLiteral("b.dat"));
-        EXPECT_EQ(page.name(), QStringLiteral("b.dat"));
-        page.click(QDialogButtonBox::Open);
+    EXPECT_TRUE(launch({text("gone.dat"), text("a.dat")}, false, true, 0, [this](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.dialog().directory().path(), path(""));
+        driver.waitForListed({QStringLiteral("a.dat"), QStringLiteral("b.dat"), QStringLiteral("inner")});
+        driver.clickFile(QStringLiteral("b.dat"));
+        EXPECT_EQ(driver.name(), QStringLiteral("b.dat"));
+        driver.click(QDialogButtonBox::Open);
     }));
     EXPECT_THAT(files, ElementsAre(reported("b.dat")));
 }
 
 TEST_P(LaunchFileDialogUser, savesANewName)
 {
-    EXPECT_TRUE(launch({text("inner/new.dat")}, true, false, 0, [this](FileDialogPage& page) {
-        EXPECT_EQ(page.dialog().acceptMode(), QFileDialog::AcceptSave);
-        EXPECT_EQ(page.dialog().fileMode(), QFileDialog::AnyFile);
-        EXPECT_EQ(page.dialog().directory().path(), path("inner"));
-        EXPECT_EQ(page.name(), QStringLiteral("new.dat"));
-        page.click(QDialogButtonBox::Save);
+    EXPECT_TRUE(launch({text("inner/new.dat")}, true, false, 0, [this](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.dialog().acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(driver.dialog().fileMode(), QFileDialog::AnyFile);
+        EXPECT_EQ(driver.dialog().directory().path(), path("inner"));
+        EXPECT_EQ(driver.name(), QStringLiteral("new.dat"));
+        driver.click(QDialogButtonBox::Save);
     }));
     EXPECT_THAT(files, ElementsAre(reported("inner/new.dat")));
     EXPECT_EQ(filterIndex, 0);
@@ -183,25 +183,25 @@ TEST_P(LaunchFileDialogUser, savesANewName)
 TEST_P(LaunchFileDialogUser, savesANameBeyondAscii)
 {
     const std::string name = "Messung \xC3\xBC\xE2\x82\xAC\xF0\x9F\x93\x81.dat";
-    EXPECT_TRUE(launch(
-        {text("a.dat")}, true, false, 0, [&](FileDialogPage& page) { page.enterName(QString::fromStdString(name)); }));
+    EXPECT_TRUE(launch({text("a.dat")}, true, false, 0,
+        [&](FileDialogDriver& driver) { driver.enterName(QString::fromStdString(name)); }));
     EXPECT_THAT(files, ElementsAre(reported(name.c_str())));
 }
 
 TEST_P(LaunchFileDialogUser, letsSeveralExistingFilesWinOverSaving)
 {
-    EXPECT_FALSE(launch({text("a.dat")}, true, true, 0, [](FileDialogPage& page) {
-        EXPECT_EQ(page.dialog().acceptMode(), QFileDialog::AcceptSave);
-        EXPECT_TRUE(GetParam() || page.dialog().fileMode() == QFileDialog::ExistingFiles);
+    EXPECT_FALSE(launch({text("a.dat")}, true, true, 0, [](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.dialog().acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_TRUE(GetParam() || driver.dialog().fileMode() == QFileDialog::ExistingFiles);
     }));
 }
 
 TEST_P(LaunchFileDialogUser, leavesTheOutputsAloneWhenCancelled)
 {
-    EXPECT_FALSE(launch({text("a.dat")}, false, true, 1, [](FileDialogPage& page) {
-        page.pickTypeWithKeys(2);
-        page.typeName(QStringLiteral("b.dat"));
-        QTest::keyClick(&page.dialog(), Qt::Key_Escape);
+    EXPECT_FALSE(launch({text("a.dat")}, false, true, 1, [](FileDialogDriver& driver) {
+        driver.pickTypeWithKeys(2);
+        driver.typeName(QStringLiteral("b.dat"));
+        QTest::keyClick(&driver.dialog(), Qt::Key_Escape);
     }));
     EXPECT_THAT(files, ElementsAre("old", "older", "oldest"));
     EXPECT_EQ(filterIndex, -77);
@@ -210,10 +210,10 @@ TEST_P(LaunchFileDialogUser, leavesTheOutputsAloneWhenCancelled)
 TEST_P(LaunchFileDialogUser, offersTheFiltersInTheirOrder)
 {
     for (const int index : {-1, 0, 3}) {
-        launch({}, false, false, index, [index](FileDialogPage& page) {
-            EXPECT_EQ(page.types().size(), 3);
-            EXPECT_TRUE(page.types().at(2).startsWith(QStringLiteral("All")));
-            EXPECT_EQ(page.typeCombo().currentIndex(), 0) << index;
+        launch({}, false, false, index, [index](FileDialogDriver& driver) {
+            EXPECT_EQ(driver.types().size(), 3);
+            EXPECT_TRUE(driver.types().at(2).startsWith(QStringLiteral("All")));
+            EXPECT_EQ(driver.typeCombo().currentIndex(), 0) << index;
         });
     }
 }
@@ -224,16 +224,16 @@ TEST_P(LaunchFileDialogUser, belongsToTheActiveWindow)
     window.show();
     QApplication::setActiveWindow(&window);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    launch({}, false, false, 0, [&](FileDialogPage& page) {
-        EXPECT_EQ(page.dialog().parentWidget(), &window);
-        EXPECT_TRUE(page.dialog().isModal());
+    launch({}, false, false, 0, [&](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.dialog().parentWidget(), &window);
+        EXPECT_TRUE(driver.dialog().isModal());
     });
 }
 
 TEST_P(LaunchFileDialogUser, belongsToNobodyWithoutActiveWindow)
 {
     ASSERT_EQ(QApplication::activeWindow(), nullptr);
-    launch({}, false, false, 0, [](FileDialogPage& page) { EXPECT_EQ(page.dialog().parentWidget(), nullptr); });
+    launch({}, false, false, 0, [](FileDialogDriver& driver) { EXPECT_EQ(driver.dialog().parentWidget(), nullptr); });
 }
 
 TEST_P(LaunchFileDialogUser, showsNoDialogWithoutFilters)
@@ -247,13 +247,13 @@ TEST_P(LaunchFileDialogUser, showsNoDialogWithoutFilters)
 TEST_P(LaunchFileDialogUser, asksBeforeOverwriting)
 {
     bool asked = false;
-    EXPECT_TRUE(launch({text("a.dat")}, true, false, 0, [&](FileDialogPage& page) {
+    EXPECT_TRUE(launch({text("a.dat")}, true, false, 0, [&](FileDialogDriver& driver) {
         ModalScript inner;
         inner.on<QMessageBox>([&](QMessageBox& box) {
             asked = true;
             QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
         });
-        page.click(QDialogButtonBox::Save);
+        driver.click(QDialogButtonBox::Save);
     }));
     EXPECT_TRUE(asked);
     EXPECT_THAT(files, ElementsAre(reported("a.dat")));

@@ -151,7 +151,7 @@ TEST_F(QExtendedFileDialogConstruction, startsAtAFileGivenAsTheDirectory)
     QExtendedFileDialog dialog(
         *m_parent, "", path(QStringLiteral("run.dat")).toStdString(), "", "", QFileDialog::AcceptOpen);
 
-    EXPECT_EQ(run(dialog, [](FileDialogPage& page) { page.pressEnter(); }), QDialog::Accepted);
+    EXPECT_EQ(run(dialog, [](FileDialogDriver& driver) { driver.pressEnter(); }), QDialog::Accepted);
     EXPECT_EQ(dialog.selectedFiles(), QStringList(path(QStringLiteral("run.dat"))));
 }
 

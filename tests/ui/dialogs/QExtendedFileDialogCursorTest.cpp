@@ -41,7 +41,7 @@ TEST_F(QExtendedFileDialogCursor, arrowStandsFromTheStartOfExecToItsEnd)
         (kind == RecordingSettings::Kind::read ? atRead : atWrite).push_back(overrideCursors());
     };
 
-    run(*dialog, [](FileDialogPage&) { EXPECT_TRUE(waitUntil([] { return overrideCursors().size() == 1; })); });
+    run(*dialog, [](FileDialogDriver&) { EXPECT_TRUE(waitUntil([] { return overrideCursors().size() == 1; })); });
 
     for (const Cursors& cursors : atRead) {
         EXPECT_EQ(cursors, Cursors());
@@ -55,7 +55,7 @@ TEST_F(QExtendedFileDialogCursor, arrowCoversTheCallersCursorAndGivesItBack)
     QApplication::setOverrideCursor(Qt::BusyCursor);
     const Dialog dialog = openDialog();
 
-    run(*dialog, [](FileDialogPage&) {
+    run(*dialog, [](FileDialogDriver&) {
         const Cursors expected = {Qt::BusyCursor, Qt::ArrowCursor};
         EXPECT_TRUE(waitUntil([&] { return overrideCursors() == expected; }));
     });
@@ -167,18 +167,18 @@ TEST_F(QExtendedFileDialogCursor, enteringAndLeavingFoldersWaitsUntilTheyAreRead
     makeFile(QStringLiteral("inner/a.dat"));
     const Dialog dialog = openDialog();
 
-    run(*dialog, [&](FileDialogPage& page) {
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("inner")}));
+    run(*dialog, [&](FileDialogDriver& driver) {
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("inner")}));
         const auto onlyArrow = [] { return overrideCursors() == Cursors({Qt::ArrowCursor}); };
         for (int round = 0; round < 3; ++round) {
             EXPECT_TRUE(waitUntil(onlyArrow));
-            page.dialog().setDirectory(path(QStringLiteral("inner")));
+            driver.dialog().setDirectory(path(QStringLiteral("inner")));
             EXPECT_EQ(overrideCursors(), Cursors({Qt::ArrowCursor, Qt::WaitCursor}));
-            EXPECT_TRUE(page.waitForListed({QStringLiteral("a.dat")}));
+            EXPECT_TRUE(driver.waitForListed({QStringLiteral("a.dat")}));
             EXPECT_TRUE(waitUntil(onlyArrow));
-            page.dialog().setDirectory(folder());
+            driver.dialog().setDirectory(folder());
             EXPECT_EQ(overrideCursors(), Cursors({Qt::ArrowCursor, Qt::WaitCursor}));
-            EXPECT_TRUE(page.waitForListed({QStringLiteral("inner")}));
+            EXPECT_TRUE(driver.waitForListed({QStringLiteral("inner")}));
         }
         EXPECT_TRUE(waitUntil(onlyArrow));
     });
@@ -192,8 +192,8 @@ TEST_F(QExtendedFileDialogCursor, directorySetBeforeTheRunLeavesAnArrowOnceItIsR
     dialog->setDirectory(path(QStringLiteral("inner")));
     EXPECT_EQ(overrideCursors(), Cursors({Qt::WaitCursor}));
 
-    run(*dialog, [&](FileDialogPage& page) {
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("a.dat")}));
+    run(*dialog, [&](FileDialogDriver& driver) {
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("a.dat")}));
         EXPECT_TRUE(waitUntil([] { return overrideCursors() == Cursors({Qt::ArrowCursor}); }));
     });
 
@@ -205,12 +205,12 @@ TEST_F(QExtendedFileDialogCursor, waitStandsAboveTheArrowFromTheBeginningWhileTh
     const Dialog dialog = openDialog();
     AtShow atShow(*dialog); // no event has told yet that the folder is read
 
-    run(*dialog, [](FileDialogPage&) {
+    run(*dialog, [](FileDialogDriver&) {
         EXPECT_TRUE(waitUntil([] { return overrideCursors() == Cursors({Qt::ArrowCursor}); }));
     });
     EXPECT_EQ(atShow.cursors, Cursors({Qt::ArrowCursor, Qt::WaitCursor}));
 
-    run(*dialog, [](FileDialogPage&) {});
+    run(*dialog, [](FileDialogDriver&) {});
     EXPECT_EQ(atShow.cursors, Cursors({Qt::ArrowCursor})) << "read already";
 }
 
@@ -221,15 +221,15 @@ TEST_F(QExtendedFileDialogCursor, typedFolderThatIsReadAlreadyStartsNoWait)
     const Dialog dialog = openDialog();
     QSignalSpy loaded(&fileSystemModel(*dialog), &QFileSystemModel::directoryLoaded);
 
-    run(*dialog, [&](FileDialogPage& page) {
+    run(*dialog, [&](FileDialogDriver& driver) {
         for (int round = 0; round < 2; ++round) {
-            EXPECT_TRUE(page.waitForListed({QStringLiteral("sub")}));
-            page.typeName(QStringLiteral("sub/"));
+            EXPECT_TRUE(driver.waitForListed({QStringLiteral("sub")}));
+            driver.typeName(QStringLiteral("sub/"));
             EXPECT_TRUE(waitUntil([&] { return loaded.contains({path(QStringLiteral("sub"))}); })) << "for completion";
-            page.pressEnter();
-            EXPECT_TRUE(page.waitForListed({QStringLiteral("a.dat")}));
+            driver.pressEnter();
+            EXPECT_TRUE(driver.waitForListed({QStringLiteral("a.dat")}));
             EXPECT_TRUE(waitUntil([] { return overrideCursors() == Cursors({Qt::ArrowCursor}); })) << round;
-            page.dialog().setDirectory(folder());
+            driver.dialog().setDirectory(folder());
             EXPECT_TRUE(waitUntil([] { return overrideCursors() == Cursors({Qt::ArrowCursor}); })) << round;
         }
     });
@@ -242,11 +242,11 @@ TEST_F(QExtendedFileDialogCursor, endOfTheRunEndsTheWaitToo)
     QApplication::setOverrideCursor(Qt::BusyCursor);
     const Dialog dialog = openDialog();
 
-    run(*dialog, [&](FileDialogPage& page) {
+    run(*dialog, [&](FileDialogDriver& driver) {
         EXPECT_TRUE(waitUntil([] { return overrideCursors().size() == 2; }));
         Q_EMIT fileSystemModel(*dialog).rootPathChanged(folder());
         EXPECT_EQ(overrideCursors(), Cursors({Qt::BusyCursor, Qt::ArrowCursor, Qt::WaitCursor}));
-        page.dialog().reject();
+        driver.dialog().reject();
     });
     EXPECT_EQ(overrideCursors(), Cursors({Qt::BusyCursor}));
 
@@ -263,7 +263,7 @@ TEST_F(QExtendedFileDialogCursor, cursorsOfTheHostStayWhateverIsTakenOffBelowThe
     QApplication::setOverrideCursor(Qt::BusyCursor);
     EXPECT_EQ(overrideCursors(), Cursors({Qt::WaitCursor, Qt::BusyCursor}));
 
-    run(*dialog, [&](FileDialogPage&) {
+    run(*dialog, [&](FileDialogDriver&) {
         const Cursors afterwards = {Qt::BusyCursor, Qt::ArrowCursor};
         EXPECT_TRUE(waitUntil([&] { return overrideCursors() == afterwards; }));
         QApplication::setOverrideCursor(Qt::ForbiddenCursor);
@@ -280,7 +280,7 @@ TEST_F(QExtendedFileDialogCursor, runAfterRunLeavesNothing)
     const Dialog dialog = openDialog();
     for (int round = 0; round < 3; ++round) {
         dialog->setDirectory(round % 2 == 0 ? path(QStringLiteral("inner")) : folder());
-        run(*dialog, [](FileDialogPage&) {}); // ends before or after the folder is read
+        run(*dialog, [](FileDialogDriver&) {}); // ends before or after the folder is read
         EXPECT_EQ(overrideCursors(), Cursors()) << round;
     }
 }

@@ -23,7 +23,7 @@ protected:
     static QRect geometryWhileOpen(QExtendedFileDialog& dialog)
     {
         QRect rectangle;
-        run(dialog, [&](FileDialogPage& page) { rectangle = page.dialog().geometry(); });
+        run(dialog, [&](FileDialogDriver& driver) { rectangle = driver.dialog().geometry(); });
         return rectangle;
     }
 
@@ -40,7 +40,7 @@ protected:
 TEST_F(QExtendedFileDialogGeometry, execUsesTheDefaultKey)
 {
     const Dialog dialog = openDialog();
-    run(*dialog, [](FileDialogPage&) {});
+    run(*dialog, [](FileDialogDriver&) {});
 
     EXPECT_EQ(m_settings.written(), Keys({defaultKey}));
     for (const std::string& key : m_settings.keys(RecordingSettings::Kind::read)) {
@@ -61,7 +61,7 @@ TEST_F(QExtendedFileDialogGeometry, shortFormTakesAKeyToo)
 {
     QExtendedFileDialog dialog(*m_parent, QFileDialog::AcceptOpen);
     dialog.setGeometryPersistenceKey("Import");
-    run(dialog, [](FileDialogPage&) {});
+    run(dialog, [](FileDialogDriver&) {});
 
     EXPECT_EQ(m_settings.written(), Keys({"Import"}));
 }
@@ -84,9 +84,9 @@ TEST_F(QExtendedFileDialogGeometry, anyKeyIsUsedAsItStands)
 TEST_F(QExtendedFileDialogGeometry, keyCanChangeBetweenRuns)
 {
     const Dialog dialog = openDialog();
-    run(*dialog, [](FileDialogPage&) {});
+    run(*dialog, [](FileDialogDriver&) {});
     dialog->setGeometryPersistenceKey("second");
-    run(*dialog, [](FileDialogPage&) {});
+    run(*dialog, [](FileDialogDriver&) {});
 
     EXPECT_EQ(m_settings.written(), Keys({defaultKey, "second"}));
 }
@@ -104,7 +104,7 @@ TEST_F(QExtendedFileDialogGeometry, execReadsFirstAndWritesWhenItIsOver)
         }
     };
 
-    run(*dialog, [&](FileDialogPage&) { EXPECT_TRUE(m_settings.written().empty()); });
+    run(*dialog, [&](FileDialogDriver&) { EXPECT_TRUE(m_settings.written().empty()); });
 
     ASSERT_FALSE(visibleAtRead.empty());
     for (const bool visible : visibleAtRead) {
@@ -119,16 +119,18 @@ TEST_F(QExtendedFileDialogGeometry, geometryIsKeptHoweverTheDialogEnds)
     makeFile(QStringLiteral("a.dat"));
     const Dialog dialog = openDialog();
 
-    EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.click(QDialogButtonBox::Cancel); }), QDialog::Rejected);
+    EXPECT_EQ(
+        run(*dialog, [](FileDialogDriver& driver) { driver.click(QDialogButtonBox::Cancel); }), QDialog::Rejected);
     EXPECT_EQ(m_settings.written().size(), 1U);
-    EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("a.dat")); }), QDialog::Accepted);
+    EXPECT_EQ(
+        run(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("a.dat")); }), QDialog::Accepted);
     EXPECT_EQ(m_settings.written().size(), 2U);
 }
 
 TEST_F(QExtendedFileDialogGeometry, storedBytesAreTheWidgetsGeometry)
 {
     const Dialog dialog = openDialog();
-    run(*dialog, [](FileDialogPage& page) { page.dialog().setGeometry(30, 40, 700, 520); });
+    run(*dialog, [](FileDialogDriver& driver) { driver.dialog().setGeometry(30, 40, 700, 520); });
 
     const QByteArray stored = m_settings.values[defaultKey];
     EXPECT_EQ(stored, dialog->saveGeometry());
@@ -140,7 +142,7 @@ TEST_F(QExtendedFileDialogGeometry, storedBytesAreTheWidgetsGeometry)
 TEST_F(QExtendedFileDialogGeometry, nextDialogOpensWhereTheLastOneStood)
 {
     const Dialog first = openDialog();
-    run(*first, [](FileDialogPage& page) { page.dialog().setGeometry(30, 40, 700, 520); });
+    run(*first, [](FileDialogDriver& driver) { driver.dialog().setGeometry(30, 40, 700, 520); });
 
     const Dialog second = openDialog();
     EXPECT_EQ(geometryWhileOpen(*second), QRect(30, 40, 700, 520));
@@ -151,7 +153,7 @@ TEST_F(QExtendedFileDialogGeometry, survivesInARealSettingsFile)
     morvane::ApplicationSettings settings(path(QStringLiteral("settings.ini")));
     const morvane::InstanceOverride<morvane::ApplicationSettings> guard(settings);
     QExtendedFileDialog first(*m_parent, QFileDialog::AcceptOpen);
-    run(first, [](FileDialogPage& page) { page.dialog().setGeometry(30, 40, 700, 520); });
+    run(first, [](FileDialogDriver& driver) { driver.dialog().setGeometry(30, 40, 700, 520); });
 
     morvane::ApplicationSettings again(path(QStringLiteral("settings.ini")));
     const morvane::InstanceOverride<morvane::ApplicationSettings> guardAgain(again);

@@ -19,8 +19,8 @@ TEST_F(QExtendedFileDialogHelp, thereIsNoButtonWithoutATopic)
     const QExtendedFileDialog shortForm(*m_parent, QFileDialog::AcceptOpen);
     QExtendedFileDialog shortSave(*m_parent, QFileDialog::AcceptSave);
 
-    EXPECT_FALSE(FileDialogPage(*longForm).button(QDialogButtonBox::Help));
-    EXPECT_FALSE(FileDialogPage(shortSave).button(QDialogButtonBox::Help));
+    EXPECT_FALSE(FileDialogDriver(*longForm).button(QDialogButtonBox::Help));
+    EXPECT_FALSE(FileDialogDriver(shortSave).button(QDialogButtonBox::Help));
     EXPECT_FALSE(shortForm.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help));
 }
 
@@ -29,10 +29,10 @@ TEST_F(QExtendedFileDialogHelp, clickShowsTheTopicAndKeepsTheDialogOpen)
     const std::string topic = "dialoge/\u00f6ffnen \U0001F600?a=\"b\"";
     const Dialog dialog = openDialog("", topic);
 
-    run(*dialog, [&](FileDialogPage& page) {
+    run(*dialog, [&](FileDialogDriver& driver) {
         EXPECT_TRUE(m_help.topics.empty());
-        page.click(QDialogButtonBox::Help);
-        EXPECT_TRUE(page.isOpen());
+        driver.click(QDialogButtonBox::Help);
+        EXPECT_TRUE(driver.isOpen());
     });
 
     EXPECT_EQ(m_help.topics, std::vector<std::string>({topic}));
@@ -43,7 +43,7 @@ TEST_F(QExtendedFileDialogHelp, bytesOfTheTopicAreHandedOnUntouched)
     const std::string topic("a\0b\xFF\n", 5);
     const Dialog dialog = openDialog("", topic);
 
-    run(*dialog, [&](FileDialogPage& page) { page.click(QDialogButtonBox::Help); });
+    run(*dialog, [&](FileDialogDriver& driver) { driver.click(QDialogButtonBox::Help); });
 
     EXPECT_EQ(m_help.topics, std::vector<std::string>({topic}));
 }
@@ -53,9 +53,9 @@ TEST_F(QExtendedFileDialogHelp, everyPressShowsItOnce)
     QExtendedFileDialog dialog(*m_parent, "", "", "", "save", QFileDialog::AcceptSave);
 
     for (int runs = 0; runs < 2; ++runs) {
-        run(dialog, [](FileDialogPage& page) {
-            page.click(QDialogButtonBox::Help);
-            QTest::keyClick(page.button(QDialogButtonBox::Help), Qt::Key_Space);
+        run(dialog, [](FileDialogDriver& driver) {
+            driver.click(QDialogButtonBox::Help);
+            QTest::keyClick(driver.button(QDialogButtonBox::Help), Qt::Key_Space);
         });
     }
 

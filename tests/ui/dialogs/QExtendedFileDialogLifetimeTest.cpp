@@ -38,7 +38,7 @@ TEST_F(QExtendedFileDialogLifetime, parentDestroyedWhileItRuns)
 {
     const QPointer<QExtendedFileDialog> dialog = openDialog().release();
 
-    const int result = run(*dialog, [&](FileDialogPage&) { m_parent.reset(); });
+    const int result = run(*dialog, [&](FileDialogDriver&) { m_parent.reset(); });
 
     EXPECT_EQ(result, QDialog::Rejected);
     EXPECT_FALSE(dialog);
@@ -51,8 +51,8 @@ TEST_F(QExtendedFileDialogLifetime, parentDestroyedInTheMiddleOfALoad)
     makeFolder(QStringLiteral("inner"));
     const QPointer<QExtendedFileDialog> dialog = openDialog().release();
 
-    const int result = run(*dialog, [&](FileDialogPage& page) {
-        page.dialog().setDirectory(path(QStringLiteral("inner")));
+    const int result = run(*dialog, [&](FileDialogDriver& driver) {
+        driver.dialog().setDirectory(path(QStringLiteral("inner")));
         EXPECT_EQ(overrideCursors().back(), Qt::WaitCursor);
         m_parent.reset();
         EXPECT_EQ(overrideCursors(), Cursors({Qt::ArrowCursor}));
@@ -67,7 +67,7 @@ TEST_F(QExtendedFileDialogLifetime, dialogDestroyedWhileItRuns)
 {
     QExtendedFileDialog* const dialog = openDialog().release();
 
-    EXPECT_EQ(run(*dialog, [&](FileDialogPage&) { delete dialog; }), QDialog::Rejected);
+    EXPECT_EQ(run(*dialog, [&](FileDialogDriver&) { delete dialog; }), QDialog::Rejected);
 
     EXPECT_TRUE(m_settings.written().empty());
     EXPECT_EQ(overrideCursors(), Cursors());
@@ -79,7 +79,8 @@ TEST_F(QExtendedFileDialogLifetime, dialogThatDeletesItselfOnCloseStillTellsItsR
     const QPointer<QExtendedFileDialog> dialog = openDialog().release();
     dialog->setAttribute(Qt::WA_DeleteOnClose);
 
-    EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("a.dat")); }), QDialog::Accepted);
+    EXPECT_EQ(
+        run(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("a.dat")); }), QDialog::Accepted);
 
     EXPECT_FALSE(dialog);
     EXPECT_EQ(overrideCursors(), Cursors());
@@ -113,17 +114,17 @@ TEST_F(QExtendedFileDialogLifetime, manyFilesAreListedFilteredAndPicked)
     makeManyFiles();
     const Dialog dialog = openDialog("Text (*.txt);;All (*)");
 
-    const int result = run(*dialog, [&](FileDialogPage& page) {
-        page.dialog().setDirectory(path(QStringLiteral("many")));
+    const int result = run(*dialog, [&](FileDialogDriver& driver) {
+        driver.dialog().setDirectory(path(QStringLiteral("many")));
         EXPECT_EQ(overrideCursors().back(), Qt::WaitCursor);
-        EXPECT_TRUE(waitUntil([&] { return page.listed().size() == manyFiles - 1; }));
+        EXPECT_TRUE(waitUntil([&] { return driver.listed().size() == manyFiles - 1; }));
         EXPECT_TRUE(waitUntil([&] { return overrideCursors() == Cursors({Qt::ArrowCursor}); }));
-        page.enterName(QStringLiteral("*.dat"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("run00777.dat")}));
-        page.pickTypeWithKeys(1);
-        EXPECT_TRUE(waitUntil([&] { return page.listed().size() == manyFiles; }));
-        page.clickFile(QStringLiteral("run00777.dat"));
-        page.click(QDialogButtonBox::Open);
+        driver.enterName(QStringLiteral("*.dat"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("run00777.dat")}));
+        driver.pickTypeWithKeys(1);
+        EXPECT_TRUE(waitUntil([&] { return driver.listed().size() == manyFiles; }));
+        driver.clickFile(QStringLiteral("run00777.dat"));
+        driver.click(QDialogButtonBox::Open);
     });
 
     EXPECT_EQ(result, QDialog::Accepted);
@@ -134,7 +135,7 @@ TEST_F(QExtendedFileDialogLifetime, runsAgainAndAgain)
 {
     const Dialog dialog = openDialog("Text (*.txt);;All (*)");
     for (int round = 0; round < 20; ++round) {
-        EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("*.dat")); }), 0);
+        EXPECT_EQ(run(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("*.dat")); }), 0);
     }
 
     EXPECT_EQ(m_settings.written().size(), 20U);

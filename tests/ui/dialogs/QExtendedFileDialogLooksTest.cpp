@@ -23,10 +23,10 @@ protected:
         QSettings(QSettings::UserScope, QStringLiteral("QtProject")).remove(QStringLiteral("FileDialog"));
     }
 
-    static void waitForWhole(const FileDialogPage& page)
+    static void waitForWhole(const FileDialogDriver& driver)
     {
-        EXPECT_TRUE(waitUntil([&] { return page.listed().size() >= 3 && page.cutParts().isEmpty(); }))
-            << page.cutParts().join(QStringLiteral("; ")).toStdString();
+        EXPECT_TRUE(waitUntil([&] { return driver.listed().size() >= 3 && driver.cutParts().isEmpty(); }))
+            << driver.cutParts().join(QStringLiteral("; ")).toStdString();
     }
 };
 
@@ -35,7 +35,7 @@ protected:
 TEST_F(QExtendedFileDialogLooks, firstOpeningCutsNeitherPlacesNorColumns)
 {
     const Dialog dialog = openDialog("All (*)");
-    run(*dialog, [](FileDialogPage& page) { waitForWhole(page); });
+    run(*dialog, [](FileDialogDriver& driver) { waitForWhole(driver); });
 }
 
 TEST_F(QExtendedFileDialogLooks, firstOpeningInABiggerFontCutsNothingEither)
@@ -45,9 +45,9 @@ TEST_F(QExtendedFileDialogLooks, firstOpeningInABiggerFontCutsNothingEither)
     font.setPointSizeF(font.pointSizeF() * 1.3);
     dialog->setFont(font);
     dialog->setDefaultSize(QSize(900, 500));
-    run(*dialog, [](FileDialogPage& page) {
-        waitForWhole(page);
-        EXPECT_EQ(page.dialog().size(), QSize(900, 500));
+    run(*dialog, [](FileDialogDriver& driver) {
+        waitForWhole(driver);
+        EXPECT_EQ(driver.dialog().size(), QSize(900, 500));
     });
 }
 
@@ -55,10 +55,10 @@ TEST_F(QExtendedFileDialogLooks, columnsAreFittedWhenTheyAreShownLater)
 {
     const Dialog dialog = openDialog("All (*)");
     dialog->setViewMode(QFileDialog::List);
-    run(*dialog, [](FileDialogPage& page) {
-        EXPECT_TRUE(waitUntil([&] { return page.listed().size() == 4; }));
-        page.dialog().setViewMode(QFileDialog::Detail);
-        waitForWhole(page);
+    run(*dialog, [](FileDialogDriver& driver) {
+        EXPECT_TRUE(waitUntil([&] { return driver.listed().size() == 4; }));
+        driver.dialog().setViewMode(QFileDialog::Detail);
+        waitForWhole(driver);
     });
 }
 
@@ -66,18 +66,18 @@ TEST_F(QExtendedFileDialogLooks, widthsAreTheUsersOnceTheFolderIsRead)
 {
     const Dialog dialog = openDialog("All (*)");
     makeFiles({QStringLiteral("inner/c.dat"), QStringLiteral("inner/d.dat"), QStringLiteral("inner/e.dat")});
-    run(*dialog, [&](FileDialogPage& page) {
-        waitForWhole(page);
-        auto& tree = *page.dialog().findChild<QTreeView*>();
-        auto& splitter = *page.dialog().findChild<QSplitter*>();
+    run(*dialog, [&](FileDialogDriver& driver) {
+        waitForWhole(driver);
+        auto& tree = *driver.dialog().findChild<QTreeView*>();
+        auto& splitter = *driver.dialog().findChild<QSplitter*>();
         tree.setColumnWidth(0, 250);
         tree.setColumnWidth(3, 40);
         splitter.setSizes({60, 500});
         const QList<int> sizes = splitter.sizes();
-        page.dialog().setDirectory(path(QStringLiteral("inner")));
-        page.waitForListed({QStringLiteral("c.dat"), QStringLiteral("d.dat"), QStringLiteral("e.dat")});
-        page.dialog().setViewMode(QFileDialog::List);
-        page.dialog().setViewMode(QFileDialog::Detail);
+        driver.dialog().setDirectory(path(QStringLiteral("inner")));
+        driver.waitForListed({QStringLiteral("c.dat"), QStringLiteral("d.dat"), QStringLiteral("e.dat")});
+        driver.dialog().setViewMode(QFileDialog::List);
+        driver.dialog().setViewMode(QFileDialog::Detail);
         EXPECT_EQ(tree.columnWidth(0), 250);
         EXPECT_EQ(tree.columnWidth(3), 40);
         EXPECT_EQ(splitter.sizes(), sizes);
@@ -90,8 +90,8 @@ TEST_F(QExtendedFileDialogLooks, widthsOfALaterOpeningAreLeftAlone)
     const Dialog dialog = openDialog("All (*)");
     auto& tree = *dialog->findChild<QTreeView*>();
     tree.setColumnWidth(3, 40);
-    run(*dialog, [&](FileDialogPage& page) {
-        EXPECT_TRUE(waitUntil([&] { return page.listed().size() == 4; }));
+    run(*dialog, [&](FileDialogDriver& driver) {
+        EXPECT_TRUE(waitUntil([&] { return driver.listed().size() == 4; }));
         EXPECT_EQ(tree.columnWidth(3), 40);
     });
 }
@@ -107,7 +107,7 @@ TEST_F(QExtendedFileDialogLooks, typesAreNotShownWhereFoldersArePicked)
     for (const auto mode : {QFileDialog::Directory, QFileDialog::ExistingFile, QFileDialog::Directory,
              QFileDialog::ExistingFiles, QFileDialog::AnyFile}) {
         dialog->setFileMode(mode);
-        run(*dialog, [&](FileDialogPage&) { EXPECT_EQ(isShown(), mode != QFileDialog::Directory) << mode; });
+        run(*dialog, [&](FileDialogDriver&) { EXPECT_EQ(isShown(), mode != QFileDialog::Directory) << mode; });
         dialog->show();
         EXPECT_EQ(isShown(), mode != QFileDialog::Directory) << mode;
         dialog->hide();
@@ -121,6 +121,6 @@ TEST_F(QExtendedFileDialogLooks, listOfTypesThatTheHostHasHiddenStaysHidden)
     types.hide();
     for (const auto mode : {QFileDialog::ExistingFile, QFileDialog::Directory, QFileDialog::AnyFile}) {
         dialog->setFileMode(mode);
-        run(*dialog, [&](FileDialogPage&) { EXPECT_FALSE(types.isVisible()) << mode; });
+        run(*dialog, [&](FileDialogDriver&) { EXPECT_FALSE(types.isVisible()) << mode; });
     }
 }

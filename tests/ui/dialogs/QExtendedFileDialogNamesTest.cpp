@@ -29,11 +29,11 @@ class QExtendedFileDialogNames : public FileDialogTest, public testing::WithPara
 {
 };
 
-class QExtendedFileDialogTypedNames : public QExtendedFileDialogNames
+class QExtendedFileDialogNamesTyped : public QExtendedFileDialogNames
 {
 };
 
-class QExtendedFileDialogSeveralNames : public FileDialogTest
+class QExtendedFileDialogNamesSeveral : public FileDialogTest
 {
 };
 
@@ -93,7 +93,7 @@ std::string labelOf(const testing::TestParamInfo<Name>& info)
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(, QExtendedFileDialogNames, testing::ValuesIn(namesThatTheDiskTakes()), labelOf);
-INSTANTIATE_TEST_SUITE_P(, QExtendedFileDialogTypedNames, testing::ValuesIn(typableNames()), labelOf);
+INSTANTIATE_TEST_SUITE_P(, QExtendedFileDialogNamesTyped, testing::ValuesIn(typableNames()), labelOf);
 
 TEST_P(QExtendedFileDialogNames, isPickedWithTheMouse)
 {
@@ -101,9 +101,9 @@ TEST_P(QExtendedFileDialogNames, isPickedWithTheMouse)
     makeFiles({name, QStringLiteral("zz.other")});
     const Dialog dialog = openDialog();
 
-    const int result = run(*dialog, [&](FileDialogPage& page) {
-        page.clickFile(name);
-        page.click(QDialogButtonBox::Open);
+    const int result = run(*dialog, [&](FileDialogDriver& driver) {
+        driver.clickFile(name);
+        driver.click(QDialogButtonBox::Open);
     });
 
     EXPECT_EQ(result, QDialog::Accepted);
@@ -117,38 +117,38 @@ TEST_P(QExtendedFileDialogNames, isPickedWithADoubleClick)
     makeFiles({name, QStringLiteral("zz.other")});
     const Dialog dialog = openDialog();
 
-    const int result = run(*dialog, [&](FileDialogPage& page) { page.doubleClickFile(name); });
+    const int result = run(*dialog, [&](FileDialogDriver& driver) { driver.doubleClickFile(name); });
 
     EXPECT_EQ(result, QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(name)));
 }
 
-TEST_P(QExtendedFileDialogTypedNames, opens)
+TEST_P(QExtendedFileDialogNamesTyped, opens)
 {
     const QString name = GetParam().text();
     makeFiles({name, QStringLiteral("zz.other")});
     const Dialog dialog = openDialog();
 
-    const int result = run(*dialog, [&](FileDialogPage& page) {
-        page.typeName(name);
-        EXPECT_EQ(page.name(), name);
-        page.pressEnter();
+    const int result = run(*dialog, [&](FileDialogDriver& driver) {
+        driver.typeName(name);
+        EXPECT_EQ(driver.name(), name);
+        driver.pressEnter();
     });
 
     EXPECT_EQ(result, QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(name)));
 }
 
-TEST_P(QExtendedFileDialogTypedNames, saves)
+TEST_P(QExtendedFileDialogNamesTyped, saves)
 {
     const QString name = GetParam().text();
     const Dialog dialog = saveDialog();
 
-    EXPECT_EQ(run(*dialog, [&](FileDialogPage& page) { page.enterName(name); }), QDialog::Accepted);
+    EXPECT_EQ(run(*dialog, [&](FileDialogDriver& driver) { driver.enterName(name); }), QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(name)));
 }
 
-TEST_F(QExtendedFileDialogSeveralNames, oddNamesArePickedTogether)
+TEST_F(QExtendedFileDialogNamesSeveral, oddNamesArePickedTogether)
 {
     const QStringList all = namesForDisk(
         {QStringLiteral("first\nsecond.dat"), QStringLiteral("say \"run\".dat"), QStringLiteral("it's.dat"),
@@ -157,11 +157,11 @@ TEST_F(QExtendedFileDialogSeveralNames, oddNamesArePickedTogether)
     const Dialog dialog = openDialog();
     dialog->setFileMode(QFileDialog::ExistingFiles);
 
-    const int result = run(*dialog, [&](FileDialogPage& page) {
+    const int result = run(*dialog, [&](FileDialogDriver& driver) {
         for (const QString& name : all) {
-            page.clickFile(name, Qt::ControlModifier);
+            driver.clickFile(name, Qt::ControlModifier);
         }
-        page.click(QDialogButtonBox::Open);
+        driver.click(QDialogButtonBox::Open);
     });
 
     EXPECT_EQ(result, QDialog::Accepted);
@@ -175,7 +175,7 @@ TEST_F(QExtendedFileDialogSeveralNames, oddNamesArePickedTogether)
     EXPECT_EQ(chosen, expected);
 }
 
-TEST_F(QExtendedFileDialogSeveralNames, nameWithAStarFiltersInsteadOfOpening)
+TEST_F(QExtendedFileDialogNamesSeveral, nameWithAStarFiltersInsteadOfOpening)
 {
     if (!diskTakesName(QStringLiteral("a*.dat"))) {
         GTEST_SKIP() << "no file of this system has a star in its name";
@@ -183,11 +183,11 @@ TEST_F(QExtendedFileDialogSeveralNames, nameWithAStarFiltersInsteadOfOpening)
     makeFiles({QStringLiteral("a*.dat"), QStringLiteral("b.dat")});
     const Dialog dialog = openDialog("All (*)");
 
-    run(*dialog, [](FileDialogPage& page) {
-        page.clickFile(QStringLiteral("a*.dat"));
-        page.click(QDialogButtonBox::Open);
-        EXPECT_TRUE(page.isOpen());
-        EXPECT_EQ(page.currentType(), QStringLiteral("All (a*.dat)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("a*.dat")}));
+    run(*dialog, [](FileDialogDriver& driver) {
+        driver.clickFile(QStringLiteral("a*.dat"));
+        driver.click(QDialogButtonBox::Open);
+        EXPECT_TRUE(driver.isOpen());
+        EXPECT_EQ(driver.currentType(), QStringLiteral("All (a*.dat)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("a*.dat")}));
     });
 }

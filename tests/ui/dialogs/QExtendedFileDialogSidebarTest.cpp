@@ -60,8 +60,8 @@ TEST_F(QExtendedFileDialogSidebar, firstExecAppendsDesktopDocumentsAndHome)
     const Dialog dialog = openDialog();
     dialog->setSidebarUrls({place()});
 
-    run(*dialog, [&](FileDialogPage& page) {
-        EXPECT_EQ(page.dialog().sidebarUrls(), QList<QUrl>({place()}) + defaultPlaces());
+    run(*dialog, [&](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.dialog().sidebarUrls(), QList<QUrl>({place()}) + defaultPlaces());
     });
 }
 
@@ -90,7 +90,7 @@ TEST_F(QExtendedFileDialogSidebar, storedGeometryLeavesItAlone)
     const Dialog dialog = openDialog();
     dialog->setSidebarUrls({place()});
 
-    run(*dialog, [&](FileDialogPage& page) { EXPECT_EQ(page.dialog().sidebarUrls(), QList<QUrl>({place()})); });
+    run(*dialog, [&](FileDialogDriver& driver) { EXPECT_EQ(driver.dialog().sidebarUrls(), QList<QUrl>({place()})); });
     dialog->show();
     EXPECT_EQ(dialog->sidebarUrls(), QList<QUrl>({place()}));
 }
@@ -102,18 +102,18 @@ TEST_F(QExtendedFileDialogSidebar, geometryUnderAnotherKeyDoesNotCount)
     dialog->setGeometryPersistenceKey("other");
     dialog->setSidebarUrls({place()});
 
-    run(*dialog, [&](FileDialogPage& page) {
-        EXPECT_EQ(page.dialog().sidebarUrls(), QList<QUrl>({place()}) + defaultPlaces());
+    run(*dialog, [&](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.dialog().sidebarUrls(), QList<QUrl>({place()}) + defaultPlaces());
     });
 }
 
 TEST_F(QExtendedFileDialogSidebar, secondExecAddsNothing)
 {
     const Dialog dialog = openDialog();
-    run(*dialog, [](FileDialogPage&) {});
+    run(*dialog, [](FileDialogDriver&) {});
     dialog->setSidebarUrls({place()});
 
-    run(*dialog, [&](FileDialogPage& page) { EXPECT_EQ(page.dialog().sidebarUrls(), QList<QUrl>({place()})); });
+    run(*dialog, [&](FileDialogDriver& driver) { EXPECT_EQ(driver.dialog().sidebarUrls(), QList<QUrl>({place()})); });
 }
 
 TEST_F(QExtendedFileDialogSidebar, placesThatWereThereAreListedOnce)
@@ -122,8 +122,8 @@ TEST_F(QExtendedFileDialogSidebar, placesThatWereThereAreListedOnce)
     const QList<QUrl> places = defaultPlaces();
     dialog->setSidebarUrls({places.last(), place()});
 
-    run(*dialog, [&](FileDialogPage& page) {
-        const QList<QUrl> urls = page.dialog().sidebarUrls();
+    run(*dialog, [&](FileDialogDriver& driver) {
+        const QList<QUrl> urls = driver.dialog().sidebarUrls();
         EXPECT_EQ(urls.size(), 4);
         for (const QUrl& url : places) {
             EXPECT_EQ(urls.count(url), 1);
@@ -139,9 +139,9 @@ TEST_F(QExtendedFileDialogSidebar, fileSystemErrorIsLoggedAndTheDialogOpens)
     const QMetaObject::Connection connection = failOnChange(*dialog, error);
     const MessageLog log;
 
-    const int result = run(*dialog, [&](FileDialogPage& page) {
+    const int result = run(*dialog, [&](FileDialogDriver& driver) {
         QObject::disconnect(connection);
-        EXPECT_EQ(page.dialog().sidebarUrls(), QList<QUrl>({place()}));
+        EXPECT_EQ(driver.dialog().sidebarUrls(), QList<QUrl>({place()}));
     });
 
     EXPECT_EQ(result, QDialog::Rejected);

@@ -30,7 +30,8 @@ TEST_F(QExtendedFileDialogValidation, existingNameOpens)
     const Dialog dialog = openDialog();
     const QSignalSpy selected(dialog.get(), &QFileDialog::fileSelected);
 
-    EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("old.dat")); }), QDialog::Accepted);
+    EXPECT_EQ(
+        run(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("old.dat")); }), QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("old.dat"))));
     EXPECT_EQ(selected.size(), 1);
 }
@@ -41,9 +42,9 @@ TEST_F(QExtendedFileDialogValidation, missingNameIsRefused)
     ModalScript script;
     answer(script, QMessageBox::Ok);
 
-    const int result = run(*dialog, script, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("new.dat"));
-        EXPECT_TRUE(page.isOpen());
+    const int result = run(*dialog, script, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("new.dat"));
+        EXPECT_TRUE(driver.isOpen());
     });
 
     EXPECT_EQ(result, QDialog::Rejected);
@@ -54,7 +55,8 @@ TEST_F(QExtendedFileDialogValidation, missingNameIsAcceptedWithoutValidation)
     const Dialog dialog = openDialog();
     dialog->performSelectedFileValidation(false);
 
-    EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("new.dat")); }), QDialog::Accepted);
+    EXPECT_EQ(
+        run(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("new.dat")); }), QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("new.dat"))));
 }
 
@@ -66,7 +68,8 @@ TEST_F(QExtendedFileDialogValidation, anyNameClosesWithoutValidation)
         const Dialog dialog = openDialog();
         dialog->performSelectedFileValidation(false);
 
-        EXPECT_EQ(run(*dialog, [&](FileDialogPage& page) { page.enterName(QLatin1String(name)); }), QDialog::Accepted);
+        EXPECT_EQ(
+            run(*dialog, [&](FileDialogDriver& driver) { driver.enterName(QLatin1String(name)); }), QDialog::Accepted);
     }
 }
 
@@ -78,7 +81,7 @@ TEST_F(QExtendedFileDialogValidation, canBeSwitchedOnAgain)
     ModalScript script;
     answer(script, QMessageBox::Ok);
 
-    EXPECT_EQ(run(*dialog, script, [](FileDialogPage& page) { page.enterName(QStringLiteral("new.dat")); }),
+    EXPECT_EQ(run(*dialog, script, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("new.dat")); }),
         QDialog::Rejected);
 }
 
@@ -86,7 +89,8 @@ TEST_F(QExtendedFileDialogValidation, newNameIsSavedWithoutQuestion)
 {
     const Dialog dialog = saveDialog();
 
-    EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("new.dat")); }), QDialog::Accepted);
+    EXPECT_EQ(
+        run(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("new.dat")); }), QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("new.dat"))));
 }
 
@@ -96,7 +100,7 @@ TEST_F(QExtendedFileDialogValidation, existingNameIsSavedAfterYes)
     ModalScript script;
     answer(script, QMessageBox::Yes);
 
-    EXPECT_EQ(run(*dialog, script, [](FileDialogPage& page) { page.enterName(QStringLiteral("old.dat")); }),
+    EXPECT_EQ(run(*dialog, script, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("old.dat")); }),
         QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("old.dat"))));
 }
@@ -107,11 +111,11 @@ TEST_F(QExtendedFileDialogValidation, dialogStaysOpenAfterNo)
     ModalScript script;
     answer(script, QMessageBox::No);
 
-    const int result = run(*dialog, script, [](FileDialogPage& page) {
-        page.typeName(QStringLiteral("old.dat"));
-        page.click(QDialogButtonBox::Save);
-        EXPECT_TRUE(page.isOpen());
-        EXPECT_EQ(page.name(), QStringLiteral("old.dat"));
+    const int result = run(*dialog, script, [](FileDialogDriver& driver) {
+        driver.typeName(QStringLiteral("old.dat"));
+        driver.click(QDialogButtonBox::Save);
+        EXPECT_TRUE(driver.isOpen());
+        EXPECT_EQ(driver.name(), QStringLiteral("old.dat"));
     });
 
     EXPECT_EQ(result, QDialog::Rejected);
@@ -123,9 +127,9 @@ TEST_F(QExtendedFileDialogValidation, enterAnswersTheOverwriteQuestionWithNo)
     ModalScript script;
     script.on<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
 
-    const int result = run(*dialog, script, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("old.dat"));
-        EXPECT_TRUE(page.isOpen());
+    const int result = run(*dialog, script, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("old.dat"));
+        EXPECT_TRUE(driver.isOpen());
     });
 
     EXPECT_EQ(result, QDialog::Rejected);
@@ -136,7 +140,8 @@ TEST_F(QExtendedFileDialogValidation, overwriteQuestionCanBeLeftOut)
     const Dialog dialog = saveDialog();
     dialog->setDontConfirmOverwrite(true);
 
-    EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("old.dat")); }), QDialog::Accepted);
+    EXPECT_EQ(
+        run(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("old.dat")); }), QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("old.dat"))));
 }
 
@@ -148,7 +153,7 @@ TEST_F(QExtendedFileDialogValidation, overwriteQuestionComesBack)
     ModalScript script;
     answer(script, QMessageBox::Yes);
 
-    EXPECT_EQ(run(*dialog, script, [](FileDialogPage& page) { page.enterName(QStringLiteral("old.dat")); }),
+    EXPECT_EQ(run(*dialog, script, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("old.dat")); }),
         QDialog::Accepted);
 }
 
@@ -157,7 +162,8 @@ TEST_F(QExtendedFileDialogValidation, savingWithoutValidationAsksNothing)
     const Dialog dialog = saveDialog();
     dialog->performSelectedFileValidation(false);
 
-    EXPECT_EQ(run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("old.dat")); }), QDialog::Accepted);
+    EXPECT_EQ(
+        run(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("old.dat")); }), QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(QStringLiteral("old.dat"))));
 }
 
@@ -168,10 +174,10 @@ TEST_F(QExtendedFileDialogValidation, directoryModeListsOnlyDirectoriesWhenAsked
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setShowDirectoriesOnly(true);
 
-    const int result = run(*dialog, [](FileDialogPage& page) {
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("folder")}));
-        page.clickFile(QStringLiteral("folder"));
-        page.click(QDialogButtonBox::Open);
+    const int result = run(*dialog, [](FileDialogDriver& driver) {
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("folder")}));
+        driver.clickFile(QStringLiteral("folder"));
+        driver.click(QDialogButtonBox::Open);
     });
 
     EXPECT_EQ(result, QDialog::Accepted);
@@ -186,7 +192,7 @@ TEST_F(QExtendedFileDialogValidation, directoryModeListsFilesToo)
     dialog->setShowDirectoriesOnly(true);
     dialog->setShowDirectoriesOnly(false);
 
-    run(*dialog, [](FileDialogPage& page) {
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("folder"), QStringLiteral("old.dat")}));
+    run(*dialog, [](FileDialogDriver& driver) {
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("folder"), QStringLiteral("old.dat")}));
     });
 }

@@ -22,12 +22,12 @@ protected:
 
     Dialog dialogWithTypes() { return openDialog("Text (*.txt);;All (*);;Data (*.dat)"); }
 
-    static void editAll(FileDialogPage& page)
+    static void editAll(FileDialogDriver& driver)
     {
-        page.pickTypeWithKeys(1);
-        page.enterName(QStringLiteral("*.dat"));
-        EXPECT_EQ(page.types(), editedTypes);
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat")}));
+        driver.pickTypeWithKeys(1);
+        driver.enterName(QStringLiteral("*.dat"));
+        EXPECT_EQ(driver.types(), editedTypes);
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("b.dat")}));
     }
 };
 
@@ -37,14 +37,14 @@ TEST_F(QExtendedFileDialogWildcardRevert, anotherTypePickedWithKeysRestoresTheLi
 {
     const Dialog dialog = dialogWithTypes();
 
-    run(*dialog, [](FileDialogPage& page) {
-        editAll(page);
-        page.pickTypeWithKeys(0);
+    run(*dialog, [](FileDialogDriver& driver) {
+        editAll(driver);
+        driver.pickTypeWithKeys(0);
 
-        EXPECT_EQ(page.types(), callersTypes);
-        EXPECT_EQ(page.dialog().nameFilters(), callersTypes);
-        EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.txt)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("a.txt")}));
+        EXPECT_EQ(driver.types(), callersTypes);
+        EXPECT_EQ(driver.dialog().nameFilters(), callersTypes);
+        EXPECT_EQ(driver.currentType(), QStringLiteral("Text (*.txt)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("a.txt")}));
     });
 }
 
@@ -52,13 +52,13 @@ TEST_F(QExtendedFileDialogWildcardRevert, anotherTypePickedWithTheMouseRestoresT
 {
     const Dialog dialog = dialogWithTypes();
 
-    run(*dialog, [](FileDialogPage& page) {
-        editAll(page);
-        page.pickTypeWithMouse(2);
+    run(*dialog, [](FileDialogDriver& driver) {
+        editAll(driver);
+        driver.pickTypeWithMouse(2);
 
-        EXPECT_EQ(page.types(), callersTypes);
-        EXPECT_EQ(page.currentType(), QStringLiteral("Data (*.dat)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat")}));
+        EXPECT_EQ(driver.types(), callersTypes);
+        EXPECT_EQ(driver.currentType(), QStringLiteral("Data (*.dat)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("b.dat")}));
     });
 }
 
@@ -66,12 +66,12 @@ TEST_F(QExtendedFileDialogWildcardRevert, arrowKeyInTheClosedBoxRestoresTheList)
 {
     const Dialog dialog = dialogWithTypes();
 
-    run(*dialog, [](FileDialogPage& page) {
-        editAll(page);
-        QTest::keyClick(&page.typeCombo(), Qt::Key_Up);
+    run(*dialog, [](FileDialogDriver& driver) {
+        editAll(driver);
+        QTest::keyClick(&driver.typeCombo(), Qt::Key_Up);
 
-        EXPECT_EQ(page.types(), callersTypes);
-        EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.txt)"));
+        EXPECT_EQ(driver.types(), callersTypes);
+        EXPECT_EQ(driver.currentType(), QStringLiteral("Text (*.txt)"));
     });
 }
 
@@ -79,17 +79,17 @@ TEST_F(QExtendedFileDialogWildcardRevert, editedTypePickedAgainKeepsTheEditedLis
 {
     const Dialog dialog = dialogWithTypes();
 
-    run(*dialog, [](FileDialogPage& page) {
-        editAll(page);
-        page.pickTypeWithMouse(1);
-        EXPECT_EQ(page.types(), editedTypes);
-        page.pickTypeWithKeys(1);
-        EXPECT_EQ(page.types(), editedTypes);
-        EXPECT_EQ(page.currentType(), QStringLiteral("All (*.dat)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat")}));
+    run(*dialog, [](FileDialogDriver& driver) {
+        editAll(driver);
+        driver.pickTypeWithMouse(1);
+        EXPECT_EQ(driver.types(), editedTypes);
+        driver.pickTypeWithKeys(1);
+        EXPECT_EQ(driver.types(), editedTypes);
+        EXPECT_EQ(driver.currentType(), QStringLiteral("All (*.dat)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("b.dat")}));
 
-        page.pickTypeWithKeys(0);
-        EXPECT_EQ(page.types(), callersTypes);
+        driver.pickTypeWithKeys(0);
+        EXPECT_EQ(driver.types(), callersTypes);
     });
 }
 
@@ -97,12 +97,12 @@ TEST_F(QExtendedFileDialogWildcardRevert, editedTypeWithBlanksPickedAgainKeepsTh
 {
     const Dialog dialog = dialogWithTypes();
 
-    run(*dialog, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("*.dat   *.csv"));
-        const QStringList edited = page.types();
+    run(*dialog, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("*.dat   *.csv"));
+        const QStringList edited = driver.types();
         EXPECT_NE(edited, callersTypes);
-        page.pickTypeWithKeys(0);
-        EXPECT_EQ(page.types(), edited);
+        driver.pickTypeWithKeys(0);
+        EXPECT_EQ(driver.types(), edited);
     });
 }
 
@@ -110,14 +110,14 @@ TEST_F(QExtendedFileDialogWildcardRevert, listOfTheCallerIsRememberedThroughSeve
 {
     const Dialog dialog = dialogWithTypes();
 
-    run(*dialog, [](FileDialogPage& page) {
-        editAll(page);
-        page.enterName(QStringLiteral("*.csv"));
-        page.enterName(QStringLiteral("c*"));
-        EXPECT_EQ(page.types().at(1), QStringLiteral("All (c*)"));
+    run(*dialog, [](FileDialogDriver& driver) {
+        editAll(driver);
+        driver.enterName(QStringLiteral("*.csv"));
+        driver.enterName(QStringLiteral("c*"));
+        EXPECT_EQ(driver.types().at(1), QStringLiteral("All (c*)"));
 
-        page.pickTypeWithMouse(0);
-        EXPECT_EQ(page.types(), callersTypes);
+        driver.pickTypeWithMouse(0);
+        EXPECT_EQ(driver.types(), callersTypes);
     });
 }
 
@@ -125,12 +125,12 @@ TEST_F(QExtendedFileDialogWildcardRevert, listCanBeEditedAgainAfterItWasRestored
 {
     const Dialog dialog = dialogWithTypes();
 
-    run(*dialog, [](FileDialogPage& page) {
+    run(*dialog, [](FileDialogDriver& driver) {
         for (int round = 0; round < 3; ++round) {
-            editAll(page);
-            page.pickTypeWithKeys(2);
-            EXPECT_EQ(page.types(), callersTypes);
-            EXPECT_EQ(page.currentType(), QStringLiteral("Data (*.dat)"));
+            editAll(driver);
+            driver.pickTypeWithKeys(2);
+            EXPECT_EQ(driver.types(), callersTypes);
+            EXPECT_EQ(driver.currentType(), QStringLiteral("Data (*.dat)"));
         }
     });
 }
@@ -139,11 +139,11 @@ TEST_F(QExtendedFileDialogWildcardRevert, pickingTypesOfAPlainListKeepsIt)
 {
     const Dialog dialog = dialogWithTypes();
 
-    run(*dialog, [](FileDialogPage& page) {
+    run(*dialog, [](FileDialogDriver& driver) {
         for (const int row : {2, 0, 1}) {
-            page.pickTypeWithMouse(row);
-            EXPECT_EQ(page.types(), callersTypes);
-            EXPECT_EQ(page.currentType(), callersTypes.at(row));
+            driver.pickTypeWithMouse(row);
+            EXPECT_EQ(driver.types(), callersTypes);
+            EXPECT_EQ(driver.currentType(), callersTypes.at(row));
         }
     });
 }
@@ -151,36 +151,36 @@ TEST_F(QExtendedFileDialogWildcardRevert, pickingTypesOfAPlainListKeepsIt)
 TEST_F(QExtendedFileDialogWildcardRevert, nextExecRestoresTheList)
 {
     const Dialog dialog = dialogWithTypes();
-    run(*dialog, [](FileDialogPage& page) { editAll(page); });
+    run(*dialog, [](FileDialogDriver& driver) { editAll(driver); });
     EXPECT_EQ(dialog->nameFilters(), editedTypes);
 
-    run(*dialog, [](FileDialogPage& page) {
-        EXPECT_EQ(page.types(), callersTypes);
-        page.pickTypeWithKeys(1);
-        EXPECT_EQ(page.types(), callersTypes);
-        EXPECT_EQ(page.currentType(), QStringLiteral("All (*)"));
-        editAll(page);
-        page.pickTypeWithKeys(0);
-        EXPECT_EQ(page.types(), callersTypes);
+    run(*dialog, [](FileDialogDriver& driver) {
+        EXPECT_EQ(driver.types(), callersTypes);
+        driver.pickTypeWithKeys(1);
+        EXPECT_EQ(driver.types(), callersTypes);
+        EXPECT_EQ(driver.currentType(), QStringLiteral("All (*)"));
+        editAll(driver);
+        driver.pickTypeWithKeys(0);
+        EXPECT_EQ(driver.types(), callersTypes);
     });
 }
 
 TEST_F(QExtendedFileDialogWildcardRevert, nextShowRestoresTheList)
 {
     const Dialog dialog = dialogWithTypes();
-    run(*dialog, [](FileDialogPage& page) { editAll(page); });
+    run(*dialog, [](FileDialogDriver& driver) { editAll(driver); });
 
     dialog->show();
 
     EXPECT_EQ(dialog->nameFilters(), callersTypes);
-    EXPECT_EQ(FileDialogPage(*dialog).types(), callersTypes);
+    EXPECT_EQ(FileDialogDriver(*dialog).types(), callersTypes);
 }
 
 TEST_F(QExtendedFileDialogWildcardRevert, aRestoredListGivesWayToTheNextOne)
 {
     const QStringList others = {QStringLiteral("Image (*.png)"), QStringLiteral("Table (*.csv)")};
     const Dialog dialog = dialogWithTypes();
-    run(*dialog, [](FileDialogPage& page) { editAll(page); });
+    run(*dialog, [](FileDialogDriver& driver) { editAll(driver); });
     dialog->show();
     dialog->hide();
     dialog->setNameFilters(others);
@@ -193,9 +193,9 @@ TEST_F(QExtendedFileDialogWildcardRevert, aRestoredListGivesWayToTheNextOne)
 TEST_F(QExtendedFileDialogWildcardRevert, runWithoutAPatternKeepsTheSelectedType)
 {
     const Dialog dialog = dialogWithTypes();
-    run(*dialog, [](FileDialogPage& page) { page.pickTypeWithKeys(2); });
+    run(*dialog, [](FileDialogDriver& driver) { driver.pickTypeWithKeys(2); });
 
-    run(*dialog, [](FileDialogPage& page) { EXPECT_EQ(page.currentType(), QStringLiteral("Data (*.dat)")); });
+    run(*dialog, [](FileDialogDriver& driver) { EXPECT_EQ(driver.currentType(), QStringLiteral("Data (*.dat)")); });
 }
 
 TEST_F(QExtendedFileDialogWildcardRevert, duplicatesInTheListAreRestored)
@@ -204,28 +204,28 @@ TEST_F(QExtendedFileDialogWildcardRevert, duplicatesInTheListAreRestored)
         QStringLiteral("Text (*.txt)"), QStringLiteral("Text (*.txt)"), QStringLiteral("All (*)")};
     const Dialog dialog = openDialog("Text (*.txt);;Text (*.txt);;All (*)");
 
-    run(*dialog, [&](FileDialogPage& page) {
-        page.pickTypeWithKeys(1);
-        page.enterName(QStringLiteral("*.dat"));
-        page.pickTypeWithKeys(2);
-        EXPECT_EQ(page.types(), types);
-        EXPECT_EQ(page.currentType(), QStringLiteral("All (*)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("a.txt"), QStringLiteral("b.dat"), QStringLiteral("c.csv")}));
+    run(*dialog, [&](FileDialogDriver& driver) {
+        driver.pickTypeWithKeys(1);
+        driver.enterName(QStringLiteral("*.dat"));
+        driver.pickTypeWithKeys(2);
+        EXPECT_EQ(driver.types(), types);
+        EXPECT_EQ(driver.currentType(), QStringLiteral("All (*)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("a.txt"), QStringLiteral("b.dat"), QStringLiteral("c.csv")}));
     });
 }
 
 TEST_F(QExtendedFileDialogWildcardRevert, theSecondOfTwoEqualTypesCanBePickedOnceTheListIsRestored)
 {
     const Dialog dialog = openDialog("All (*);;Text (*.txt);;Text (*.txt)");
-    run(*dialog, [](FileDialogPage& page) { page.enterName(QStringLiteral("*.dat")); });
+    run(*dialog, [](FileDialogDriver& driver) { driver.enterName(QStringLiteral("*.dat")); });
 
-    run(*dialog, [](FileDialogPage& page) {
-        page.pickTypeWithKeys(2);
-        EXPECT_EQ(page.typeCombo().currentIndex(), 2);
-        page.enterName(QStringLiteral("*.dat"));
-        page.pickTypeWithKeys(0);
-        page.pickTypeWithKeys(2);
-        EXPECT_EQ(page.typeCombo().currentIndex(), 2);
+    run(*dialog, [](FileDialogDriver& driver) {
+        driver.pickTypeWithKeys(2);
+        EXPECT_EQ(driver.typeCombo().currentIndex(), 2);
+        driver.enterName(QStringLiteral("*.dat"));
+        driver.pickTypeWithKeys(0);
+        driver.pickTypeWithKeys(2);
+        EXPECT_EQ(driver.typeCombo().currentIndex(), 2);
     });
 }
 
@@ -233,11 +233,11 @@ TEST_F(QExtendedFileDialogWildcardRevert, saveModeRestoresTheListToo)
 {
     const Dialog dialog = saveDialog("Text (*.txt);;All (*);;Data (*.dat)");
 
-    run(*dialog, [](FileDialogPage& page) {
-        editAll(page);
-        page.pickTypeWithMouse(0);
-        EXPECT_EQ(page.types(), callersTypes);
-        EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.txt)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("a.txt")}));
+    run(*dialog, [](FileDialogDriver& driver) {
+        editAll(driver);
+        driver.pickTypeWithMouse(0);
+        EXPECT_EQ(driver.types(), callersTypes);
+        EXPECT_EQ(driver.currentType(), QStringLiteral("Text (*.txt)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("a.txt")}));
     });
 }

@@ -22,12 +22,12 @@ protected:
     {
         const Dialog dialog = openDialog(filter);
         QStringList types;
-        run(*dialog, [&](FileDialogPage& page) {
-            page.pickTypeWithKeys(row);
-            page.enterName(pattern);
-            EXPECT_TRUE(page.isOpen());
-            EXPECT_EQ(page.types(), page.dialog().nameFilters());
-            types = page.types();
+        run(*dialog, [&](FileDialogDriver& driver) {
+            driver.pickTypeWithKeys(row);
+            driver.enterName(pattern);
+            EXPECT_TRUE(driver.isOpen());
+            EXPECT_EQ(driver.types(), driver.dialog().nameFilters());
+            types = driver.types();
         });
         return types;
     }
@@ -39,16 +39,16 @@ TEST_F(QExtendedFileDialogWildcard, patternReplacesThatOfTheCurrentType)
 {
     const Dialog dialog = openDialog("Text files (*.txt);;All (*)");
 
-    const int result = run(*dialog, [](FileDialogPage& page) {
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("a.txt")}));
-        page.enterName(QStringLiteral("*.dat"));
+    const int result = run(*dialog, [](FileDialogDriver& driver) {
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("a.txt")}));
+        driver.enterName(QStringLiteral("*.dat"));
 
-        EXPECT_TRUE(page.isOpen());
-        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text files (*.dat)"), QStringLiteral("All (*)")}));
-        EXPECT_EQ(page.currentType(), QStringLiteral("Text files (*.dat)"));
-        EXPECT_EQ(page.dialog().selectedNameFilter(), QStringLiteral("Text files (*.dat)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat")}));
-        page.click(QDialogButtonBox::Cancel);
+        EXPECT_TRUE(driver.isOpen());
+        EXPECT_EQ(driver.types(), QStringList({QStringLiteral("Text files (*.dat)"), QStringLiteral("All (*)")}));
+        EXPECT_EQ(driver.currentType(), QStringLiteral("Text files (*.dat)"));
+        EXPECT_EQ(driver.dialog().selectedNameFilter(), QStringLiteral("Text files (*.dat)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat")}));
+        driver.click(QDialogButtonBox::Cancel);
     });
 
     EXPECT_EQ(result, QDialog::Rejected);
@@ -105,11 +105,11 @@ TEST_F(QExtendedFileDialogWildcard, viewShowsOnlyWhatThePatternMatches)
                                   QStringLiteral("d.csv"), QStringLiteral("folder")}},
     };
     const Dialog dialog = openDialog("All (*)");
-    run(*dialog, [&](FileDialogPage& page) {
+    run(*dialog, [&](FileDialogDriver& driver) {
         for (const auto& row : rows) {
             SCOPED_TRACE(row.pattern.toStdString());
-            page.enterName(row.pattern);
-            EXPECT_TRUE(page.waitForListed(row.listed));
+            driver.enterName(row.pattern);
+            EXPECT_TRUE(driver.waitForListed(row.listed));
         }
     });
 }
@@ -118,14 +118,14 @@ TEST_F(QExtendedFileDialogWildcard, blanksInThePatternDoNotLoseTheType)
 {
     const Dialog dialog = openDialog("Text (*.txt);;All (*)");
 
-    run(*dialog, [](FileDialogPage& page) {
-        page.pickTypeWithKeys(1);
-        page.enterName(QStringLiteral(" *.dat   *.csv "));
+    run(*dialog, [](FileDialogDriver& driver) {
+        driver.pickTypeWithKeys(1);
+        driver.enterName(QStringLiteral(" *.dat   *.csv "));
 
-        EXPECT_EQ(page.currentType(), page.types().at(1));
-        EXPECT_TRUE(page.currentType().startsWith(QStringLiteral("All (")));
-        EXPECT_TRUE(page.currentType().contains(QStringLiteral("*.dat *.csv")));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat"), QStringLiteral("d.csv")}));
+        EXPECT_EQ(driver.currentType(), driver.types().at(1));
+        EXPECT_TRUE(driver.currentType().startsWith(QStringLiteral("All (")));
+        EXPECT_TRUE(driver.currentType().contains(QStringLiteral("*.dat *.csv")));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat"), QStringLiteral("d.csv")}));
     });
 }
 
@@ -133,13 +133,13 @@ TEST_F(QExtendedFileDialogWildcard, secondPatternReplacesTheFirst)
 {
     const Dialog dialog = openDialog("Text (*.txt);;All (*)");
 
-    run(*dialog, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("*.dat"));
-        page.enterName(QStringLiteral("*.csv"));
+    run(*dialog, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("*.dat"));
+        driver.enterName(QStringLiteral("*.csv"));
 
-        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.csv)"), QStringLiteral("All (*)")}));
-        EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.csv)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("d.csv")}));
+        EXPECT_EQ(driver.types(), QStringList({QStringLiteral("Text (*.csv)"), QStringLiteral("All (*)")}));
+        EXPECT_EQ(driver.currentType(), QStringLiteral("Text (*.csv)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("d.csv")}));
     });
 }
 
@@ -147,13 +147,13 @@ TEST_F(QExtendedFileDialogWildcard, samePatternAgainChangesNothing)
 {
     const Dialog dialog = openDialog("Text (*.txt);;All (*)");
 
-    run(*dialog, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("*.dat"));
-        page.pressEnter();
+    run(*dialog, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("*.dat"));
+        driver.pressEnter();
 
-        EXPECT_TRUE(page.isOpen());
-        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.dat)"), QStringLiteral("All (*)")}));
-        EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.dat)"));
+        EXPECT_TRUE(driver.isOpen());
+        EXPECT_EQ(driver.types(), QStringList({QStringLiteral("Text (*.dat)"), QStringLiteral("All (*)")}));
+        EXPECT_EQ(driver.currentType(), QStringLiteral("Text (*.dat)"));
     });
 }
 
@@ -161,12 +161,12 @@ TEST_F(QExtendedFileDialogWildcard, typeBoxTellsNothingWhileItIsChanged)
 {
     const Dialog dialog = openDialog("Text (*.txt);;All (*)");
 
-    run(*dialog, [](FileDialogPage& page) {
-        const QSignalSpy current(&page.typeCombo(), SIGNAL(currentIndexChanged(int)));
-        page.enterName(QStringLiteral("*.dat"));
+    run(*dialog, [](FileDialogDriver& driver) {
+        const QSignalSpy current(&driver.typeCombo(), SIGNAL(currentIndexChanged(int)));
+        driver.enterName(QStringLiteral("*.dat"));
 
         EXPECT_TRUE(current.isEmpty());
-        EXPECT_FALSE(page.typeCombo().signalsBlocked());
+        EXPECT_FALSE(driver.typeCombo().signalsBlocked());
     });
 }
 
@@ -175,10 +175,10 @@ TEST_F(QExtendedFileDialogWildcard, patternIsNoNameWithValidationOffEither)
     const Dialog dialog = openDialog("All (*)");
     dialog->performSelectedFileValidation(false);
 
-    const int result = run(*dialog, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("*.dat"));
-        EXPECT_TRUE(page.isOpen());
-        EXPECT_EQ(page.currentType(), QStringLiteral("All (*.dat)"));
+    const int result = run(*dialog, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("*.dat"));
+        EXPECT_TRUE(driver.isOpen());
+        EXPECT_EQ(driver.currentType(), QStringLiteral("All (*.dat)"));
     });
 
     EXPECT_EQ(result, QDialog::Rejected);
@@ -191,7 +191,7 @@ TEST_F(QExtendedFileDialogWildcard, otherWildcardCharactersAreNames)
     makeFile(name);
     const Dialog dialog = openDialog("All (*)");
 
-    EXPECT_EQ(run(*dialog, [&name](FileDialogPage& page) { page.enterName(name); }), QDialog::Accepted);
+    EXPECT_EQ(run(*dialog, [&name](FileDialogDriver& driver) { driver.enterName(name); }), QDialog::Accepted);
     EXPECT_EQ(dialog->selectedFiles(), QStringList(path(name)));
 }
 
@@ -199,11 +199,11 @@ TEST_F(QExtendedFileDialogWildcard, fileIsPickedFromTheFilteredView)
 {
     const Dialog dialog = openDialog("Text (*.txt);;All (*)");
 
-    const int result = run(*dialog, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("*.dat"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat")}));
-        page.clickFile(QStringLiteral("c.dat"));
-        page.click(QDialogButtonBox::Open);
+    const int result = run(*dialog, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("*.dat"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat")}));
+        driver.clickFile(QStringLiteral("c.dat"));
+        driver.click(QDialogButtonBox::Open);
     });
 
     EXPECT_EQ(result, QDialog::Accepted);
@@ -215,18 +215,18 @@ TEST_F(QExtendedFileDialogWildcard, saveModeFiltersTheViewToo)
 {
     const Dialog dialog = saveDialog("Text (*.txt);;All (*)");
 
-    run(*dialog, [](FileDialogPage& page) {
-        page.enterName(QStringLiteral("*.dat"));
-        EXPECT_TRUE(page.isOpen());
-        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.dat)"), QStringLiteral("All (*)")}));
-        EXPECT_EQ(page.currentType(), QStringLiteral("Text (*.dat)"));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat")}));
+    run(*dialog, [](FileDialogDriver& driver) {
+        driver.enterName(QStringLiteral("*.dat"));
+        EXPECT_TRUE(driver.isOpen());
+        EXPECT_EQ(driver.types(), QStringList({QStringLiteral("Text (*.dat)"), QStringLiteral("All (*)")}));
+        EXPECT_EQ(driver.currentType(), QStringLiteral("Text (*.dat)"));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("b.dat"), QStringLiteral("c.dat")}));
 
-        page.typeName(QStringLiteral("*.csv"));
-        page.click(QDialogButtonBox::Save);
-        EXPECT_TRUE(page.isOpen());
-        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.csv)"), QStringLiteral("All (*)")}));
-        EXPECT_TRUE(page.waitForListed({QStringLiteral("d.csv")}));
+        driver.typeName(QStringLiteral("*.csv"));
+        driver.click(QDialogButtonBox::Save);
+        EXPECT_TRUE(driver.isOpen());
+        EXPECT_EQ(driver.types(), QStringList({QStringLiteral("Text (*.csv)"), QStringLiteral("All (*)")}));
+        EXPECT_TRUE(driver.waitForListed({QStringLiteral("d.csv")}));
     });
 }
 
@@ -234,11 +234,11 @@ TEST_F(QExtendedFileDialogWildcard, saveModeEditsALaterTypeAsWell)
 {
     const Dialog dialog = saveDialog("Text (*.txt);;All (*)");
 
-    run(*dialog, [](FileDialogPage& page) {
-        page.pickTypeWithKeys(1);
-        page.enterName(QStringLiteral("*.dat"));
-        EXPECT_EQ(page.types(), QStringList({QStringLiteral("Text (*.txt)"), QStringLiteral("All (*.dat)")}));
-        EXPECT_EQ(page.currentType(), QStringLiteral("All (*.dat)"));
-        EXPECT_EQ(page.name(), QStringLiteral("*.dat"));
+    run(*dialog, [](FileDialogDriver& driver) {
+        driver.pickTypeWithKeys(1);
+        driver.enterName(QStringLiteral("*.dat"));
+        EXPECT_EQ(driver.types(), QStringList({QStringLiteral("Text (*.txt)"), QStringLiteral("All (*.dat)")}));
+        EXPECT_EQ(driver.currentType(), QStringLiteral("All (*.dat)"));
+        EXPECT_EQ(driver.name(), QStringLiteral("*.dat"));
     });
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "support/DiskNames.h"
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
@@ -23,19 +23,19 @@
 
 inline void pressAccept(QFileDialog& dialog)
 {
-    morvane::test::FileDialogPage(dialog).click(QDialogButtonBox::Save);
+    morvane::test::FileDialogDriver(dialog).click(QDialogButtonBox::Save);
 }
 
 inline void pressCancel(QFileDialog& dialog)
 {
-    morvane::test::FileDialogPage(dialog).click(QDialogButtonBox::Cancel);
+    morvane::test::FileDialogDriver(dialog).click(QDialogButtonBox::Cancel);
 }
 
 inline void acceptName(QFileDialog& dialog, const QString& name)
 {
-    const morvane::test::FileDialogPage page(dialog);
-    page.typeName(name);
-    page.click(QDialogButtonBox::Save);
+    const morvane::test::FileDialogDriver driver(dialog);
+    driver.typeName(name);
+    driver.click(QDialogButtonBox::Save);
 }
 
 /** The key goes to the button that has the focus, as for a person who looks at the box. */

@@ -10,6 +10,10 @@ using namespace morvane::test;
 
 namespace {
 
+class SaveFileDialogTest : public SaveFlow
+{
+};
+
 /** Of a flow that was just made and belongs to the parent. */
 void cancelAndExpectTheDialog(SaveFileDialog& flow, const QWidget& parent, bool isNative)
 {
@@ -24,9 +28,9 @@ void cancelAndExpectTheDialog(SaveFileDialog& flow, const QWidget& parent, bool 
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Dialogs, SaveFlow, testing::Bool(), &saveFlowName);
+INSTANTIATE_TEST_SUITE_P(Dialogs, SaveFileDialogTest, testing::Bool(), &saveFlowName);
 
-TEST_P(SaveFlow, givesANewNameTheExtensionOfTheFilter)
+TEST_P(SaveFileDialogTest, givesANewNameTheExtensionOfTheFilter)
 {
     const auto flow = makeFlow();
     ModalScript user;
@@ -38,7 +42,7 @@ TEST_P(SaveFlow, givesANewNameTheExtensionOfTheFilter)
     EXPECT_EQ(entries(), QStringList()) << "the probe must leave nothing behind";
 }
 
-TEST_P(SaveFlow, keepsATypedExtension)
+TEST_P(SaveFileDialogTest, keepsATypedExtension)
 {
     const auto flow = makeFlow();
     ModalScript user;
@@ -47,7 +51,7 @@ TEST_P(SaveFlow, keepsATypedExtension)
     EXPECT_EQ(flow->selectedFilename(), unchanged("report.txt"));
 }
 
-TEST_P(SaveFlow, takesNamesOutsideAsciiAndTheBasicPlane)
+TEST_P(SaveFileDialogTest, takesNamesOutsideAsciiAndTheBasicPlane)
 {
     const QString name = QString::fromUtf8("\xE6\x97\xA5\xE6\x9C\xAC \xF0\x9F\x98\x80");
     const auto flow = makeFlow();
@@ -57,7 +61,7 @@ TEST_P(SaveFlow, takesNamesOutsideAsciiAndTheBasicPlane)
     EXPECT_EQ(flow->selectedFilename(), path(name.toStdString() + ".dat"));
 }
 
-TEST_P(SaveFlow, returnsFalseOnCancelAndHasNoName)
+TEST_P(SaveFileDialogTest, returnsFalseOnCancelAndHasNoName)
 {
     const auto flow = makeFlow();
     ModalScript user;
@@ -66,7 +70,7 @@ TEST_P(SaveFlow, returnsFalseOnCancelAndHasNoName)
     EXPECT_EQ(flow->selectedFilename(), "");
 }
 
-TEST_P(SaveFlow, asksBeforeReplacingAndShowsTheDialogAgainOnNo)
+TEST_P(SaveFileDialogTest, asksBeforeReplacingAndShowsTheDialogAgainOnNo)
 {
     makeFile("old.dat");
     const auto flow = makeFlow();
@@ -80,7 +84,7 @@ TEST_P(SaveFlow, asksBeforeReplacingAndShowsTheDialogAgainOnNo)
         pressKey(box, Qt::Key_Return); // No is the default
     });
     user.on<QFileDialog>([](QFileDialog& dialog) {
-        EXPECT_TRUE(FileDialogPage(dialog).name().startsWith("old")) << "the dialog is as the user left it";
+        EXPECT_TRUE(FileDialogDriver(dialog).name().startsWith("old")) << "the dialog is as the user left it";
         acceptName(dialog, "new");
     });
     EXPECT_TRUE(flow->launch());
@@ -88,7 +92,7 @@ TEST_P(SaveFlow, asksBeforeReplacingAndShowsTheDialogAgainOnNo)
     EXPECT_EQ(contentOf("old.dat"), "old content");
 }
 
-TEST_P(SaveFlow, takesEscapeForNo)
+TEST_P(SaveFileDialogTest, takesEscapeForNo)
 {
     makeFile("old.dat");
     const auto flow = makeFlow();
@@ -100,7 +104,7 @@ TEST_P(SaveFlow, takesEscapeForNo)
     EXPECT_EQ(flow->selectedFilename(), unchanged("old.dat")) << "the name of the last pass";
 }
 
-TEST_P(SaveFlow, returnsAnExistingNameOnYesWithoutTouchingTheFile)
+TEST_P(SaveFileDialogTest, returnsAnExistingNameOnYesWithoutTouchingTheFile)
 {
     makeFile("old.dat");
     const auto flow = makeFlow();
@@ -112,7 +116,7 @@ TEST_P(SaveFlow, returnsAnExistingNameOnYesWithoutTouchingTheFile)
     EXPECT_EQ(contentOf("old.dat"), "old content");
 }
 
-TEST_P(SaveFlow, asksForAnotherPlaceUntilOneWorks)
+TEST_P(SaveFileDialogTest, asksForAnotherPlaceUntilOneWorks)
 {
     const auto flow = makeFlow();
     const auto refuse = [](const QString& name) { return [name](QFileDialog& dialog) { acceptName(dialog, name); }; };
@@ -129,7 +133,7 @@ TEST_P(SaveFlow, asksForAnotherPlaceUntilOneWorks)
     EXPECT_EQ(flow->selectedFilename(), path("four.dat"));
 }
 
-TEST_P(SaveFlow, givesUpWhenNoOtherPlaceIsWanted)
+TEST_P(SaveFileDialogTest, givesUpWhenNoOtherPlaceIsWanted)
 {
     const auto flow = makeFlow();
     ModalScript user;
@@ -145,7 +149,7 @@ TEST_P(SaveFlow, givesUpWhenNoOtherPlaceIsWanted)
     EXPECT_FALSE(flow->launch());
 }
 
-TEST_P(SaveFlow, asksForAnotherPlaceWhenTheExtensionMakesTheNameTooLong)
+TEST_P(SaveFileDialogTest, asksForAnotherPlaceWhenTheExtensionMakesTheNameTooLong)
 {
     const auto flow = makeFlow();
     ModalScript user;
@@ -157,13 +161,13 @@ TEST_P(SaveFlow, asksForAnotherPlaceWhenTheExtensionMakesTheNameTooLong)
     EXPECT_FALSE(flow->launch());
 }
 
-TEST_P(SaveFlow, tellsWhichWriterWasChosen)
+TEST_P(SaveFileDialogTest, tellsWhichWriterWasChosen)
 {
     const auto flow = makeFlow({"Text (*.txt)", "Table (*.csv)", "Page (*.html)"}, 1);
     EXPECT_EQ(flow->selectedWriter(), 1) << "the one to start with";
     ModalScript user;
     user.on<QFileDialog>([](QFileDialog& dialog) {
-        FileDialogPage(dialog).pickTypeWithKeys(2);
+        FileDialogDriver(dialog).pickTypeWithKeys(2);
         acceptName(dialog, "report");
     });
     EXPECT_TRUE(flow->launch());
@@ -172,12 +176,12 @@ TEST_P(SaveFlow, tellsWhichWriterWasChosen)
     EXPECT_EQ(flow->selectedFilename(), path("report.html"));
 }
 
-TEST_P(SaveFlow, startsWithTheGivenNameAndWriter)
+TEST_P(SaveFileDialogTest, startsWithTheGivenNameAndWriter)
 {
     const auto flow = makeFlow({"Text (*.txt)", "Table (*.csv)"}, 1);
     ModalScript user;
     user.on<QFileDialog>([](QFileDialog& dialog) {
-        EXPECT_TRUE(FileDialogPage(dialog).name().startsWith("report"));
+        EXPECT_TRUE(FileDialogDriver(dialog).name().startsWith("report"));
         pressAccept(dialog);
     });
     EXPECT_TRUE(flow->launch());
@@ -185,13 +189,13 @@ TEST_P(SaveFlow, startsWithTheGivenNameAndWriter)
     EXPECT_EQ(flow->selectedFilename(), unchanged("report.csv"));
 }
 
-TEST_P(SaveFlow, reportsTheFirstOfEqualWriters)
+TEST_P(SaveFileDialogTest, reportsTheFirstOfEqualWriters)
 {
     const auto flow = makeFlow({"Text (*.txt)", "Data (*.dat)", "Data (*.dat)"}, 2);
     EXPECT_EQ(flow->selectedWriter(), 1);
 }
 
-TEST_P(SaveFlow, takesAWriterOutsideTheListForNone)
+TEST_P(SaveFileDialogTest, takesAWriterOutsideTheListForNone)
 {
     for (const int index : {-1, 2, 1000}) {
         const auto flow = makeFlow({"Text (*.txt)", "Table (*.csv)"}, index);
@@ -200,7 +204,7 @@ TEST_P(SaveFlow, takesAWriterOutsideTheListForNone)
     EXPECT_NE(makeFlow(std::vector<std::string>(), 0), nullptr);
 }
 
-TEST_P(SaveFlow, findsItsWriterWhateverBlanksTheTextsHave)
+TEST_P(SaveFileDialogTest, findsItsWriterWhateverBlanksTheTextsHave)
 {
     const std::vector<std::string> writers = {
         "Text (*.txt)", " Long  table ( *.csv  *.tsv ) ", "Page\t(*.html)", "Page (*.html)", "Page (*.html)"};
@@ -210,7 +214,7 @@ TEST_P(SaveFlow, findsItsWriterWhateverBlanksTheTextsHave)
         EXPECT_EQ(flow->selectedWriter(), expected);
         ModalScript user;
         user.on<QFileDialog>([&](QFileDialog& dialog) {
-            EXPECT_EQ(FileDialogPage(dialog).typeCombo().currentIndex(), expected);
+            EXPECT_EQ(FileDialogDriver(dialog).typeCombo().currentIndex(), expected);
             acceptName(dialog, "new");
         });
         EXPECT_TRUE(flow->launch());
@@ -218,7 +222,7 @@ TEST_P(SaveFlow, findsItsWriterWhateverBlanksTheTextsHave)
     }
 }
 
-TEST_P(SaveFlow, givesTheNameAsItWasTypedWithoutAFilter)
+TEST_P(SaveFileDialogTest, givesTheNameAsItWasTypedWithoutAFilter)
 {
     for (const char* const filter : {"", " "}) {
         const auto flow = makeFlow(filter);
@@ -234,7 +238,7 @@ TEST_P(SaveFlow, givesTheNameAsItWasTypedWithoutAFilter)
     EXPECT_EQ(flow->selectedFilename(), unchanged("new"));
 }
 
-TEST_P(SaveFlow, runsAgain)
+TEST_P(SaveFileDialogTest, runsAgain)
 {
     const auto flow = makeFlow();
     ModalScript user;
@@ -245,20 +249,20 @@ TEST_P(SaveFlow, runsAgain)
     EXPECT_EQ(flow->selectedFilename(), path("two.dat"));
 }
 
-TEST_P(SaveFlow, keepsTheDialogThatItWasMadeWith)
+TEST_P(SaveFileDialogTest, keepsTheDialogThatItWasMadeWith)
 {
     const auto flow = makeFlow();
     ExtendedFileDialog::setUseNativeFileDialog(!GetParam());
     cancelAndExpectTheDialog(*flow, *m_parent, GetParam());
 }
 
-TEST_P(SaveFlow, choosesTheDialogForWritersToo)
+TEST_P(SaveFileDialogTest, choosesTheDialogForWritersToo)
 {
     const auto flow = makeFlow({"Text (*.txt)", "Data (*.dat)"}, 1);
     cancelAndExpectTheDialog(*flow, *m_parent, GetParam());
 }
 
-TEST_P(SaveFlow, leavesItsQtDialogToTheParent)
+TEST_P(SaveFileDialogTest, leavesItsQtDialogToTheParent)
 {
     auto flow = makeFlow();
     const QPointer<QExtendedFileDialog> dialog = m_parent->findChild<QExtendedFileDialog*>();
@@ -268,7 +272,7 @@ TEST_P(SaveFlow, leavesItsQtDialogToTheParent)
     EXPECT_FALSE(dialog);
 }
 
-TEST_P(SaveFlow, worksWithoutAParent)
+TEST_P(SaveFileDialogTest, worksWithoutAParent)
 {
     SaveFileDialog flow(nullptr, "Save data", directory(), "", "Data files (*.dat)", "");
     ModalScript user;
@@ -277,7 +281,7 @@ TEST_P(SaveFlow, worksWithoutAParent)
     EXPECT_EQ(flow.selectedFilename(), path("report.dat"));
 }
 
-TEST_P(SaveFlow, endsWhenTheParentIsDestroyedWhileTheDialogIsOpen)
+TEST_P(SaveFileDialogTest, endsWhenTheParentIsDestroyedWhileTheDialogIsOpen)
 {
     const auto flow = makeFlow();
     ModalScript user;
@@ -286,7 +290,7 @@ TEST_P(SaveFlow, endsWhenTheParentIsDestroyedWhileTheDialogIsOpen)
     EXPECT_FALSE(flow->launch()) << "and never runs again";
 }
 
-TEST_P(SaveFlow, endsWhenTheParentIsDestroyedWhileAQuestionIsOpen)
+TEST_P(SaveFileDialogTest, endsWhenTheParentIsDestroyedWhileAQuestionIsOpen)
 {
     makeFile("old.dat");
     const auto flow = makeFlow();

@@ -12,6 +12,10 @@ using namespace morvane::test;
 
 namespace {
 
+class SaveFileHandlerFlowTest : public SaveFlow
+{
+};
+
 struct Script
 {
     std::vector<std::string> calls;
@@ -50,9 +54,9 @@ private:
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Handlers, SaveFlow, testing::Bool(), &saveFlowName);
+INSTANTIATE_TEST_SUITE_P(Handlers, SaveFileHandlerFlowTest, testing::Bool(), &saveFlowName);
 
-TEST_P(SaveFlow, asksTheHandlerInOrder)
+TEST_P(SaveFileHandlerFlowTest, asksTheHandlerInOrder)
 {
     makeFile("old.dat");
     Script script;
@@ -68,7 +72,7 @@ TEST_P(SaveFlow, asksTheHandlerInOrder)
                           "filenameToCheck " + refused("one").toStdString() + ".dat", "unableToOverwriteMessage"}));
 }
 
-TEST_P(SaveFlow, showsTheTextsOfAHandlerAsTheyStand)
+TEST_P(SaveFileHandlerFlowTest, showsTheTextsOfAHandlerAsTheyStand)
 {
     makeFile("old.dat");
     Script script;
@@ -83,7 +87,7 @@ TEST_P(SaveFlow, showsTheTextsOfAHandlerAsTheyStand)
     EXPECT_TRUE(flow->launch());
 }
 
-TEST_P(SaveFlow, asksAboutTheNameThatTheHandlerGivesAndProbesItsOwn)
+TEST_P(SaveFileHandlerFlowTest, asksAboutTheNameThatTheHandlerGivesAndProbesItsOwn)
 {
     makeFile("other");
     Script script;
@@ -96,7 +100,7 @@ TEST_P(SaveFlow, asksAboutTheNameThatTheHandlerGivesAndProbesItsOwn)
     EXPECT_EQ(flow->selectedFilename(), path("new.dat"));
 }
 
-TEST_P(SaveFlow, asksAboutADirectoryLikeAboutAFile)
+TEST_P(SaveFileHandlerFlowTest, asksAboutADirectoryLikeAboutAFile)
 {
     Script script;
     script.nameToCheck = directory();
@@ -107,7 +111,7 @@ TEST_P(SaveFlow, asksAboutADirectoryLikeAboutAFile)
     EXPECT_TRUE(flow->launch());
 }
 
-TEST_P(SaveFlow, doesNotAskWhenTheNameToCheckIsNotThere)
+TEST_P(SaveFileHandlerFlowTest, doesNotAskWhenTheNameToCheckIsNotThere)
 {
     makeFile("old.dat");
     Script script;
@@ -119,7 +123,7 @@ TEST_P(SaveFlow, doesNotAskWhenTheNameToCheckIsNotThere)
     EXPECT_EQ(script.calls.size(), 1u);
 }
 
-TEST_P(SaveFlow, passesOnWhatAHandlerThrows)
+TEST_P(SaveFileHandlerFlowTest, passesOnWhatAHandlerThrows)
 {
     makeFile("old.dat");
     for (const char* const place : {"filenameToCheck", "okToOverwriteMessage"}) {
@@ -132,7 +136,7 @@ TEST_P(SaveFlow, passesOnWhatAHandlerThrows)
     }
 }
 
-TEST_P(SaveFlow, ownsItsHandler)
+TEST_P(SaveFileHandlerFlowTest, ownsItsHandler)
 {
     struct Counting : morvane::DefaultSaveFileMessageHandler
     {
@@ -177,7 +181,7 @@ private:
 
 } // namespace
 
-TEST_P(SaveFlow, asksNothingMoreWhenTheParentGoesInAnyOperationOfTheHandler)
+TEST_P(SaveFileHandlerFlowTest, asksNothingMoreWhenTheParentGoesInAnyOperationOfTheHandler)
 {
     makeFile("old.dat");
     for (int operation = 1; operation <= 3; ++operation) {
@@ -198,7 +202,7 @@ TEST_P(SaveFlow, asksNothingMoreWhenTheParentGoesInAnyOperationOfTheHandler)
     EXPECT_EQ(entries(), QStringList("old.dat"));
 }
 
-TEST_P(SaveFlow, asksNothingMoreWhenItIsDestroyedItself)
+TEST_P(SaveFileHandlerFlowTest, asksNothingMoreWhenItIsDestroyedItself)
 {
     makeFile("old.dat");
     for (int operation = 0; operation <= 3; ++operation) {
@@ -220,7 +224,7 @@ TEST_P(SaveFlow, asksNothingMoreWhenItIsDestroyedItself)
     }
 }
 
-TEST_P(SaveFlow, endsWithItsOwnDialogWhenItIsDestroyedWithoutAParent)
+TEST_P(SaveFileHandlerFlowTest, endsWithItsOwnDialogWhenItIsDestroyedWithoutAParent)
 {
     auto flow = std::make_unique<SaveFileDialog>(nullptr, "Save data", directory(), "", "Data files (*.dat)", "");
     ModalScript user;
@@ -235,7 +239,7 @@ TEST_P(SaveFlow, endsWithItsOwnDialogWhenItIsDestroyedWithoutAParent)
     EXPECT_FALSE(flow->launch());
 }
 
-TEST(SaveFlowWithoutAFile, savesNothingWhenTheShellAcceptsWithoutAResult)
+TEST(SaveFileHandlerFlowWithoutAFile, savesNothingWhenTheShellAcceptsWithoutAResult)
 {
     RecordingShell shell;
     const morvane::ui::ShellOverride guard(shell);

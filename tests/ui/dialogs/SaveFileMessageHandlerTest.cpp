@@ -16,13 +16,13 @@ static_assert(std::is_copy_assignable_v<DefaultSaveFileMessageHandler>);
 
 namespace {
 
-class SaveFileMessages : public testing::TestWithParam<const char*>
+class SaveFileMessageHandlerTexts : public testing::TestWithParam<const char*>
 {
 };
 
 } // namespace
 
-TEST_P(SaveFileMessages, nameTheFileByteForByte)
+TEST_P(SaveFileMessageHandlerTexts, nameTheFileByteForByte)
 {
     const std::string name = GetParam();
     DefaultSaveFileMessageHandler handler;
@@ -36,8 +36,8 @@ TEST_P(SaveFileMessages, nameTheFileByteForByte)
         "Unable to access file " + name + ": disk full. Do you want to try again and choose a different location?");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Names, SaveFileMessages, testing::Values("C:/data/run1.dat", "/tmp/two words", "\xE6\x97\xA5\\\"<b>%1</b>", ""));
+INSTANTIATE_TEST_SUITE_P(Names, SaveFileMessageHandlerTexts,
+    testing::Values("C:/data/run1.dat", "/tmp/two words", "\xE6\x97\xA5\\\"<b>%1</b>", ""));
 
 TEST(SaveFileMessageHandler, speaksOfAnEmptyNameAtFirst)
 {

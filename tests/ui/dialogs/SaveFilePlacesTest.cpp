@@ -10,6 +10,10 @@ using namespace morvane::test;
 
 namespace {
 
+class SaveFilePlacesTest : public SaveFlow
+{
+};
+
 /** Does something between the dialog and the look at the disk. */
 class ActingHandler : public morvane::DefaultSaveFileMessageHandler
 {
@@ -35,9 +39,9 @@ void answerYes(QMessageBox& box)
 
 } // namespace
 
-INSTANTIATE_TEST_SUITE_P(Places, SaveFlow, testing::Bool(), &saveFlowName);
+INSTANTIATE_TEST_SUITE_P(Places, SaveFilePlacesTest, testing::Bool(), &saveFlowName);
 
-TEST_P(SaveFlow, aFileThatMayBeReplacedButNotWrittenLeadsToAnotherPlace)
+TEST_P(SaveFilePlacesTest, aFileThatMayBeReplacedButNotWrittenLeadsToAnotherPlace)
 {
     makeFile("fixed.dat");
     const std::string file = path("fixed.dat");
@@ -63,7 +67,7 @@ TEST_P(SaveFlow, aFileThatMayBeReplacedButNotWrittenLeadsToAnotherPlace)
     EXPECT_EQ(entries(), QStringList("fixed.dat"));
 }
 
-TEST_P(SaveFlow, aDirectoryThatVanishesAfterTheDialogIsNotWritable)
+TEST_P(SaveFilePlacesTest, aDirectoryThatVanishesAfterTheDialogIsNotWritable)
 {
 #ifdef Q_OS_WIN
     if (!GetParam()) {
@@ -85,7 +89,7 @@ TEST_P(SaveFlow, aDirectoryThatVanishesAfterTheDialogIsNotWritable)
     EXPECT_EQ(entries(), QStringList()) << "and it is not made again";
 }
 
-TEST_P(SaveFlow, aFileThatAppearsAfterTheDialogIsAskedAbout)
+TEST_P(SaveFilePlacesTest, aFileThatAppearsAfterTheDialogIsAskedAbout)
 {
     const auto flow =
         makeFlow("Data files (*.dat)", std::make_unique<ActingHandler>([this] { makeFile("new.dat", "theirs"); }));
@@ -96,13 +100,13 @@ TEST_P(SaveFlow, aFileThatAppearsAfterTheDialogIsAskedAbout)
     EXPECT_EQ(contentOf("new.dat"), "theirs");
 }
 
-TEST_P(SaveFlow, cancelsHalfWay)
+TEST_P(SaveFilePlacesTest, cancelsHalfWay)
 {
     makeFile("old.dat");
     const auto flow = makeFlow({"Text (*.txt)", "Data (*.dat)"}, 0);
     ModalScript user;
     user.on<QFileDialog>([](QFileDialog& dialog) {
-        FileDialogPage(dialog).pickTypeWithKeys(1);
+        FileDialogDriver(dialog).pickTypeWithKeys(1);
         acceptName(dialog, "old");
     });
     user.on<QMessageBox>([](QMessageBox& box) { pressKey(box, Qt::Key_Return); });
@@ -115,7 +119,7 @@ TEST_P(SaveFlow, cancelsHalfWay)
     EXPECT_EQ(contentOf("old.dat"), "old content");
 }
 
-TEST_P(SaveFlow, passesOnWhatTheTextOfARefusalThrows)
+TEST_P(SaveFilePlacesTest, passesOnWhatTheTextOfARefusalThrows)
 {
     struct Throwing : morvane::DefaultSaveFileMessageHandler
     {

@@ -1,5 +1,5 @@
 // The shapes in which the three save-file classes are made, and the dialogs that they make.
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
@@ -62,7 +62,7 @@ protected:
         user.on<QFileDialog>([](QFileDialog& dialog) {
             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Save data"));
             EXPECT_TRUE(dialog.findChild<QWidget*>(QStringLiteral("buttonBox")));
-            FileDialogPage(dialog).click(QDialogButtonBox::Save);
+            FileDialogDriver(dialog).click(QDialogButtonBox::Save);
         });
         EXPECT_TRUE(flow.launch());
         EXPECT_TRUE(user.finished());
@@ -132,7 +132,7 @@ TYPED_TEST(SaveFileShapes, noHandlerMeansTheDefaultOne)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     TypeParam flow(&this->m_parent, "Save data", this->directory(), "report", this->m_writers, 0, "", Handler());
     ModalScript user;
-    user.on<QFileDialog>([](QFileDialog& dialog) { FileDialogPage(dialog).click(QDialogButtonBox::Save); });
+    user.on<QFileDialog>([](QFileDialog& dialog) { FileDialogDriver(dialog).click(QDialogButtonBox::Save); });
     user.on<QMessageBox>([](QMessageBox& box) {
         EXPECT_TRUE(box.text().endsWith(QStringLiteral("report.txt already exists. Do you want to replace it?")));
         QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
@@ -149,7 +149,7 @@ public:
     using Flow::Flow;
 };
 
-TEST(SaveFileQtDialogSetUp, makesASaveDialogThatLeavesTheQuestionToTheFlow)
+TEST(SaveFileShapesQtSetUp, makesASaveDialogThatLeavesTheQuestionToTheFlow)
 {
     QWidget parent;
     const QTemporaryDir folder;
@@ -164,7 +164,7 @@ TEST(SaveFileQtDialogSetUp, makesASaveDialogThatLeavesTheQuestionToTheFlow)
     EXPECT_EQ(flow.dialog()->directory().path(), folder.path());
 }
 
-TEST(SaveFileWinDialogSetUp, makesANativeDialogOfTheParent)
+TEST(SaveFileShapesWinSetUp, makesANativeDialogOfTheParent)
 {
     ui::WidgetShell shell{ui::WidgetShell::Appearance::AlwaysWidgets};
     const ui::ShellOverride guard(shell);
@@ -179,7 +179,7 @@ TEST(SaveFileWinDialogSetUp, makesANativeDialogOfTheParent)
     EXPECT_EQ(flow.dialog()->directory().path(), folder.path());
 }
 
-TEST(SaveFileWinDialogSetUp, leavesItsDialogAlive)
+TEST(SaveFileShapesWinSetUp, leavesItsDialogAlive)
 {
     ui::WidgetShell shell{ui::WidgetShell::Appearance::AlwaysWidgets};
     const ui::ShellOverride guard(shell);

@@ -145,9 +145,9 @@ TEST(CopyShortcutTest, bothClassesShowOneSlotUnderTheirFullName)
     }
 }
 
-using TableCopyShortcutTest = morvane::test::TableCopyFixture;
+using CopyShortcutTableTest = morvane::test::TableCopyFixture;
 
-TEST_F(TableCopyShortcutTest, actionsAndButtonsCanCopyToo)
+TEST_F(CopyShortcutTableTest, actionsAndButtonsCanCopyToo)
 {
     QAction action;
     QPushButton button;
@@ -161,7 +161,7 @@ TEST_F(TableCopyShortcutTest, actionsAndButtonsCanCopyToo)
     EXPECT_EQ(clipboardText(), "r2c2");
 }
 
-TEST_F(TableCopyShortcutTest, onlyTheClipboardProperIsWritten)
+TEST_F(CopyShortcutTableTest, onlyTheClipboardProperIsWritten)
 {
     QClipboard* const clipboard = QGuiApplication::clipboard();
     if (clipboard->supportsSelection()) {
@@ -172,10 +172,10 @@ TEST_F(TableCopyShortcutTest, onlyTheClipboardProperIsWritten)
     EXPECT_EQ(clipboard->text(QClipboard::Selection), clipboard->supportsSelection() ? "kept" : "");
 }
 
-class OpenEditorTest : public morvane::test::TableCopyFixture
+class CopyShortcutEditorTest : public morvane::test::TableCopyFixture
 {
 protected:
-    OpenEditorTest() : items(2, 2)
+    CopyShortcutEditorTest() : items(2, 2)
     {
         items.setItem(0, 0, new QStandardItem("thermocouple"));
         show(items);
@@ -184,13 +184,13 @@ protected:
         editor = view.viewport()->findChild<QLineEdit*>();
         QGuiApplication::clipboard()->setText("before");
     }
-    ~OpenEditorTest() override { view.setModel(nullptr); }
+    ~CopyShortcutEditorTest() override { view.setModel(nullptr); }
 
     QStandardItemModel items;
     QLineEdit* editor;
 };
 
-TEST_F(OpenEditorTest, copiesTheEditorsOwnSelection)
+TEST_F(CopyShortcutEditorTest, copiesTheEditorsOwnSelection)
 {
     ASSERT_NE(editor, nullptr);
     QTest::keyClick(editor, Qt::Key_Home);
@@ -200,7 +200,7 @@ TEST_F(OpenEditorTest, copiesTheEditorsOwnSelection)
     EXPECT_EQ(clipboardText(), "th");
 }
 
-TEST_F(OpenEditorTest, withNothingSelectedInTheEditorLeavesTheClipboardAlone)
+TEST_F(CopyShortcutEditorTest, withNothingSelectedInTheEditorLeavesTheClipboardAlone)
 {
     ASSERT_NE(editor, nullptr);
     QTest::keyClick(editor, Qt::Key_End);
@@ -208,17 +208,17 @@ TEST_F(OpenEditorTest, withNothingSelectedInTheEditorLeavesTheClipboardAlone)
     EXPECT_EQ(clipboardText(), "before");
 }
 
-TEST_F(OpenEditorTest, theCellsAreCopiedAgainOnceItIsClosed)
+TEST_F(CopyShortcutEditorTest, theCellsAreCopiedAgainOnceItIsClosed)
 {
     ASSERT_NE(editor, nullptr);
     QTest::keyClick(editor, Qt::Key_Escape);
     EXPECT_EQ(copied(), "thermocouple");
 }
 
-class ClipboardListenerTest : public ::testing::Test
+class CopyShortcutClipboardTest : public ::testing::Test
 {
 protected:
-    ClipboardListenerTest() : model(2, 2), view(std::make_unique<QTableView>())
+    CopyShortcutClipboardTest() : model(2, 2), view(std::make_unique<QTableView>())
     {
         view->setModel(&model);
         handler = new TableCopyHandler(*view);
@@ -246,7 +246,7 @@ protected:
     QObject listener;
 };
 
-TEST_F(ClipboardListenerTest, mayDeleteTheHandlerWhileTheShortcutIsBeingHandled)
+TEST_F(CopyShortcutClipboardTest, mayDeleteTheHandlerWhileTheShortcutIsBeingHandled)
 {
     onClipboardChange([this] { delete handler.data(); });
     QTest::keyClick(view.get(), Qt::Key_C, Qt::ControlModifier);
@@ -254,21 +254,21 @@ TEST_F(ClipboardListenerTest, mayDeleteTheHandlerWhileTheShortcutIsBeingHandled)
     EXPECT_EQ(clipboardText(), "r0c0\tr0c1\nr1c0\tr1c1");
 }
 
-TEST_F(ClipboardListenerTest, mayDeleteTheHandlerDuringADirectCopy)
+TEST_F(CopyShortcutClipboardTest, mayDeleteTheHandlerDuringADirectCopy)
 {
     onClipboardChange([this] { delete handler.data(); });
     handler->copyToClipboard();
     EXPECT_TRUE(becomes([this] { return handler.isNull(); }));
 }
 
-TEST_F(ClipboardListenerTest, mayDeleteTheViewDuringADirectCopy)
+TEST_F(CopyShortcutClipboardTest, mayDeleteTheViewDuringADirectCopy)
 {
     onClipboardChange([this] { view.reset(); });
     handler->copyToClipboard();
     EXPECT_TRUE(becomes([this] { return handler.isNull(); }));
 }
 
-TEST_F(ClipboardListenerTest, mayReplaceTheModelAndCopyAgain)
+TEST_F(CopyShortcutClipboardTest, mayReplaceTheModelAndCopyAgain)
 {
     morvane::test::CellModel other(1, 1);
     bool again = false;
@@ -285,7 +285,7 @@ TEST_F(ClipboardListenerTest, mayReplaceTheModelAndCopyAgain)
     view->setModel(nullptr);
 }
 
-TEST_F(ClipboardListenerTest, hearsOfEachCopyOnce)
+TEST_F(CopyShortcutClipboardTest, hearsOfEachCopyOnce)
 {
     int changes = 0;
     onClipboardChange([&changes] { ++changes; });

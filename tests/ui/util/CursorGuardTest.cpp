@@ -26,7 +26,7 @@ int activeShape()
     return cursor ? cursor->shape() : -1;
 }
 
-TEST(OverrideCursorTest, showsItsShapeUntilItEnds)
+TEST(CursorGuardOverrideTest, showsItsShapeUntilItEnds)
 {
     {
         const OverrideCursor wait(Qt::WaitCursor);
@@ -35,7 +35,7 @@ TEST(OverrideCursorTest, showsItsShapeUntilItEnds)
     EXPECT_EQ(activeShape(), -1);
 }
 
-TEST(OverrideCursorTest, nestedGuardsRestoreInTwoSteps)
+TEST(CursorGuardOverrideTest, nestedGuardsRestoreInTwoSteps)
 {
     std::optional<OverrideCursor> outer(Qt::WaitCursor);
     std::optional<OverrideCursor> inner(Qt::CrossCursor);
@@ -46,7 +46,7 @@ TEST(OverrideCursorTest, nestedGuardsRestoreInTwoSteps)
     EXPECT_EQ(activeShape(), -1);
 }
 
-TEST(OverrideCursorTest, endsWithAnException)
+TEST(CursorGuardOverrideTest, endsWithAnException)
 {
     EXPECT_THROW(
         {
@@ -57,7 +57,7 @@ TEST(OverrideCursorTest, endsWithAnException)
     EXPECT_EQ(activeShape(), -1);
 }
 
-TEST(OverrideCursorRestorerTest, showsTheNormalCursorUntilItEnds)
+TEST(CursorGuardRestorerTest, showsTheNormalCursorUntilItEnds)
 {
     const OverrideCursor wait(Qt::WaitCursor);
     {
@@ -67,7 +67,7 @@ TEST(OverrideCursorRestorerTest, showsTheNormalCursorUntilItEnds)
     EXPECT_EQ(activeShape(), Qt::WaitCursor);
 }
 
-TEST(OverrideCursorRestorerTest, takesOffOneCursorOnly)
+TEST(CursorGuardRestorerTest, takesOffOneCursorOnly)
 {
     const OverrideCursor wait(Qt::WaitCursor);
     {
@@ -81,7 +81,7 @@ TEST(OverrideCursorRestorerTest, takesOffOneCursorOnly)
     EXPECT_EQ(activeShape(), Qt::WaitCursor);
 }
 
-TEST(OverrideCursorRestorerTest, nestedRestorersGoDownStepByStep)
+TEST(CursorGuardRestorerTest, nestedRestorersGoDownStepByStep)
 {
     const OverrideCursor wait(Qt::WaitCursor);
     const OverrideCursor cross(Qt::CrossCursor);
@@ -93,7 +93,7 @@ TEST(OverrideCursorRestorerTest, nestedRestorersGoDownStepByStep)
     EXPECT_EQ(activeShape(), Qt::CrossCursor);
 }
 
-TEST(OverrideCursorRestorerTest, bringsBackAPictureCursor)
+TEST(CursorGuardRestorerTest, bringsBackAPictureCursor)
 {
     QPixmap picture(16, 16);
     picture.fill(Qt::red);
@@ -107,7 +107,7 @@ TEST(OverrideCursorRestorerTest, bringsBackAPictureCursor)
     QGuiApplication::restoreOverrideCursor();
 }
 
-TEST(OverrideCursorRestorerTest, withoutAnActiveCursorDoesNothing)
+TEST(CursorGuardRestorerTest, withoutAnActiveCursorDoesNothing)
 {
     {
         const OverrideCursorRestorer pointer;
@@ -116,7 +116,7 @@ TEST(OverrideCursorRestorerTest, withoutAnActiveCursorDoesNothing)
     EXPECT_EQ(activeShape(), -1);
 }
 
-TEST(OverrideCursorRestorerTest, withoutAnActiveCursorLeavesOneThatCameLaterAlone)
+TEST(CursorGuardRestorerTest, withoutAnActiveCursorLeavesOneThatCameLaterAlone)
 {
     {
         const OverrideCursorRestorer pointer;

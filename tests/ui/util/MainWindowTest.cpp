@@ -13,7 +13,7 @@ namespace {
 
 using morvane::ui::findMainWindow;
 
-TEST(FindMainWindowTest, withoutAMainWindowReturnsNull)
+TEST(MainWindowTest, withoutAMainWindowReturnsNull)
 {
     if (findMainWindow(false)) {
         GTEST_SKIP() << "an earlier test of this process has found one";
@@ -24,7 +24,7 @@ TEST(FindMainWindowTest, withoutAMainWindowReturnsNull)
     EXPECT_EQ(findMainWindow(true), nullptr);
 }
 
-TEST(FindMainWindowTest, looksOnUntilThereIsOne)
+TEST(MainWindowTest, looksOnUntilThereIsOne)
 {
     if (findMainWindow(false)) {
         GTEST_SKIP() << "an earlier test of this process has found one";
@@ -33,7 +33,7 @@ TEST(FindMainWindowTest, looksOnUntilThereIsOne)
     EXPECT_EQ(findMainWindow(false), &window);
 }
 
-TEST(FindMainWindowTest, findsAHiddenMainWindowAmongOtherWidgets)
+TEST(MainWindowTest, findsAHiddenMainWindowAmongOtherWidgets)
 {
     const QWidget plain;
     const QDialog dialog;
@@ -41,7 +41,7 @@ TEST(FindMainWindowTest, findsAHiddenMainWindowAmongOtherWidgets)
     EXPECT_EQ(findMainWindow(true), &window);
 }
 
-TEST(FindMainWindowTest, passesOverAMainWindowInsideAnother)
+TEST(MainWindowTest, passesOverAMainWindowInsideAnother)
 {
     QWidget frame;
     auto* const inner = new QMainWindow(&frame);
@@ -51,7 +51,7 @@ TEST(FindMainWindowTest, passesOverAMainWindowInsideAnother)
     EXPECT_EQ(findMainWindow(true), &window);
 }
 
-TEST(FindMainWindowTest, takesTheFirstOfSeveralInTheOrderOfQt)
+TEST(MainWindowTest, takesTheFirstOfSeveralInTheOrderOfQt)
 {
     QMainWindow windows[5];
     QMainWindow* first = nullptr;
@@ -63,7 +63,7 @@ TEST(FindMainWindowTest, takesTheFirstOfSeveralInTheOrderOfQt)
     EXPECT_TRUE(std::any_of(std::begin(windows), std::end(windows), [first](auto& w) { return &w == first; }));
 }
 
-TEST(FindMainWindowTest, remembersTheWindowEvenAfterItIsGone)
+TEST(MainWindowTest, remembersTheWindowEvenAfterItIsGone)
 {
     auto window = std::make_unique<QMainWindow>();
     const QMainWindow* const found = findMainWindow(true);
@@ -75,7 +75,7 @@ TEST(FindMainWindowTest, remembersTheWindowEvenAfterItIsGone)
     EXPECT_EQ(findMainWindow(false), &second);
 }
 
-TEST(FindMainWindowTest, aSearchThatFindsNothingKeepsTheOldWindow)
+TEST(MainWindowTest, aSearchThatFindsNothingKeepsTheOldWindow)
 {
     auto window = std::make_unique<QMainWindow>();
     const QMainWindow* const found = findMainWindow(true);

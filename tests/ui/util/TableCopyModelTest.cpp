@@ -210,11 +210,12 @@ struct CellText
     QString text;
 };
 
-class CellTextTest : public morvane::test::TableCopyFixture, public ::testing::WithParamInterface<CellText>
+class TableCopyModelCellTextTest : public morvane::test::TableCopyFixture,
+                                   public ::testing::WithParamInterface<CellText>
 {
 };
 
-TEST_P(CellTextTest, isCopiedAsItIs)
+TEST_P(TableCopyModelCellTextTest, isCopiedAsItIs)
 {
     CellModel cells(1, 3, [](int, int column) { return column == 1 ? GetParam().data : QVariant("x"); });
     show(cells);
@@ -224,7 +225,7 @@ TEST_P(CellTextTest, isCopiedAsItIs)
 
 const QDateTime moment(QDate(2024, 2, 29), QTime(13, 5, 7), Qt::UTC);
 
-INSTANTIATE_TEST_SUITE_P(Cells, CellTextTest,
+INSTANTIATE_TEST_SUITE_P(Cells, TableCopyModelCellTextTest,
     ::testing::Values(CellText{"Null", QVariant(), ""}, CellText{"NullText", QString(), ""},
         CellText{"EmptyText", "", ""}, CellText{"Blanks", "  a  ", "  a  "}, CellText{"Tab", "a\tb", "a\tb"},
         CellText{"LineFeeds", "a\nb\r\nc", "a\nb\r\nc"}, CellText{"Quotes", "\"a\"", "\"a\""},

@@ -55,7 +55,7 @@ TEST(ShellInstance, isReplacedWhileAGuardLives)
     EXPECT_EQ(&Shell::instance(), &original);
 }
 
-TEST(ComPointer, adoptsAndReleasesOneReference)
+TEST(ShellComPtr, adoptsAndReleasesOneReference)
 {
     Counted object;
     {
@@ -65,7 +65,7 @@ TEST(ComPointer, adoptsAndReleasesOneReference)
     EXPECT_EQ(object.references, 0u);
 }
 
-TEST(ComPointer, addsAReferenceOnlyWhenItShares)
+TEST(ShellComPtr, addsAReferenceOnlyWhenItShares)
 {
     Counted object;
     {
@@ -78,7 +78,7 @@ TEST(ComPointer, addsAReferenceOnlyWhenItShares)
     EXPECT_EQ(object.references, 1u);
 }
 
-TEST(ComPointer, putReleasesWhatWasHeld)
+TEST(ShellComPtr, putReleasesWhatWasHeld)
 {
     Counted object;
     ComPtr<IUnknown> pointer(&object);
@@ -86,7 +86,7 @@ TEST(ComPointer, putReleasesWhatWasHeld)
     EXPECT_EQ(object.references, 0u);
 }
 
-TEST(ComPointer, aFailedQueryGivesNothingWhateverItWrote)
+TEST(ShellComPtr, aFailedQueryGivesNothingWhateverItWrote)
 {
     Counted object;
     const ComPtr<IUnknown> pointer(&object);
@@ -95,7 +95,7 @@ TEST(ComPointer, aFailedQueryGivesNothingWhateverItWrote)
     EXPECT_EQ(object.references, 1u);
 }
 
-TEST(ComPointer, anEmptyPointerAnswersNoQuery)
+TEST(ShellComPtr, anEmptyPointerAnswersNoQuery)
 {
     EXPECT_FALSE(ComPtr<IUnknown>().query<IShellItem>());
 }
@@ -119,7 +119,7 @@ struct TwoInterfaces final : StackObject<IFileDialogEvents, IFileDialogControlEv
     HRESULT STDMETHODCALLTYPE OnControlActivating(IFileDialogCustomize*, DWORD) override { return S_OK; }
 };
 
-TEST(TableSearch, findsEachInterfaceAndAnswersForIUnknownWithTheFirst)
+TEST(ShellTableSearch, findsEachInterfaceAndAnswersForIUnknownWithTheFirst)
 {
     TwoInterfaces object;
     const QITAB table[] = {morvane::ui::interfaceRow<IFileDialogEvents, TwoInterfaces>(),
@@ -192,7 +192,7 @@ TEST(ShellConstants, nameEachInterfaceByItsIdentifier)
     EXPECT_EQ(iidOf<IFileDialogControlEvents>(), IID_IFileDialogControlEvents);
 }
 
-TEST(ComPointer, isTheObjectThatItHolds)
+TEST(ShellComPtr, isTheObjectThatItHolds)
 {
     Counted object;
     const ComPtr<IUnknown> pointer(&object);
@@ -201,7 +201,7 @@ TEST(ComPointer, isTheObjectThatItHolds)
     EXPECT_FALSE(ComPtr<IUnknown>::share(nullptr));
 }
 
-TEST(ComPointer, releasesWhatItHeldWhenItTakesAnother)
+TEST(ShellComPtr, releasesWhatItHeldWhenItTakesAnother)
 {
     Counted first;
     Counted second;

@@ -29,7 +29,7 @@ protected:
         ASSERT_EQ(customize->AddControlItem(0, 2, text("Open read-only").c_str()), S_OK);
         dialog->SetFileName(text("a.txt").c_str());
     }
-    static QAbstractButton& button(QFileDialog& window) { return *WidgetUser(window).acceptButton(); }
+    static QAbstractButton& button(QFileDialog& window) { return FileDialogDriver::whenActive(window).acceptButton(); }
     static QToolButton& arrow(QFileDialog& window) { return *button(window).findChild<QToolButton*>(); }
     static void expectNoButtonBelow(const QMenu& menu, QFileDialog& window)
     {
@@ -38,7 +38,7 @@ protected:
             EXPECT_FALSE(other->isVisible() && place(*other).intersects(menu.geometry()))
                 << other->text().toStdString();
         }
-        const QRect accept = place(*WidgetUser(window).acceptButton());
+        const QRect accept = place(FileDialogDriver::whenActive(window).acceptButton());
         EXPECT_LE(std::abs(menu.geometry().bottom() - accept.top()), 2) << "it hangs together with the button";
     }
     /** Opens the menu with the space bar and presses keys in it. */
@@ -72,9 +72,9 @@ TEST_F(WidgetShellAcceptMenu, givesTheButtonTheTextOfItsFirstItemThatCanBeChosen
     const auto textOf = [](QFileDialog& window) { return button(window).text(); };
     show([&](QFileDialog& window) {
         EXPECT_EQ(textOf(window), QStringLiteral("Open as copy"));
-        WidgetUser(window).typeName(
+        FileDialogDriver::whenActive(window).typeName(
             QStringLiteral("zzz.txt")); // Qt gives the button its text anew; nothing is suggested
-        WidgetUser(window).clickFile(QStringLiteral("inner"), Qt::NoModifier);
+        FileDialogDriver::whenActive(window).clickFile(QStringLiteral("inner"));
         EXPECT_EQ(textOf(window), QStringLiteral("Open as copy"));
         EXPECT_EQ(customize->SetControlItemState(0, 1, CDCS_VISIBLE), S_OK);
         EXPECT_EQ(textOf(window), QStringLiteral("Open read-only"));
@@ -112,7 +112,7 @@ TEST_F(WidgetShellAcceptMenu, isForgottenWhenItsChoiceIsRefused)
         pressInMenu(window, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
         EXPECT_EQ(item, 2u) << "while it is decided";
         ASSERT_TRUE(window.isVisible());
-        WidgetUser(window).pressAccept();
+        FileDialogDriver::whenActive(window).pressAccept();
     }),
         S_OK);
     EXPECT_EQ(item, 1u) << "what the button says";
@@ -222,7 +222,7 @@ TEST_F(WidgetShellAcceptMenu, isLeftWithEscapeWhileTheDialogStays)
         EXPECT_TRUE(window.isVisible());
         EXPECT_FALSE(QApplication::activePopupWidget());
         EXPECT_EQ(sink.count("OnItemSelected 0 1"), 0);
-        WidgetUser(window).pressAccept();
+        FileDialogDriver::whenActive(window).pressAccept();
     }),
         S_OK);
 }

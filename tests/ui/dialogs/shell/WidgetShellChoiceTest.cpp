@@ -45,12 +45,12 @@ TEST_F(WidgetShellChoice, mustExistAsFarAsTheOptionsSay)
         dialog->SetFileName(text(row.typed).c_str());
         const bool refused = *row.message != '\0';
         const HRESULT hr = show([&](QFileDialog& window) {
-            WidgetUser user(window);
+            const FileDialogDriver driver = FileDialogDriver::whenActive(window);
             if (refused) {
-                pressAcceptAndReadMessage(user, row.message);
-                user.pressCancel();
+                pressAcceptAndReadMessage(driver, row.message);
+                driver.pressCancel();
             } else {
-                user.pressAccept();
+                driver.pressAccept();
             }
         });
         EXPECT_EQ(hr, refused ? cancelled : S_OK);
@@ -63,10 +63,10 @@ TEST_F(WidgetShellChoice, isNotCompletedWhereAFileIsCalledThat)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     dialog->SetDefaultExtension(text("txt").c_str());
     dialog->SetFileName(text("plain").c_str());
-    EXPECT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+    EXPECT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }), S_OK);
     EXPECT_EQ(results(), QStringList(QStringLiteral("plain")));
     dialog->SetFileName(text("a").c_str());
-    EXPECT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+    EXPECT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }), S_OK);
     EXPECT_EQ(results(), QStringList(QStringLiteral("a.txt")));
 }
 
@@ -90,8 +90,8 @@ TEST_F(WidgetShellChoice, isTheSelectedFolderWhateverNameIsTyped)
 {
     dialog->SetFileName(text("a.txt").c_str());
     show([&](QFileDialog& window) {
-        WidgetUser(window).clickFile(QStringLiteral("inner"), Qt::NoModifier);
-        EXPECT_EQ(WidgetUser(window).nameEdit()->text(), QStringLiteral("a.txt"));
+        FileDialogDriver::whenActive(window).clickFile(QStringLiteral("inner"));
+        EXPECT_EQ(FileDialogDriver::whenActive(window).name(), QStringLiteral("a.txt"));
         ComPtr<IShellItem> item;
         ASSERT_EQ(dialog->GetCurrentSelection(item.put()), S_OK);
         LPWSTR name = nullptr;
@@ -125,7 +125,7 @@ TEST_F(WidgetShellChoice, isMadeUnderQtsOwnTextsWhereTheHostsAreEmpty)
         QStringList texts;
         show([&texts](QFileDialog& window) {
             texts = QStringList{window.windowTitle(), window.labelText(QFileDialog::FileName),
-                WidgetUser(window).acceptButton()->text()};
+                FileDialogDriver::whenActive(window).acceptButton().text()};
             window.reject();
         });
         return texts;
@@ -148,13 +148,13 @@ TEST_F(WidgetShellChoice, isAmongTypesThatTheKeyboardReachesWhereThereAreAny)
             change(picksFolders ? FILEOPENDIALOGOPTIONS(FOS_PICKFOLDERS) : 0,
                 picksFolders ? FILEOPENDIALOGOPTIONS(0) : FILEOPENDIALOGOPTIONS(FOS_PICKFOLDERS));
             show([&](QFileDialog& window) {
-                const QComboBox* const combo = WidgetUser(window).typeCombo();
+                const QComboBox& combo = FileDialogDriver::whenActive(window).typeCombo();
                 const bool expected = hasTypes && !picksFolders;
-                EXPECT_EQ(combo->isVisible(), expected) << hasTypes << picksFolders;
+                EXPECT_EQ(combo.isVisible(), expected) << hasTypes << picksFolders;
                 const QLabel* const label = window.findChild<QLabel*>(QStringLiteral("fileTypeLabel"));
                 EXPECT_EQ(label->isVisible(), expected) << hasTypes << picksFolders;
-                EXPECT_EQ(label->buddy(), combo);
-                EXPECT_TRUE(combo->focusPolicy() & Qt::TabFocus);
+                EXPECT_EQ(label->buddy(), &combo);
+                EXPECT_TRUE(combo.focusPolicy() & Qt::TabFocus);
                 window.reject();
             });
         }

@@ -13,52 +13,56 @@ namespace morvane::test {
 
 namespace {
 
+class WidgetShellControls : public WidgetShellRun
+{
+};
+
 using namespace morvane::ui;
 
-TEST_F(WidgetShellRun, controlsAppearAndFollowTheirState)
+TEST_F(WidgetShellControls, controlsAppearAndFollowTheirState)
 {
     customize->AddPushButton(1, text("First").c_str());
     customize->AddPushButton(2, text("Second").c_str());
     customize->AddCheckButton(3, text("Third").c_str(), TRUE);
     customize->SetControlState(2, CDCS_ENABLED);
     show([&](QFileDialog& window) {
-        WidgetUser user(window);
-        EXPECT_TRUE(user.control(QStringLiteral("First")));
-        EXPECT_FALSE(user.control(QStringLiteral("Second")));
-        EXPECT_TRUE(user.control(QStringLiteral("Third"))->isChecked());
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        EXPECT_TRUE(driver.control(QStringLiteral("First")));
+        EXPECT_FALSE(driver.control(QStringLiteral("Second")));
+        EXPECT_TRUE(driver.control(QStringLiteral("Third"))->isChecked());
         customize->SetControlState(1, CDCS_VISIBLE);
-        EXPECT_FALSE(user.control(QStringLiteral("First"))->isEnabled());
+        EXPECT_FALSE(driver.control(QStringLiteral("First"))->isEnabled());
         customize->SetControlState(2, CDCS_ENABLEDVISIBLE);
-        EXPECT_TRUE(user.control(QStringLiteral("Second"))->isEnabled());
+        EXPECT_TRUE(driver.control(QStringLiteral("Second"))->isEnabled());
         customize->SetCheckButtonState(3, FALSE);
-        EXPECT_FALSE(user.control(QStringLiteral("Third"))->isChecked());
+        EXPECT_FALSE(driver.control(QStringLiteral("Third"))->isChecked());
         customize->AddPushButton(4, text("Late").c_str());
-        EXPECT_TRUE(user.control(QStringLiteral("Late")));
+        EXPECT_TRUE(driver.control(QStringLiteral("Late")));
         customize->SetControlLabel(4, text("Later").c_str());
-        EXPECT_TRUE(user.control(QStringLiteral("Later")));
+        EXPECT_TRUE(driver.control(QStringLiteral("Later")));
         window.reject();
     });
 }
 
-TEST_F(WidgetShellRun, theProminentButtonStandsWithTheDialogsOwn)
+TEST_F(WidgetShellControls, theProminentButtonStandsWithTheDialogsOwn)
 {
     customize->AddPushButton(1, text("Plain").c_str());
     customize->AddPushButton(2, text("Help").c_str());
     ASSERT_EQ(customize->MakeProminent(2), S_OK);
     show([](QFileDialog& window) {
         auto* const box = window.findChild<QDialogButtonBox*>();
-        WidgetUser user(window);
-        EXPECT_TRUE(box->isAncestorOf(user.control(QStringLiteral("Help"))));
-        EXPECT_FALSE(box->isAncestorOf(user.control(QStringLiteral("Plain"))));
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        EXPECT_TRUE(box->isAncestorOf(driver.control(QStringLiteral("Help"))));
+        EXPECT_FALSE(box->isAncestorOf(driver.control(QStringLiteral("Plain"))));
         window.reject();
     });
 }
 
-TEST_F(WidgetShellRun, theArrowOfTheAcceptButtonIsThereWhileThereIsAnItem)
+TEST_F(WidgetShellControls, theArrowOfTheAcceptButtonIsThereWhileThereIsAnItem)
 {
     customize->EnableOpenDropDown(0);
     show([&](QFileDialog& window) {
-        auto* const arrow = WidgetUser(window).acceptButton()->findChild<QToolButton*>();
+        auto* const arrow = FileDialogDriver::whenActive(window).acceptButton().findChild<QToolButton*>();
         ASSERT_TRUE(arrow);
         EXPECT_FALSE(arrow->isVisible());
         customize->AddControlItem(0, 1, text("Open as copy").c_str());
@@ -69,7 +73,7 @@ TEST_F(WidgetShellRun, theArrowOfTheAcceptButtonIsThereWhileThereIsAnItem)
     });
 }
 
-TEST_F(WidgetShellRun, enterPressesTheButtonThatHasTheFocusAndElseAccepts)
+TEST_F(WidgetShellControls, enterPressesTheButtonThatHasTheFocusAndElseAccepts)
 {
     customize->AddPushButton(1, text("Plain").c_str());
     customize->AddPushButton(2, text("Prominent").c_str());
@@ -78,13 +82,13 @@ TEST_F(WidgetShellRun, enterPressesTheButtonThatHasTheFocusAndElseAccepts)
     dialog->SetFileName(text("a.txt").c_str());
     sink.on["OnFileOk"] = [] { return S_FALSE; };
     show([&](QFileDialog& window) {
-        WidgetUser user(window);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
         for (const char* const label : {"Plain", "Prominent", "Check"}) {
-            user.control(QString::fromUtf8(label))->setFocus();
-            QTest::keyClick(user.control(QString::fromUtf8(label)), Qt::Key_Return);
+            driver.control(QString::fromUtf8(label))->setFocus();
+            QTest::keyClick(driver.control(QString::fromUtf8(label)), Qt::Key_Return);
         }
-        user.nameEdit()->setFocus();
-        QTest::keyClick(user.nameEdit(), Qt::Key_Return);
+        driver.nameEdit().setFocus();
+        driver.pressEnter();
         window.reject();
     });
     EXPECT_EQ(sink.count("OnButtonClicked 1"), 1);
@@ -93,23 +97,23 @@ TEST_F(WidgetShellRun, enterPressesTheButtonThatHasTheFocusAndElseAccepts)
     EXPECT_EQ(sink.count("OnFileOk"), 2) << "from the check button and from the name";
 }
 
-TEST_F(WidgetShellRun, controlsLineUpWithTheRowsOfTheDialog)
+TEST_F(WidgetShellControls, controlsLineUpWithTheRowsOfTheDialog)
 {
     customize->AddPushButton(1, text("Button").c_str());
     customize->AddCheckButton(2, text("Check").c_str(), FALSE);
     show([](QFileDialog& window) {
         for (const char* const label : {"Button", "Check"}) {
-            const auto* const control = WidgetUser(window).control(QString::fromUtf8(label));
+            const auto* const control = FileDialogDriver::whenActive(window).control(QString::fromUtf8(label));
             EXPECT_EQ(control->width(), control->sizeHint().width()) << "side by side, not all over the row";
         }
         const auto left = [&window](const QWidget* widget) { return widget->mapTo(&window, QPoint()).x(); };
-        EXPECT_EQ(left(WidgetUser(window).control(QStringLiteral("Button"))),
+        EXPECT_EQ(left(FileDialogDriver::whenActive(window).control(QStringLiteral("Button"))),
             left(window.findChild<QWidget*>(QStringLiteral("lookInLabel"))));
         window.reject();
     });
 }
 
-TEST_F(WidgetShellRun, otherKindsOfControlsAreNotImplemented)
+TEST_F(WidgetShellControls, otherKindsOfControlsAreNotImplemented)
 {
     EXPECT_EQ(customize->AddMenu(1, text("x").c_str()), E_NOTIMPL);
     EXPECT_EQ(customize->AddComboBox(1), E_NOTIMPL);
@@ -121,26 +125,33 @@ TEST_F(WidgetShellRun, otherKindsOfControlsAreNotImplemented)
     EXPECT_EQ(customize->EndVisualGroup(), E_NOTIMPL);
 }
 
-TEST_F(WidgetShellRun, anItemMayBeTriggeredWithoutTheMenuAsAssistiveTechnologyDoes)
+TEST_F(WidgetShellControls, anItemMayBeTriggeredWithoutTheMenuAsAssistiveTechnologyDoes)
 {
     customize->EnableOpenDropDown(0);
     customize->AddControlItem(0, 1, text("Open as copy").c_str());
     dialog->SetFileName(text("a.txt").c_str());
     const HRESULT hr = show([](QFileDialog& window) {
-        WidgetUser(window).acceptButton()->findChild<QToolButton*>()->menu()->actions().constFirst()->trigger();
+        FileDialogDriver::whenActive(window)
+            .acceptButton()
+            .findChild<QToolButton*>()
+            ->menu()
+            ->actions()
+            .constFirst()
+            ->trigger();
     });
     EXPECT_EQ(hr, S_OK);
     EXPECT_EQ(sink.count("OnItemSelected 0 1"), 1);
 }
 
-TEST_F(WidgetShellRun, closingTheDialogAsItsMenuOpensLeavesNoMenu)
+TEST_F(WidgetShellControls, closingTheDialogAsItsMenuOpensLeavesNoMenu)
 {
     customize->EnableOpenDropDown(0);
     customize->AddControlItem(0, 1, text("Open as copy").c_str());
     dialog->SetFileName(text("a.txt").c_str());
     sink.on["OnControlActivating"] = [&] { return dialog->Close(E_ABORT); };
     const HRESULT hr = show([](QFileDialog& window) {
-        QTest::mouseClick(WidgetUser(window).acceptButton()->findChild<QToolButton*>(), Qt::LeftButton);
+        QTest::mouseClick(
+            FileDialogDriver::whenActive(window).acceptButton().findChild<QToolButton*>(), Qt::LeftButton);
     });
     EXPECT_EQ(hr, E_ABORT);
     EXPECT_EQ(sink.count("OnControlActivating 0"), 1);

@@ -7,15 +7,19 @@ namespace morvane::test {
 
 namespace {
 
+class WidgetShellFiles : public WidgetShellRun
+{
+};
+
 using namespace morvane::ui;
 
-TEST_F(WidgetShellRun, severalFilesAreChosenByTheirQuotedNames)
+TEST_F(WidgetShellFiles, severalFilesAreChosenByTheirQuotedNames)
 {
     change(FOS_ALLOWMULTISELECT);
     const HRESULT hr = show([&](QFileDialog& window) {
-        WidgetUser user(window);
-        user.typeName(QStringLiteral("\"a.txt\" \"c.dat\""));
-        user.pressAccept();
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.typeName(QStringLiteral("\"a.txt\" \"c.dat\""));
+        driver.pressAccept();
     });
     EXPECT_EQ(hr, S_OK);
     EXPECT_EQ(results(), (QStringList{QStringLiteral("a.txt"), QStringLiteral("c.dat")}));
@@ -23,82 +27,82 @@ TEST_F(WidgetShellRun, severalFilesAreChosenByTheirQuotedNames)
     EXPECT_EQ(dialog->GetResult(single.put()), E_FAIL);
 }
 
-TEST_F(WidgetShellRun, severalFilesAreChosenInTheList)
+TEST_F(WidgetShellFiles, severalFilesAreChosenInTheList)
 {
     change(FOS_ALLOWMULTISELECT);
     const HRESULT hr = show([&](QFileDialog& window) {
-        WidgetUser user(window);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
         EXPECT_TRUE(QTest::qWaitFor([&] { return shownFiles(window).size() == 5; }));
-        user.clickFile(QStringLiteral("a.txt"), Qt::ControlModifier);
-        user.clickFile(QStringLiteral("b.txt"), Qt::ControlModifier);
+        driver.clickFile(QStringLiteral("a.txt"), Qt::ControlModifier);
+        driver.clickFile(QStringLiteral("b.txt"), Qt::ControlModifier);
         EXPECT_TRUE(QTest::qWaitFor([&] { return sink.count("OnSelectionChange") > 0; }));
         ComPtr<IShellItem> selected;
         EXPECT_EQ(dialog->GetCurrentSelection(selected.put()), S_OK);
-        EXPECT_EQ(user.nameEdit()->text(), QStringLiteral("\"a.txt\" \"b.txt\""));
-        user.pressAccept();
+        EXPECT_EQ(driver.name(), QStringLiteral("\"a.txt\" \"b.txt\""));
+        driver.pressAccept();
         window.reject();
     });
     EXPECT_EQ(hr, S_OK);
     EXPECT_EQ(results(), (QStringList{QStringLiteral("a.txt"), QStringLiteral("b.txt")}));
 }
 
-class WidgetShellMissingFile : public WidgetShellRun
+class WidgetShellFilesMissing : public WidgetShellRun
 {
 protected:
     void expectRefused(const QString& typed)
     {
         const HRESULT hr = show([&](QFileDialog& window) {
-            WidgetUser user(window);
-            user.typeName(typed);
-            pressAcceptAndReadMessage(user, "missing.txt");
-            user.pressCancel();
+            const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+            driver.typeName(typed);
+            pressAcceptAndReadMessage(driver, "missing.txt");
+            driver.pressCancel();
         });
         EXPECT_EQ(hr, cancelled);
         EXPECT_EQ(sink.count("OnFileOk"), 0);
     }
 };
 
-TEST_F(WidgetShellMissingFile, isRefusedWithAMessage)
+TEST_F(WidgetShellFilesMissing, isRefusedWithAMessage)
 {
     expectRefused(QStringLiteral("missing.txt"));
 }
 
-TEST_F(WidgetShellRun, aMissingFolderIsRefusedOnlyWhenItMustExist)
+TEST_F(WidgetShellFiles, aMissingFolderIsRefusedOnlyWhenItMustExist)
 {
     make(CLSID_FileSaveDialog);
     dialog->SetFileName(text("none/new.txt").c_str());
     const HRESULT hr = show([](QFileDialog& window) {
-        WidgetUser user(window);
-        pressAcceptAndReadMessage(user, "none");
-        user.pressCancel();
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        pressAcceptAndReadMessage(driver, "none");
+        driver.pressCancel();
     });
     EXPECT_EQ(hr, cancelled);
     change(0, FOS_PATHMUSTEXIST);
-    EXPECT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+    EXPECT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }), S_OK);
 }
 
-TEST_F(WidgetShellRun, picksFoldersAndTheOpenOneWhenNoneIsNamed)
+TEST_F(WidgetShellFiles, picksFoldersAndTheOpenOneWhenNoneIsNamed)
 {
     change(FOS_PICKFOLDERS, FOS_FILEMUSTEXIST);
     EXPECT_EQ(show([](QFileDialog& window) {
-        WidgetUser user(window);
-        user.typeName(QStringLiteral("inner"));
-        user.pressAccept();
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.typeName(QStringLiteral("inner"));
+        driver.pressAccept();
     }),
         S_OK);
     EXPECT_EQ(results(), QStringList(QStringLiteral("inner")));
     dialog->SetFileName(text("").c_str());
-    EXPECT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+    EXPECT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }), S_OK);
     EXPECT_EQ(results(), QStringList(QFileInfo(folder.path()).fileName()));
 }
 
-TEST_F(WidgetShellRun, theDefaultExtensionCompletesNamesWithoutOne)
+TEST_F(WidgetShellFiles, theDefaultExtensionCompletesNamesWithoutOne)
 {
     make(CLSID_FileSaveDialog);
     dialog->SetDefaultExtension(text("log").c_str());
     for (const auto& [typed, got] : {std::pair("new", "new.log"), {"new.txt", "new.txt"}}) {
         dialog->SetFileName(text(typed).c_str());
-        ASSERT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+        ASSERT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }), S_OK);
         ComPtr<IShellItem> item;
         ASSERT_EQ(dialog->GetResult(item.put()), S_OK);
         LPWSTR name = nullptr;
@@ -109,11 +113,11 @@ TEST_F(WidgetShellRun, theDefaultExtensionCompletesNamesWithoutOne)
 }
 
 #ifndef _WIN32
-TEST_F(WidgetShellRun, aNameMayBeginWithAColon)
+TEST_F(WidgetShellFiles, aNameMayBeginWithAColon)
 {
     make(CLSID_FileSaveDialog);
     dialog->SetFileName(text(":notes").c_str());
-    ASSERT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+    ASSERT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }), S_OK);
     ComPtr<IShellItem> item;
     ASSERT_EQ(dialog->GetResult(item.put()), S_OK);
     LPWSTR name = nullptr;
@@ -123,23 +127,23 @@ TEST_F(WidgetShellRun, aNameMayBeginWithAColon)
 }
 #endif
 
-TEST_F(WidgetShellRun, enterInTheNameFieldAccepts)
+TEST_F(WidgetShellFiles, enterInTheNameFieldAccepts)
 {
     dialog->SetFileName(text("a.txt").c_str());
-    EXPECT_EQ(show([](QFileDialog& window) { QTest::keyClick(WidgetUser(window).nameEdit(), Qt::Key_Return); }), S_OK);
+    EXPECT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressEnter(); }), S_OK);
     EXPECT_EQ(results(), QStringList(QStringLiteral("a.txt")));
 }
 
-TEST_F(WidgetShellRun, aSaveDialogAsksForOneFileHoweverManyMayBeChosen)
+TEST_F(WidgetShellFiles, aSaveDialogAsksForOneFileHoweverManyMayBeChosen)
 {
     make(CLSID_FileSaveDialog);
     change(FOS_ALLOWMULTISELECT | FOS_FILEMUSTEXIST, FOS_OVERWRITEPROMPT);
     const HRESULT hr = show([](QFileDialog& window) {
-        WidgetUser user(window);
-        user.typeName(QStringLiteral("missing.txt"));
-        pressAcceptAndReadMessage(user, "missing.txt");
-        user.typeName(QStringLiteral("a.txt"));
-        user.pressAccept();
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.typeName(QStringLiteral("missing.txt"));
+        pressAcceptAndReadMessage(driver, "missing.txt");
+        driver.typeName(QStringLiteral("a.txt"));
+        driver.pressAccept();
     });
     EXPECT_EQ(hr, S_OK);
     EXPECT_EQ(sink.count("OnFileOk"), 1);
@@ -147,20 +151,20 @@ TEST_F(WidgetShellRun, aSaveDialogAsksForOneFileHoweverManyMayBeChosen)
     EXPECT_EQ(dialog->GetResult(item.put()), S_OK);
 }
 
-TEST_F(WidgetShellMissingFile, isRefusedAmongSeveral)
+TEST_F(WidgetShellFilesMissing, isRefusedAmongSeveral)
 {
     change(FOS_ALLOWMULTISELECT);
     expectRefused(QStringLiteral("\"a.txt\" \"missing.txt\""));
 }
 
-TEST_F(WidgetShellRun, closingTheDialogWithTheFolderThatIsTypedAsksNothingMore)
+TEST_F(WidgetShellFiles, closingTheDialogWithTheFolderThatIsTypedAsksNothingMore)
 {
     const HRESULT hr = show([&](QFileDialog& window) {
-        WidgetUser user(window);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
         window.setDirectory(folder.filePath(QStringLiteral("inner"))); // told only when the loop runs again
         sink.on["OnFolderChange"] = [&] { return dialog->Close(E_ABORT); };
-        user.typeName(QStringLiteral("missing.txt"));
-        user.pressAccept();
+        driver.typeName(QStringLiteral("missing.txt"));
+        driver.pressAccept();
     });
     EXPECT_EQ(hr, E_ABORT);
     EXPECT_EQ(sink.count("OnFileOk"), 0);

@@ -109,7 +109,7 @@ TEST_F(WidgetShellHost, maySendTheUserElsewhere)
             const bool first = sink.count("OnFolderChanging elsewhere") == 0;
             return first ? dialog->SetFolder(itemFor(folder.filePath(QStringLiteral("elsewhere"))).get()) : S_OK;
         };
-        WidgetUser(window).enterFolder(inner());
+        FileDialogDriver::whenActive(window).enterFolder(inner());
         window.reject();
     });
     EXPECT_EQ(sink.count("OnFolderChange elsewhere"), 1);
@@ -121,20 +121,20 @@ TEST_F(WidgetShellHost, setsTypesAndTextsWhileItRuns)
 {
     setTypes({{QStringLiteral("Text"), QStringLiteral("*.txt")}, {QStringLiteral("Data"), QStringLiteral("*.dat")}});
     show([&](QFileDialog& window) {
-        WidgetUser user(window);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
         EXPECT_EQ(dialog->SetFileTypeIndex(2), S_OK);
-        EXPECT_EQ(user.typeCombo()->currentIndex(), 1);
+        EXPECT_EQ(driver.typeCombo().currentIndex(), 1);
         EXPECT_TRUE(QTest::qWaitFor([&] {
             return shownFiles(window) == (QStringList{QStringLiteral("c.dat"), QStringLiteral("inner")});
         }));
         EXPECT_EQ(dialog->SetTitle(text("Other").c_str()), S_OK);
         EXPECT_EQ(window.windowTitle(), QStringLiteral("Other"));
         EXPECT_EQ(dialog->SetOkButtonLabel(text("Take").c_str()), S_OK);
-        EXPECT_EQ(user.acceptButton()->text(), QStringLiteral("Take"));
+        EXPECT_EQ(driver.acceptButton().text(), QStringLiteral("Take"));
         EXPECT_EQ(dialog->SetFileNameLabel(text("Called").c_str()), S_OK);
         EXPECT_EQ(window.labelText(QFileDialog::FileName), QStringLiteral("Called"));
         EXPECT_EQ(dialog->SetFolder(itemFor(inner()).get()), S_OK);
-        user.enterFolder(folder.path());
+        driver.enterFolder(folder.path());
         EXPECT_EQ(sink.count("OnFolderChange inner"), 1);
         window.reject();
     });
@@ -169,7 +169,7 @@ TEST_F(WidgetShellHost, hasNoTypesWhileItPicksFolders)
     change(FOS_PICKFOLDERS, FOS_FILEMUSTEXIST);
     setTypes({{QStringLiteral("Text"), QStringLiteral("*.txt")}, {QStringLiteral("Data"), QStringLiteral("*.dat")}});
     show([&](QFileDialog& window) {
-        EXPECT_FALSE(WidgetUser(window).typeCombo()->isVisible());
+        EXPECT_FALSE(FileDialogDriver::whenActive(window).typeCombo().isVisible());
         const QStringList folders(QStringLiteral("inner"));
         EXPECT_TRUE(QTest::qWaitFor([&] { return shownFiles(window) == folders; })) << "and no files";
         EXPECT_EQ(dialog->SetFileTypeIndex(2), S_OK);
@@ -186,9 +186,9 @@ TEST_F(WidgetShellHost, picksNoFolderThatIsAFileOrMissing)
     for (const char* const typed : {"a.txt", "missing"}) {
         dialog->SetFileName(text(typed).c_str());
         const HRESULT hr = show([&](QFileDialog& window) {
-            WidgetUser user(window);
-            pressAcceptAndReadMessage(user, std::string(typed) + "\nDirectory not found");
-            user.pressCancel();
+            const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+            pressAcceptAndReadMessage(driver, std::string(typed) + "\nDirectory not found");
+            driver.pressCancel();
         });
         EXPECT_EQ(hr, cancelled) << typed;
     }
@@ -201,14 +201,14 @@ TEST_F(WidgetShellHost, picksAFolderInASaveDialogWithoutAskingToReplaceIt)
     change(FOS_PICKFOLDERS);
     dialog->SetDefaultExtension(text("txt").c_str());
     dialog->SetFileName(text("inner").c_str());
-    EXPECT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+    EXPECT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }), S_OK);
     EXPECT_EQ(sink.count("OnOverwrite inner"), 0);
 }
 
 TEST_F(WidgetShellHost, findsTheTypedNameWhereNothingIsSelected)
 {
     show([&](QFileDialog& window) {
-        WidgetUser(window).typeName(QStringLiteral("b.txt"));
+        FileDialogDriver::whenActive(window).typeName(QStringLiteral("b.txt"));
         window.findChild<QListView*>(QStringLiteral("listView"))->clearSelection();
         ComPtr<IShellItem> item;
         ASSERT_EQ(dialog->GetCurrentSelection(item.put()), S_OK);
@@ -223,11 +223,11 @@ TEST_F(WidgetShellHost, opensAFolderAmongTheTypedNames)
 {
     change(FOS_ALLOWMULTISELECT);
     show([&](QFileDialog& window) {
-        WidgetUser user(window);
-        user.typeName(QStringLiteral("\"a.txt\" \"inner\""));
-        user.pressAccept();
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.typeName(QStringLiteral("\"a.txt\" \"inner\""));
+        driver.pressAccept();
         EXPECT_EQ(window.directory().path(), inner());
-        EXPECT_EQ(user.nameEdit()->text(), QString());
+        EXPECT_EQ(driver.name(), QString());
         window.reject();
     });
     EXPECT_EQ(sink.count("OnFileOk"), 0);
@@ -256,7 +256,9 @@ TEST_F(WidgetShellHost, movesAProminentButtonOutOfTheRowAndBack)
     }
     show([&](QFileDialog& window) {
         auto* const row = window.findChild<QWidget*>(QStringLiteral("customControls"));
-        const auto isInRow = [&](int id) { return row->isAncestorOf(WidgetUser(window).control(QString::number(id))); };
+        const auto isInRow = [&](int id) {
+            return row->isAncestorOf(FileDialogDriver::whenActive(window).control(QString::number(id)));
+        };
         EXPECT_EQ(placesInRow(window).size(), 5u);
         EXPECT_EQ(customize->MakeProminent(1), S_OK);
         EXPECT_FALSE(isInRow(1));
@@ -267,7 +269,7 @@ TEST_F(WidgetShellHost, movesAProminentButtonOutOfTheRowAndBack)
         EXPECT_EQ(placesInRow(window).size(), 4u) << "no control covers another";
         ASSERT_EQ(customize->AddPushButton(6, text("6").c_str()), S_OK);
         EXPECT_EQ(placesInRow(window), (std::set<int>{0, 1, 2, 3, 4}));
-        WidgetUser(window).clickButton(1, QStringLiteral("1"));
+        FileDialogDriver::whenActive(window).clickControl(QStringLiteral("1"));
         window.reject();
     });
     EXPECT_EQ(sink.count("OnButtonClicked 1"), 1);
@@ -314,7 +316,7 @@ TEST_F(WidgetShellHost, hearsOfTheFirstOfTwoExceptions)
             EXPECT_EQ(dialog->SetFolder(itemFor(inner()).get()), S_OK);
             throw Second();
         };
-        WidgetUser(window).clickButton(1, QStringLiteral("Button"));
+        FileDialogDriver::whenActive(window).clickControl(QStringLiteral("Button"));
     }),
         First);
 }
@@ -341,7 +343,8 @@ TEST_F(WidgetShellHost, hidesTheArrowWithItsDropDown)
     ASSERT_EQ(customize->AddControlItem(0, 1, text("Item").c_str()), S_OK);
     show([&](QFileDialog& window) {
         auto* const arrow = window.findChild<QWidget*>(QStringLiteral("acceptMenuArrow"));
-        WidgetUser(window).typeName(QStringLiteral("a.txt")); // without a name nothing can be accepted
+        FileDialogDriver::whenActive(window).typeName(
+            QStringLiteral("a.txt")); // without a name nothing can be accepted
         EXPECT_TRUE(arrow->isVisible());
         EXPECT_TRUE(arrow->isEnabled());
         EXPECT_FALSE(window.findChild<QWidget*>(QStringLiteral("customControls"))->isVisible())

@@ -13,7 +13,7 @@ namespace {
 
 using namespace morvane::ui;
 
-class WidgetShellAttributes : public WidgetShellRun
+class WidgetShellItemArrayAttributes : public WidgetShellRun
 {
 protected:
     void makeFile(const char* name)
@@ -32,14 +32,14 @@ protected:
     {
         change(FOS_ALLOWMULTISELECT);
         dialog->SetFileName(toShellString(typed).c_str());
-        EXPECT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+        EXPECT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }), S_OK);
         ComPtr<IShellItemArray> items;
         EXPECT_EQ(dialog.query<IFileOpenDialog>()->GetResults(items.put()), S_OK);
         return items;
     }
 };
 
-TEST_F(WidgetShellAttributes, ofAnItemTellWhatItIs)
+TEST_F(WidgetShellItemArrayAttributes, ofAnItemTellWhatItIs)
 {
     makeFile(".hidden");
     ASSERT_TRUE(QFile::link(folder.filePath(QStringLiteral("a.txt")), folder.filePath(QStringLiteral("link"))));
@@ -59,7 +59,7 @@ TEST_F(WidgetShellAttributes, ofAnItemTellWhatItIs)
     }
 }
 
-TEST_F(WidgetShellAttributes, ofAFileThatCannotBeWrittenSaySo)
+TEST_F(WidgetShellItemArrayAttributes, ofAFileThatCannotBeWrittenSaySo)
 {
     makeFile("fixed");
     const auto change = [this](const char* flag) {
@@ -75,7 +75,7 @@ TEST_F(WidgetShellAttributes, ofAFileThatCannotBeWrittenSaySo)
     EXPECT_EQ(itemFor("fixed")->GetAttributes(SFGAO_READONLY, &read), S_FALSE);
 }
 
-TEST_F(WidgetShellAttributes, ofAnItemThatHasGoneAreThoseOfAFile)
+TEST_F(WidgetShellItemArrayAttributes, ofAnItemThatHasGoneAreThoseOfAFile)
 {
     makeFile("short-lived");
     const auto item = itemFor("short-lived");
@@ -85,7 +85,7 @@ TEST_F(WidgetShellAttributes, ofAnItemThatHasGoneAreThoseOfAFile)
     EXPECT_EQ(read, SFGAO_STREAM);
 }
 
-TEST_F(WidgetShellAttributes, ofSeveralFilesAreThoseOfAllOrOfAny)
+TEST_F(WidgetShellItemArrayAttributes, ofSeveralFilesAreThoseOfAllOrOfAny)
 {
     makeFile(".hidden");
     const auto items = chosen(QStringLiteral("\"a.txt\" \".hidden\""));
@@ -99,12 +99,12 @@ TEST_F(WidgetShellAttributes, ofSeveralFilesAreThoseOfAllOrOfAny)
     EXPECT_EQ(read, mask);
 }
 
-TEST_F(WidgetShellAttributes, areReadIntoAPlaceOnly)
+TEST_F(WidgetShellItemArrayAttributes, areReadIntoAPlaceOnly)
 {
     EXPECT_EQ(chosen(QStringLiteral("a.txt"))->GetAttributes(SIATTRIBFLAGS_OR, SFGAO_STREAM, nullptr), E_POINTER);
 }
 
-TEST_F(WidgetShellAttributes, comeWithEachFormOfTheName)
+TEST_F(WidgetShellItemArrayAttributes, comeWithEachFormOfTheName)
 {
     const QString path = QDir::toNativeSeparators(folder.filePath(QStringLiteral("a.txt")));
     const std::pair<SIGDN, QString> table[] = {{SIGDN_NORMALDISPLAY, QStringLiteral("a.txt")},
@@ -125,7 +125,7 @@ TEST_F(WidgetShellAttributes, comeWithEachFormOfTheName)
     EXPECT_EQ(none, nullptr);
 }
 
-TEST_F(WidgetShellAttributes, areNeededByNoRelativeName)
+TEST_F(WidgetShellItemArrayAttributes, areNeededByNoRelativeName)
 {
     const QString before = QDir::currentPath();
     ASSERT_TRUE(QDir::setCurrent(folder.path()));

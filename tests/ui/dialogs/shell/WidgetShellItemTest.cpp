@@ -143,7 +143,7 @@ TEST_F(WidgetShellItem, refusesOtherInterfaces)
     EXPECT_EQ(object, nullptr);
 }
 
-TEST(WidgetShellApartment, refusesAnotherKindOfApartment)
+TEST(WidgetShellItemApartment, refusesAnotherKindOfApartment)
 {
     WidgetShell shell;
     ASSERT_EQ(shell.coInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK);

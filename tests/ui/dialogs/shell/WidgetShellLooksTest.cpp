@@ -1,7 +1,7 @@
 // What one sees of the dialog when it opens.
 #include "WidgetShellRunTest.h"
 
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
 
 #include <QSettings>
 
@@ -22,9 +22,9 @@ protected:
     }
     static void expectWhole(QFileDialog& window)
     {
-        const FileDialogPage page(window);
-        EXPECT_TRUE(waitUntil([&] { return !page.listed().isEmpty() && page.cutParts().isEmpty(); }))
-            << page.cutParts().join(QStringLiteral("; ")).toStdString();
+        const FileDialogDriver driver(window);
+        EXPECT_TRUE(waitUntil([&] { return !driver.listed().isEmpty() && driver.cutParts().isEmpty(); }))
+            << driver.cutParts().join(QStringLiteral("; ")).toStdString();
         window.reject();
     }
 };

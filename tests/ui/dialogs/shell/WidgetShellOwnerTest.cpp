@@ -11,9 +11,13 @@ namespace morvane::test {
 
 namespace {
 
+class WidgetShellOwnerRun : public WidgetShellRun
+{
+};
+
 using namespace morvane::ui;
 
-TEST_F(WidgetShellRun, theOwnerIsFoundByItsHandle)
+TEST_F(WidgetShellOwnerRun, theOwnerIsFoundByItsHandle)
 {
     QWidget owner;
     owner.show();
@@ -25,7 +29,7 @@ TEST_F(WidgetShellRun, theOwnerIsFoundByItsHandle)
         reinterpret_cast<HWND>(owner.winId()));
 }
 
-TEST_F(WidgetShellRun, aHandleOfNoWindowMeansNoOwner)
+TEST_F(WidgetShellOwnerRun, aHandleOfNoWindowMeansNoOwner)
 {
     show(
         [](QFileDialog& window) {
@@ -35,7 +39,7 @@ TEST_F(WidgetShellRun, aHandleOfNoWindowMeansNoOwner)
         reinterpret_cast<HWND>(static_cast<WId>(0x7FFF1234)));
 }
 
-TEST_F(WidgetShellRun, anOwnerThatGoesEndsTheRun)
+TEST_F(WidgetShellOwnerRun, anOwnerThatGoesEndsTheRun)
 {
     customize->AddPushButton(1, text("Button").c_str());
     auto owner = std::make_unique<QWidget>();
@@ -43,16 +47,16 @@ TEST_F(WidgetShellRun, anOwnerThatGoesEndsTheRun)
     EXPECT_EQ(show([](QFileDialog& window) { window.reject(); }), cancelled);
 }
 
-TEST_F(WidgetShellRun, anOwnerThatGoesDuringACallbackEndsTheRun)
+TEST_F(WidgetShellOwnerRun, anOwnerThatGoesDuringACallbackEndsTheRun)
 {
     customize->AddPushButton(1, text("Leave").c_str());
     setTypes({{QStringLiteral("T"), QStringLiteral("*.txt")}, {QStringLiteral("D"), QStringLiteral("*.dat")}});
     dialog->SetFileName(text("a.txt").c_str());
-    const std::pair<const char*, std::function<void(WidgetUser&)>> ways[] = {
-        {"OnButtonClicked", [](WidgetUser& user) { user.clickButton(1, QStringLiteral("Leave")); }},
-        {"OnFileOk", [](WidgetUser& user) { user.pressAccept(); }},
-        {"OnFolderChange", [](WidgetUser&) {}},
-        {"OnFolderChanging", [](WidgetUser&) {}},
+    const std::pair<const char*, std::function<void(const FileDialogDriver&)>> ways[] = {
+        {"OnButtonClicked", [](const FileDialogDriver& driver) { driver.clickControl(QStringLiteral("Leave")); }},
+        {"OnFileOk", [](const FileDialogDriver& driver) { driver.pressAccept(); }},
+        {"OnFolderChange", [](const FileDialogDriver&) {}},
+        {"OnFolderChanging", [](const FileDialogDriver&) {}},
     };
     for (const auto& [callback, act] : ways) {
         auto owner = std::make_unique<QWidget>();
@@ -66,8 +70,8 @@ TEST_F(WidgetShellRun, anOwnerThatGoesDuringACallbackEndsTheRun)
         QObject::connect(&poll, &QTimer::timeout, [&poll, act = act] {
             if (auto* const window = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
                 poll.stop();
-                WidgetUser user(*window);
-                act(user);
+                const FileDialogDriver driver = FileDialogDriver::whenActive(*window);
+                act(driver);
             }
         });
         poll.start(1);
@@ -109,7 +113,7 @@ protected:
     {
         ModalScript script;
         script.on<QMessageBox>([this](QMessageBox&) { owner.reset(); });
-        WidgetUser(window).pressAccept();
+        FileDialogDriver::whenActive(window).pressAccept();
         EXPECT_TRUE(script.finished()) << "no message was shown";
     }
 
@@ -128,9 +132,9 @@ TEST_F(WidgetShellOwner, endsTheRunWhenTheFolderChangesAsTheUserAccepts)
 {
     dialog->SetFileName(text("a.txt").c_str());
     const auto accept = [this](QFileDialog& window) {
-        WidgetUser user(window);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
         window.setDirectory(folder.filePath(QStringLiteral("inner"))); // told as the button is pressed
-        user.pressAccept();
+        driver.pressAccept();
     };
     EXPECT_EQ(runAndLose("OnFolderChange", accept), cancelled);
     EXPECT_EQ(sink.count("OnFileOk"), 0);
@@ -140,7 +144,7 @@ TEST_F(WidgetShellOwner, endsTheRunWhenTheTypeChanges)
 {
     setTypes({{QStringLiteral("T"), QStringLiteral("*.txt")}, {QStringLiteral("D"), QStringLiteral("*.dat")}});
     const auto pick = [](QFileDialog& window) {
-        QTest::keyClick(WidgetUser(window).typeCombo(), Qt::Key_Down);
+        QTest::keyClick(&FileDialogDriver::whenActive(window).typeCombo(), Qt::Key_Down);
         QCoreApplication::processEvents();
     };
     EXPECT_EQ(runAndLose("OnTypeChange", pick), cancelled);
@@ -151,13 +155,15 @@ TEST_F(WidgetShellOwner, endsTheRunWhenAnItemOfTheAcceptButtonIsPicked)
     customize->EnableOpenDropDown(0);
     customize->AddControlItem(0, 10, text("Item").c_str());
     dialog->SetFileName(text("a.txt").c_str());
-    const auto pick = [](QFileDialog& window) { WidgetUser(window).pickAcceptItem(0, 10, QStringLiteral("Item")); };
+    const auto pick = [](QFileDialog& window) {
+        FileDialogDriver::whenActive(window).pickAcceptItem(QStringLiteral("Item"));
+    };
     EXPECT_EQ(runAndLose("OnItemSelected", pick), cancelled);
     EXPECT_EQ(sink.count("OnFileOk"), 0);
     owner = std::make_unique<QWidget>();
     dialog->SetFileName(text("a.txt").c_str());
     const auto pickWithKeys = [](QFileDialog& window) {
-        QPointer<QToolButton> arrow(WidgetUser(window).acceptButton()->findChild<QToolButton*>());
+        QPointer<QToolButton> arrow(FileDialogDriver::whenActive(window).acceptButton().findChild<QToolButton*>());
         QTimer::singleShot(0, arrow, [arrow] {
             QTest::keyClick(arrow->menu(), Qt::Key_Down);
             QTest::keyPress(arrow->menu(), Qt::Key_Return);
@@ -175,7 +181,9 @@ TEST_F(WidgetShellOwner, endsTheRunInTheQuestionOfTheSink)
     for (const auto response : {FDEOR_ACCEPT, FDEOR_REFUSE, FDEOR_DEFAULT}) {
         owner = std::make_unique<QWidget>();
         sink.overwriteResponse = response;
-        EXPECT_EQ(runAndLose("OnOverwrite", [](QFileDialog& window) { WidgetUser(window).pressAccept(); }), cancelled)
+        EXPECT_EQ(
+            runAndLose("OnOverwrite", [](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }),
+            cancelled)
             << response;
     }
     EXPECT_EQ(sink.count("OnFileOk"), 0);
@@ -202,13 +210,13 @@ TEST_F(WidgetShellOwner, isNotNeededToCloseTheDialog)
                 owner.reset();
                 return dialog->Close(E_ABORT);
             };
-            WidgetUser(window).clickButton(1, QStringLiteral("Leave"));
+            FileDialogDriver::whenActive(window).clickControl(QStringLiteral("Leave"));
         },
         reinterpret_cast<HWND>(owner->winId()));
     EXPECT_EQ(hr, E_ABORT);
 }
 
-TEST_F(WidgetShellRun, quittingTheApplicationEndsTheRun)
+TEST_F(WidgetShellOwnerRun, quittingTheApplicationEndsTheRun)
 {
     HRESULT hr = S_OK;
     QTimer::singleShot(0, [&] { hr = show([](QFileDialog&) { QCoreApplication::quit(); }); });

@@ -20,7 +20,7 @@ TEST_F(WidgetShellRun, textsReachTheWindow)
     dialog->SetFileNameLabel(text("Called:").c_str());
     show([](QFileDialog& window) {
         EXPECT_EQ(window.windowTitle(), QStringLiteral("Pick  a <b>file</b>"));
-        EXPECT_EQ(WidgetUser(window).acceptButton()->text(), QStringLiteral("Ta&ke"));
+        EXPECT_EQ(FileDialogDriver::whenActive(window).acceptButton().text(), QStringLiteral("Ta&ke"));
         EXPECT_EQ(window.labelText(QFileDialog::FileName), QStringLiteral("Called:"));
         window.reject();
     });
@@ -41,16 +41,16 @@ TEST_F(WidgetShellRun, acceptingIsOfferedWhileThereIsAName)
         change(picksFolders ? FILEOPENDIALOGOPTIONS(FOS_PICKFOLDERS) : 0);
         dialog->SetFileName(text("").c_str());
         show([&](QFileDialog& window) {
-            WidgetUser user(window);
+            const FileDialogDriver driver = FileDialogDriver::whenActive(window);
             const auto* const cancel = window.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel);
             const auto expectOffered = [&](const char* when, bool offered) {
-                EXPECT_EQ(user.acceptButton()->isEnabled(), offered || picksFolders) << when << " " << picksFolders;
+                EXPECT_EQ(driver.acceptButton().isEnabled(), offered || picksFolders) << when << " " << picksFolders;
                 EXPECT_TRUE(cancel->isEnabled()) << when << " " << picksFolders;
             };
             expectOffered("at first", false);
-            user.typeName(QStringLiteral("a.txt"));
+            driver.typeName(QStringLiteral("a.txt"));
             expectOffered("with a name", true);
-            user.typeName(QString());
+            driver.typeName(QString());
             expectOffered("deleted", false);
             dialog->SetFileName(text("b.txt").c_str());
             expectOffered("with the host's name", true);
@@ -67,23 +67,23 @@ TEST_F(WidgetShellRun, typesAreChosenByPositionWhateverTheirTexts)
     setTypes({{odd, QStringLiteral("*.txt")}, {odd, QStringLiteral("*.dat")}, {QString(), QStringLiteral("*.*")},
         {QStringLiteral("Empty"), QString()}});
     show([&](QFileDialog& window) {
-        WidgetUser user(window);
-        ASSERT_EQ(user.typeCombo()->count(), 4);
-        EXPECT_EQ(user.typeCombo()->itemText(1), odd);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        ASSERT_EQ(driver.typeCombo().count(), 4);
+        EXPECT_EQ(driver.typeCombo().itemText(1), odd);
         EXPECT_TRUE(QTest::qWaitFor([&] {
             return shownFiles(window) == (QStringList{QStringLiteral("a.txt"), QStringLiteral("b.txt"),
                                              QStringLiteral("d.TXT"), QStringLiteral("inner")});
         }));
-        user.pickType(2);
+        driver.stepToType(1);
         EXPECT_TRUE(QTest::qWaitFor([&] {
             return shownFiles(window) == (QStringList{QStringLiteral("c.dat"), QStringLiteral("inner")});
         }));
         UINT index = 0;
         dialog->GetFileTypeIndex(&index);
         EXPECT_EQ(index, 2u);
-        user.pickType(3);
+        driver.stepToType(2);
         EXPECT_TRUE(QTest::qWaitFor([&] { return shownFiles(window).size() == 5; }));
-        user.pickType(4);
+        driver.stepToType(3);
         EXPECT_TRUE(QTest::qWaitFor([&] { return shownFiles(window).size() == 5; }));
         window.reject();
     });
@@ -111,13 +111,13 @@ TEST_F(WidgetShellRun, switchingTypesLeavesTheTypedSuffixAlone)
         {QStringLiteral("Table (*.csv)"), QStringLiteral("*.csv")},
         {QStringLiteral("Data (*.dat)"), QStringLiteral("*.dat")}});
     show([&](QFileDialog& window) {
-        WidgetUser user(window);
-        user.typeName(QStringLiteral("name.old"));
-        QTest::keyClick(user.typeCombo(), Qt::Key_End);
-        EXPECT_EQ(user.typeCombo()->currentIndex(), 2);
-        EXPECT_EQ(user.nameEdit()->text(), QStringLiteral("name.old"));
-        user.pickType(1);
-        EXPECT_EQ(user.nameEdit()->text(), QStringLiteral("name.old"));
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.typeName(QStringLiteral("name.old"));
+        QTest::keyClick(&driver.typeCombo(), Qt::Key_End);
+        EXPECT_EQ(driver.typeCombo().currentIndex(), 2);
+        EXPECT_EQ(driver.name(), QStringLiteral("name.old"));
+        driver.stepToType(0);
+        EXPECT_EQ(driver.name(), QStringLiteral("name.old"));
         window.reject();
     });
 }
@@ -136,11 +136,11 @@ TEST_F(WidgetShellRun, showsWidgetsWhereTheDesktopHasNoDialogOfItsOwn)
     setTypes({{QStringLiteral("Text"), QStringLiteral("*.txt")}, {QStringLiteral("Data"), QStringLiteral("*.dat")}});
     dialog->SetFileName(text("new.old").c_str());
     const HRESULT hr = show([&](QFileDialog& window) {
-        WidgetUser user(window);
-        user.pickType(2);
-        EXPECT_EQ(user.nameEdit()->text(), QStringLiteral("new.old"));
-        user.typeName(folder.filePath(QStringLiteral("new.txt")));
-        user.pressAccept();
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.stepToType(1);
+        EXPECT_EQ(driver.name(), QStringLiteral("new.old"));
+        driver.typeName(folder.filePath(QStringLiteral("new.txt")));
+        driver.pressAccept();
     });
     EXPECT_EQ(hr, S_OK);
     EXPECT_EQ(sink.count("OnTypeChange 2"), 1);

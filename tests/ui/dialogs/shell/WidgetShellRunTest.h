@@ -1,7 +1,7 @@
 #pragma once
 
 #include "contract/LoggingSink.h"
-#include "contract/WidgetUser.h"
+#include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/shell/ComPtr.h"
 #include "ui/qt/dialogs/shell/WidgetShell_p.h"
@@ -107,14 +107,14 @@ protected:
         names.sort();
         return names;
     }
-    static void pressAcceptAndReadMessage(WidgetUser& user, const std::string& part)
+    static void pressAcceptAndReadMessage(const FileDialogDriver& driver, const std::string& part)
     {
         ModalScript script;
         script.on<QMessageBox>([&part](QMessageBox& box) {
             EXPECT_THAT(box.text().toStdString(), ::testing::HasSubstr(part));
             box.accept();
         });
-        user.pressAccept();
+        driver.pressAccept();
         EXPECT_TRUE(script.finished()) << "no message was shown";
     }
     ui::ShellString text(const char* utf8) { return ui::toShellString(QString::fromUtf8(utf8)); }

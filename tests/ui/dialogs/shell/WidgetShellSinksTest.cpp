@@ -39,7 +39,7 @@ protected:
         });
         answer.start(1);
         return show([](QFileDialog& window) {
-            WidgetUser(window).pressAccept();
+            FileDialogDriver::whenActive(window).pressAccept();
             window.reject();
         });
     }
@@ -121,13 +121,13 @@ TEST_F(WidgetShellSinks, keepTheUserInTheFolderWhereTheyAreAndHearOfTheWayBack)
     const std::string base = QFileInfo(folder.path()).fileName().toStdString();
     show([&](QFileDialog& window) {
         EXPECT_EQ(window.acceptMode(), QFileDialog::AcceptSave);
-        WidgetUser user(window);
-        user.enterFolder(inner);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.enterFolder(inner);
         sink.on["OnFolderChanging"] = [] { return S_FALSE; };
-        user.enterFolder(inner + QStringLiteral("/most"));
+        driver.enterFolder(inner + QStringLiteral("/most"));
         EXPECT_EQ(window.directory().path(), inner);
         sink.on.clear();
-        user.enterFolder(folder.path());
+        driver.enterFolder(folder.path());
         EXPECT_EQ(window.directory().path(), folder.path());
         window.reject();
     });
@@ -144,7 +144,7 @@ TEST_F(WidgetShellSinks, hearNothingAfterTheChoice)
     ASSERT_EQ(shell.createItemFromParsingName(path.c_str(), nullptr, IID_IShellItem, inner.putVoid()), S_OK);
     const HRESULT hr = show([&](QFileDialog& window) {
         QObject::connect(&window, &QDialog::accepted, &window, [&] { dialog->SetFolder(inner.get()); });
-        WidgetUser(window).pressAccept();
+        FileDialogDriver::whenActive(window).pressAccept();
     });
     EXPECT_EQ(hr, S_OK);
     EXPECT_EQ(sink.log.back(), "OnFileOk");
@@ -155,13 +155,13 @@ TEST_F(WidgetShellSinks, areToldOfASelectionOnce)
     sink.on["OnFileOk"] = [] { return S_FALSE; };
     change(0, FOS_OVERWRITEPROMPT);
     show([this](QFileDialog& window) {
-        WidgetUser user(window);
-        user.clickFile(QStringLiteral("b.txt"), Qt::NoModifier);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.clickFile(QStringLiteral("b.txt"));
         EXPECT_TRUE(QTest::qWaitFor([this] { return sink.count("OnSelectionChange") > 0; }));
         QCoreApplication::processEvents();
         const int told = sink.count("OnSelectionChange");
-        user.pressAccept();
-        user.pressAccept();
+        driver.pressAccept();
+        driver.pressAccept();
         EXPECT_EQ(sink.count("OnSelectionChange"), told) << "not again with each choice";
         window.reject();
     });
@@ -176,12 +176,12 @@ TEST_F(WidgetShellSinks, decideAboutOneChoiceAtATime)
         show([&](QFileDialog& window) {
             sink.on["OnFileOk"] = [&] {
                 if (++decisions == 1) { // as in an event loop that the sink runs
-                    WidgetUser(window).typeName(QStringLiteral("other.txt"));
-                    WidgetUser(window).pressAccept();
+                    FileDialogDriver::whenActive(window).typeName(QStringLiteral("other.txt"));
+                    FileDialogDriver::whenActive(window).pressAccept();
                 }
                 return answer;
             };
-            WidgetUser(window).pressAccept();
+            FileDialogDriver::whenActive(window).pressAccept();
             EXPECT_EQ(window.isVisible(), answer != S_OK);
             window.reject();
         });
@@ -203,7 +203,7 @@ TEST_F(WidgetShellSinks, findNoResultOfARunThatIsClosedAfterItsChoice)
     change(0, FOS_OVERWRITEPROMPT);
     const HRESULT hr = show([this](QFileDialog& window) {
         QObject::connect(&window, &QDialog::accepted, &window, [this] { EXPECT_EQ(dialog->Close(E_ABORT), S_OK); });
-        WidgetUser(window).pressAccept();
+        FileDialogDriver::whenActive(window).pressAccept();
     });
     EXPECT_EQ(hr, E_ABORT);
     EXPECT_EQ(sink.count("OnFileOk"), 1);
@@ -230,7 +230,7 @@ TEST_F(WidgetShellSinks, leaveTheQuestionToABoxThatShowsTheNameAsItIs)
             EXPECT_EQ(box.parentWidget(), &window);
             box.reject();
         });
-        WidgetUser(window).pressAccept();
+        FileDialogDriver::whenActive(window).pressAccept();
         EXPECT_TRUE(script.finished());
         EXPECT_FALSE(window.findChild<QMessageBox*>()) << "gone after its answer";
         window.reject();

@@ -30,12 +30,12 @@ protected:
     /** Types the wildcard and presses Enter, or the accept button. */
     static void filter(QFileDialog& window, const QString& wildcard, bool withEnter)
     {
-        WidgetUser user(window);
-        user.typeName(wildcard);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.typeName(wildcard);
         if (withEnter) {
-            QTest::keyClick(user.nameEdit(), Qt::Key_Return);
+            driver.pressEnter();
         } else {
-            user.pressAccept();
+            driver.pressAccept();
         }
         EXPECT_TRUE(window.isVisible()) << wildcard.toStdString();
     }
@@ -73,8 +73,8 @@ TEST_F(WidgetShellWildcard, isWrittenIntoTheTypeUntilAnotherIsPicked)
 {
     setTwoTypes();
     show([&](QFileDialog& window) {
-        WidgetUser user(window);
-        QComboBox& types = *user.typeCombo();
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        QComboBox& types = driver.typeCombo();
         shows(window,
             {QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("d.TXT"), QStringLiteral("inner")});
         filter(window, QStringLiteral("*.dat"), true);
@@ -83,10 +83,10 @@ TEST_F(WidgetShellWildcard, isWrittenIntoTheTypeUntilAnotherIsPicked)
         filter(window, QStringLiteral("a*"), true);
         shows(window, {QStringLiteral("a.txt"), QStringLiteral("inner")});
         EXPECT_EQ(types.itemText(0), QStringLiteral("Text (a*)"));
-        user.pickType(1);
+        driver.stepToType(0);
         shows(window, {QStringLiteral("a.txt"), QStringLiteral("inner")});
         EXPECT_EQ(types.itemText(0), QStringLiteral("Text (a*)")) << "the same type picked again";
-        user.pickType(2);
+        driver.stepToType(1);
         shows(window, allNames);
         EXPECT_EQ(types.itemText(0), QStringLiteral("Text"));
         EXPECT_EQ(types.count(), 2);
@@ -105,7 +105,7 @@ TEST_F(WidgetShellWildcard, givesWayToATypeThatTheHostChooses)
         EXPECT_EQ(dialog->SetFileTypeIndex(1), S_OK);
         shows(window,
             {QStringLiteral("a.txt"), QStringLiteral("b.txt"), QStringLiteral("d.TXT"), QStringLiteral("inner")});
-        EXPECT_EQ(WidgetUser(window).typeCombo()->itemText(0), QStringLiteral("Text"));
+        EXPECT_EQ(FileDialogDriver::whenActive(window).typeCombo().itemText(0), QStringLiteral("Text"));
         window.reject();
     });
 }
@@ -117,15 +117,15 @@ TEST_F(WidgetShellWildcard, takesTheFolderInFrontOfIt)
     QFile other(folder.filePath(QStringLiteral("inner/e.txt")));
     ASSERT_TRUE(other.open(QIODevice::WriteOnly));
     show([&](QFileDialog& window) {
-        WidgetUser user(window);
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
         shows(window, allNames);
         filter(window, QStringLiteral("inner/*.dat"), true);
         shows(window, {QStringLiteral("e.dat")});
-        EXPECT_EQ(user.nameEdit()->text(), QStringLiteral("*.dat"));
-        QTest::keyClick(user.nameEdit(), Qt::Key_Return);
+        EXPECT_EQ(driver.name(), QStringLiteral("*.dat"));
+        driver.pressEnter();
         EXPECT_TRUE(window.isVisible()) << "it is still a wildcard";
-        user.typeName(QStringLiteral("none/*.dat"));
-        pressAcceptAndReadMessage(user, "none\nDirectory not found");
+        driver.typeName(QStringLiteral("none/*.dat"));
+        pressAcceptAndReadMessage(driver, "none\nDirectory not found");
         shows(window, {QStringLiteral("e.dat")});
         window.reject();
     });
@@ -134,7 +134,7 @@ TEST_F(WidgetShellWildcard, takesTheFolderInFrontOfIt)
 TEST_F(WidgetShellWildcard, isNoSelection)
 {
     show([&](QFileDialog& window) {
-        WidgetUser(window).typeName(QStringLiteral("*.dat"));
+        FileDialogDriver::whenActive(window).typeName(QStringLiteral("*.dat"));
         ComPtr<IShellItem> item;
         EXPECT_EQ(dialog->GetCurrentSelection(item.put()), E_FAIL);
         window.reject();
@@ -149,12 +149,12 @@ TEST_F(WidgetShellWildcard, staysOneInTheNextRunAndWithAnotherEnding)
         window.reject();
     });
     EXPECT_EQ(show([&](QFileDialog& window) {
-        WidgetUser user(window);
-        EXPECT_EQ(user.nameEdit()->text(), QStringLiteral("*.dat"));
-        user.pressAccept();
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        EXPECT_EQ(driver.name(), QStringLiteral("*.dat"));
+        driver.pressAccept();
         shows(window, {QStringLiteral("c.dat"), QStringLiteral("inner")});
         EXPECT_EQ(dialog->SetFileName(text("*.txt").c_str()), S_OK); // as for another type
-        user.pressAccept();
+        driver.pressAccept();
         EXPECT_TRUE(window.isVisible());
         window.reject();
     }),
@@ -166,7 +166,7 @@ TEST_F(WidgetShellWildcard, isWhatTheUserTypesAndNotANameThatTheHostSetsOrThatIs
 {
     change(0, FOS_FILEMUSTEXIST);
     dialog->SetFileName(text("report.png *.jpg").c_str());
-    EXPECT_EQ(show([](QFileDialog& window) { WidgetUser(window).pressAccept(); }), S_OK);
+    EXPECT_EQ(show([](QFileDialog& window) { FileDialogDriver::whenActive(window).pressAccept(); }), S_OK);
     EXPECT_EQ(results(), QStringList(QStringLiteral("report.png *.jpg")));
     QFile file(folder.filePath(QStringLiteral("x*y.txt")));
     if (!file.open(QIODevice::WriteOnly)) {
@@ -174,9 +174,9 @@ TEST_F(WidgetShellWildcard, isWhatTheUserTypesAndNotANameThatTheHostSetsOrThatIs
     }
     dialog->SetFileName(text("").c_str());
     EXPECT_EQ(show([](QFileDialog& window) {
-        WidgetUser user(window);
-        user.clickFile(QStringLiteral("x*y.txt"), Qt::NoModifier);
-        user.pressAccept();
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.clickFile(QStringLiteral("x*y.txt"));
+        driver.pressAccept();
     }),
         S_OK);
     EXPECT_EQ(results(), QStringList(QStringLiteral("x*y.txt")));
@@ -186,9 +186,9 @@ TEST_F(WidgetShellWildcard, isNoNameOfAFolderEither)
 {
     change(FOS_PICKFOLDERS);
     show([&](QFileDialog& window) {
-        WidgetUser user(window);
-        user.typeName(QStringLiteral("in*"));
-        pressAcceptAndReadMessage(user, "Directory not found");
+        const FileDialogDriver driver = FileDialogDriver::whenActive(window);
+        driver.typeName(QStringLiteral("in*"));
+        pressAcceptAndReadMessage(driver, "Directory not found");
         window.reject();
     });
     EXPECT_EQ(sink.count("OnFileOk"), 0);

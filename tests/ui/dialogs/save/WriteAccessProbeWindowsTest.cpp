@@ -9,9 +9,11 @@ using namespace morvane::test;
 
 namespace {
 
-using WriteAccessProbe = WriteAccessProbeTest;
+class WriteAccessProbeWindows : public WriteAccessProbeTest
+{
+};
 
-TEST_F(WriteAccessProbe, refusesAFileThatIsOpenWithoutSharing)
+TEST_F(WriteAccessProbeWindows, refusesAFileThatIsOpenWithoutSharing)
 {
     const fs::path file = makeFile("\xE9\x96\x8B \xF0\x9F\x94\x92.dat");
     {
@@ -22,7 +24,7 @@ TEST_F(WriteAccessProbe, refusesAFileThatIsOpenWithoutSharing)
     expectAnswer(true, file);
 }
 
-TEST_F(WriteAccessProbe, refusesAReadOnlyFile)
+TEST_F(WriteAccessProbeWindows, refusesAReadOnlyFile)
 {
     const fs::path file = makeFile("fixed.dat");
     ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
@@ -34,20 +36,20 @@ TEST_F(WriteAccessProbe, refusesAReadOnlyFile)
     ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL));
 }
 
-TEST_F(WriteAccessProbe, takesANameThatDiffersInCaseForTheSameFile)
+TEST_F(WriteAccessProbeWindows, takesANameThatDiffersInCaseForTheSameFile)
 {
     makeFile("Report.dat");
     expectAnswer(true, path("report.DAT"));
 }
 
-TEST_F(WriteAccessProbe, takesNamesWithEitherSeparator)
+TEST_F(WriteAccessProbeWindows, takesNamesWithEitherSeparator)
 {
     fs::create_directory(path("folder"));
     expectAnswer(true, path("folder/new.dat"));
     expectAnswer(true, path("folder\\new.dat"));
 }
 
-TEST_F(WriteAccessProbe, refusesReservedCharacters)
+TEST_F(WriteAccessProbeWindows, refusesReservedCharacters)
 {
     for (const char* const name : {"a?.dat", "a*.dat", "a<b>.dat", "a|b.dat", "a\"b.dat", "a\nb.dat"}) {
         expectAnswer(false, path(name));

@@ -1,19 +1,28 @@
-#include "support/FileDialogPage.h"
+#include "support/FileDialogDriver.h"
+
+#include "support/ModalScript.h"
 
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
+#include <QMessageBox>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
+#include <QToolButton>
 #include <QTreeView>
 
 #include <algorithm>
+#include <utility>
 
 namespace morvane::test {
 
@@ -27,6 +36,18 @@ void moveMouse(QWidget& widget, QPoint position)
     QApplication::sendEvent(&widget, &move);
 }
 
+void clickMenuItem(QMenu& menu, const QString& label)
+{
+    for (QAction* const action : menu.actions()) {
+        if (action->text() == label) {
+            QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, menu.actionGeometry(action).center());
+            return;
+        }
+    }
+    ADD_FAILURE() << "no item " << label.toStdString();
+    menu.close();
+}
+
 } // namespace
 
 bool waitUntil(const std::function<bool()>& condition)
@@ -34,24 +55,42 @@ bool waitUntil(const std::function<bool()>& condition)
     return QTest::qWaitFor(condition, timeLimitMs);
 }
 
-FileDialogPage::FileDialogPage(QFileDialog& dialog) : m_dialog(dialog) {}
+FileDialogDriver::FileDialogDriver(QFileDialog& dialog) : m_dialog(dialog) {}
 
-bool FileDialogPage::isOpen() const
+FileDialogDriver FileDialogDriver::whenActive(QFileDialog& dialog)
+{
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    return FileDialogDriver(dialog);
+}
+
+std::function<void(QFileDialog&)> FileDialogDriver::playing(std::function<void(FileDialogDriver&)> act)
+{
+    return [act = std::move(act)](QFileDialog& dialog) {
+        const QPointer<QFileDialog> open(&dialog);
+        FileDialogDriver driver = whenActive(dialog);
+        act(driver);
+        if (open && open->isVisible()) {
+            open->reject();
+        }
+    };
+}
+
+bool FileDialogDriver::isOpen() const
 {
     return m_dialog.isVisible();
 }
 
-QLineEdit& FileDialogPage::nameEdit() const
+QLineEdit& FileDialogDriver::nameEdit() const
 {
     return *m_dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
 }
 
-QString FileDialogPage::name() const
+QString FileDialogDriver::name() const
 {
     return nameEdit().text();
 }
 
-void FileDialogPage::typeName(const QString& text) const
+void FileDialogDriver::typeName(const QString& text) const
 {
     // Shown again after a message box, the dialog is not made active by platforms without a window manager; Delete
     // would then be taken for the dialog's shortcut.
@@ -65,38 +104,108 @@ void FileDialogPage::typeName(const QString& text) const
         QTest::sendKeyEvent(
             QTest::Click, &nameEdit(), Qt::Key_unknown, QString::fromUcs4(&character, 1), Qt::NoModifier);
     }
+    EXPECT_EQ(name().toStdString(), text.toStdString());
 }
 
-void FileDialogPage::pressEnter() const
+void FileDialogDriver::pressEnter() const
 {
     QTest::keyClick(&nameEdit(), Qt::Key_Return);
 }
 
-void FileDialogPage::enterName(const QString& text) const
+void FileDialogDriver::enterName(const QString& text) const
 {
     typeName(text);
     pressEnter();
 }
 
-QAbstractButton* FileDialogPage::button(QDialogButtonBox::StandardButton which) const
+void FileDialogDriver::enterFolder(const QString& folder) const
+{
+    enterName(folder);
+    QCoreApplication::processEvents(); // what a user sees before going on
+}
+
+QAbstractButton* FileDialogDriver::button(QDialogButtonBox::StandardButton which) const
 {
     return m_dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->button(which);
 }
 
-void FileDialogPage::click(QDialogButtonBox::StandardButton which) const
+void FileDialogDriver::click(QDialogButtonBox::StandardButton which) const
 {
     QAbstractButton* const clicked = button(which);
     ASSERT_TRUE(clicked && clicked->isEnabled()) << "no such button, or it is grey: " << which;
     QTest::mouseClick(clicked, Qt::LeftButton);
 }
 
-QAbstractItemView& FileDialogPage::view() const
+QAbstractButton& FileDialogDriver::acceptButton() const
+{
+    const auto& box = *m_dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+    const QList<QAbstractButton*> buttons = box.buttons();
+    return **std::find_if(buttons.begin(), buttons.end(),
+        [&box](QAbstractButton* button) { return box.buttonRole(button) == QDialogButtonBox::AcceptRole; });
+}
+
+void FileDialogDriver::pressAccept() const
+{
+    // On the left, since a menu may open at the right end.
+    QAbstractButton& accept = acceptButton();
+    QTest::mouseClick(&accept, Qt::LeftButton, Qt::NoModifier, QPoint(10, accept.height() / 2));
+}
+
+void FileDialogDriver::pressAcceptAndAnswer(bool replace) const
+{
+    ModalScript script;
+    script.on<QMessageBox>([replace](QMessageBox& box) {
+        QTest::mouseClick(box.button(replace ? QMessageBox::Yes : QMessageBox::No), Qt::LeftButton);
+    });
+    pressAccept();
+    EXPECT_TRUE(script.finished()) << "no question was asked";
+}
+
+void FileDialogDriver::pressCancel() const
+{
+    QTest::keyClick(&m_dialog, Qt::Key_Escape);
+}
+
+QAbstractButton* FileDialogDriver::control(const QString& label) const
+{
+    const QList<QAbstractButton*> buttons = m_dialog.findChildren<QAbstractButton*>();
+    const auto found = std::find_if(buttons.begin(), buttons.end(),
+        [&label](QAbstractButton* button) { return button->text() == label && button->isVisible(); });
+    return found != buttons.end() ? *found : nullptr;
+}
+
+void FileDialogDriver::clickControl(const QString& label) const
+{
+    ASSERT_TRUE(control(label)) << label.toStdString();
+    QTest::mouseClick(control(label), Qt::LeftButton);
+}
+
+void FileDialogDriver::toggleControl(const QString& label) const
+{
+    auto* const check = qobject_cast<QCheckBox*>(control(label));
+    ASSERT_TRUE(check) << label.toStdString();
+    QTest::mouseClick(check, Qt::LeftButton, Qt::NoModifier, QPoint(8, check->height() / 2));
+}
+
+void FileDialogDriver::pickAcceptItem(const QString& label) const
+{
+    auto* const arrow = acceptButton().findChild<QToolButton*>();
+    ASSERT_TRUE(arrow && arrow->isVisible());
+    QTimer::singleShot(0, arrow, [arrow, label] { clickMenuItem(*arrow->menu(), label); });
+    const QPointer<QToolButton> guard(arrow);
+    QTest::mousePress(arrow, Qt::LeftButton); // the menu is open until this returns
+    if (guard) {
+        QTest::mouseRelease(arrow, Qt::LeftButton);
+    }
+}
+
+QAbstractItemView& FileDialogDriver::view() const
 {
     const bool details = m_dialog.viewMode() == QFileDialog::Detail;
     return *m_dialog.findChild<QAbstractItemView*>(details ? QStringLiteral("treeView") : QStringLiteral("listView"));
 }
 
-QStringList FileDialogPage::listed() const
+QStringList FileDialogDriver::listed() const
 {
     const QAbstractItemView& files = view();
     QStringList names;
@@ -107,7 +216,7 @@ QStringList FileDialogPage::listed() const
     return names;
 }
 
-bool FileDialogPage::waitForListed(QStringList names) const
+bool FileDialogDriver::waitForListed(QStringList names) const
 {
     names.sort();
     if (waitUntil([&] { return listed() == names; })) {
@@ -117,7 +226,7 @@ bool FileDialogPage::waitForListed(QStringList names) const
     return false;
 }
 
-QRect FileDialogPage::rectangleOf(const QString& name) const
+QRect FileDialogDriver::rectangleOf(const QString& name) const
 {
     QAbstractItemView& files = view();
     EXPECT_TRUE(waitUntil([&] { return listed().contains(name); })) << name.toStdString();
@@ -131,20 +240,22 @@ QRect FileDialogPage::rectangleOf(const QString& name) const
     return {};
 }
 
-void FileDialogPage::clickFile(const QString& name, Qt::KeyboardModifiers modifiers) const
+void FileDialogDriver::clickFile(const QString& name, Qt::KeyboardModifiers modifiers) const
 {
     const QPoint place = rectangleOf(name).center();
     QTest::mouseClick(view().viewport(), Qt::LeftButton, modifiers, place);
+    const QItemSelectionModel& selection = *view().selectionModel();
+    EXPECT_TRUE(selection.isSelected(view().indexAt(place))) << name.toStdString();
 }
 
-void FileDialogPage::doubleClickFile(const QString& name) const
+void FileDialogDriver::doubleClickFile(const QString& name) const
 {
     const QPoint place = rectangleOf(name).center();
     QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, place);
     QTest::mouseDClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, place);
 }
 
-QStringList FileDialogPage::cutParts() const
+QStringList FileDialogDriver::cutParts() const
 {
     QStringList parts;
     const auto check = [&parts](const QString& what, int needed, int given) {
@@ -166,12 +277,12 @@ QStringList FileDialogPage::cutParts() const
     return parts;
 }
 
-QComboBox& FileDialogPage::typeCombo() const
+QComboBox& FileDialogDriver::typeCombo() const
 {
     return *m_dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
 }
 
-QStringList FileDialogPage::types() const
+QStringList FileDialogDriver::types() const
 {
     QStringList texts;
     for (int row = 0; row < typeCombo().count(); ++row) {
@@ -180,12 +291,12 @@ QStringList FileDialogPage::types() const
     return texts;
 }
 
-QString FileDialogPage::currentType() const
+QString FileDialogDriver::currentType() const
 {
     return typeCombo().currentText();
 }
 
-void FileDialogPage::pickTypeWithKeys(int row) const
+void FileDialogDriver::pickTypeWithKeys(int row) const
 {
     QAbstractItemView& list = *typeCombo().view();
     QTest::keyClick(&typeCombo(), Qt::Key_F4);
@@ -199,7 +310,7 @@ void FileDialogPage::pickTypeWithKeys(int row) const
     QCoreApplication::processEvents(); // what a user sees before going on
 }
 
-void FileDialogPage::pickTypeWithMouse(int row) const
+void FileDialogDriver::pickTypeWithMouse(int row) const
 {
     QAbstractItemView& list = *typeCombo().view();
     QTest::mouseClick(&typeCombo(), Qt::LeftButton);
@@ -211,6 +322,16 @@ void FileDialogPage::pickTypeWithMouse(int row) const
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
     EXPECT_TRUE(waitUntil([&] { return !list.isVisible(); }));
     QCoreApplication::processEvents(); // what a user sees before going on
+}
+
+void FileDialogDriver::stepToType(int row) const
+{
+    QComboBox& combo = typeCombo();
+    ASSERT_LT(row, combo.count());
+    while (combo.currentIndex() != row) {
+        QTest::keyClick(&combo, combo.currentIndex() < row ? Qt::Key_Down : Qt::Key_Up);
+        QCoreApplication::processEvents(); // what a user sees before going on
+    }
 }
 
 } // namespace morvane::test

@@ -16,11 +16,18 @@ namespace morvane::test {
 /** Waits until @p condition holds, with events processed; returns whether it came to hold. */
 bool waitUntil(const std::function<bool()>& condition);
 
-/** What a person sees of a file dialog, and what they do with it: key and mouse events on the widgets in it. */
-class FileDialogPage
+/**
+ * What a person sees of a file dialog of Qt's widgets, and what they do with it: key and mouse events on the widgets in
+ * it. With controls, the dialog is that of a WidgetShell.
+ */
+class FileDialogDriver
 {
 public:
-    explicit FileDialogPage(QFileDialog& dialog);
+    explicit FileDialogDriver(QFileDialog& dialog);
+    /** Waits first until the dialog is active: then it selects the text of the name field. */
+    static FileDialogDriver whenActive(QFileDialog& dialog);
+    /** A step for a ModalScript: acts when the dialog is active, and cancels the dialog if it is open after that. */
+    static std::function<void(QFileDialog&)> playing(std::function<void(FileDialogDriver&)> act);
 
     QFileDialog& dialog() const { return m_dialog; }
     bool isOpen() const;
@@ -31,10 +38,23 @@ public:
     void typeName(const QString& text) const;
     void pressEnter() const;
     void enterName(const QString& text) const;
+    void enterFolder(const QString& folder) const;
 
     /** Null when there is no such button. */
     QAbstractButton* button(QDialogButtonBox::StandardButton which) const;
     void click(QDialogButtonBox::StandardButton which) const;
+    QAbstractButton& acceptButton() const;
+    void pressAccept() const;
+    void pressAcceptAndAnswer(bool replace) const;
+    /** With Escape. */
+    void pressCancel() const;
+
+    /** The custom control with this label; null when it is not shown. */
+    QAbstractButton* control(const QString& label) const;
+    void clickControl(const QString& label) const;
+    void toggleControl(const QString& label) const;
+    /** Picks an item of the menu at the accept button. */
+    void pickAcceptItem(const QString& label) const;
 
     /** The names in the view of the folder, sorted. */
     QStringList listed() const;
@@ -51,6 +71,8 @@ public:
     /** Opens the list of types and picks a row of it. */
     void pickTypeWithKeys(int row) const;
     void pickTypeWithMouse(int row) const;
+    /** Steps with the arrow keys, through the types in between. */
+    void stepToType(int row) const;
 
 private:
     QAbstractItemView& view() const;

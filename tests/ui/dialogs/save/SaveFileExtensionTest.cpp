@@ -23,13 +23,13 @@ struct RuleCase
     const char* expected;
 };
 
-class FilterExtension : public testing::TestWithParam<RuleCase>
+class SaveFileExtensionTest : public testing::TestWithParam<RuleCase>
 {
 };
 
 } // namespace
 
-TEST_P(FilterExtension, isAppliedToNamesWithoutOne)
+TEST_P(SaveFileExtensionTest, isAppliedToNamesWithoutOne)
 {
     const RuleCase& c = GetParam();
     EXPECT_EQ(applyFilterExtension(c.filename, c.nameFilter), c.expected);
@@ -37,7 +37,7 @@ TEST_P(FilterExtension, isAppliedToNamesWithoutOne)
         << "the oracle disagrees with the table";
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, FilterExtension,
+INSTANTIATE_TEST_SUITE_P(Names, SaveFileExtensionTest,
     testing::Values(RuleCase{"/d/report", "Data files (*.dat)", "/d/report.dat"},
         RuleCase{"/d/report.", "Data files (*.dat)", "/d/report.dat"},
         RuleCase{"/d/report.txt", "Data files (*.dat)", "/d/report.txt"},
@@ -61,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(Names, FilterExtension,
         RuleCase{"/d/\xE6\x97\xA5\xE6\x9C\xAC", "Data (*.\xC3\xA4)", "/d/\xE6\x97\xA5\xE6\x9C\xAC.\xC3\xA4"},
         RuleCase{"/d/\xF0\x9F\x98\x80.", "D\t(*.d\ta\nt)", "/d/\xF0\x9F\x98\x80.dat"}));
 
-TEST(FilterExtensionRule, keepsNamesLongerThanADiskTakes)
+TEST(SaveFileExtensionRule, keepsNamesLongerThanADiskTakes)
 {
     for (const std::size_t length : {250u, 255u, 300u}) {
         const std::string name = "/d/" + std::string(length, 'n');
@@ -69,7 +69,7 @@ TEST(FilterExtensionRule, keepsNamesLongerThanADiskTakes)
     }
 }
 
-TEST(FilterExtensionRule, agreesWithTheExpressionsOnRandomTexts)
+TEST(SaveFileExtensionRule, agreesWithTheExpressionsOnRandomTexts)
 {
     std::mt19937 random(20260812);
     const std::string pieces[] = {

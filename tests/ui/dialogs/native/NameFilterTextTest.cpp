@@ -36,7 +36,7 @@ struct SplitCase
     const char* extension;
 };
 
-class SplitNameFilter : public testing::TestWithParam<SplitCase>
+class NameFilterTextSplit : public testing::TestWithParam<SplitCase>
 {
 };
 
@@ -54,7 +54,7 @@ TEST(NameFilterText, tellsAWildcardFromAnExtension)
 
 } // namespace
 
-TEST_P(SplitNameFilter, givesDescriptionPatternsAndExtension)
+TEST_P(NameFilterTextSplit, givesDescriptionPatternsAndExtension)
 {
     const SplitCase& c = GetParam();
     EXPECT_EQ(splitNameFilter(c.filter).description, c.description);
@@ -63,7 +63,7 @@ TEST_P(SplitNameFilter, givesDescriptionPatternsAndExtension)
     expectSameAsExpressions(c.filter);
 }
 
-INSTANTIATE_TEST_SUITE_P(Filters, SplitNameFilter,
+INSTANTIATE_TEST_SUITE_P(Filters, NameFilterTextSplit,
     testing::Values(SplitCase{"Images (*.png *.jpg)", "Images", "*.png;*.jpg", "png *.jpg"},
         SplitCase{"Data (*.dat)", "Data", "*.dat", "dat"}, SplitCase{"A (x) (*.a)", "A (x)", "*.a", "a"},
         SplitCase{"A (*.a) (x)", "A (*.a)", "x", "a) (x"}, SplitCase{"All files (*)", "All files", "*", ""},

@@ -1,4 +1,4 @@
-#include "Accessible.h"
+#include "WidgetAccessibility.h"
 
 #include <QAbstractButton>
 #include <QApplication>

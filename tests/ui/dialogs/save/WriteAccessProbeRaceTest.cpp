@@ -22,7 +22,7 @@ int numberOfRounds()
 const int rounds = numberOfRounds();
 
 /** Probes the name without a pause until the rival is done. */
-class ProbeRace : public WriteAccessProbeTest
+class WriteAccessProbeRace : public WriteAccessProbeTest
 {
 protected:
     void run()
@@ -108,7 +108,7 @@ protected:
     int m_refusedRenames = 0;
 };
 
-TEST_F(ProbeRace, losesNoFileThatIsRenamedOntoTheName)
+TEST_F(WriteAccessProbeRace, losesNoFileThatIsRenamedOntoTheName)
 {
     run();
     std::cout << "race lost " << m_lost << " of " << rounds << ", " << m_probes << " probes, " << m_refusedRenames

@@ -17,7 +17,9 @@ using namespace morvane::test;
 
 namespace {
 
-using WriteAccessProbe = WriteAccessProbeTest;
+class WriteAccessProbePosix : public WriteAccessProbeTest
+{
+};
 
 /** Runs @p question in a child process, prepared there by @p prepare, and returns its answer. */
 bool askInChild(const std::function<void()>& prepare, const std::function<bool()>& question)
@@ -41,38 +43,38 @@ void becomeAnotherUser()
     }
 }
 
-TEST_F(WriteAccessProbe, takesANameThatDiffersInCaseForAnotherFile)
+TEST_F(WriteAccessProbePosix, takesANameThatDiffersInCaseForAnotherFile)
 {
     makeFile("Report.dat");
     expectAnswer(true, path("report.DAT"));
 }
 
-TEST_F(WriteAccessProbe, acceptsNamesWithQuotesAndLineFeeds)
+TEST_F(WriteAccessProbePosix, acceptsNamesWithQuotesAndLineFeeds)
 {
     expectAnswer(true, path("it's \"quoted\"\n"));
 }
 
-TEST_F(WriteAccessProbe, refusesADirectoryThatTakesNoFiles)
+TEST_F(WriteAccessProbePosix, refusesADirectoryThatTakesNoFiles)
 {
     expectAnswer(false, "/proc/new.dat");
     expectAnswer(false, "/proc");
 }
 
-TEST_F(WriteAccessProbe, refusesNamesThatTheDiskDoesNotTake)
+TEST_F(WriteAccessProbePosix, refusesNamesThatTheDiskDoesNotTake)
 {
     expectAnswer(true, path(std::string(255, 'n')));
     expectAnswer(false, path(std::string(256, 'n')));
     expectAnswer(false, path(std::string(5000, 'n')));
 }
 
-TEST_F(WriteAccessProbe, followsAGoodLinkToItsFile)
+TEST_F(WriteAccessProbePosix, followsAGoodLinkToItsFile)
 {
     makeFile("file");
     fs::create_symlink("file", path("link"));
     expectAnswer(true, path("link"));
 }
 
-TEST_F(WriteAccessProbe, triesTheTargetOfADanglingLinkAndKeepsTheLink)
+TEST_F(WriteAccessProbePosix, triesTheTargetOfADanglingLinkAndKeepsTheLink)
 {
     fs::create_symlink("not-there", path("link"));
     expectAnswer(true, path("link"));
@@ -82,7 +84,7 @@ TEST_F(WriteAccessProbe, triesTheTargetOfADanglingLinkAndKeepsTheLink)
     expectAnswer(false, path("nowhere"));
 }
 
-TEST_F(WriteAccessProbe, followsAsManyDanglingLinksAsTheSystem)
+TEST_F(WriteAccessProbePosix, followsAsManyDanglingLinksAsTheSystem)
 {
     const auto name = [](int link) { return "link" + std::to_string(link); };
     fs::create_symlink("not-there", path(name(1)));
@@ -102,14 +104,14 @@ TEST_F(WriteAccessProbe, followsAsManyDanglingLinksAsTheSystem)
     }
 }
 
-TEST_F(WriteAccessProbe, refusesALoopOfLinksAndKeepsIt)
+TEST_F(WriteAccessProbePosix, refusesALoopOfLinksAndKeepsIt)
 {
     fs::create_symlink("b", path("a"));
     fs::create_symlink("a", path("b"));
     expectAnswer(false, path("a"));
 }
 
-TEST_F(WriteAccessProbe, opensDevicesAndPipesWithoutWaiting)
+TEST_F(WriteAccessProbePosix, opensDevicesAndPipesWithoutWaiting)
 {
     ASSERT_EQ(mkfifo(path("pipe").c_str(), 0600), 0);
     expectAnswer(true, path("pipe"));
@@ -117,7 +119,7 @@ TEST_F(WriteAccessProbe, opensDevicesAndPipesWithoutWaiting)
     expectAnswer(true, "/dev/full");
 }
 
-TEST_F(WriteAccessProbe, refusesAnImmutableFile)
+TEST_F(WriteAccessProbePosix, refusesAnImmutableFile)
 {
     const fs::path file = makeFile("fixed");
     if (std::system(("chattr +i '" + file.string() + "' 2>/dev/null").c_str()) != 0) {
@@ -127,7 +129,7 @@ TEST_F(WriteAccessProbe, refusesAnImmutableFile)
     ASSERT_EQ(std::system(("chattr -i '" + file.string() + "'").c_str()), 0);
 }
 
-TEST_F(WriteAccessProbe, refusesWhatAnotherUserMayNotWrite)
+TEST_F(WriteAccessProbePosix, refusesWhatAnotherUserMayNotWrite)
 {
     if (getuid() != 0) {
         GTEST_SKIP() << "only root can become another user";
@@ -153,7 +155,7 @@ TEST_F(WriteAccessProbe, refusesWhatAnotherUserMayNotWrite)
     EXPECT_EQ(DiskState(m_directory.path()).text(), before.text());
 }
 
-TEST_F(WriteAccessProbe, answersWithoutDescriptorsLeft)
+TEST_F(WriteAccessProbePosix, answersWithoutDescriptorsLeft)
 {
     const fs::path file = makeFile("file");
     const auto useUp = [&] {
@@ -170,7 +172,7 @@ TEST_F(WriteAccessProbe, answersWithoutDescriptorsLeft)
     EXPECT_TRUE(checkWriteAccess(file));
 }
 
-TEST_F(WriteAccessProbe, answersOnAFullDevice)
+TEST_F(WriteAccessProbePosix, answersOnAFullDevice)
 {
     fs::create_directory(path("full"));
     if (mount("tmpfs", path("full").c_str(), "tmpfs", 0, "size=8k,nr_inodes=3") != 0) {
