@@ -205,8 +205,14 @@ expect_runs 1
 expect_output 'first line'
 expect_told "Wine's server ended while .* ran"
 
-run 'the X server ends meanwhile' 'echo one; kill -KILL $(cut -d " " -f 1 '"$scratch/home/1/display"'); sleep 0.2; exit 4'
+ends_display='kill -KILL $(cut -d " " -f 1 '$scratch/home/1/display'); sleep 0.2'
+run 'the X server ends meanwhile' "echo one; $ends_display; exit 4"
 expect_status 4
+expect_runs 1
+expect_told 'the X server ended while .* ran'
+
+run 'the X server ends and the program does not tell' "echo one; $ends_display"
+expect_status 125
 expect_runs 1
 expect_told 'the X server ended while .* ran'
 
