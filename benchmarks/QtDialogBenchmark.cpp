@@ -1,4 +1,4 @@
-// Time from construction to the first painted frame, over that of Qt's own dialog on the same folder.
+// The time from construction to the first painted frame, compared with Qt's own dialog in the same folder.
 
 #include "support/Ratio.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
@@ -44,7 +44,7 @@ void showFirstFrame(QFileDialog& dialog)
     }
 }
 
-/** What is left of a dialog must not be paid for by the next one. */
+/** Finishes what a dialog leaves for later, so that it does not count for the next one. */
 void settle(benchmark::State& state)
 {
     state.PauseTiming();

@@ -1,5 +1,5 @@
-// What it costs a program to be linked with the library: the time until main() of a program that does nothing, over
-// that of one that is linked with Qt Widgets alone, and the sizes of the files.
+// The cost of linking with the library: the time until main() of a program that does nothing, compared with one that is
+// linked with Qt Widgets only, and the sizes of the files.
 #include "support/Ratio.h"
 
 #include <QFileInfo>

@@ -132,7 +132,7 @@ void configureThroughLibrary(benchmark::State& state)
     }
 }
 
-/** A sink that hears nothing. */
+/** A sink that ignores all events. */
 class SilentSink final : public IFileDialogEvents
 {
 public:

@@ -183,7 +183,7 @@ void readWithTheLoop(const Keystroke& key)
 
 void validateWorstWithTheLoop(benchmark::State& state)
 {
-    // Each costs milliseconds, so a part of them has to do.
+    // Each takes milliseconds, so only a part of them is measured.
     static const Keystroke worst = [] {
         std::vector<Keystroke> all = keystrokes();
         std::shuffle(all.begin(), all.end(), std::mt19937(5));
@@ -197,7 +197,7 @@ void validateWorstWithTheLoop(benchmark::State& state)
 }
 MORVANE_BENCHMARK(validateWorstWithTheLoop);
 
-/** Validates a text as it grows key by key; no text follows itself, so that no answer is remembered. */
+/** Validates a text that grows key by key. Each text differs from the one before, so no answer is remembered. */
 template <typename SpinBox>
 void typeKeyByKey(benchmark::State& state, const SpinBox& spin, const QString& whole)
 {
@@ -254,7 +254,7 @@ void textBySnprintf(benchmark::State& state)
 }
 MORVANE_BENCHMARK(textBySnprintf);
 
-/** Reads what might be pasted: `length` characters of digits, separators and blanks, so many times. */
+/** Reads texts as they may be pasted: `length` characters of digits, separators and blanks, several times. */
 void readLongTexts(int length, int times)
 {
     const NumberRules rules{-largest, largest, 8, '.', ',', {}, {}, {}};

@@ -1,4 +1,4 @@
-// Copying a table's selection, against the plainest way to make the same text and against merely reading the cells.
+// Copying a table's selection, compared with the simplest way to make the same text and with reading the cells only.
 
 #include "support/Ratio.h"
 #include "ui/qt/util/TableCopyHandler.h"
@@ -24,8 +24,8 @@
 namespace {
 
 /**
- * Readings that share a thousand texts. Hardly a model can cost less, so that the copying shows: with a million texts
- * of their own, waiting for the memory would take up most of every time that is compared here.
+ * Readings that share a thousand texts. Such a model costs very little, so the time of the copying shows. With a
+ * million different texts, most of the time would be waiting for memory.
  */
 class Readings : public QAbstractTableModel
 {
@@ -180,7 +180,7 @@ double processMemory(const QByteArray& name)
     return -1;
 }
 
-/** Bytes that the process occupied at most during @p action beyond those before, -1 when they cannot be told. */
+/** By how many bytes the process grew at most during @p action; -1 when that is unknown. */
 template <typename Action>
 double peakMemoryOf(Action action)
 {
@@ -194,7 +194,7 @@ double peakMemoryOf(Action action)
     return processMemory("VmHWM") - before;
 }
 
-/** The same in a process of its own, where the measurements before have left no habits of the allocator. */
+/** The same in a new process, in which no earlier measurement has changed the state of the allocator. */
 template <typename Action>
 double peakMemoryInChild(Action action)
 {
@@ -218,7 +218,7 @@ double peakMemoryInChild(Action action)
     return complete ? bytes : -1;
 }
 
-/** Reports bytes in the place of nanoseconds. */
+/** Reports bytes instead of nanoseconds. */
 void reportBytes(benchmark::State& state, double bytes)
 {
     for (auto _ : state) {

@@ -1,5 +1,5 @@
-// The search for a number that the typed digits fit, against the plain loop. The loop may look at half a million
-// numbers; here it stops after 1,200, and what lies beyond is checked for what must hold in any case.
+// The search for a number that begins with the typed digits, compared with the plain loop. The loop may look at half a
+// million numbers. Here it stops after 1,200, and beyond that only the properties that always hold are checked.
 #include "support/FuzzInput.h"
 #include "support/Require.h"
 #include "ui/qt/controls/DigitSearch_p.h"

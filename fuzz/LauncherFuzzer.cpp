@@ -1,5 +1,5 @@
-// The launcher on the native dialog, played by a Shell without windows: hostile captions, filters and selections from
-// the host, and hostile names, types and folders from the user.
+// The launcher with the native dialog and a Shell without windows. The captions, filters and selections from the host
+// are hostile, and so are the names, types and folders from the user.
 #include "support/FuzzInput.h"
 #include "support/QuietApplication.h"
 #include "support/Require.h"
@@ -52,7 +52,7 @@ void playUser(RecordingDialog& dialog, FuzzInput& input)
     }
 }
 
-/** An upper limit: each separator within a filter makes one more of it. */
+/** An upper limit: each separator in a filter adds one filter. */
 int countOfFilters(const std::vector<std::string>& filters)
 {
     std::size_t count = filters.size();

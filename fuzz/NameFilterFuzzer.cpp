@@ -1,4 +1,4 @@
-// Name filters, against the expressions that define what they mean.
+// Name filters, compared with the expressions that define their meaning.
 #include "dialogs/native/LiteralNameFilter.h"
 #include "support/FuzzInput.h"
 #include "support/Require.h"

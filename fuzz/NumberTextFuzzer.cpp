@@ -1,4 +1,4 @@
-// Reading a number in plain or scientific notation, against the reading step by step.
+// Reading a number in plain or scientific notation, compared with reading it step by step.
 #include "controls/LiteralNumberReading.h"
 #include "support/FuzzInput.h"
 #include "support/Require.h"

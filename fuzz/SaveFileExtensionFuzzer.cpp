@@ -1,4 +1,4 @@
-// A file name and a name filter, one a line, against the rule for the extension in its own words.
+// A file name and a name filter, one on each line, compared with the expressions that define the extension.
 #include "dialogs/save/LiteralExtensionRule.h"
 #include "support/FuzzInput.h"
 #include "support/Require.h"

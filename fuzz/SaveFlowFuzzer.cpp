@@ -1,5 +1,5 @@
-// The save flow behind its dialog: whatever names, filters and answers come from the dialog and the host's message
-// handler, the flow ends, asks before it replaces, leaves no file behind and harms none.
+// The save flow with any names, filters and answers from the dialog and from the host's message handler. The flow ends,
+// asks before it replaces a file, leaves no new file behind and damages none.
 #include "support/FuzzInput.h"
 #include "support/QuietApplication.h"
 #include "support/Require.h"
@@ -62,7 +62,7 @@ private:
     int m_count = 0;
 };
 
-/** A name that stays below the scratch directory whatever it says. */
+/** Makes a name that always stays below the scratch directory. */
 QString nameInside(const std::string& text)
 {
     QString name = fromUtf8(text).remove(QChar::Null);

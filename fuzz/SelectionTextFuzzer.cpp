@@ -1,4 +1,4 @@
-// The text of a selection in a table or a tree, against sorting all selected indexes.
+// The text of a selection in a table or a tree, compared with sorting all selected indexes.
 #include "support/FuzzInput.h"
 #include "support/QuietApplication.h"
 #include "support/Require.h"

@@ -1,5 +1,5 @@
-// What the Shell made of Qt's widgets takes from its callers and from the name field: text in 16 bits, parsing names,
-// and typed names.
+// The input of the Shell made of Qt's widgets, from its callers and from the name field: 16-bit text, parsing names and
+// typed names.
 #include "support/FuzzInput.h"
 #include "support/QuietApplication.h"
 #include "support/Require.h"
@@ -14,7 +14,7 @@ namespace {
 using morvane::fuzz::require;
 using namespace morvane::ui;
 
-/** Lone surrogates replaced. */
+/** Replaces lone surrogates. */
 QString wellFormed(const QString& text)
 {
     QString result;
@@ -32,7 +32,7 @@ void checkText(const QString& text)
 {
     const QString expected = wellFormed(text);
     require(toQString(toShellString(text)) == expected, "text goes to the Shell and back");
-    // Wide text has no pairs where its units hold a character each.
+    // Where a unit of wide text holds a whole character, there are no pairs.
     require(toQString(toShellString(text.toStdWString())) == expected, "wide text goes to the Shell and back");
     const QString cut = text.left(text.indexOf(QChar::Null));
     const ShellString units(reinterpret_cast<const WCHAR*>(text.utf16()), static_cast<std::size_t>(text.size()));

@@ -10,7 +10,7 @@
 
 namespace {
 
-/** Keeps the time of each repetition, and shows what the console reporter shows. */
+/** Shows what the console reporter shows, and keeps the time of each repetition. */
 class TimeKeeper : public ::benchmark::ConsoleReporter
 {
 public:
@@ -19,6 +19,7 @@ public:
     void ReportRuns(const std::vector<Run>& runs) override
     {
         for (const Run& run : runs) {
+            hasErrors = hasErrors || run.error_occurred;
             if (run.run_type == Run::RT_Iteration && !run.error_occurred) {
                 times.emplace_back(
                     run.run_name.function_name, run.GetAdjustedRealTime() * toNanoseconds(run.time_unit));
@@ -34,12 +35,13 @@ public:
     }
 
     std::vector<std::pair<std::string, double>> times;
+    bool hasErrors = false;
 
 private:
     static double toNanoseconds(::benchmark::TimeUnit unit) { return 1e9 / ::benchmark::GetTimeUnitMultiplier(unit); }
 };
 
-/** The settings and folders of the person who measures stay untouched, and do not change the figures. */
+/** The settings and folders of the user do not change, and do not change the figures. */
 void usePrivateHome(const QTemporaryDir& home)
 {
     for (const char* const variable : {"HOME", "USERPROFILE", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) {
@@ -72,5 +74,6 @@ int main(int argc, char** argv)
     TimeKeeper keeper;
     ::benchmark::RunSpecifiedBenchmarks(&keeper);
     ::benchmark::Shutdown();
-    return morvane::bench::report(keeper.times) ? 0 : 1;
+    const bool isWithinLimits = morvane::bench::report(keeper.times);
+    return isWithinLimits && !keeper.hasErrors ? 0 : 1;
 }

@@ -12,7 +12,7 @@
 
 namespace morvane::fuzz {
 
-/** Takes an input of the fuzzer apart from front to back; an input that is used up gives zeros and empty texts. */
+/** Reads values from an input of the fuzzer, from front to back. At its end it gives zeros and empty texts. */
 class FuzzInput
 {
 public:

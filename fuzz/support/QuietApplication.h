@@ -5,12 +5,12 @@ class QString;
 namespace morvane::fuzz {
 
 /**
- * Makes, once, a QApplication without a screen and silences Qt's log. Settings and caches are in a
- * temporary directory, which goes away at the end of the process.
+ * Makes a QApplication without a screen at the first call and silences Qt's log. Settings and caches are in a temporary
+ * directory, which is removed at the end of the process.
  */
 void startQuietApplication();
 
-/** That directory. */
+/** The temporary directory. */
 QString scratchDirectory();
 
 } // namespace morvane::fuzz

@@ -1,5 +1,5 @@
-// Feeds the files and directories named on the command line to a harness: how the corpora are checked where there is
-// no fuzzer. Fails when there is nothing to feed.
+// Feeds the files and directories on the command line to a harness. This checks the corpora in builds without a fuzzer.
+// Fails when there is nothing to feed.
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>

@@ -5,7 +5,7 @@
 
 namespace morvane::fuzz {
 
-/** Ends the process, which the fuzzer takes for a crash, unless `condition` holds. */
+/** Ends the process unless `condition` holds; the fuzzer reports that as a crash. */
 inline void require(bool condition, const char* what)
 {
     if (!condition) {

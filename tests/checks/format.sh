@@ -1,3 +1,4 @@
+#!/bin/sh
 # Every C++ source is formatted as .clang-format says; other versions of clang-format differ in details.
 case $(clang-format --version 2>/dev/null) in
 *' 14.'*) ;;

@@ -1,3 +1,4 @@
+#!/bin/sh
 # Who may include whom, and where platform headers and operating-system conditionals may stand. Runs in the project's
 # root.
 failed=0

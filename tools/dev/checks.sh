@@ -1,5 +1,6 @@
-# Commands of ./dev that look at the code from outside: coverage, tidy, ubsan, valgrind, soak, mutate. Sourced by ./dev,
-# whose functions and lists of packages they use.
+# shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
+# Commands of ./dev that check the code with tools: coverage, tidy, ubsan, valgrind, soak, mutate. ./dev sources this file
+# and provides the functions and the lists of packages.
 
 cmd_coverage() {
     # shellcheck disable=SC2086
@@ -50,13 +51,14 @@ cmd_ubsan() {
     run_tests ubsan "$@"
 }
 
-# The programs that use no widgets: with them, what memcheck would say is about Qt and its fonts.
+# The programs without widgets. With widgets, memcheck would report only what Qt and its fonts do.
 valgrind_programs='test_host test_property test_namefiltertext test_savefileextension test_spinbox_numbers
     test_writeaccessprobe test_shell'
 
 cmd_valgrind() {
     # shellcheck disable=SC2086
     need $build_packages $run_packages $test_packages valgrind
+    # shellcheck disable=SC2086 # the list is to be split
     [ $# -gt 0 ] || set -- $valgrind_programs
     build dev "$@"
     for program in "$@"; do
@@ -67,7 +69,7 @@ cmd_valgrind() {
     done
 }
 
-# Cases that measure time or memory, or need a whole machine's speed, say nothing under memcheck.
+# Leaves out the cases that measure time or memory, and those that are too slow under memcheck.
 valgrind_filter() {
     case $1 in
     test_host) echo '-*Process*:*InOneProcess*:*Processes*' ;;
@@ -93,7 +95,7 @@ cmd_soak() {
     xvfb-run -a build/dev/bin/morvane-soak "$@"
 }
 
-# In a place of its own, which is cleared at the end without disturbing tests that run meanwhile.
+# With its own directory for Wine. It is stopped at the end, and tests that run at the same time go on.
 soak_windows() {
     windows_prepare
     build windows morvane-soak

@@ -1,5 +1,6 @@
-# The command "./dev docs": the reference pages and the guides. Sourced by ./dev, whose functions it uses: need, step, die,
-# build.
+# shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
+# The command "./dev docs" makes the reference pages and the guides. ./dev sources this file and provides the functions
+# need, step, die and build.
 
 docs_packages='doxygen'
 

@@ -1,13 +1,14 @@
-# The command "./dev fuzz": the fuzzing harnesses, each for some time. Sourced by ./dev, whose functions it uses: need,
-# step, die, build.
+# shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
+# The command "./dev fuzz" runs the fuzzing harnesses. ./dev sources this file and provides the functions need, step, die
+# and build.
 
 fuzz_usage() {
     cat <<'TEXT'
 usage: ./dev fuzz [SECONDS [HARNESS...]]
 
-Runs each harness, or the ones that are named, for SECONDS (60). Inputs that reach something new are kept in
-build/fuzz/work and are the start of the next run. An input that makes trouble is kept there too: put it into
-fuzz/corpus/HARNESS once the fault is mended, and ./dev test will try it every time.
+Runs each harness, or the ones that are named, for SECONDS (default 60). Inputs that reach something new are kept in
+build/fuzz/work; the next run starts with them. An input that causes a failure is kept there, too. Copy it to
+fuzz/corpus/HARNESS when the fault is corrected; then ./dev test tries it every time.
 TEXT
 }
 
@@ -25,5 +26,5 @@ cmd_fuzz() {
     need $build_packages $run_packages $fuzz_packages
     build fuzz
     step "fuzzing, $seconds seconds a harness"
-    fuzz/run-all build/fuzz build/fuzz/work "$seconds" "$@" || die 'an input made trouble; see build/fuzz/work'
+    fuzz/run-all build/fuzz build/fuzz/work "$seconds" "$@" || die 'an input caused a failure; see build/fuzz/work'
 }

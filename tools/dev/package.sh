@@ -1,5 +1,6 @@
-# The command "./dev package": binary packages, and the check that they install, serve and go away again. Sourced by
-# ./dev, whose functions it uses: need, step, die.
+# shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
+# The command "./dev package" makes binary packages and checks that they can be installed, used and removed. ./dev sources
+# this file and provides the functions need, step and die.
 
 package_build_packages='dpkg-dev file pkg-config qttools5-dev'
 package_check_packages='mmdebstrap'
@@ -18,7 +19,7 @@ TEXT
 }
 
 package_configure() {
-    # What a distribution compiles its packages with, without debug information and file names of this machine.
+    # With the flags of a distribution's packages, without debug information and file names of this machine.
     flags=$(dpkg-buildflags --get CXXFLAGS)
     link_flags=$(dpkg-buildflags --get LDFLAGS)
     cmake -S . -B build/package -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \

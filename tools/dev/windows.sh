@@ -1,6 +1,6 @@
-# shellcheck shell=sh
-# The command "./dev windows": cross-build for Windows and run the tests there, under Wine; and the ZIP for Windows of
-# "./dev package". Sourced by ./dev, whose functions it uses: need, step, die, build, run_tests.
+# shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
+# The command "./dev windows" cross-builds for Windows and runs the tests under Wine. "./dev package windows" makes the ZIP.
+# ./dev sources this file and provides the functions need, step, die, build and run_tests.
 
 windows_run_packages='wine wine64 fonts-wine xvfb'
 
@@ -11,7 +11,8 @@ usage: ./dev windows [--sdk DIR] [ARGUMENTS]
   --sdk DIR  use this SDK (Qt, Boost.Filesystem and GoogleTest for MinGW-w64) instead of making one
   ARGUMENTS  go to ctest (-R NAME, ...)
 
-Making the SDK takes about 15 minutes, once. Exit status 77: skipped, since the source packages for it cannot be reached.
+The first run makes the SDK, which takes about 15 minutes. Exit status 77 means skipped: the source packages for the SDK
+cannot be reached.
 TEXT
 }
 

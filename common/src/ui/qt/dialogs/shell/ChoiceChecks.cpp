@@ -1,5 +1,7 @@
 #include "ui/qt/dialogs/shell/ChoiceChecks_p.h"
 
+#include "host/MessageBox_p.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -69,14 +71,7 @@ bool ChoiceChecks::mayReplace(const QString& path)
 QMessageBox::StandardButton ChoiceChecks::ask(
     const QString& text, QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton)
 {
-    // On the heap, since the window may be destroyed while the box is open and takes the box with it.
-    const QPointer<QMessageBox> box(
-        new QMessageBox(QMessageBox::Warning, m_window->windowTitle(), text, buttons, m_window));
-    box->setTextFormat(Qt::PlainText);
-    box->setDefaultButton(defaultButton);
-    const auto answer = static_cast<QMessageBox::StandardButton>(box->exec());
-    delete box;
-    return answer;
+    return showMessageBox(QMessageBox::Warning, m_window->windowTitle(), text, buttons, defaultButton, m_window);
 }
 
 } // namespace morvane::ui
