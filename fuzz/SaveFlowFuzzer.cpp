@@ -86,7 +86,7 @@ public:
     void selectNameFilter(int) override {}
     void finishDialog() override {}
 
-    bool run() override
+    bool runDialog() override
     {
         m_filter = fromUtf8(m_input.line());
         m_files.clear();
@@ -145,12 +145,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         checked = nameInside(checked).toStdString();
     }
     const bool checksAnother = !checked.empty();
-    FuzzedFlow flow(input, std::make_unique<FuzzedHandler>(checked));
+    const auto flow = std::make_shared<FuzzedFlow>(input, std::make_unique<FuzzedHandler>(checked));
     Answers answers(answerBits);
-    const bool mayBeWritten = flow.launch();
+    const bool mayBeWritten = SaveFileFlow::launch(flow);
     if (mayBeWritten) {
-        require(!flow.m_selectedFilename.empty(), "there is a name to write to");
-        const bool exists = QFile::exists(QString::fromStdString(flow.m_selectedFilename));
+        require(!flow->m_selectedFilename.empty(), "there is a name to write to");
+        const bool exists = QFile::exists(QString::fromStdString(flow->m_selectedFilename));
         require(!exists || checksAnother || answers.count() > 0, "nothing is replaced without a question");
     }
     checkSpace();

@@ -81,7 +81,7 @@ bool SaveFileFlow::launch(std::shared_ptr<SaveFileFlow> flow)
 
 bool SaveFileFlow::run()
 {
-    morvane::ui::expectGuiThread("SaveFileDialog");
+    expectGuiThread("SaveFileDialog");
     while (isAlive() && runDialog() && isAlive()) {
         const QStringList files = selectedFiles();
         if (files.isEmpty()) {
