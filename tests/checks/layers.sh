@@ -59,6 +59,8 @@ complain 'the stand-ins include the library' \
 complain 'property knows Qt' "$(grep -rnE '^ *# *include +<Q[A-Z]' $src/property)"
 complain 'installed headers include internal ones' \
     "$(sources $src | grep -v '_p\.h$' | grep '\.h$' | xargs grep -nE '^ *# *include +"[^"]+_p\.h"')"
+complain 'internal headers without a namespace' \
+    "$(find $src -name '*_p.h' | sort | xargs grep -L '^namespace morvane')"
 complain 'platform headers outside the one header for them' \
     "$(grep -rnE '^ *# *include +<(windows|shobjidl|shlwapi|objbase|shlobj)' $src | grep -v shell/ShellInterfaces.h)"
 complain 'operating-system conditionals outside the platform layer' \

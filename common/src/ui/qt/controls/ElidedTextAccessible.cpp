@@ -6,6 +6,8 @@
 #include <QAccessibleWidget>
 #include <QCoreApplication>
 
+namespace morvane::ui {
+
 namespace {
 
 class ElidedTextAccessible : public QAccessibleWidget
@@ -56,3 +58,5 @@ void installElidedTextAccessible()
 {
     static const Installation installation;
 }
+
+} // namespace morvane::ui

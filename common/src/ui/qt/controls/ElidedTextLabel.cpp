@@ -9,7 +9,7 @@
 ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLabel(parent, flags)
 {
     morvane::ui::expectGuiThread("ElidedTextLabel");
-    installElidedTextAccessible();
+    morvane::ui::installElidedTextAccessible();
     setAlignment(Qt::AlignLeft);
     setElideMode(Qt::ElideLeft);
     // The tool tip for the previous text is removed, because paintEvent() would take it for one of the host.
