@@ -1,6 +1,6 @@
 # morvane_extract_snippet(SOURCE TAG OUTPUT)
-# Writes the code between the two lines "//! [TAG]" of SOURCE to OUTPUT, for a test that runs what a guide shows. Again at
-# the next configuration when SOURCE has changed.
+# Writes the code between the two lines "//! [TAG]" of SOURCE to OUTPUT, for a test that runs what a guide shows. When
+# SOURCE has changed, the next run of CMake writes OUTPUT again.
 function(morvane_extract_snippet source tag output)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
     file(READ ${source} text)

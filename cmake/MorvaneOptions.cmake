@@ -23,7 +23,7 @@ set_property(CACHE MORVANE_BUILD_DESIGNER PROPERTY STRINGS AUTO ON OFF)
 option(MORVANE_WITH_CTK "Take ctkCompleter from CTK instead of the stand-in" OFF)
 option(MORVANE_WITH_QXT "Take QxtLabel from Qxt instead of the stand-in" OFF)
 foreach(switch IN ITEMS MORVANE_WITH_CTK MORVANE_WITH_QXT)
-    # The default of earlier versions, which older build directories still have.
+    # AUTO was the default in earlier versions; older build directories still have it.
     if(${switch} STREQUAL "AUTO")
         message(WARNING "${switch} no longer knows AUTO and is OFF now: the stand-in is used. ON takes the package.")
         set(${switch} OFF CACHE BOOL "" FORCE)

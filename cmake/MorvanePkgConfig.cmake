@@ -1,5 +1,5 @@
-# The same packages for builds without CMake: one to install, which holds no path of the place that it is installed to, and
-# one for the build directory, which pkg-config prefers where it finds both.
+# The same packages for builds without CMake: one to install, which does not contain the path of its install location, and
+# one for the build directory, which pkg-config prefers when it finds both.
 
 # morvane_pkg_config(NAME name DESCRIPTION text [COMPONENT name] [LIBRARY target] [REQUIRES ...] [CFLAGS ...] [LIBS ...])
 # LIBRARY is what the package links, before LIBS; none for headers alone.
@@ -30,7 +30,7 @@ function(morvane_pkg_config)
         \${includedir} \${prefix}/generated ${compat_includes})
 endfunction()
 
-# morvane_write_pkg_config(FILE PREFIX LIBDIR INCLUDEDIR INCLUDE...): a part of the above.
+# morvane_write_pkg_config(FILE PREFIX LIBDIR INCLUDEDIR INCLUDE...): a part of morvane_pkg_config.
 function(morvane_write_pkg_config file pc_PREFIX pc_LIBDIR pc_INCLUDEDIR)
     set(pc_INCLUDES ${ARGN})
     list(TRANSFORM pc_INCLUDES PREPEND -I)

@@ -1,6 +1,6 @@
 # Writes what the build consists of, with the versions that were found, as an SPDX 2.3 document, and installs it.
 
-# sbom_package(ID NAME VERSION LICENCE [RELATIONSHIP]): a package, and what it is to Morvane.
+# sbom_package(ID NAME VERSION LICENCE [RELATIONSHIP]): a package and its relationship to Morvane.
 function(sbom_package id name version licence)
     if(NOT version)
         set(version NOASSERTION)
@@ -60,7 +60,7 @@ function(morvane_write_sbom file)
     sbom_package(Compiler "${CMAKE_CXX_COMPILER_ID} C++ compiler and its standard library"
         "${CMAKE_CXX_COMPILER_VERSION}" NOASSERTION BUILD_TOOL_OF)
 
-    # The same content has the same name, and another content another one.
+    # The same content always gets the same name; different content gets a different name.
     string(UUID id NAMESPACE 6ba7b811-9dad-11d1-80b4-00c04fd430c8 NAME "${sbom}" TYPE SHA1)
     string(TIMESTAMP created "%Y-%m-%dT%H:%M:%SZ" UTC)
     string(JSON sbom SET "${sbom}" documentNamespace "\"urn:uuid:${id}\"")

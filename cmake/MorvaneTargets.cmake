@@ -1,6 +1,6 @@
 include(GenerateExportHeader)
 
-# How Morvane's own code is compiled. Consumers never see any of it.
+# How Morvane's own code is compiled. None of this is passed on to consumers.
 add_library(morvane-build-flags INTERFACE)
 target_compile_definitions(morvane-build-flags INTERFACE
     QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
@@ -53,7 +53,7 @@ endfunction()
 set(morvane_precompiled_options $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 
 # morvane_precompile(TARGET header...)
-# Precompiles the headers for TARGET and its internal sources, where MORVANE_BUILD_QUICKLY says so.
+# Precompiles the headers for TARGET and its internal sources if MORVANE_BUILD_QUICKLY is on.
 function(morvane_precompile target)
     get_target_property(type ${target} TYPE)
     if(NOT MORVANE_BUILD_QUICKLY OR (MORVANE_BUILD_QUICKLY STREQUAL "TESTS" AND NOT type STREQUAL "EXECUTABLE"))
@@ -78,8 +78,8 @@ endfunction()
 
 # morvane_library(NAME morvane-ui EXPORT_NAME Ui EXPORT_HEADER ui/qt/MorvaneUiExport.h EXPORT_MACRO MORVANE_UI_EXPORT
 #                 PUBLIC_HEADERS ... SOURCES ...)
-# A versioned shared library with its export header; header paths are relative to the include root. Where SOURCES have
-# internal ones among them, there is also NAME-internals; see morvane_internals.
+# A versioned shared library with its export header; header paths are relative to the include root. If some of the
+# SOURCES are internal, there is also NAME-internals; see morvane_internals.
 function(morvane_library)
     cmake_parse_arguments(arg "" "NAME;EXPORT_NAME;EXPORT_HEADER;EXPORT_MACRO" "PUBLIC_HEADERS;SOURCES" ${ARGN})
     list(TRANSFORM arg_PUBLIC_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/common/src/ OUTPUT_VARIABLE header_files)
@@ -91,7 +91,7 @@ function(morvane_library)
     if(internal)
         morvane_internals(${arg_NAME} ${internal})
     endif()
-    # The libraries find each other wherever they were installed or unpacked to.
+    # The libraries find each other in whatever directory they are installed or unpacked.
     set_target_properties(${arg_NAME} PROPERTIES
         EXPORT_NAME ${arg_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
         INSTALL_RPATH "$ORIGIN")
@@ -125,7 +125,7 @@ endfunction()
 # morvane_internals(LIBRARY source...)
 # Compiles the internal sources of LIBRARY once, as LIBRARY-objects. They become a part of LIBRARY, which does not export
 # them. The tests, the benchmarks and the fuzzers find them in the archive LIBRARY-internals: a program that links it takes
-# only the objects that it refers to, so that no other static variables exist twice.
+# only the objects that it uses, so that no other static variables exist twice.
 function(morvane_internals library)
     set(objects ${library}-objects)
     add_library(${objects} OBJECT ${ARGN})

@@ -3,7 +3,7 @@
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
-# The variant with C++ threads, where the machine offers two.
+# The variant with C++ threads, if the machine has both variants.
 set(mingw_triplet x86_64-w64-mingw32)
 find_program(MINGW_CXX NAMES ${mingw_triplet}-g++-posix ${mingw_triplet}-g++)
 find_program(MINGW_CC NAMES ${mingw_triplet}-gcc-posix ${mingw_triplet}-gcc)
@@ -21,7 +21,7 @@ if(NOT EXISTS "${MORVANE_WINDOWS_SDK}/bin")
     message(FATAL_ERROR "MORVANE_WINDOWS_SDK is not the directory of an SDK: '${MORVANE_WINDOWS_SDK}'")
 endif()
 
-# Nothing of the building machine is found by chance; what the person names in CMAKE_PREFIX_PATH is.
+# CMake must not find packages of the build machine by accident. Prefixes in CMAKE_PREFIX_PATH are searched.
 set(CMAKE_FIND_ROOT_PATH ${MORVANE_WINDOWS_SDK} ${CMAKE_PREFIX_PATH})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -32,7 +32,7 @@ protected:
 
     QImage picture() { return label.grab().toImage().convertToFormat(QImage::Format_RGB32); }
 
-    /** What must be painted in a label of this size, by a painter of our own. */
+    /** The expected picture of a label of this size; @p draw paints it. */
     QImage drawn(const std::function<void(QPainter&)>& draw) const
     {
         QImage image(label.size(), QImage::Format_RGB32);

@@ -4,7 +4,7 @@ namespace morvane::test {
 
 namespace {
 
-/** Tells the library's sink of the stand-in where the Shell tells of the dialog. */
+/** Passes events on to the library's sink, with the failing dialog in place of the Shell's dialog. */
 class FailingSink : public LiveObject<IFileDialogEvents, IFileDialogControlEvents>
 {
 public:
@@ -68,7 +68,7 @@ private:
     const ui::ComPtr<IFileDialogControlEvents> m_controlTarget;
 };
 
-/** The methods of a dialog and of its controls. Made as a ComObject. */
+/** The methods of a dialog and of its controls. Instances are made as ComObject. */
 template <typename Kind>
 class FailingDialog : public FailingObject<Kind>, public IFileDialogCustomize
 {
@@ -373,7 +373,7 @@ ui::ComPtr<IFileDialog> makeFailingDialog(
     if (auto open = target.query<IFileOpenDialog>()) {
         return ui::ComPtr<IFileDialog>(new ui::ComObject<FailingOpenDialog>(faults, show, std::move(open)));
     }
-    // The library asks dialogs for saving for nothing beyond IFileDialog.
+    // The library uses only IFileDialog of a save dialog.
     return ui::ComPtr<IFileDialog>(new ui::ComObject<FailingDialog<IFileDialog>>(faults, show, std::move(target)));
 }
 

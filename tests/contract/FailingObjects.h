@@ -7,7 +7,7 @@
 
 namespace morvane::test {
 
-/** Counts among the live objects. Made as a ComObject. */
+/** Is counted as a live object while it exists. Instances are made as ComObject. */
 template <typename... Interfaces>
 class LiveObject : public Interfaces...
 {
@@ -21,7 +21,7 @@ protected:
     ShellFaults& m_faults;
 };
 
-/** A stand-in of an object of a Shell. */
+/** Wraps an object of a Shell; its calls can be made to fail. */
 template <typename Interface>
 class FailingObject : public LiveObject<Interface>
 {
@@ -55,7 +55,7 @@ protected:
         return m_faults.isHit(name() + std::string("::") + method) ? E_FAIL : function();
     }
 
-    /** A call that hands out a string. */
+    /** A call that returns a string. */
     template <typename Function>
     HRESULT callForText(const char* method, LPWSTR* text, Function&& function)
     {
@@ -65,7 +65,7 @@ protected:
         return result;
     }
 
-    /** A call that hands out an object, for which Standin stands in. */
+    /** A call that returns an object, which is wrapped in a Standin. */
     template <typename Standin, typename Made, typename Function>
     HRESULT callForObject(const char* method, Made** made, Function&& function)
     {
@@ -88,7 +88,7 @@ class FailingItem : public FailingObject<IShellItem>
 public:
     using FailingObject::FailingObject;
 
-    /** What the Shell knows an item by. */
+    /** The item of the Shell that @p item wraps. */
     static IShellItem* unwrapped(IShellItem* item)
     {
         return item ? static_cast<FailingItem*>(item)->target() : nullptr;
@@ -141,7 +141,7 @@ protected:
     const char* name() const override { return "IShellItemArray"; }
 };
 
-/** A dialog for files to open, or to save, that is told to show itself by @p show. */
+/** An open or save dialog whose Show runs through @p show. */
 ui::ComPtr<IFileDialog> makeFailingDialog(
     ShellFaults& faults, const FailingShell::Show& show, ui::ComPtr<IFileDialog> target);
 

@@ -25,7 +25,7 @@ FailingShell::FailingShell(ui::Shell& target, Show show) : m_target(target), m_s
 
 HRESULT FailingShell::coInitializeEx(void* reserved, DWORD flags)
 {
-    // The thread joins in any case: the library leaves the apartment even where it is told that it has not joined.
+    // The thread always joins, because the library leaves the apartment even when joining seems to have failed.
     const HRESULT joined = m_target.coInitializeEx(reserved, flags);
     const HRESULT result = faults.isHit("CoInitializeEx") ? E_FAIL : joined;
     faults.apartments += SUCCEEDED(joined) ? 1 : 0;

@@ -12,13 +12,13 @@ namespace morvane::test {
 class ShellFaults
 {
 public:
-    /** The call with this number, counted from 0, fails from now on; none with -1. Forgets the calls so far. */
+    /** Makes the call with this number fail, counted from 0; -1 for none. Forgets the calls so far. */
     void start(int failing);
     const std::vector<std::string>& calls() const { return m_calls; }
     /** The name of the call that has failed; empty when none has. */
     const std::string& failed() const { return m_failed; }
 
-    /** Whether the call, which begins, is to fail. */
+    /** Records the call that begins now; whether it is to fail. */
     bool isHit(const std::string& name);
 
     int liveObjects = 0;
@@ -32,13 +32,14 @@ private:
 };
 
 /**
- * Passes every call on to another Shell, except one, which fails with E_FAIL and, but for CoInitializeEx, has no
- * effect. The dialogs, items and arrays that it gives out do the same, and so do the dialogs that a sink is told of.
+ * Passes every call on to another Shell, except for one call, which fails with E_FAIL. The failed call has no effect,
+ * unless it is CoInitializeEx. The dialogs, items and arrays of this Shell do the same, and so do the dialogs that a
+ * sink is given.
  */
 class FailingShell final : public ui::Shell
 {
 public:
-    /** Runs a dialog of the other Shell in place of its Show. */
+    /** Is called in place of Show of a dialog of the other Shell, and runs that dialog. */
     using Show = std::function<HRESULT(IFileDialog& dialog)>;
 
     explicit FailingShell(ui::Shell& target, Show show);

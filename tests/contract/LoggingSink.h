@@ -16,7 +16,7 @@
 namespace morvane::test {
 
 /**
- * An event sink that logs its callbacks and does what it is told in each.
+ * An event sink that logs its callbacks and runs the function that is set for each.
  */
 class LoggingSink final : public StackObject<IFileDialogEvents, IFileDialogControlEvents>
 {
@@ -24,9 +24,10 @@ public:
     explicit LoggingSink(ui::Shell& shell) : m_shell(shell) {}
 
     std::vector<std::string> log;
-    std::map<std::string, std::function<HRESULT()>> on; ///< by name of the callback; without entry E_NOTIMPL
+    std::map<std::string, std::function<HRESULT()>>
+        on; ///< by name of the callback; without an entry, it returns E_NOTIMPL
     FDE_OVERWRITE_RESPONSE overwriteResponse = FDEOR_DEFAULT;
-    bool hearsOfControls = true; ///< whether it has the interface for them
+    bool hearsOfControls = true; ///< whether it has IFileDialogControlEvents
 
     int count(const std::string& entry) const { return static_cast<int>(std::count(log.begin(), log.end(), entry)); }
 

@@ -18,7 +18,7 @@ void expectAll(const std::vector<Call>& calls, HRESULT expected)
     }
 }
 
-/** An item that stands for nothing in the file system. */
+/** An item that has no path. */
 class ItemWithoutPath final : public StackObject<IShellItem>
 {
 public:

@@ -1,4 +1,4 @@
-// Custom controls that are not there, or are of another kind.
+// Calls for custom controls that do not exist or are of another kind.
 #include "contract/PortableShells.h"
 
 namespace morvane::test {
@@ -35,7 +35,7 @@ protected:
         return customize->GetSelectedControlItem(DropDown, &item) == S_OK ? item : 0;
     }
 
-    /** All that can be read of the controls. */
+    /** Everything that can be read about the controls. */
     std::vector<DWORD> everything()
     {
         std::vector<DWORD> read;

@@ -1,4 +1,4 @@
-// What our own Shells offer of the interfaces, and how they say that they do not offer the rest.
+// Which parts of the interfaces our own Shells implement, and what the other parts return.
 #include "contract/PortableShells.h"
 
 namespace morvane::test {
@@ -58,7 +58,7 @@ TEST_P(PortableShellContract, aDialogHasNoTextOfAnEditBox)
     EXPECT_EQ(customize->GetEditBoxText(1, nullptr), E_POINTER);
 }
 
-/** The interface @p own must be there, by the same address as the unknown object, and no other. */
+/** The object must have the interface @p own, at the same address as its IUnknown, and must not have @p other. */
 void expectInterfaces(IUnknown& object, REFIID own, REFIID other)
 {
     void* found = nullptr;

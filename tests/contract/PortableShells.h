@@ -5,8 +5,8 @@
 namespace morvane::test {
 
 /**
- * What only our own Shells promise beyond the published interfaces: how they take arguments that nobody should pass,
- * and what they do not offer.
+ * What only our own Shells promise beyond the published interfaces: how they handle invalid arguments, and what they do
+ * not implement.
  */
 class PortableShellContract : public ShellContract
 {
@@ -16,7 +16,7 @@ protected:
     ui::ComPtr<IShellItemArray> chosenArray();
 };
 
-/** Our own Shells, which are there on every platform. */
+/** Our own Shells, which exist on every platform. */
 const std::vector<NamedShellDriver>& portableShells();
 std::string nameOf(const ::testing::TestParamInfo<NamedShellDriver>& tested);
 

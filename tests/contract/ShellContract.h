@@ -11,7 +11,7 @@
 
 namespace morvane::test {
 
-/** A Shell, a folder with files, and the calls of the interfaces in a form that tests can read. */
+/** A Shell, a folder with files, and the calls of the interfaces in a form that is easy to read in tests. */
 class ShellContract : public ::testing::TestWithParam<NamedShellDriver>
 {
 protected:

@@ -14,13 +14,14 @@ namespace morvane::test {
 
 namespace {
 
-/** The library's dialog over a Shell one of whose calls fails. */
+/** The library's dialog on a Shell that fails one of its calls. */
 class FaultyRun
 {
 public:
     FaultyRun(ShellDriver& driver, const QDir& folder) : m_driver(driver), m_folder(folder) {}
 
-    /** One use of the dialog without failures, which gives the calls, and then one for each of them. */
+    /** Uses the dialog once without failures, to record its calls, and then once for each call, with that call failing.
+     */
     void failEachCall(void (FaultyRun::*use)());
 
     void open();
@@ -53,7 +54,7 @@ private:
     Outcome m_outcome;
 };
 
-/** Whether what failed leaves the dialog with all of its controls, and events that reach them. */
+/** Whether, in spite of the failed call, the dialog has all of its controls and events still reach them. */
 bool FaultyRun::hasControls() const
 {
     const std::string& failed = m_shell.faults.failed();
@@ -63,7 +64,7 @@ bool FaultyRun::hasControls() const
     return harmful.count(failed) == 0;
 }
 
-/** Whether the Shell, not ours, holds a sink for good that it was not told to let go. */
+/** Whether the system's Shell never releases a sink for which Unadvise has failed. */
 bool FaultyRun::keepsTheSink() const
 {
     return m_shell.faults.failed() == "IFileDialog::Unadvise" && m_driver.differenceIn("releasesItsSinksAtItsEnd");

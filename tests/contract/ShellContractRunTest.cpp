@@ -13,7 +13,7 @@ std::string last(const QTemporaryDir& folder)
     return QFileInfo(folder.path()).fileName().toStdString();
 }
 
-/** The log without the changes of the selection, which come along in numbers that nobody promises. */
+/** The log without the selection changes: no Shell promises how many of them there are. */
 std::vector<std::string> foldersIn(std::vector<std::string> log)
 {
     const auto isOther = [](const std::string& entry) { return entry.rfind("OnFolder", 0) != 0; };

@@ -40,16 +40,17 @@ public:
     virtual ui::Shell& shell() = 0;
     /** Runs the dialog while @p play acts on it, once it is open. */
     virtual HRESULT show(IFileDialog& dialog, const std::function<void(ShellUser&)>& play) = 0;
-    /** Why this implementation, not ours, cannot keep the contract of the test; null when it can. */
+    /** Why this implementation does not pass the test of this name; null when it must pass. Never set for our own
+     * Shells. */
     virtual const char* differenceIn(const std::string&) const { return nullptr; }
-    /** Objects and strings that are still alive, where that can be told; otherwise 0. */
+    /** The number of objects and strings that are still alive; 0 if the Shell does not count them. */
     virtual int leaks() const { return 0; }
 };
 
-/** What the tests are run with. */
+/** A driver that the tests run with. */
 struct NamedShellDriver
 {
-    const char* name; ///< ends the names of the tests
+    const char* name; ///< the last part of the test names
     std::unique_ptr<ShellDriver> (*make)();
 };
 

@@ -24,7 +24,7 @@ const Differences windowsDifferences{
     {"anExceptionWhileItRunsLeavesShowAndTheDialogStaysUsable", foreignFrames},
 };
 
-// What the library rests on of these is a step of docs/windows-checklist.md; it does none of the others.
+// If the library relies on one of these, docs/windows-checklist.md has a step for it; it does none of the others.
 const Differences wineDifferences{
     {"closingFromACallbackEndsShowWithTheGivenResult", "Wine goes on accepting when it is closed in OnFileOk"},
     {"closingFromEachCallbackEndsShow", "Wine goes on accepting when it is closed in OnFileOk"},

@@ -5,8 +5,8 @@
 namespace morvane::test {
 
 /**
- * What the Shell of the running system, Windows or Wine, does otherwise than the contract's test of this name expects;
- * null when nothing is known.
+ * How the Shell of the running system, Windows or Wine, differs from what the contract test of this name expects; null
+ * when no difference is known.
  */
 const char* shellDifference(const std::string& test);
 

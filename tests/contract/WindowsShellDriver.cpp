@@ -14,8 +14,8 @@ namespace morvane::test {
 namespace {
 
 /**
- * Plays the user on the dialog's own thread, so that a test may look at the dialog between two actions. What opens a
- * loop of its own, a menu or a question, is served by a thread that was sent ahead.
+ * Plays the user on the dialog's own thread, so that a test may look at the dialog between two actions. A menu
+ * or a question runs its own loop; a helper thread, which is started before, operates it.
  */
 class WindowsUser final : public ShellUser
 {
@@ -75,7 +75,7 @@ private:
 class WindowsShellDriver final : public ShellDriver
 {
 public:
-    // The one that the library uses when nobody replaces it.
+    // The Shell that the library uses by default.
     ui::Shell& shell() override { return ui::Shell::instance(); }
 
     HRESULT show(IFileDialog& dialog, const std::function<void(ShellUser&)>& play) override

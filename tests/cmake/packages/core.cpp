@@ -1,4 +1,4 @@
-// What the widgets of a package call in its core. CORE is its name.
+// The function in the core of a package that its widgets call. CORE is its name.
 int CORE();
 
 int CORE()

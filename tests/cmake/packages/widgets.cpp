@@ -1,4 +1,4 @@
-// Makes the library of the widgets need that of the core. CORE is the name of what it calls there.
+// Makes the library of the widgets depend on the library of the core: it calls the function CORE there.
 int CORE();
 
 extern const int answerOfCore;

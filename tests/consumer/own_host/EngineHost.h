@@ -5,5 +5,5 @@
 #include <map>
 #include <string>
 
-/** What the host's settings store holds. */
+/** The content of the host's settings store. */
 std::map<std::string, QByteArray>& engineSettings();

@@ -1,4 +1,4 @@
-// A host's test: what a function does with the answer of the dialog that it opens.
+// The test of a host: it checks what a function does with the result of the dialog that it opens.
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingShell.h"
 #include "ui/qt/dialogs/LaunchFileDialog.h"

@@ -4,7 +4,7 @@
 
 #include <array>
 
-/** Has the name of CTK's completer and what the program uses of it, and another layout. */
+/** Has the name of CTK's completer and the functions of it that the program uses, but another layout. */
 class ctkCompleter : public QCompleter
 {
     Q_OBJECT

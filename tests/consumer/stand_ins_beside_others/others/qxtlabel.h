@@ -4,7 +4,7 @@
 
 #include <array>
 
-/** Has the name of Qxt's label and what the program uses of it, and another layout and other virtual functions. */
+/** Has the name of Qxt's label and the functions of it that the program uses, but another layout and other virtuals. */
 class QxtLabel : public QFrame
 {
     Q_OBJECT
