@@ -24,8 +24,7 @@ public:
     explicit LoggingSink(ui::Shell& shell) : m_shell(shell) {}
 
     std::vector<std::string> log;
-    std::map<std::string, std::function<HRESULT()>>
-        on; ///< by name of the callback; without an entry, it returns E_NOTIMPL
+    std::map<std::string, std::function<HRESULT()>> on; ///< by name of the callback; otherwise E_NOTIMPL
     FDE_OVERWRITE_RESPONSE overwriteResponse = FDEOR_DEFAULT;
     bool hearsOfControls = true; ///< whether it has IFileDialogControlEvents
 

@@ -52,7 +52,7 @@ protected:
         window = load(file);
     }
 
-    // By the C++ type: the command link has no meta-object of its own.
+    // Uses the C++ type, because the command link has no meta-object of its own.
     template <typename Widget>
     Widget* find(const char* name)
     {

@@ -12,8 +12,8 @@
 namespace morvane::test {
 
 /**
- * A part of another program as assistive technology sees it: what it is, what it is called, where it is. Asked over the
- * accessibility bus at each call; parts that are gone have no name, no rectangle and no children.
+ * A part of another program as assistive technology sees it: its role, its name and its place. Each call asks the
+ * program over the accessibility bus. Parts that no longer exist have no name, no rectangle and no children.
  */
 class Accessible
 {
@@ -32,15 +32,15 @@ public:
     bool isFocused() const;
     bool isSelected() const;
     std::vector<Accessible> children() const;
-    /** One of them, counted from 0, without asking for all. */
+    /** One of the children, counted from 0; does not ask for the others. */
     Accessible child(int position) const;
 
     /**
-     * The first part below this one of that role and name that is showing, and all around it. Lists, tables and trees
-     * are not searched: they may be long; go through their children.
+     * The first descendant with this role and name that is showing together with all parts around it. Lists, tables
+     * and trees are not searched because they may be long; go through their children instead.
      */
     std::optional<Accessible> find(const QString& role, const QString& name) const;
-    /** What shows below this one, a line a part, for a failure's message. */
+    /** The showing parts below this one, one line for each, for failure messages. */
     QString describe(int depth = 0) const;
 
 private:

@@ -33,7 +33,7 @@ Desktop::Desktop() : m_environment(QProcessEnvironment::systemEnvironment())
     }
     m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     m_environment.insert(QStringLiteral("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"), QStringLiteral("1"));
-    // What the buses start outlives them for a moment, and is ours to wait for then.
+    // Programs that the buses start run a moment longer than the buses. As subreaper, this process can wait for them.
     ::prctl(PR_SET_CHILD_SUBREAPER, 1);
     m_environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_environment.value(QStringLiteral("HOME")));
 }
@@ -124,7 +124,7 @@ QString Desktop::connectAccessibility()
 {
     QDBusConnection session = QDBusConnection::connectToBus(
         m_environment.value(QStringLiteral("DBUS_SESSION_BUS_ADDRESS")), sessionConnection);
-    // The bus starts the service by itself.
+    // The bus starts this service on demand.
     const QDBusMessage answer =
         session.call(QDBusMessage::createMethodCall(QStringLiteral("org.a11y.Bus"), QStringLiteral("/org/a11y/bus"),
                          QStringLiteral("org.a11y.Bus"), QStringLiteral("GetAddress")),

@@ -10,7 +10,7 @@
 
 namespace morvane::test {
 
-/** An X server of one's own with a window manager, a session bus and the accessibility bus. Nothing of it is shared. */
+/** A private X server with a window manager, a session bus and the accessibility bus. No other test shares them. */
 class Desktop
 {
 public:
@@ -19,14 +19,14 @@ public:
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
-    /** What is not installed of that which a desktop takes; empty when nothing is missing. */
+    /** The programs that a desktop needs and that are not installed. */
     static QStringList missingPrograms();
 
-    /** Starts it all and waits until it can be used; what went wrong, empty when nothing did. */
+    /** Starts all parts and waits until they can be used. Returns an error message, empty on success. */
     QString start();
     /** The same without the buses, for programs that need only a screen. */
     QString startScreen();
-    /** Ends it all, with what its programs have started; false when something of that goes on. */
+    /** Ends all parts and the programs that they have started; false when one of these programs still runs. */
     bool end();
 
     Screen& screen() { return *m_screen; }
@@ -34,11 +34,11 @@ public:
     const QProcessEnvironment& environment() const { return m_environment; }
     /** A program on this desktop. Null when it does not start. */
     std::unique_ptr<DesktopProcess> launch(const QString& program, const QStringList& arguments);
-    /** The accessible root of the running program with this name, waiting for it. */
+    /** Waits for the running program with this name and returns its accessible root. */
     std::optional<Accessible> application(const QString& name);
 
 private:
-    /** Runs the steps until one of them fails; what went wrong. */
+    /** Runs the steps until one of them fails, and returns its error message. */
     QString run(std::initializer_list<QString (Desktop::*)()> steps);
     QString startServer();
     QString startBus();

@@ -41,7 +41,7 @@ QByteArray DesktopProcess::firstLine()
 void DesktopProcess::setupChildProcess()
 {
     ::setpgid(0, 0);
-    // The tests may be killed for taking too long; nothing outlives them then either.
+    // The tests may be killed when they take too long; this process must end then, too.
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
 }
 

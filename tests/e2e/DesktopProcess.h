@@ -5,14 +5,14 @@
 
 namespace morvane::test {
 
-/** A program in a process group of its own, which ends, with all that it has started, when this object does. */
+/** A program in a process group of its own. The destructor ends it and all processes that it has started. */
 class DesktopProcess : public QProcess
 {
 public:
     DesktopProcess() = default;
     ~DesktopProcess() override;
 
-    /** Starts the program. Whether it runs. */
+    /** Starts the program; whether it runs. */
     bool run(const QString& program, const QStringList& arguments);
     /** The first line that it prints; empty when it ends or is silent for too long. */
     QByteArray firstLine();

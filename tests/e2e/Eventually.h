@@ -4,10 +4,10 @@
 
 namespace morvane::test {
 
-/** For one step of a user, on a machine that is busy with other tests. */
+/** Long enough for one step of a user, even when other tests keep the machine busy. */
 constexpr int timeLimitMs = 15000;
 
-/** Waits until @p condition holds; returns whether it came to hold. */
+/** Waits until @p condition holds; returns false if it does not in time. */
 bool eventually(const std::function<bool()>& condition);
 
 } // namespace morvane::test

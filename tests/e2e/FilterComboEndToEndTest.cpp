@@ -7,7 +7,7 @@ namespace {
 
 const QString finished = QStringLiteral("selectionComplete: ");
 
-/** The names to choose from are those of files of the machine: what is expected is read from the screen. */
+/** The list contains names of files of this machine, so the tests read the expected names from the screen. */
 class FilterComboEndToEnd : public GallerySession
 {
 protected:
@@ -63,7 +63,7 @@ TEST_F(FilterComboEndToEnd, filtersAndPicksWithTheKeyboardAlone)
 TEST_F(FilterComboEndToEnd, picksFromTheWholeListWithTheMouse)
 {
     const Accessible line = field();
-    // Qt tells of the text as its name.
+    // Qt reports the text of a combo box as its accessible name.
     const Accessible box =
         partOf(part(QStringLiteral("layered pane"), QString()), QStringLiteral("combo box"), line.text());
     const QRect arrow = box.rectangle();

@@ -14,7 +14,7 @@ namespace {
 const QString galleryProgram = QStringLiteral(MORVANE_GALLERY);
 const QString pictureFolder = QStringLiteral(MORVANE_PICTURES);
 
-/** What does not happen ends the test; the steps after it would only wait in vain. */
+/** Ends the test if @p holds is false, because the steps after it would only wait for their time limits. */
 void require(bool holds, const QString& otherwise)
 {
     if (!holds) {
@@ -63,8 +63,7 @@ void GallerySession::openGallery(const QString& page)
     m_gallery = std::make_unique<DesktopProcess>();
     QProcessEnvironment environment = m_desktop.environment();
     environment.insert(QStringLiteral("HOME"), m_folder.path());
-    // What libraries of the X11 platform hold when they are unloaded would count as leaks. The tour looks for real
-    // ones.
+    // The leak checker would report memory of X11 libraries that are unloaded. The tour looks for real leaks.
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
     m_gallery->setProcessEnvironment(environment);
     require(

@@ -9,8 +9,8 @@
 namespace morvane::test {
 
 /**
- * The gallery on a desktop of its own, and a person with keyboard and mouse in front of it. What is waited for and does
- * not come ends the test.
+ * The gallery on a desktop of its own, and its user with keyboard and mouse. A wait that exceeds its time limit ends
+ * the test.
  */
 class GallerySession : public ::testing::Test
 {
@@ -20,40 +20,40 @@ protected:
 
     /** Opens the gallery on this page, with the folder of the test as the home directory. */
     void openGallery(const QString& page);
-    /** Closes it as a person does; it ends without a complaint. */
+    /** Closes it as a person does, and expects that it ends without an error. */
     void closeGallery();
 
     Screen& screen() { return m_desktop.screen(); }
     Desktop& desktop() { return m_desktop; }
 
-    /** A showing part of a program, waited for. The gallery's unless given. */
+    /** Waits for a showing part of the gallery, or of @p whole. */
     Accessible part(const QString& role, const QString& name);
     Accessible partOf(const Accessible& whole, const QString& role, const QString& name);
     /** A cell or an item of a list, table or tree. */
     Accessible itemOf(const Accessible& whole, const QString& name);
 
-    /** Waits until those of the items that have one of the names stand in that order: until they are read and sorted.
-     */
+    /** Waits until the items with these names are in this order, that is, until the list is read and sorted. */
     void waitForOrder(const Accessible& whole, const QStringList& names);
 
     void click(const Accessible& target);
     /**
-     * Gives a field the focus that does not have it, nor is about to get it. The window manager may let later keys
-     * overtake a click, and a focus that was there before or comes by itself does not tell that the click is over.
+     * Clicks on a field and waits until it has the focus. Keys can overtake a click in the window manager, so the
+     * focus is what shows that the click has arrived. Therefore the field must not have the focus already, and must not
+     * be about to get it without the click.
      */
     void clickInto(const Accessible& field);
-    /** Replaces what stands in the field that has the focus, or gets it soon, by typing. */
+    /** Types over the text of the field, which has the focus or gets it soon. */
     void type(const Accessible& field, const QString& text);
     void waitForText(const Accessible& field, const QString& text);
     void waitForWindow(const QString& title);
     void waitForFocus(const Accessible& target);
-    /** Waits until the part shows no longer. */
+    /** Waits until the part is no longer shown. */
     void waitForEnd(const Accessible& target);
-    /** Waits until a list, menu or tip lies on top of the windows, and tells where. */
+    /** Waits until a list, menu or tip is open above the windows, and returns its place. */
     QRect waitForPopup();
-    /** Waits for an entry in the pane with what the library reported; the rest of that entry. */
+    /** Waits until the pane of reports contains @p text, and returns the rest of that entry. */
     QString waitForReport(const QString& text);
-    /** Waits for that text on the clipboard, read by another program. */
+    /** Waits until another program reads this text from the clipboard. */
     void expectOnClipboard(const QByteArray& text);
 
     QString path(const QString& name) const { return m_folder.filePath(name); }
@@ -63,7 +63,7 @@ protected:
     const QString galleryTitle = QStringLiteral("Morvane Gallery");
 
 private:
-    /** What the screen showed and the gallery said. */
+    /** Reports a picture of the screen and the output of the gallery. */
     void describe();
 
     QTemporaryDir m_folder;

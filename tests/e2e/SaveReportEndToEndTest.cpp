@@ -16,7 +16,7 @@ protected:
         openGallery(QStringLiteral("save-report"));
     }
 
-    /** Asks for the file that is there; the question whether it may be replaced, once it can be answered. */
+    /** Saves under the name of the existing file. Returns the overwrite question as soon as it can be answered. */
     Accessible saveOverTheFile()
     {
         click(part(button, QStringLiteral("Save Report…")));
@@ -24,7 +24,7 @@ protected:
         const Accessible dialog = part(QStringLiteral("dialog"), QStringLiteral("Save Report"));
         type(partOf(dialog, QStringLiteral("text"), QStringLiteral("File name:")), path(QStringLiteral("report.txt")));
         screen().press(Key::Return);
-        // The title of the question is that of the dialog.
+        // The question has the same title as the dialog.
         const Accessible question = part(QStringLiteral("alert message"), QStringLiteral("Save Report"));
         waitForFocus(partOf(question, button, QStringLiteral("No")));
         return question;

@@ -15,7 +15,7 @@ namespace morvane::test {
 
 namespace {
 
-// A window may be gone by the time that it is asked; that is no reason to end the tests.
+// A window may be closed before it is asked; this error must not end the tests.
 int ignoreError(::Display*, XErrorEvent*)
 {
     return 0;

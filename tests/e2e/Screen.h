@@ -9,7 +9,7 @@
 
 namespace morvane::test {
 
-/** The keys that are no characters, as X names them. */
+/** Keys other than characters, with the numbers that X gives them. */
 enum class Key : unsigned long
 {
     Space = 0x20,
@@ -25,7 +25,7 @@ enum class Key : unsigned long
     PageUp = 0xff55,
     PageDown = 0xff56,
     End = 0xff57,
-    Enter = 0xff8d, ///< of the number block
+    Enter = 0xff8d, ///< on the numeric keypad
     F4 = 0xffc1,
     Shift = 0xffe1,
     Control = 0xffe3,
@@ -33,7 +33,7 @@ enum class Key : unsigned long
     Delete = 0xffff,
 };
 
-/** Where a mouse wheel is turned to, seen from the person. */
+/** The direction in which a user turns the mouse wheel. */
 enum class Turn : unsigned
 {
     Up = 4,
@@ -43,13 +43,13 @@ enum class Turn : unsigned
 };
 
 /**
- * Keyboard, mouse and eyes of a person at an X server: a client of its own that makes events with the XTEST extension,
- * so that they take the way of real ones, through the server and the window manager. Positions are those of the screen.
+ * Keyboard, mouse and eyes of a user of an X server. It is a separate client, which sends events with the XTEST
+ * extension. Like real events, they pass through the server and the window manager. Positions are screen positions.
  */
 class Screen
 {
 public:
-    /** @param display as in the variable DISPLAY. */
+    /** @param display the name of the server, as in the variable DISPLAY */
     explicit Screen(const QByteArray& display);
     ~Screen();
     Screen(const Screen&) = delete;
@@ -71,14 +71,14 @@ public:
     void move(QPoint position);
     void pressButton(QPoint position);
     void releaseButton(QPoint position);
-    /** Turns the wheel by so many whole notches. */
+    /** Turns the wheel by this number of whole notches. */
     void wheel(QPoint position, Turn direction, int notches = 1);
 
-    /** Whether a window manager has taken the screen. */
+    /** Whether a window manager manages the screen. */
     bool isManaged() const;
     /** The title of the window that the window manager has made the active one; empty for none. */
     QString activeTitle() const;
-    /** Where the list, menu or tip is that lies on top of all windows; empty when there is none. */
+    /** The place of the list, menu or tip that is open above all windows; empty when there is none. */
     QRect popup() const;
     /** Asks the window manager to close the active window, as its close button does. */
     void closeActiveWindow();

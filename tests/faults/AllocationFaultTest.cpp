@@ -1,4 +1,4 @@
-// Every allocation failing in turn: nothing leaks, and what a caller finds afterwards is what the headers promise.
+// Each allocation fails in turn. Nothing may leak, and afterwards, all objects must be as the headers promise.
 #include "faults/AllocationFaults.h"
 #include "property/Property.h"
 #include "ui/qt/dialogs/native/NameFilterText_p.h"
@@ -40,11 +40,11 @@ enum class Outcome
 struct Run
 {
     Outcome outcome;
-    /** Whether there was an allocation to fail. Code may do without one, and be done all the same. */
+    /** Whether an allocation was made to fail. The code may succeed in spite of that. */
     bool hadFault;
 };
 
-/** Runs `action` with the allocation `failing` failing; it must leave nothing allocated when it is given up. */
+/** Runs `action` with the allocation number `failing` failing; if it ends by bad_alloc, it must leak nothing. */
 Run runWithFault(int failing, const std::function<void()>& action)
 {
     bool outOfMemory = false;
@@ -66,7 +66,8 @@ Run runWithFault(int failing, const std::function<void()>& action)
     return {outOfMemory ? Outcome::OutOfMemory : Outcome::Done, count >= failing};
 }
 
-/** Runs `action` with each of its allocations failing, `prepare` before and `check` after it; how many there were. */
+/** Fails each allocation of `action` in turn, with `prepare` before and `check` after each run; returns their number.
+ */
 int failEachAllocation(const std::function<void()>& prepare, const std::function<void()>& action,
     const std::function<void(Outcome)>& check)
 {

@@ -21,7 +21,7 @@ struct Ledger
 };
 
 thread_local Ledger ledger;
-/** The blocks of the active ledger, by open addressing: the ledger itself must not allocate. */
+/** The blocks of the active ledger: a hash table with open addressing, because the ledger must not allocate. */
 void* blocks[tableSize];
 void* const removed = blocks;
 
@@ -124,7 +124,7 @@ void operator delete(void* block, std::size_t) noexcept
 
 #else
 
-// The allocator of glibc under its other names.
+// glibc offers its allocator under these names, too.
 extern "C" {
 
 void* __libc_malloc(std::size_t size);

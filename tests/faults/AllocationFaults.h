@@ -3,10 +3,10 @@
 namespace morvane::test {
 
 /**
- * While it lives, counts the allocations of this thread, makes one of them fail, and knows which were not given back.
+ * While it exists, counts the allocations of this thread, makes one of them fail, and knows which ones were not freed.
  *
- * Everything that comes from malloc counts, and with that operator new and Qt's containers. Under the address
- * sanitizer, which has an allocator of its own, only operator new does. One object at a time.
+ * All memory from malloc counts, and so does that of operator new and of Qt's containers. With the address sanitizer,
+ * which has an allocator of its own, only operator new counts. Only one object may exist at a time.
  */
 class AllocationFaults
 {

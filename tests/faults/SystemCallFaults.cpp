@@ -26,7 +26,7 @@ struct Plan
     std::function<void()> action{};
 };
 
-// Per thread: what other threads do with files meanwhile is none of the test's business.
+// Per thread: the test ignores what other threads do with files.
 thread_local Plan plan;
 
 void actBefore(const char* name)
@@ -89,7 +89,7 @@ std::vector<std::string> SystemCallFaults::calls()
 using morvane::test::fails;
 using morvane::test::original;
 
-// Declared here and not by the headers of the system, which give some of them other names.
+// Declared here, because the system headers give some of them other names.
 extern "C" {
 
 MORVANE_TEST_EXPORT int stat64(const char* path, void* status);

@@ -9,25 +9,26 @@
 namespace morvane::test {
 
 /**
- * While it lives, notes each call of the C library's file functions by this thread and makes one of them fail.
+ * While it exists, records the calls that this thread makes to the C library's file functions, and makes one of them
+ * fail.
  *
- * The functions stand in a shared library of their own, which comes before the C library when symbols are looked up, so
- * that calls of other libraries are seen too. Calls that the C library makes within itself are not: fopen() is one
- * call. close() and fclose() close their file also when they fail; every other function does nothing then. One object
- * at a time.
+ * The functions are in a shared library of their own. Symbols are looked up there before the C library, so calls from
+ * other libraries are recorded, too. Calls inside the C library are not recorded: fopen() is one call. When close() and
+ * fclose() fail, they still close their file; every other function does nothing when it fails. Only one object may
+ * exist at a time.
  */
 class MORVANE_TEST_EXPORT SystemCallFaults
 {
 public:
     /**
      * @param failing the call to fail, counted from 1; 0 for none
-     * @param error   what errno is then
+     * @param error   the value of errno after the failure
      */
     explicit SystemCallFaults(int failing = 0, int error = 0);
     /**
-     * What somebody else does just before a call.
-     * @param call   the name of the call; its first time counts
-     * @param action its own calls are not noted
+     * Runs an action just before a call, as another program could.
+     * @param call   the name of the call; only the first call of this name counts
+     * @param action its own calls are not recorded
      */
     SystemCallFaults(std::string call, std::function<void()> action);
     ~SystemCallFaults();

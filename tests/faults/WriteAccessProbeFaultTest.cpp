@@ -1,4 +1,4 @@
-// The write probe with every one of its system calls failing in turn.
+// Each system call of the write probe fails in turn.
 #include "faults/SystemCallFaults.h"
 #include "support/DiskState.h"
 #include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
@@ -62,7 +62,7 @@ protected:
     fs::path path(const std::string& name) const { return fs::path(m_directory.path().toStdString()) / name; }
     bool probe() const { return checkWriteAccess(path(GetParam().target)); }
 
-    /** What a probe left behind that could not be removed. */
+    /** Removes the files that a probe could not remove. */
     void removeWhatIsNew() const
     {
         for (const char* const folder : {"", "folder"}) {
@@ -108,7 +108,7 @@ TEST_P(WriteAccessProbeFaults, answersWhicheverCallFailsAndHarmsNothing)
                 EXPECT_NO_THROW(answer = probe());
             }
             EXPECT_TRUE(GetParam().writable || !answer) << "a refused place";
-            // What is made to try a place cannot go when the system does not remove it; nothing else changes.
+            // When the removal fails, the file of the probe may stay; nothing else may change.
             const bool removing = (call == "unlink" || call == "lstat" || call == "fstat") && error != EINTR;
             if (!removing) {
                 EXPECT_EQ(DiskState(m_directory.path()).text(), before.text());
@@ -147,7 +147,7 @@ TEST_P(WriteAccessProbeFaults, refusesWhenTheFileCannotBeOpened)
 
 namespace {
 
-/** Somebody else at work between two calls of the probe. */
+/** Another program that changes files between two calls of the probe. */
 class WriteAccessProbeFaultRival : public testing::Test
 {
 protected:

@@ -65,7 +65,7 @@ int runOnOwnDesktop(int argc, char** argv)
     if (qEnvironmentVariableIsSet(scale)) {
         environment.insert(QStringLiteral("QT_SCALE_FACTOR"), qEnvironmentVariable(scale));
     }
-    // What libraries of the X11 platform hold when they are unloaded would count as leaks.
+    // The leak checker would report memory of X11 libraries that are unloaded.
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
     const int result = runCases(arguments, environment);
     return desktop.end() ? result : 1;
