@@ -68,7 +68,7 @@ struct Fence::Impl final : QAbstractNativeEventFilter
         return event;
     }
 
-    /** The window manager answers in order: what it held back before is let go then. */
+    /** The window manager handles events in order: when it answers, it has passed on all events that it held back. */
     bool waitForWindowManager()
     {
         XEvent question = messageTo(probe, XInternAtom(display, "_NET_REQUEST_FRAME_EXTENTS", False));

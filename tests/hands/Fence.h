@@ -8,9 +8,9 @@ class QWidget;
 namespace morvane::test {
 
 /**
- * Tells when this program has taken in all events that were made before. It sends an event of its own after them, by a
- * connection of its own to the X server; the window manager, which holds clicks back for a moment, is asked first
- * whether it is through.
+ * Tells when this program has processed all earlier events. To do so, it sends an event of its own after them, through
+ * a separate connection to the X server. The window manager holds clicks back for a moment, so it is asked first
+ * whether it is done.
  */
 class Fence
 {
@@ -20,10 +20,10 @@ public:
     Fence(const Fence&) = delete;
     Fence& operator=(const Fence&) = delete;
 
-    /** Processes events until all that came before this call is taken in; fails the test when that takes too long. */
+    /** Processes events until all events from before this call are done; fails the test when that takes too long. */
     void pass();
 
-    /** Whether the server has this window, which shows, at this place of the screen. */
+    /** Whether the server shows this window at this place of the screen. */
     bool isAt(const QWidget& window, QPoint position) const;
 
 private:

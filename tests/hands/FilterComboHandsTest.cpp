@@ -34,7 +34,7 @@ class FilterComboHands : public HandsTest
 protected:
     FilterComboHands()
     {
-        // QComboBox ignores a release that comes sooner after its list has opened.
+        // QComboBox ignores a release of the mouse button within this time after its list has opened.
         QApplication::setDoubleClickInterval(1);
     }
     ~FilterComboHands() override { QApplication::setDoubleClickInterval(m_doubleClickInterval); }
@@ -50,7 +50,7 @@ protected:
         box->setEditMode(mode);
         setUpFilter(*box);
         auto* const layout = new QVBoxLayout(&dialog);
-        // Nothing is below the combo box for its lists to hide.
+        // The combo box is at the bottom, so that its lists hide no other widget.
         for (QWidget* const widget : std::initializer_list<QWidget*>{&before, &after, &accept, box}) {
             layout->addWidget(widget);
         }
@@ -75,7 +75,7 @@ protected:
         QObject::connect(&accept, &QPushButton::clicked, &dialog, [this] { ++accepted; });
     }
 
-    /** Into the combo box with the keyboard, which selects its text. */
+    /** Goes into the combo box with the keyboard, which selects its text. */
     void enter()
     {
         before.setFocus();
@@ -138,7 +138,7 @@ protected:
         EXPECT_EQ(canceled, expectedCanceled);
     }
 
-    /** @p text is what was announced last. */
+    /** @p text is the text that was announced last. */
     void expectTaken(const QString& text, int expectedCompleted = 1, int expectedCanceled = 0)
     {
         expectOutcome(expectedCompleted, expectedCanceled);

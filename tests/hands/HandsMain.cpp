@@ -10,9 +10,9 @@
 
 namespace {
 
-/** Set for the program that runs the cases, by the one that has made the desktop for it. */
+/** One process makes the desktop and sets this variable for a second process, which runs the cases. */
 constexpr const char* onDesktop = "MORVANE_HANDS_DESKTOP";
-/** How dense the screen is that the cases are to find; a factor such as 2. */
+/** The scale factor of the screen that the cases run on, such as 2. */
 constexpr const char* scale = "MORVANE_HANDS_SCALE";
 
 QStringList argumentsOf(int argc, char** argv)

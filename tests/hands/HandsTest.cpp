@@ -115,7 +115,7 @@ void HandsTest::click(const QAbstractItemView& view, const QModelIndex& index)
 
 void HandsTest::doubleClick(const QAbstractItemView& view, const QModelIndex& index)
 {
-    // However long the machine takes in between.
+    // So that the clicks count as a double click on a slow machine, too.
     const int interval = QApplication::doubleClickInterval();
     QApplication::setDoubleClickInterval(timeLimitMs);
     click(view, index);

@@ -17,10 +17,10 @@ class QWidget;
 namespace morvane::test {
 
 /**
- * Widgets of the test itself in windows of a real X server, and the keyboard and mouse of a person in front of them.
+ * Shows widgets of the test itself on a real X server, and operates them with keyboard and mouse.
  *
- * The program starts an X server with a window manager for itself and is its client (HandsMain.cpp). Keys and mouse
- * take the way through the server and the window manager; what the widgets do about them is read from the widgets:
+ * The program starts an X server with a window manager for itself and is its client (HandsMain.cpp). Key and mouse
+ * events pass through the server and the window manager. The tests read the results from the widgets:
  *
  * @code
  * QLineEdit line;
@@ -30,9 +30,9 @@ namespace morvane::test {
  * EXPECT_EQ(line.text(), QStringLiteral("abc"));
  * @endcode
  *
- * Each of press(), type(), click(), drag() and wheel() returns when the program has taken in what it caused. In a modal
- * loop the user is played by ModalScript, whose steps may call all of these. What an action starts and does not finish
- * (a timer, a thread) is waited for with eventually().
+ * press(), type(), click(), drag() and wheel() return when the program has processed their events. In a modal loop,
+ * ModalScript plays the user; its steps may call all of these functions. If an action starts something that ends later
+ * (a timer, a thread), wait for it with eventually().
  */
 class HandsTest : public ::testing::Test
 {
@@ -50,7 +50,7 @@ protected:
     void press(Key key);
     void press(std::initializer_list<Key> held, Key key);
     void press(std::initializer_list<Key> held, char character);
-    /** ASCII characters, as the keyboard has them. */
+    /** Types ASCII characters, which every keyboard has. */
     void type(const QString& text);
 
     /** In the middle of the widget. */
@@ -63,15 +63,15 @@ protected:
     void drag(QPoint from, QPoint to);
     void wheel(const QWidget& widget, Turn direction, int notches = 1);
 
-    /** Where a position in a widget is on the screen, in its pixels. */
+    /** The position on the screen, in its pixels, of a position in a widget. */
     static QPoint onScreen(const QWidget& widget, QPoint position);
     static QPoint onScreen(const QWidget& widget);
     static QPoint onScreen(const QAbstractItemView& view, const QModelIndex& index);
 
-    /** Returns when the program has taken in all that was done before with keyboard and mouse. */
+    /** Returns when the program has processed all earlier actions with keyboard and mouse. */
     void settle();
 
-    /** For single steps, such as pressing a button without releasing it; settle() afterwards. */
+    /** For single steps, such as pressing a button without releasing it; call settle() after them. */
     Screen& screen();
 
 private:

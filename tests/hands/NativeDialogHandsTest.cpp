@@ -57,7 +57,7 @@ protected:
         return *driver.dialog().findChild<QAbstractItemView*>(details ? "treeView" : "listView");
     }
 
-    /** The next dialog, once it takes keys. */
+    /** Acts in the next dialog as soon as it accepts keys. */
     void onDialog(ModalScript& user, const std::function<void(FileDialogDriver&)>& act)
     {
         user.on<QFileDialog>([this, act](QFileDialog& dialog) {
@@ -101,7 +101,7 @@ protected:
         press({Key::Control}, 'a');
         type(name);
     }
-    /** Takes a row of the list of types. */
+    /** Selects a row in the list of types. */
     void pickType(FileDialogDriver& driver, int row)
     {
         click(driver.typeCombo());
@@ -124,7 +124,7 @@ protected:
     }
 
 private:
-    /** The names come in as the folder is read, and are put in order a moment later. */
+    /** The view adds the names while it reads the folder, and sorts them a moment later. */
     static bool isSorted(const QAbstractItemView& files)
     {
         QStringList names;
@@ -175,7 +175,7 @@ protected:
         auto* const button = new QPushButton(QStringLiteral("&Open"));
         auto* const list = new QListWidget;
         auto* const type = new QLabel;
-        // What the README shows.
+        // The sample of the README.
 #include "OpenFilesSnippet.inc"
         auto* const layout = new QVBoxLayout(&window);
         layout->addWidget(button);
@@ -187,7 +187,7 @@ protected:
             ModalScript user;
             onDialog(user, [&](FileDialogDriver& driver) {
                 if (list->count() == 0) {
-                    driver.dialog().setDirectory(folder()); // nothing was chosen that it could start at
+                    driver.dialog().setDirectory(folder()); // there is no earlier choice where it could start
                 }
                 step.act(driver);
             });
@@ -226,7 +226,7 @@ TEST_P(NativeDialogHandsReadme, opensAFileTenTimesInARow)
                               pressAccept(driver);
                           },
             {name}});
-        // The dialog starts with the file of the time before.
+        // The dialog starts with the file that was chosen before.
         clicks.push_back({[this](FileDialogDriver& driver) { pressAccept(driver); }, {name}});
         clicks.push_back({[this](FileDialogDriver&) { press(Key::Return); }, {name}});
     }

@@ -1,4 +1,4 @@
-// The file dialogs that consist of widgets: Qt's, and the one that stands in for the native one.
+// The file dialogs made of widgets: Qt's, and the replacement of the native dialog.
 #include "hands/HandsTest.h"
 
 #include "host/InstanceOverride.h"
@@ -54,7 +54,7 @@ protected:
             QFile file(m_folder.filePath(QLatin1String(name)));
             ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         }
-        // Where Qt keeps the widths that a user has left, in any program.
+        // Qt stores here the widths that a user has set in any program.
         QSettings(QSettings::UserScope, QStringLiteral("QtProject")).remove(QStringLiteral("FileDialog"));
         m_host.setGeometry(40, 40, 200, 80);
         show(m_host);
@@ -69,7 +69,7 @@ protected:
     std::string folder() const { return m_folder.path().toStdString(); }
     QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
 
-    /** What a user does in the file dialog that opens next; cancels it when it is still open then. */
+    /** Acts in the file dialog that opens next, and then cancels the dialog if it is still open. */
     std::function<void(QFileDialog&)> user(std::function<void(FileDialogDriver&)> act)
     {
         return [this, act = std::move(act)](QFileDialog& dialog) {
@@ -77,7 +77,7 @@ protected:
             const QPointer<QFileDialog> open(&dialog);
             FileDialogDriver driver(dialog);
             act(driver);
-            // The first one may be for the suggestions.
+            // The first Escape may only close the suggestions.
             for (int escapes = 0; open && open->isVisible() && escapes < 3; ++escapes) {
                 press(Key::Escape);
             }
@@ -93,7 +93,7 @@ protected:
         press({Key::Control}, 'a');
         type(text);
     }
-    /** The suggestions take the next click for themselves. */
+    /** The next click only closes the suggestions. */
     void closeSuggestions(const FileDialogDriver& driver)
     {
         if (driver.nameEdit().completer()->popup()->isVisible()) {
@@ -112,7 +112,7 @@ protected:
         const bool suggests = driver.nameEdit().completer()->popup()->isVisible();
         press(Key::Return);
         if (suggests && open && open->isVisible()) {
-            press(Key::Return); // the first one was for the suggestions
+            press(Key::Return); // the first Return only closed the suggestions
         }
     }
     /** Opens the menu on the accept button and acts in it; returns when it is closed. */
@@ -204,7 +204,7 @@ TEST_F(QtDialogHands, theCursorWaitsWhileAFolderIsRead)
             return loaded.contains({many.path()});
         }));
         dialog.setDirectory(m_folder.path());
-        press(Key::Escape); // perhaps before it is read
+        press(Key::Escape); // perhaps before the folder is read
         EXPECT_FALSE(driver.isOpen());
     }));
     EXPECT_EQ(dialog.exec(), QDialog::Rejected);
@@ -215,7 +215,7 @@ TEST_F(QtDialogHands, aTypedWildcardFiltersTheDialogOfWidgetsAndIsNeverReturned)
 {
     for (const auto mode : {QFileDialog::AcceptOpen, QFileDialog::AcceptSave}) {
         ExtendedWinFileDialog dialog(m_host, "Choose", folder(), filters, "", mode, false);
-        dialog.addCustomButton("Host", [] {}); // so that it consists of widgets everywhere
+        dialog.addCustomButton("Host", [] {}); // a dialog with a button consists of widgets on every desktop
         ModalScript script;
         script.on<QFileDialog>(user([&](FileDialogDriver& driver) {
             expectListed(driver, {"a.txt", "b.txt", "sub"});
@@ -234,7 +234,7 @@ TEST_F(QtDialogHands, aTypedWildcardFiltersTheDialogOfWidgetsAndIsNeverReturned)
         EXPECT_EQ(dialog.exec(), QDialog::Rejected);
         ModalScript again;
         again.on<QFileDialog>(user([&](FileDialogDriver& driver) {
-            clickAccept(driver); // what was left in the field is a wildcard still
+            clickAccept(driver); // the text that is still in the field is a wildcard
             EXPECT_TRUE(driver.isOpen());
             enterName(driver, path("c.dat"));
             if (mode == QFileDialog::AcceptSave) {
@@ -308,7 +308,7 @@ TEST_F(QtDialogHands, whatTheHeadersSayOfFiltersAndDirectoriesHappens)
     for (const bool native : {false, true}) {
         SCOPED_TRACE(native);
         ExtendedFileDialog::setUseNativeFileDialog(native);
-        // Outside of the list the first filter is selected; an entry with two filters counts as two.
+        // An index outside of the list selects the first filter; an entry with two filters counts as two.
         for (const int start : {-1, 7}) {
             std::vector<std::string> files;
             int filter = -5;
@@ -323,13 +323,13 @@ TEST_F(QtDialogHands, whatTheHeadersSayOfFiltersAndDirectoriesHappens)
             EXPECT_EQ(filter, 2);
         }
     }
-    // Empty: the directory that was visited last.
+    // An empty directory means the directory that was visited last.
     QDir::setCurrent(QStringLiteral("/"));
     QExtendedFileDialog visits(m_host, "", path("sub").toStdString(), "", "", QFileDialog::AcceptOpen);
     QExtendedFileDialog next(m_host, "", "", "", "", QFileDialog::AcceptOpen);
     EXPECT_EQ(next.directory(), QDir(path("sub")));
 
-    // Only Enter takes a wildcard: the button for files that exist stays grey.
+    // Only Enter applies a wildcard: the accept button stays disabled, because it needs an existing file.
     QExtendedFileDialog wildcard(m_host, "Open", folder(), filters, "", QFileDialog::AcceptOpen);
     ModalScript script;
     script.on<QFileDialog>(user([&](FileDialogDriver& driver) {
@@ -345,7 +345,7 @@ TEST_F(QtDialogHands, whatTheHeadersSayOfFiltersAndDirectoriesHappens)
 class QtDialogHandsLooks : public QtDialogHands
 {
 protected:
-    /** Nothing is cut, no row is there for nothing, and the suggestions hang below the field. */
+    /** Nothing is cut off, the types are shown only for files, and the suggestions open below the field. */
     void expectGoodLooks(const FileDialogDriver& driver, bool picksFolders)
     {
         EXPECT_TRUE(waitUntil([&] { return !driver.listed().isEmpty() && driver.cutParts().isEmpty(); }))

@@ -1,4 +1,4 @@
-// The save flow, on the native dialog and on the Qt dialog, in the hands of a person.
+// The save flow, on the native dialog and on the Qt dialog, used with keyboard and mouse.
 #include "hands/HandsTest.h"
 #include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
@@ -61,7 +61,7 @@ protected:
         file.write("old content");
     }
 
-    /** Types the text in the place of what stands there and presses Return. */
+    /** Replaces the name by typing @p text, and presses Return. */
     void enter(QFileDialog& dialog, const char* text)
     {
         activate(dialog);
@@ -82,7 +82,7 @@ protected:
         }
         press(Key::Return);
     }
-    /** By keyboard; the box is gone when this returns. */
+    /** Answers with the keyboard and waits until the box is closed. */
     void answer(QMessageBox& box, Key key)
     {
         const QPointer<QMessageBox> open(&box);

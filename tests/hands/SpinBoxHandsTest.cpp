@@ -83,7 +83,7 @@ protected:
 
     void clickButton(QStyle::SubControl button) { click(spin, spinBoxButton(spin, button).center()); }
 
-    /** Turns a wheel that resolves finely: the window system reports this angle; 120 are a notch up. */
+    /** Turns a high-resolution wheel: the window system reports this angle; 120 is one notch up. */
     void turn(QPoint angle, Qt::ScrollPhase phase = Qt::NoScrollPhase, Qt::KeyboardModifiers held = Qt::NoModifier)
     {
         const QPoint centre = spin.rect().center();
@@ -374,14 +374,14 @@ protected:
 
     void edit(int row)
     {
-        // Elsewhere first, so that no earlier click counts with the next ones.
+        // First clicks elsewhere, so that an earlier click and the next one are not a double click.
         click(*table.viewport(), table.viewport()->rect().bottomRight());
         click(table, table.model()->index(row, 0));
         click(table, table.model()->index(row, 0));
         ASSERT_TRUE(editor() && editor()->hasFocus());
     }
 
-    /** Ends the edit in each of the ways that store, on a row each. */
+    /** Edits three rows and ends each edit in another way that stores the value. */
     void storeInEachWay(const QString& text)
     {
         edit(0);
@@ -573,7 +573,7 @@ TEST_F(SpinBoxHandsScientificLine, takesWhatIsTypedOverPrefixNumberAndSuffix)
 {
     begin(QStringLiteral("E = "), QStringLiteral(" J"));
     const QString whole = QStringLiteral("E = 9 J");
-    // The third click in a row selects all of the line; the one that gave it the focus may count.
+    // A triple click selects the whole line; the click that gave the focus may be the first of the three.
     for (int number = 0; number < 3 && lineOf(spin).selectedText() != whole; ++number) {
         click(lineOf(spin));
     }
@@ -656,7 +656,7 @@ protected:
         }
         narrow.setRange(0, 10);
         wide.setRange(0, 100);
-        QString other = QStringLiteral("0.25"); // what an earlier test has left is forgotten
+        QString other = QStringLiteral("0.25"); // clears what an earlier test has left in the cache
         int pos = 0;
         wide.validate(other, pos);
         for (QScientificSpinBox* const field : {&narrow, &wide}) {

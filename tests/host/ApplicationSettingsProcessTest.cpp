@@ -110,7 +110,7 @@ TEST_F(ApplicationSettingsProcessTest, leavesTheOldOrTheNewFileWhenItIsKilledAtA
         QProcess process;
         start(process, QStringLiteral("store-forever"));
         ASSERT_TRUE(process.waitForReadyRead(longestRunMs));
-        QThread::msleep(static_cast<unsigned long>(round)); // a moment of its own in each round
+        QThread::msleep(static_cast<unsigned long>(round)); // another moment in each round
         process.kill();
         ASSERT_TRUE(process.waitForFinished(longestRunMs));
         const QByteArray value = onDisk("big");

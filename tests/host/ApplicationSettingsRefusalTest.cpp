@@ -20,7 +20,7 @@ namespace {
 class ApplicationSettingsRefusalTest : public morvane::test::SettingsFixture
 {
 protected:
-    /** Neither a value nor a place for one; what is stored stays in memory, after one warning. */
+    /** The file can be neither read nor written: after one warning, stored values stay in memory. */
     void expectRefused(const QString& file)
     {
         MessageLog log;
@@ -42,7 +42,7 @@ protected:
         return ::lstat(QFile::encodeName(name).constData(), &status) == 0 ? status.st_mode & S_IFMT : 0;
     }
 
-    /** One that takes no space on the disk. */
+    /** Makes a sparse file, which takes no space on the disk. */
     void makeFileOfSize(qint64 size)
     {
         QFile file(m_file);
@@ -50,7 +50,7 @@ protected:
         ASSERT_TRUE(file.resize(size));
     }
 
-    /** What is logged when a value is read. */
+    /** The warnings that are logged when a value is read. */
     QStringList warningsOfReading() const
     {
         const MessageLog log;
@@ -91,7 +91,7 @@ private:
     bool m_set;
 };
 
-/** The process can write no file beyond this size, as on a disk that is full. */
+/** Limits the size of the files that this process can write, as a full disk does. */
 class FileSizeLimit
 {
 public:

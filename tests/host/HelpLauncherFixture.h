@@ -15,7 +15,7 @@
 
 namespace morvane::test {
 
-/** Stands in for the desktop's browser. */
+/** Takes the place of the desktop's browser. */
 class Browser : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ protected:
         ASSERT_TRUE(page.open(QIODevice::WriteOnly)) << relativePath.toStdString();
     }
 
-    /** Shows the topic and returns the text of the box that it brings; the box is dismissed with Return. */
+    /** Shows the topic and returns the text of the message box that opens; closes the box with Return. */
     QString textOfBox(const std::string& topic)
     {
         QString text;

@@ -1,4 +1,4 @@
-// Help pages behind symbolic links. Windows makes none without a privilege, and Qt makes shortcuts there.
+// Help pages behind symbolic links. Not on Windows: links need a privilege there, and Qt makes shortcuts instead.
 #include "host/HelpLauncherFixture.h"
 
 namespace {

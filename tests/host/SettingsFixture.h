@@ -27,7 +27,7 @@ protected:
         ASSERT_EQ(file.write(content), content.size());
     }
 
-    /** What an object that was made just now reads from the disk. */
+    /** The value that a new object reads from the disk. */
     QByteArray onDisk(const std::string& key) const { return ApplicationSettings(m_file).getByteArrayValue(key); }
 
     const QTemporaryDir m_directory;

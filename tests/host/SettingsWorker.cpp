@@ -19,7 +19,7 @@ using morvane::ApplicationSettings;
 
 namespace {
 
-/** Stores "PREFIX0" to "PREFIX<COUNT - 1>", each several times with values of one length. */
+/** Stores "PREFIX0" to "PREFIX<COUNT - 1>", each several times with values of the same length. */
 int store(const QString& file, const std::string& prefix, int count)
 {
     ApplicationSettings settings(file);
@@ -31,7 +31,7 @@ int store(const QString& file, const std::string& prefix, int count)
     return 0;
 }
 
-/** Reads the key "big" until STOP exists; fails when it is ever anything else than 100,000 times the same byte. */
+/** Reads the key "big" until STOP exists; fails if its value is not the same byte 100,000 times. */
 int watch(const QString& file, const QString& stop)
 {
     ApplicationSettings settings(file);
@@ -59,7 +59,7 @@ int storeAndDie(const QString& file)
     std::_Exit(0);
 }
 
-/** Ends in the middle of a write, as far as the other processes can see. */
+/** Ends while it holds the lock. To the other processes, it ends in the middle of a write. */
 int lockAndDie(const QString& file)
 {
     QLockFile lock(file + QStringLiteral(".lock"));
@@ -91,7 +91,7 @@ int hold(const QString& lockName)
     }
 }
 
-/** Tries to store as a user who may not, then reads back. */
+/** Tries to store a value as a user without permission, then reads it back. */
 int storeUnprivileged(const QString& file)
 {
 #ifdef Q_OS_UNIX

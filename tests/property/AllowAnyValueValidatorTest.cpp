@@ -18,7 +18,7 @@ static_assert(std::is_base_of_v<ValidatorInterface<int>, AllowAnyValueValidator<
 
 namespace {
 
-/** A base can only be cast down to when it is not a virtual one. */
+/** static_cast from a base to a derived class does not compile if the base is virtual. */
 template <typename Derived, typename Base, typename = void>
 struct IsVirtualBase : std::is_base_of<Base, Derived>
 {
@@ -38,7 +38,7 @@ struct Named
     std::string name = "named";
 };
 
-/** Two ways to the interface, one base object. */
+/** Both inherits the interface in two ways, but has only one object of it. */
 class Left : public virtual ValidatorInterface<int>
 {
 };

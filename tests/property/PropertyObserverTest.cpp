@@ -107,7 +107,7 @@ TEST_F(PropertyObserverTest, mayThrowFromTheUntypedSignal)
     EXPECT_THROW(m_property.setValue(1), std::runtime_error);
     EXPECT_EQ(m_property.value(), 1);
     EXPECT_TRUE(m_told.empty());
-    m_property.setValue(1); // held already, so nobody is told who could throw
+    m_property.setValue(1); // already the value, so no observer is called and nothing throws
 }
 
 TEST_F(PropertyObserverTest, maySetThePropertyAgain)

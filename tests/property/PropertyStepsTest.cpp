@@ -77,7 +77,7 @@ protected:
     void storeValue(const int& v) override { Property<int>::storeValue(v / 2 * 2); }
 };
 
-/** Takes numbers for equal that differ by less than ten. */
+/** Treats numbers as equal if they differ by less than ten. */
 class CoarseProperty : public Property<int>
 {
 protected:
@@ -96,7 +96,7 @@ protected:
     void storeValue(const int&) override { throw std::runtime_error("no room"); }
 };
 
-/** Gives tests the protected storing step with the stored object itself. */
+/** Lets tests call the protected storing step with the stored object itself. */
 class ExposedText : public PropertyAbstract<std::string>
 {
 public:
@@ -110,7 +110,7 @@ private:
     std::string m_value;
 };
 
-/** Remembers where it was last assigned to, which is how a test finds the member inside a property. */
+/** Remembers the address of the object that was last assigned to, so that a test finds the member of a property. */
 struct Tracked
 {
     Tracked() = default;

@@ -36,7 +36,7 @@ bool operator==(const Point& a, const Point& b)
     return a.x == b.x && a.y == b.y;
 }
 
-/** Two values that differ, for each of the types. */
+/** Two different values for each of the types. */
 template <typename T>
 struct Samples;
 template <>

@@ -24,7 +24,7 @@ public:
     ValidationResult validate(const int& v) const override
     {
         ValidationResult result = m_function(v);
-        ++calls; // touches the object after what the function did
+        ++calls; // uses this object after the function, which may have replaced the validator
         return result;
     }
 
@@ -133,7 +133,7 @@ TEST_F(PropertyValidatorTest, keepsTheValidatorAliveThatReplacesItself)
     EXPECT_TRUE(aliveAfterwards);
     EXPECT_TRUE(first.expired());
     EXPECT_EQ(m_property.value(), 1);
-    m_property.setValue(2); // decided by the new one
+    m_property.setValue(2); // the new validator decides
     EXPECT_EQ(m_property.value(), 2);
     EXPECT_THROW(m_property.setValue(0), InvalidPropertyValueException);
 }

@@ -98,7 +98,7 @@ protected:
         auto* const button = new QPushButton(QStringLiteral("&Open"));
         auto* const list = new QListWidget;
         auto* const type = new QLabel;
-        // What the README shows.
+        // The sample of the README.
 #include "OpenFilesSnippet.inc"
         int answered = 0;
         QObject::connect(button, &QPushButton::clicked, &window, [&] { ++answered; });
@@ -151,7 +151,7 @@ TEST_F(NativeLauncherReadme, opensAFileTenTimesInARow)
                               shown.clickOn(NativeDialog::Accept);
                           },
             {name}});
-        // The dialog starts with the file of the time before.
+        // The dialog starts with the file that was chosen before.
         clicks.push_back({[name](NativeDialog& shown) {
                               EXPECT_EQ(shown.name(), name);
                               shown.clickOn(NativeDialog::Accept);

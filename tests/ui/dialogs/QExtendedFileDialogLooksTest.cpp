@@ -19,7 +19,7 @@ protected:
         makeFiles({QStringLiteral("a.dat"), QStringLiteral("b.csv"),
             QStringLiteral("a name that is so long that no list of this width would ever show it whole.dat")});
         makeFolder(QStringLiteral("inner"));
-        // Where Qt keeps the widths that a user has left, in any program.
+        // Qt stores here the widths that a user has set in any program.
         QSettings(QSettings::UserScope, QStringLiteral("QtProject")).remove(QStringLiteral("FileDialog"));
     }
 

@@ -17,7 +17,7 @@ protected:
     void SetUp() override
     {
         WidgetShellRun::SetUp();
-        // Where Qt keeps the widths that a user has left, in any program.
+        // Qt stores here the widths that a user has set in any program.
         QSettings(QSettings::UserScope, QStringLiteral("QtProject")).remove(QStringLiteral("FileDialog"));
     }
     static void expectWhole(QFileDialog& window)
