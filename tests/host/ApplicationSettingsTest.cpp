@@ -111,8 +111,7 @@ TEST_F(ApplicationSettingsTest, sharesOneFileAmongSeveralObjects)
     ApplicationSettings one(m_file);
     ApplicationSettings two(m_file);
     for (int i = 0; i < 50; ++i) {
-        const QByteArray value =
-            QByteArray::number(100 + i); // all of the same length, so that the file size never changes
+        const QByteArray value = QByteArray::number(100 + i); // of equal length, so that the size never changes
         one.depositValue("one", value);
         EXPECT_EQ(two.getByteArrayValue("one"), value);
         two.depositValue("two", value);
@@ -202,8 +201,7 @@ TEST_F(ApplicationSettingsTest, writesNamesThatDifferByMoreThanCase)
         name += plain.contains(character) ? character : '_' + character.toHex();
     }
     ApplicationSettings(m_file).depositValue(key, "value");
-    EXPECT_TRUE(read(m_file).contains('\n' + name + '='))
-        << read(m_file).constData(); // both kinds of line end contain it
+    EXPECT_TRUE(read(m_file).contains('\n' + name + '=')) << read(m_file).constData(); // after LF or CR LF
 }
 
 TEST_F(ApplicationSettingsTest, hasItsDefaultFileBelowTheConfigurationDirectory)

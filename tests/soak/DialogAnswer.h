@@ -7,13 +7,13 @@
 namespace morvane::test {
 
 /**
- * Answers the modal dialog that is about to open, from within its loop. Ends the program when it is destroyed and there
- * was no dialog to answer: what has not opened was not tested.
+ * Answers the modal dialog that is about to open, from within its loop. The destructor ends the program if there was no
+ * dialog to answer, because then nothing was tested.
  */
 class DialogAnswer
 {
 public:
-    /** @param answer looks whether the dialog is open and answers it; asked again until it returns true */
+    /** @param answer looks whether the dialog is open and answers it; called again until it returns true */
     explicit DialogAnswer(std::function<bool()> answer, int intervalMs = 0);
     ~DialogAnswer();
     DialogAnswer(const DialogAnswer&) = delete;

@@ -20,7 +20,7 @@ namespace {
 
 using namespace morvane::ui;
 
-/** For the next dialog, which the switch says. */
+/** Selects the native dialog or the Qt dialog, and cancels the next one that opens. */
 class CancelSoon
 {
 public:
@@ -116,7 +116,7 @@ std::vector<Subject> dialogSubjects()
         {"LaunchFileDialog-native", [](QWidget&) { launch(true); }, "system-open"},
         {"SaveFileDialog-qt", [](QWidget&) { cancelSaveFlow(false); }},
         {"SaveFileDialog-native", cancelSameSaveFlow(), "system-save-again"},
-        // The save flow leaves its native dialog behind on purpose, so this much each time, but no more.
+        // The save flow keeps its native dialog on purpose, so it may grow by this much each time, but no more.
         {"ExtendedWinFileDialog-kept", &cancelAndKeep, nullptr, true},
         {"SaveFileDialog-native-new", [](QWidget&) { cancelSaveFlow(true); }, "ExtendedWinFileDialog-kept"},
     };

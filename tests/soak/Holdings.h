@@ -4,18 +4,18 @@
 
 namespace morvane::test {
 
-/** What the process holds at a moment. */
+/** The memory and other resources of the process at a moment. */
 struct Holdings
 {
     double heapBytes;         ///< in blocks that were allocated and not freed
-    double residentBytes;     ///< of the whole process, what lies outside of the heap included
+    double residentBytes;     ///< of the whole process, including memory outside of the heap
     std::vector<long> counts; ///< of the things that countedThings() names
 };
 
-/** What else than memory is counted on this platform: descriptors, or handles by their kind. */
+/** The resources other than memory that are counted on this platform: descriptors, or each kind of handle. */
 const std::vector<const char*>& countedThings();
 
-/** Looks at this process. Meant for a quiet moment: nothing waits to be deleted. */
+/** The holdings of this process. To be called when nothing waits to be deleted. */
 Holdings holdings();
 
 } // namespace morvane::test

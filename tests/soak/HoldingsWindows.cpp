@@ -1,5 +1,5 @@
-// Wine 8 answers GetProcessHandleCount and GetGuiResources with 0. What stands in for them here is what Wine keeps: the
-// system's list of handles, the table of GDI objects that every process can read, and the windows and menus themselves.
+// Wine 8 answers GetProcessHandleCount and GetGuiResources with 0. Therefore this file counts other data: the system's
+// list of handles, the table of GDI objects, which every process can read, and the windows and menus themselves.
 #include "soak/Holdings.h"
 
 #include <windows.h>
@@ -126,7 +126,7 @@ bool isWindowOfOurs(HWND window)
     return IsWindow(window) && GetWindowThreadProcessId(window, &process) != 0 && process == GetCurrentProcessId();
 }
 
-/** A handle without its upper half, its generation, names whatever stands at that place now. */
+/** A handle without its upper half, the generation, refers to the object that uses this entry of the table now. */
 long windowsAndMenus()
 {
     long count = 0;

@@ -11,12 +11,12 @@ class Shell;
 
 namespace morvane::test {
 
-/** What the library's native dialog is to run on here; null for the library's own choice. */
+/** The Shell that the library's native dialog uses here; null for the library's own choice. */
 std::unique_ptr<ui::Shell> nativeShell();
 
 /** Presses Cancel in the native dialog if it is open; false if not. */
 bool cancelNativeDialog();
-/** Accepts what stands in its name field, likewise. */
+/** Accepts the text of its name field if it is open; false if not. */
 bool acceptNativeDialog();
 /** How often to look whether the native dialog is open, in milliseconds. */
 int nativeDialogInterval();

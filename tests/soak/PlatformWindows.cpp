@@ -11,7 +11,7 @@ namespace morvane::test {
 
 namespace {
 
-/** Looked for by a window timer: a faster one of Qt would work through threads and events of the system. */
+/** Long enough for Qt to use a window timer; for shorter intervals, it uses threads and events of the system. */
 constexpr int pollMs = 20;
 constexpr DWORD buttonId = 1;
 constexpr DWORD menuId = 2;

@@ -1,5 +1,5 @@
-// Opens and closes every dialog and widget many times and watches what the process holds. Not part of the tests that
-// run by themselves: `./dev soak [--windows] [CYCLES [NAME...]]`.
+// Opens and closes every dialog and widget many times and checks the resources of the process. Not part of the tests
+// that run automatically: `./dev soak [--windows] [CYCLES [NAME...]]`.
 #include "soak/Holdings.h"
 #include "soak/Platform.h"
 #include "soak/Subject.h"
@@ -30,14 +30,14 @@ constexpr int fewestCycles = 1000; // with fewer, single blocks that come and go
 /** Qt keeps a little more with each window (hash tables of windows that grow, a log of the X server). */
 constexpr double mostBytesPerCycle = 16;
 
-/** What the cycles after the first ones have added. */
+/** The growth after the warm-up cycles. */
 struct Growth
 {
     double bytesPerCycle = 0;
     std::vector<double> countsPerCycle = std::vector<double>(countedThings().size());
 };
 
-/** With nothing left that waits to be deleted, and without what Qt may throw away whenever it likes. */
+/** The holdings after all pending deletions and without the cache of pixmaps, which Qt may clear at any time. */
 Holdings holdingsInQuiet()
 {
     QPixmapCache::clear();
@@ -46,7 +46,7 @@ Holdings holdingsInQuiet()
     return holdings();
 }
 
-/** Whether nothing piled up beyond what @p allowed says. */
+/** Whether @p growth does not exceed @p allowed. */
 bool isWithin(const Growth& growth, const Growth& allowed)
 {
     bool within = growth.bytesPerCycle <= std::max(allowed.bytesPerCycle, 0.0) + mostBytesPerCycle;
@@ -67,7 +67,7 @@ public:
         }
     }
 
-    /** Those with these names; all without any. Whether none grows. */
+    /** Runs the subjects with these names, or all if there are no names. Returns whether none grows. */
     bool run(const std::vector<std::string>& names)
     {
         printHead();
@@ -205,6 +205,6 @@ int main(int argc, char** argv)
         return 2;
     }
     const int result = runSoak(cycles, std::vector<std::string>(argv + std::min(argc, 2), argv + argc));
-    QDir::setCurrent(started); // a folder that is in use cannot be removed everywhere
+    QDir::setCurrent(started); // some systems cannot remove the current folder
     return result;
 }

@@ -11,14 +11,14 @@ namespace morvane::test {
 struct Subject
 {
     const char* name;
-    /** Opens it once on the window given, and closes it. */
+    /** Opens it once on the given window, and closes it. */
     std::function<void(QWidget&)> cycle;
     /**
-     * The name of a subject that uses the same system service or keeps the same objects without what is tested here; it
-     * may grow as much as that does. Null, or not among the subjects of the platform: it must not grow at all.
+     * The name of a subject that uses the same system service, or keeps the same objects, without the code under test.
+     * This subject may grow as much as that one. If null or not a subject of this platform, it must not grow at all.
      */
     const char* reference = nullptr;
-    /** Only there to be compared with: it may grow. */
+    /** Is only a reference for others: it may grow. */
     bool isReference = false;
 };
 

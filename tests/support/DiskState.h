@@ -13,7 +13,7 @@ class DiskState
 public:
     explicit DiskState(const QString& directory);
 
-    /** One line an entry, for comparing and for reading in a failure. */
+    /** One line for each entry, for comparisons and failure messages. */
     const std::string& text() const { return m_text; }
 
 private:

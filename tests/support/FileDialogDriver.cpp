@@ -92,8 +92,8 @@ QString FileDialogDriver::name() const
 
 void FileDialogDriver::typeName(const QString& text) const
 {
-    // Shown again after a message box, the dialog is not made active by platforms without a window manager; Delete
-    // would then be taken for the dialog's shortcut.
+    // Without a window manager, the dialog is not active when it is shown again after a message box. Then Delete would
+    // trigger the dialog's shortcut.
     if (m_dialog.isVisible() && !m_dialog.isActiveWindow()) {
         QApplication::setActiveWindow(&m_dialog);
     }
@@ -146,7 +146,7 @@ QAbstractButton& FileDialogDriver::acceptButton() const
 
 void FileDialogDriver::pressAccept() const
 {
-    // On the left, since a menu may open at the right end.
+    // Clicks on the left side, because a menu may open at the right end.
     QAbstractButton& accept = acceptButton();
     QTest::mouseClick(&accept, Qt::LeftButton, Qt::NoModifier, QPoint(10, accept.height() / 2));
 }
@@ -316,7 +316,7 @@ void FileDialogDriver::pickTypeWithMouse(int row) const
     QTest::mouseClick(&typeCombo(), Qt::LeftButton);
     ASSERT_TRUE(waitUntil([&] { return list.isVisible(); }));
     const QPoint place = list.visualRect(list.model()->index(row, 0)).center();
-    // Until the mouse has moved away from where it opened the list, a release there picks nothing.
+    // A release picks nothing until the mouse has moved away from the place of the click that opened the list.
     moveMouse(*list.viewport(), place + QPoint(30, 0));
     moveMouse(*list.viewport(), place);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);

@@ -13,12 +13,12 @@ class QLineEdit;
 
 namespace morvane::test {
 
-/** Waits until @p condition holds, with events processed; returns whether it came to hold. */
+/** Waits until @p condition holds, with events processed; returns false if it does not in time. */
 bool waitUntil(const std::function<bool()>& condition);
 
 /**
- * What a person sees of a file dialog of Qt's widgets, and what they do with it: key and mouse events on the widgets in
- * it. With controls, the dialog is that of a WidgetShell.
+ * Reads what a user sees in a file dialog made of Qt's widgets, and acts on it by key and mouse events to its widgets.
+ * Functions for custom controls are for the dialog of a WidgetShell.
  */
 class FileDialogDriver
 {
@@ -46,7 +46,7 @@ public:
     QAbstractButton& acceptButton() const;
     void pressAccept() const;
     void pressAcceptAndAnswer(bool replace) const;
-    /** With Escape. */
+    /** Presses Escape. */
     void pressCancel() const;
 
     /** The custom control with this label; null when it is not shown. */
@@ -62,7 +62,7 @@ public:
     void clickFile(const QString& name, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     void doubleClickFile(const QString& name) const;
 
-    /** What of the sidebar and of the columns is not to be seen whole, described; the names may be elided. */
+    /** Describes the parts of the sidebar and of the columns that are cut off; file names may be elided. */
     QStringList cutParts() const;
 
     QComboBox& typeCombo() const;
@@ -71,7 +71,7 @@ public:
     /** Opens the list of types and picks a row of it. */
     void pickTypeWithKeys(int row) const;
     void pickTypeWithMouse(int row) const;
-    /** Steps with the arrow keys, through the types in between. */
+    /** Steps to a type with the arrow keys; selects each type on the way. */
     void stepToType(int row) const;
 
 private:

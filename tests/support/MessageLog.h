@@ -7,7 +7,7 @@
 
 namespace morvane::test {
 
-/** Collects what goes to Qt's message log while it lives, and keeps it off the terminal. */
+/** Collects the messages of Qt's message log while it exists; they do not appear on the terminal. */
 class MessageLog
 {
 public:

@@ -33,7 +33,8 @@ ModalScript::~ModalScript()
 
 void ModalScript::poll()
 {
-    // Armed again before the step, since a timer does not fire within its own slot, where a step may open another loop.
+    // Starts again before the step: a timer does not fire within its own slot, and the step may open another loop
+    // there.
     m_poll.start(pollIntervalMs);
     QWidget* const modal = QApplication::activeModalWidget();
     if (m_gaveUp || m_steps.empty() || !modal || !modal->isVisible() || modal == m_current) {

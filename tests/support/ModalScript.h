@@ -49,14 +49,14 @@ public:
     bool finished() const { return m_steps.empty() && !m_gaveUp; }
 
 private:
-    // Returns whether it was the window that the step waits for; called with the step already taken off the list.
+    // Returns whether this was the window that the step waits for. The step is removed from the list before the call.
     using Step = std::function<bool(QWidget*)>;
 
     void poll();
     void giveUp();
 
     std::deque<Step> m_steps;
-    QPointer<QWidget> m_current; // the window of the step that runs; it may wait, and the next step must not begin then
+    QPointer<QWidget> m_current; // the window of the running step; while that step waits, the next one must not begin
     QTimer m_poll;
     QTimer m_watchdog;
     bool m_gaveUp = false;

@@ -9,7 +9,7 @@ namespace morvane::test {
 
 std::vector<Qt::CursorShape> overrideCursors()
 {
-    // Qt shows only the top of its stack, so it is taken down and built up again.
+    // Qt returns only the top of its stack, so this removes all cursors and sets them again.
     std::vector<Qt::CursorShape> shapes;
     while (const QCursor* const top = QGuiApplication::overrideCursor()) {
         shapes.push_back(top->shape());

@@ -6,7 +6,7 @@
 
 namespace morvane::test {
 
-/** The shapes of the application's override cursors, the one in force last. */
+/** The shapes of the application's override cursors, the active one last. */
 std::vector<Qt::CursorShape> overrideCursors();
 
 } // namespace morvane::test

@@ -5,7 +5,7 @@
 
 #include <ostream>
 
-// Found by GoogleTest through the arguments, and so in the namespace of the types.
+// GoogleTest finds these by argument-dependent lookup, so they are in the namespace of the types.
 
 inline void PrintTo(const QString& text, std::ostream* out)
 {

@@ -7,7 +7,7 @@
 
 namespace morvane::test {
 
-/** Notes the topics instead of showing them, for use with morvane::InstanceOverride. */
+/** Records the topics instead of showing them, for use with morvane::InstanceOverride. */
 class RecordingHelpLauncher : public HelpLauncher
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace morvane::test {
 
-/** Settings in memory that note who asked for what, for use with morvane::InstanceOverride. */
+/** Settings in memory that record each call, for use with morvane::InstanceOverride. */
 class RecordingSettings : public ApplicationSettings
 {
 public:

@@ -6,7 +6,7 @@
 
 namespace morvane::test {
 
-/** Where the button up, or down, of a spin box is in it. */
+/** The place of the up or down button in a spin box. */
 inline QRect spinBoxButton(const QAbstractSpinBox& spin, QStyle::SubControl button)
 {
     QStyleOptionSpinBox option;

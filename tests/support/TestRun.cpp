@@ -12,7 +12,7 @@
 
 namespace {
 
-/** Settings, caches and well-known folders of the person who runs the tests stay untouched. */
+/** The tests must not change the settings, caches and well-known folders of the user who runs them. */
 void usePrivateHome(const QTemporaryDir& home)
 {
     const QDir directory(home.path());
@@ -29,7 +29,7 @@ void usePrivateHome(const QTemporaryDir& home)
 } // namespace
 
 #ifdef __SANITIZE_ADDRESS__
-/** Read by the leak checker. Qt's offscreen platform does not give back the screen that it makes. */
+/** The leak checker calls this. Qt's offscreen platform does not free the screen that it makes. */
 extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions()
 {
     return "leak:libqoffscreen\n";

@@ -3,8 +3,8 @@
 namespace morvane::test {
 
 /**
- * Runs the GoogleTest cases of the program, with a private home directory, a fixed locale and a QApplication; on Qt's
- * offscreen platform unless the environment names another one. Returns the exit code of the program.
+ * Runs the GoogleTest cases of the program, with a private home directory, a fixed locale and a QApplication. Uses
+ * Qt's offscreen platform unless the environment names another one. Returns the exit code of the program.
  */
 int runTests(int argc, char** argv);
 

@@ -1,4 +1,4 @@
-// Every call of the recording Shell can be made to fail; it then has no effect and leaves nothing.
+// Every call of the recording Shell can be made to fail; a failed call has no effect and leaks nothing.
 #include "testing/RecordingControls.h"
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingShell.h"
@@ -72,7 +72,7 @@ protected:
             shell.failNothing();
         }
     }
-    /** A call that gives an object or a string; there must be none after its failure. */
+    /** A call that returns an object or a string; a failed call must return none. */
     template <typename Result>
     static std::function<HRESULT()> giving(std::function<HRESULT(Result**)> call)
     {
@@ -299,7 +299,7 @@ TEST_F(RecordingShellFailures, knowForeignMemoryFromTheirOwn)
 
 TEST(RecordingShellFailuresEnd, freesTheStringsThatNobodyFreed)
 {
-    RecordingShell shell; // the leak check of the address sanitizer sees what is left
+    RecordingShell shell; // the leak check of the address sanitizer finds what is not freed
     LPWSTR text = nullptr;
     ASSERT_EQ(shell.copyString(QStringLiteral("forgotten"), &text), S_OK);
     EXPECT_EQ(shell.liveStrings(), 1);
@@ -329,7 +329,7 @@ TEST(RecordingShellFailuresRecord, namesInterfacesAndArguments)
     EXPECT_EQ(dialog->QueryInterface(CLSID_FileOpenDialog, &object), E_NOINTERFACE);
     EXPECT_EQ(shell.coCreateInstance(IID_IUnknown, dialog.get(), 1, IID_IUnknown, &object), CLASS_E_NOAGGREGATION);
     EXPECT_EQ(shell.coCreateInstance(IID_IUnknown, nullptr, 1, IID_IUnknown, &object), REGDB_E_CLASSNOTREG);
-    auto* const context = reinterpret_cast<IBindCtx*>(0x10); // never looked into
+    auto* const context = reinterpret_cast<IBindCtx*>(0x10); // never used
     EXPECT_EQ(shell.createItemFromParsingName(nullptr, context, IID_IShellItem, &object), E_INVALIDARG);
     EXPECT_EQ(dialog->SetTitle(nullptr), S_OK);
     EXPECT_THAT(shell.calls(),

@@ -283,7 +283,7 @@ TEST(RecordingShellScript, isCancelledWhereItStopsEarly)
     opening.setFileMode(QFileDialog::ExistingFile);
     shell.script.duringShow = [](RecordingDialog& shown) {
         shown.userTypesName(QStringLiteral("/no/such/file"));
-        shown.userAccepts(); // and the dialog stays
+        shown.userAccepts(); // the dialog stays open
     };
     EXPECT_EQ(opening.exec(), QDialog::Rejected);
     EXPECT_TRUE(opening.selectedFiles().isEmpty());

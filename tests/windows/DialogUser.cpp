@@ -19,7 +19,7 @@ bool hasEnded(const NativeDialog& dialog)
     return waitUntil([&dialog] { return !dialog.isOpen(); }, secondsToEnd);
 }
 
-/** Answers what is open on top of the dialog, then cancels it. */
+/** Answers the message boxes above the dialog, then cancels the dialog. */
 void putAway(const NativeDialog& dialog)
 {
     if (dialog.hasQuestion()) {

@@ -9,9 +9,10 @@
 namespace morvane::test {
 
 /**
- * Somebody who uses the next common item dialogs of this process, one script each, from a thread of their own while the
- * dialogs run on the test's. When a script leaves its dialog open or none appears, the test fails, and the dialog is
- * cancelled so that it can go on. The destructor waits for the end of the scripts.
+ * A user of the next common item dialogs of this process, with one script for each dialog. The scripts run in their own
+ * thread while the dialogs run in the test's thread. The test fails when no dialog appears or a script leaves its
+ * dialog open; then the dialog is cancelled so that the test can go on. The destructor waits for the end of the
+ * scripts.
  *
  * @code
  * const DialogUser user([](NativeDialog& dialog) { dialog.accept(L"out.dat"); });

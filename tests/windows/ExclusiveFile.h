@@ -6,7 +6,7 @@
 
 namespace morvane::test {
 
-/** Holds an existing file open so that nobody else can open it: a refused place that binds administrators, too. */
+/** Holds an existing file open so that nobody else can open it: even administrators have no access then. */
 class ExclusiveFile
 {
 public:

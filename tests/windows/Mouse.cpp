@@ -6,14 +6,14 @@ namespace morvane::test {
 
 namespace {
 
-/** A position as mouse events have it: the screen is 65536 wide and high. */
+/** A position in the unit of mouse events, in which the screen is 65536 wide and high. */
 LONG normalized(LONG position, int metric)
 {
     const LONGLONG extent = GetSystemMetrics(metric);
     return static_cast<LONG>((static_cast<LONGLONG>(position) * 65536 + extent / 2) / extent);
 }
 
-/** With its position, so that no other movement comes in between. */
+/** Contains its position, so that no other mouse movement can change it. */
 INPUT button(POINT position, DWORD flags)
 {
     INPUT input{};

@@ -16,7 +16,7 @@ constexpr int firstCustomControl = 8192;
 const wchar_t* const dialogClass = L"#32770";
 const wchar_t* const menuClass = L"#32768";
 
-/** Sends a message without waiting for ever when the other thread hangs. */
+/** Sends a message with a time limit, because the other thread may hang. */
 LRESULT send(HWND window, UINT message, WPARAM wparam = 0, LPARAM lparam = 0)
 {
     DWORD_PTR result = 0;
@@ -55,7 +55,7 @@ struct ChildSearch
 BOOL CALLBACK matchChild(HWND window, LPARAM argument)
 {
     auto& search = *reinterpret_cast<ChildSearch*>(argument);
-    // A custom control stands in a frame with the same id.
+    // A custom control is in a frame that has the same id.
     if (GetDlgCtrlID(window) != search.id || hasClass(window, L"FloatNotifySink")) {
         return TRUE;
     }
@@ -309,7 +309,7 @@ std::wstring NativeDialog::text(int control) const
 
 void NativeDialog::press(int control) const
 {
-    // Posted: what the button does may last, a message box for instance.
+    // Posted, because the action of the button may take long; it may show a message box, for instance.
     PostMessageW(find(control), BM_CLICK, 0, 0);
 }
 

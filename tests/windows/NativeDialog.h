@@ -8,13 +8,13 @@
 
 namespace morvane::test {
 
-/** Asks again and again until @p condition holds. False when it did not within @p seconds. */
+/** Polls until @p condition holds; false when it does not within @p seconds. */
 bool waitUntil(const std::function<bool()>& condition, int seconds = 10);
 
 /**
- * A common item dialog as somebody outside sees it: windows, their texts and states, and messages to them. Meant for
- * another thread than the one that the dialog runs on, unless said otherwise. A dialog that has ended answers with
- * nothing.
+ * A common item dialog as seen from outside: windows, their texts and states, and messages to them. Unless a function
+ * says otherwise, call it from another thread than that of the dialog. After the end of the dialog, the functions
+ * return empty values.
  */
 class NativeDialog
 {
@@ -32,7 +32,7 @@ public:
     /** The id of the control that was added as the @p index th, counted from 0. */
     static int customControl(int index);
 
-    /** The dialog of this process that has a name field and is ready for input; waits for it. Null when none comes. */
+    /** The dialog of this process that has a name field and is ready for input; waits for it. Null when none opens. */
     static HWND waitForWindow(int seconds);
 
     explicit NativeDialog(HWND window);
@@ -74,7 +74,7 @@ public:
     bool exists(int control) const;
     std::wstring text(int control) const;
     void press(int control) const;
-    /** Presses it and returns when all that follows is done. Only for the thread that the dialog runs on. */
+    /** Presses it and returns when all effects are done. Only for the thread of the dialog. */
     void click(int control) const;
     /** The id of the button or check box with this text; 0 when there is none. */
     int controlWithText(const std::wstring& text) const;
@@ -82,9 +82,9 @@ public:
     bool isEnabled(int control) const;
     bool isVisible(int control) const;
 
-    /** Opens the menu of the accept button and takes the entry @p index, counted from 0. False when no menu opens. */
+    /** Opens the menu of the accept button and selects the entry @p index, counted from 0. False when no menu opens. */
     bool chooseAcceptOption(int index) const;
-    /** Waits for a menu of this process and takes the entry with this text. False when there is none. */
+    /** Waits for a menu of this process and selects the entry with this text. False when there is none. */
     static bool takeMenuEntry(const std::wstring& text);
 
     /** Waits for a message box of the dialog, such as the overwrite question. */

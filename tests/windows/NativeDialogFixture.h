@@ -16,7 +16,7 @@
 
 namespace morvane::test {
 
-/** The Shell's dialog on the window of a host, in a directory of its own with names beyond the usual in it. */
+/** The Shell's dialog on the window of a host, in a directory of its own whose path has unusual characters. */
 class NativeDialogTest : public testing::Test
 {
 protected:

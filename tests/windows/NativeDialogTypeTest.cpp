@@ -1,5 +1,5 @@
 // File types, and the extension of the typed name that follows them in a save dialog. The Shell under test may change
-// extensions on its own; what is expected here is what only our rule gives.
+// extensions on its own, so the tests expect results that only our rule gives.
 #include "windows/NativeDialogFixture.h"
 
 using namespace morvane::test;

@@ -43,7 +43,7 @@ protected:
             EXPECT_TRUE(waitUntil([&] { return holds(shown.name(), picked); }));
         }
     }
-    /** One name as it is, or several in quotes, in whatever order. */
+    /** Whether the text is the one name, or the several names in quotes and in any order. */
     static bool holds(const std::wstring& text, const Names& names)
     {
         if (names.size() == 1) {

@@ -49,7 +49,7 @@ protected:
         return reader.open(QIODevice::ReadOnly) ? reader.readAll() : QByteArray("unreadable");
     }
 
-    // The Shell adds the extension of a pattern by itself; with these types it is ours that counts.
+    // The Shell adds the extension of a pattern by itself. With these types, only our rule adds an extension.
     std::unique_ptr<SaveFileDialog> makeFlow(
         const std::vector<std::string>& writers = {"Data v1.dat (*)", "Table v1.csv (*)"}, int selected = 0)
     {
@@ -81,7 +81,7 @@ protected:
         EXPECT_EQ(box.windowTitle(), QStringLiteral("Save"));
         const QPointer<QMessageBox> open(&box);
         QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box, key);
-        // The button goes down for a moment first, and the next question must not be taken for this one.
+        // The button is shown pressed for a moment first. Waits, so that this box is not taken for the next question.
         EXPECT_TRUE(QTest::qWaitFor([&] { return !open || !open->isVisible(); }));
     }
 

@@ -33,7 +33,7 @@ void answerYes(QMessageBox& box)
 {
     const QPointer<QMessageBox> open(&box);
     pressKey(box, Qt::Key_Y);
-    // The button goes down for a moment first, and the next question must not be taken for this one.
+    // The button is shown pressed for a moment first. Waits, so that this box is not taken for the next question.
     EXPECT_TRUE(waitUntil([&] { return !open || !open->isVisible(); }));
 }
 
