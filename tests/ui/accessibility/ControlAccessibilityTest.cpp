@@ -86,7 +86,7 @@ TEST_F(ControlAccessibility, haveNamesFromTheirLabelsOrTexts)
 
 TEST_F(ControlAccessibility, haveTheNamesThatTheHostGives)
 {
-    // Not the combo box: what Qt tells of it depends on the platform.
+    // Leaves out the combo box, because what Qt reports about it depends on the platform.
     for (QWidget* const widget : {static_cast<QWidget*>(current), static_cast<QWidget*>(samples),
              static_cast<QWidget*>(label), static_cast<QWidget*>(button)}) {
         delete qobject_cast<QLabel*>(form->labelForField(widget));
@@ -213,7 +213,7 @@ TEST_F(ControlAccessibility, standOnTheOtherSideFromRightToLeft)
              static_cast<QWidget*>(samples), static_cast<QWidget*>(label), static_cast<QWidget*>(button)}) {
         EXPECT_TRUE(widget->isRightToLeft());
     }
-    // A number reads from left to right all the same.
+    // A number is still read from left to right.
     current->setValue(-2.5e-15);
     EXPECT_EQ(current->text(), "-2.5E-15");
 }

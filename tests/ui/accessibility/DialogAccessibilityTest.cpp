@@ -63,7 +63,7 @@ class DialogAccessibility : public ::testing::Test
 protected:
     DialogAccessibility() { owner.show(); }
 
-    /** Shows the native dialog with a control of each kind and lets @p look look at it. */
+    /** Shows the native dialog with a control of each kind and calls @p look with it. */
     void showNative(const std::function<void(QFileDialog&)>& look)
     {
         ExtendedWinFileDialog dialog(owner, "Export", folder.path().toStdString(), "Data (*.dat);;Text (*.txt)",
@@ -283,7 +283,7 @@ protected:
     }
     ~DialogAccessibilityQuestions() override { ExtendedFileDialog::setUseNativeFileDialog(true); }
 
-    /** Accepts the existing name by keys, or another one, and lets @p look look at the question. */
+    /** Accepts the existing name or another one with keys, and calls @p look with the question. */
     void askOnce(const std::function<void(QMessageBox&)>& look, const QString& otherName = QString())
     {
         SaveFileDialog dialog(&owner, "Save report", folder.path().toStdString(), "report", "Text (*.txt)", "");

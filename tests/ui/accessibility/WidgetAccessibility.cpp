@@ -33,7 +33,7 @@ double luminance(const QColor& color)
 
 bool isTabStop(const QWidget& widget)
 {
-    // The parts of spin boxes and combo boxes share the focus of the whole.
+    // The parts of spin boxes and combo boxes share the focus of the box.
     return widget.isVisible() && widget.isEnabled() && (widget.focusPolicy() & Qt::TabFocus) && !widget.focusProxy();
 }
 
@@ -59,7 +59,7 @@ QAccessible::Role roleOf(QWidget* widget)
 
 QString nameOf(QWidget* widget)
 {
-    // Combo boxes tell their text as name where assistive software looks for the label by itself.
+    // On some platforms, combo boxes report their text as the name; assistive software finds the label itself there.
     if (QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(widget)) {
         const auto labels = accessible->relations(QAccessible::Label);
         if (!labels.isEmpty()) {

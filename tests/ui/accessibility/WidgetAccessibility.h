@@ -19,22 +19,22 @@ QString valueOf(QWidget* widget);
 /** The widgets that a person can see and use in a window: shown, enabled, and reached with Tab. */
 std::vector<QWidget*> tabStopsOf(QWidget& window);
 
-/** "class name (object name)" of the given widgets, for reading in a failure. */
+/** "class name (object name)" of the given widgets, for failure messages. */
 QStringList described(const std::vector<QWidget*>& widgets);
 
-/** Those of the window's tab stops, buttons and labels that have no name or no role. */
+/** The tab stops, buttons and labels of the window that have no name or no role. */
 QStringList namelessPartsOf(QWidget& window);
 
-/** Presses Tab (or Shift+Tab) until the focus is back where it was; the widgets on the way, the first one last. */
+/** Presses Tab (or Shift+Tab) until the focus is back. Returns the widgets on the way; the first one is last. */
 std::vector<QWidget*> walkWithTab(QWidget& window, bool backwards = false);
 
 /** From 1 (equal) to 21 (black on white); 4.5 is what text needs. */
 double contrast(const QColor& one, const QColor& other);
 
-/** The contrast of what is drawn in a widget: of its most frequent colour and the one that differs most from it. */
+/** The contrast between the most frequent colour of a widget and the colour that differs most from it. */
 double drawnContrast(QWidget& widget);
 
-/** Light on dark for the whole application while it lives. */
+/** Sets light text on dark ground for the whole application while it exists. */
 class DarkPalette
 {
 public:

@@ -1,4 +1,4 @@
-// The editor line on its own, with a completer whose connections can be counted.
+// The line edit without a combo box, with a completer whose connections can be counted.
 #include "ui/qt/controls/AutoFilterLineEdit_p.h"
 
 #include "support/MessageLog.h"

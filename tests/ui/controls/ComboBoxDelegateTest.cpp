@@ -10,7 +10,7 @@ using morvane::ui::ComboBoxAutoFilter;
 
 namespace {
 
-/** Edits cells the way a host does: the outcome decides what becomes of the cell. */
+/** Edits cells as a host does: the outcome decides whether the cell is changed. */
 class AutoFilterDelegate : public QStyledItemDelegate
 {
 public:

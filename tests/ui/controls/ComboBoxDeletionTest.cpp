@@ -5,7 +5,7 @@ using morvane::test::type;
 
 namespace {
 
-/** How the host gets rid of the combo box, as soon as it has an outcome. */
+/** How the host deletes the combo box as soon as there is an outcome. */
 enum class Disposal
 {
     Delete,

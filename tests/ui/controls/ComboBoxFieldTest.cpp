@@ -1,4 +1,4 @@
-// The combo box as a field of a form, where what came from the window system is not needed.
+// The combo box as a field of a form, as far as no events from the window system are needed.
 #include "ComboBoxForm.h"
 
 #include <QMetaEnum>
@@ -23,7 +23,7 @@ protected:
     }
 };
 
-/** Shows its texts with a unit, and takes them without. */
+/** Displays its texts with a unit; stores and edits them without it. */
 class ModelWithUnit : public QStringListModel
 {
 public:

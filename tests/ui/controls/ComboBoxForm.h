@@ -15,7 +15,7 @@
 
 namespace morvane::test {
 
-/** Presses a key the way a window system does: through the window that has the keyboard, an open popup before all. */
+/** Presses a key as a window system does: sends it to the open popup, or else to the window that has the keyboard. */
 inline void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     QWidget* const popup = QApplication::activePopupWidget();
@@ -65,7 +65,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor([this] { return box->hasFocus(); }));
     }
 
-    // On the offscreen platform a closed popup leaves nothing active.
+    // On the offscreen platform, no window is active after a popup is closed.
     void activate()
     {
         window.activateWindow();

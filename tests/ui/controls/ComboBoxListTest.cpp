@@ -280,7 +280,7 @@ TEST_F(ComboBoxList, worksAgainAfterAPickWithTheMouse)
     expectOutcome(2, 1);
     show();
     box->lineEdit()->clear();
-    // On the offscreen platform the closed list would have the keyboard still.
+    // On the offscreen platform, the closed list would still have the keyboard.
     QTest::keyClick(window.windowHandle(), 'a');
     ASSERT_TRUE(QTest::qWaitFor([this] { return completerPopup()->isVisible(); }));
     pressKey(Qt::Key_Down);

@@ -11,7 +11,7 @@ using morvane::test::type;
 
 namespace {
 
-/** Many entries without the memory for them. */
+/** A model of many entries that needs no memory for them. */
 class NumberModel : public QAbstractListModel
 {
 public:
@@ -127,7 +127,7 @@ TEST_F(ComboBoxModel, aResetWhileTheCompleterIsOpenLeavesTheNewEntriesToFilter)
     box->lineEdit()->clear();
     type("ar");
     model.setStringList({"Egg", "Jar"});
-    // A combo box goes to the first entry of its new model, and its text with it.
+    // After the reset, a combo box selects the first entry and shows its text.
     EXPECT_EQ(box->lineEdit()->text(), "Egg");
     box->lineEdit()->clear();
     type("ar");
@@ -157,7 +157,7 @@ TEST_F(ComboBoxModel, rowsRemovedWhileTheListIsOpenAreGoneFromIt)
     pressKey(Qt::Key_Up);
     EXPECT_EQ(box->count(), 2);
     pressKey(Qt::Key_Escape);
-    // The entry before the edit is one of those that are gone.
+    // The entry that was current before the edit is one of the removed ones.
     EXPECT_EQ(box->currentIndex(), -1);
     EXPECT_EQ(box->currentText(), "");
     expectOutcome(0, 1);

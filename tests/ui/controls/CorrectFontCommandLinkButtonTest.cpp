@@ -12,13 +12,13 @@
 
 namespace {
 
-/** QCommandLinkButton hides its size hints. */
+/** sizeHint() is not public in QCommandLinkButton, but it is in QWidget. */
 QSize preferred(const QWidget& button)
 {
     return button.sizeHint();
 }
 
-/** The largest difference of a colour's part, 0 to 255, over the pixels of @p shown. */
+/** The largest difference of a colour component, 0 to 255, over all pixels of @p shown. */
 int largestDifference(const QImage& shown, const QImage& wanted)
 {
     int largest = 0;
@@ -84,7 +84,7 @@ TEST_F(CorrectFontCommandLinkButtonTest, keepsItsPreferredSizeWhereTheLayoutOver
 
 TEST_F(CorrectFontCommandLinkButtonTest, showsTheWholeWrappedDescriptionInANarrowLayout)
 {
-    button->setFocusPolicy(Qt::NoFocus); // some styles draw a frame for it
+    button->setFocusPolicy(Qt::NoFocus); // some styles draw a focus frame
     button->setDescription(longDescription);
     show();
     window.resize(40, 20);
@@ -96,10 +96,10 @@ TEST_F(CorrectFontCommandLinkButtonTest, showsTheWholeWrappedDescriptionInANarro
     roomy.setText(button->text());
     roomy.setDescription(longDescription);
     roomy.resize(button->width(), 2 * button->height());
-    // What the roomy one has more must be blank, so no line of the text was cut.
+    // The additional part of the larger button must be blank; then the smaller one cuts off no line of text.
     const QImage shown = button->grab().toImage().convertToFormat(QImage::Format_RGB32);
     QImage wanted = roomy.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    EXPECT_LE(largestDifference(shown, wanted), 32); // text is smoothed otherwise in a window
+    EXPECT_LE(largestDifference(shown, wanted), 32); // text in a window is smoothed differently
     wanted = wanted.copy(0, button->height(), button->width(), button->height());
     QImage blank(wanted.size(), wanted.format());
     blank.fill(wanted.pixel(0, 0));

@@ -69,7 +69,7 @@ protected:
         return image;
     }
 
-    /** The longest end of the text that fits behind an ellipsis, found by trying. */
+    /** The longest end of the text that fits after an ellipsis; found by trying all lengths. */
     QString expected() const
     {
         const QString text = label.text();
@@ -228,9 +228,9 @@ TEST_F(ElidedTextLabelTest, withTheLabelStandInRightToLeftTextKeepsItsEnd)
     const QString shown = label.fontMetrics().elidedText(hebrew, Qt::ElideLeft, label.width());
     ASSERT_TRUE(shown.startsWith(ellipsis));
     ASSERT_TRUE(hebrew.endsWith(shown.mid(1)));
-    // The start of the text is at its right, and so is the ellipsis.
+    // The text starts on the right side, and so the ellipsis is there, too.
     EXPECT_EQ(picture(), drawn(shown));
-    // Dots have no ink above the middle of the line.
+    // Dots have no pixels above the middle of the line.
     const int dots = label.fontMetrics().horizontalAdvance(ellipsis);
     const int shownWidth = label.fontMetrics().horizontalAdvance(shown);
     const QSize upperHalf(dots - 3, label.height() / 2);

@@ -7,7 +7,7 @@
 
 namespace morvane::test {
 
-/** The digit search as a plain loop over the candidates: what findDigitsInRange() has to agree with. */
+/** The digit search as a plain loop over the candidates. findDigitsInRange() must give the same results. */
 inline std::optional<qint64> literalDigitSearch(qint64 number, qint64 minimum, qint64 maximum)
 {
     const auto magnitude = [](qint64 n) { return n < 0 ? ~static_cast<quint64>(n) + 1 : static_cast<quint64>(n); };

@@ -40,7 +40,7 @@ QString strippedLiterally(const QString& input, int& pos, const ui::NumberRules&
     return text;
 }
 
-/** State of the text; leaves in copy, pos and num what the reading makes of them. */
+/** Returns the state of the text; stores the results of the reading in copy, pos and num. */
 QValidator::State readLiterally(
     QString& copy, int& pos, double& num, const ui::NumberRules& rules, const DigitSearch& search)
 {
@@ -173,7 +173,7 @@ bool literalIntermediateValue(const QString& str, const ui::NumberRules& rules, 
         if (min_left == max_left) {
             return search(tested, negative ? max_right : min_right, negative ? min_right : max_right).has_value();
         }
-        // Not as a difference of two integers: it may not fit in one.
+        // Not a difference of integers, because that may overflow.
         if ((max_left > min_left && max_left - 1 == min_left) || (min_left > max_left && min_left - 1 == max_left)) {
             return search(tested, min_right, negative ? 0 : dec).has_value() ||
                    search(tested, negative ? dec : 0, max_right).has_value();

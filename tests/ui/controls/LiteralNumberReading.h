@@ -9,7 +9,7 @@ namespace morvane::test {
 
 using DigitSearch = std::function<std::optional<qint64>(qint64 number, qint64 minimum, qint64 maximum)>;
 
-/** The reading of a number step by step, as written down by hand: what interpretNumber() has to agree with. */
+/** Reads a number step by step, in the plainest way. interpretNumber() must give the same results. */
 ui::NumberInterpretation literalReading(
     const QString& input, int& pos, const ui::NumberRules& rules, const DigitSearch& search);
 

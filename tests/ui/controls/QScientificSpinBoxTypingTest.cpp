@@ -15,7 +15,7 @@ namespace {
 using morvane::test::ScientificSpinBox;
 using Window = morvane::test::SpinBoxWindow<ScientificSpinBox>;
 
-/** The process under another locale, for the time of a test. */
+/** Sets another locale for the process during a test. */
 class UserLocale
 {
 public:
@@ -25,7 +25,8 @@ public:
     UserLocale& operator=(const UserLocale&) = delete;
 };
 
-/** A German C library, for the time of a test: the installed locale, or else one that is compiled for it. */
+/** Sets a German locale for the C library during a test: the installed one, or else one that is compiled for the test.
+ */
 class CLibraryLocale
 {
 public:

@@ -266,7 +266,7 @@ TEST(ScientificNumberText, integersAndLimitsBeyond64BitsCountAsZero)
     EXPECT_TRUE(mayGrowIntoRange("1E3", rulesFor(1e20, 2e20)));
 }
 
-/** What printf writes; ours keeps the sign of what is no number, which not every system's does. */
+/** The text of printf, with the sign of NaN added where the system leaves it out. */
 QString printed(double value, int digits)
 {
     char text[1077];

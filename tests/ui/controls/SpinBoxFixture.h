@@ -16,7 +16,7 @@
 
 namespace morvane::test {
 
-/** Opens up what the host does not see. */
+/** Makes protected members public for the tests. */
 template <typename Base>
 class Opened : public Base
 {
@@ -46,7 +46,7 @@ struct SpinBoxWindow
 
     QString shown() const { return spin.lineEdit()->text(); }
 
-    /** Types over what stands in the spin box. */
+    /** Replaces the text of the spin box by typing. */
     void type(const QString& text)
     {
         spin.selectAll();
@@ -55,7 +55,7 @@ struct SpinBoxWindow
 
     void commit() { QTest::keyClick(&spin, Qt::Key_Return); }
 
-    /** Turns the wheel over the spin box; 120 are a notch up. */
+    /** Turns the wheel over the spin box; 120 is one notch up. */
     void turnWheel(int angle) { turnWheel(QPoint(0, angle)); }
     void turnWheel(QPoint angle, QPoint pixels = QPoint(), bool inverted = false)
     {
@@ -65,7 +65,7 @@ struct SpinBoxWindow
         QApplication::sendEvent(&spin, &event);
     }
 
-    /** Clicks on the button up, or down, of the spin box. */
+    /** Clicks on the up or down button of the spin box. */
     void clickButton(QStyle::SubControl button)
     {
         QTest::mouseClick(&spin, Qt::LeftButton, Qt::NoModifier, spinBoxButton(spin, button).center());

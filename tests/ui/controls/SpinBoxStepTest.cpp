@@ -365,7 +365,7 @@ TYPED_TEST(SpinBoxSteps, exceptionOfASlotReachesTheCaller)
     const boost::signals2::connection connection =
         this->spin.signalIncrement.connect([] { throw std::runtime_error("no more"); });
     EXPECT_THROW(this->spin.stepBy(1), std::runtime_error);
-    // Not through QApplication: Qt delivers events without regard to exceptions, and leaks.
+    // Not through QApplication: Qt's event delivery is not exception-safe and leaks.
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
     EXPECT_THROW(this->spin.keyPressEvent(&press), std::runtime_error);
     EXPECT_EQ(this->spin.value(), 10);

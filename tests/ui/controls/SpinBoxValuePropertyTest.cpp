@@ -14,7 +14,7 @@ using morvane::test::IntegerSpinBox;
 using morvane::test::ScientificSpinBox;
 using morvane::test::SpinBoxWindow;
 
-/** The property that delegates and mappers store, in both spin boxes. */
+/** The property of both spin boxes that delegates and mappers store. */
 template <typename SpinBox>
 class SpinBoxValueProperty : public ::testing::Test
 {
@@ -35,7 +35,7 @@ protected:
 
 using SpinBoxes = ::testing::Types<ScientificSpinBox, IntegerSpinBox>;
 
-/** Texts in which every key was allowed where it stands, and some in which not. */
+/** Random texts: in some, each character may be typed at its position, in others not. */
 QString anyText(std::mt19937& random)
 {
     static const QString characters = QStringLiteral("00123456789,,.-+eE ");

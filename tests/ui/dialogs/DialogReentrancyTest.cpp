@@ -1,4 +1,4 @@
-// Dialogs within dialogs, and the end of the application while one is open: every dialog, in both of its kinds.
+// For each dialog, native and Qt: nested dialogs, and the end of the application while a dialog is open.
 #include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
@@ -25,7 +25,7 @@ namespace morvane::test {
 
 namespace {
 
-/** A dialog that a host runs; whether the user accepted. */
+/** Runs a dialog as a host does; whether the user accepted. */
 struct Dialog
 {
     const char* name;

@@ -1,4 +1,4 @@
-// Each setting of the facade, and what becomes of it on either side.
+// Each setting of the facade, and its effect on the native dialog and on the Qt dialog.
 #include "ExtendedFileDialogTest.h"
 
 namespace morvane::test {

@@ -25,7 +25,7 @@
 
 namespace morvane::test {
 
-/** A facade whose both sides can be looked at: Shell calls, or the Qt dialog below the parent. */
+/** A facade with access to both of its sides: the calls to the Shell, or the Qt dialog below the parent. */
 class ExtendedFileDialogTest : public ::testing::Test
 {
 protected:

@@ -141,7 +141,7 @@ TEST_F(ExtendedWinFileDialogConstruction, keepsTheParentsPointerOnlyWhileItLives
     EXPECT_EQ(dialog->parent(), nullptr);
 }
 
-/** Notes which objects are still there when the apartment is left. */
+/** Records how many objects still exist when the apartment is left. */
 class ShellWithWitness : public RecordingShell
 {
 public:
@@ -170,7 +170,7 @@ TEST_F(ExtendedWinFileDialogConstruction, leavesTheApartmentBeforeTheDialogIsRel
     EXPECT_EQ(shell.liveObjects(), 0);
 }
 
-/** Writes its name down when it goes. */
+/** Records its name when it is destroyed. */
 struct Leaving
 {
     Leaving(std::vector<std::string>& allGone, const char* ownName) : gone(allGone), name(ownName) {}
@@ -211,7 +211,7 @@ TEST_F(ExtendedWinFileDialogConstruction, leavesTheApartmentEvenWhenJoiningFaile
     EXPECT_THAT(callsOf([&] { dialog.reset(); }), ElementsAre("CoUninitialize()"));
 }
 
-/** Throws where it is asked for a dialog, before there is one or after. */
+/** Throws when it is asked for a dialog, either before or after it makes the dialog. */
 class ThrowingShell : public ShellWithWitness
 {
 public:

@@ -225,7 +225,7 @@ TEST_F(ExtendedWinFileDialogExec, givesTheAcceptedNamesWhereASaveDialogHasNoResu
     arguments.saving = true;
     const auto dialog = make(arguments);
     dialog->setFileMode(QFileDialog::ExistingFiles);
-    m_shell.failCalls("IFileDialog::GetResult"); // as the Shell does for several
+    m_shell.failCalls("IFileDialog::GetResult"); // as the Shell does when several files are chosen
     m_shell.script.results = QStringList(nativePath(QStringLiteral("c.dat")));
     const auto accept = [](RecordingDialog& user) {
         user.userTypesName(QStringLiteral("\"a b.dat\" \"c.dat\""));
@@ -243,7 +243,7 @@ TEST_F(ExtendedWinFileDialogExec, givesNothingAfterCloseThoughTheShellKeepsTheRe
     const auto dialog = openDialog();
     m_shell.script.results = QStringList(native(QStringLiteral("/a")));
     ASSERT_EQ(run(*dialog, [](RecordingDialog& user) { user.userAccepts(); }), QDialog::Accepted);
-    // The Shell goes on to accept, as one does that is closed while it asks about the choice.
+    // The Shell still accepts, as some Shells do when they are closed while they ask about the choice.
     EXPECT_EQ(run(*dialog,
                   [&](RecordingDialog& user) {
                       m_shell.failCalls("IFileDialog::Close", S_OK);

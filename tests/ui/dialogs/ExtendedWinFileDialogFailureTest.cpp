@@ -16,7 +16,7 @@ using ::testing::IsEmpty;
 class ExtendedWinFileDialogFailure : public ExtendedWinFileDialogTest
 {
 protected:
-    /** What a host sees of a scenario that touches every operation. */
+    /** What a host sees in a scenario that uses every operation. */
     struct Outcome
     {
         QDialog::DialogCode first = QDialog::Rejected;
@@ -192,7 +192,7 @@ TEST_F(ExtendedWinFileDialogFailure, theScenarioSucceedsWithoutFailures)
     EXPECT_EQ(outcome.type, 2);
 }
 
-/** What may differ from the scenario without failures, by the name of the call that fails. */
+/** Whether the result @p what may differ from the scenario without failures when @p call fails. */
 bool mayChange(const std::string& call, const char* what)
 {
     const std::vector<std::pair<const char*, std::vector<std::string>>> table = {
@@ -203,7 +203,7 @@ bool mayChange(const std::string& call, const char* what)
                         "IShellItemArray::GetCount", "IShellItemArray::GetItemAt", "IShellItem::GetDisplayName"}},
         {"single", {"CoInitializeEx", "CoCreateInstance", "IFileDialog::Show", "IFileDialog::GetResult",
                        "IShellItem::GetDisplayName"}},
-        // Events reach the host through the sink, which takes two look-ups and advising.
+        // Events reach the host through the sink, which needs two calls of QISearch and one of Advise.
         {"clicks", {"CoInitializeEx", "CoCreateInstance", "IFileDialog::Show", "QISearch", "IFileDialog::Advise"}},
         {"checked", {"CoInitializeEx", "CoCreateInstance", "IFileDialog::Show", "QISearch", "IFileDialog::Advise"}},
         {"option", {"CoInitializeEx", "CoCreateInstance", "IFileDialog::QueryInterface",

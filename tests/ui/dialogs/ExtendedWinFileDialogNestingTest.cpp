@@ -110,7 +110,7 @@ class ExtendedWinFileDialogNestingCallback : public ExtendedWinFileDialogTest,
                                              public ::testing::WithParamInterface<Callback>
 {
 protected:
-    // The host can hear of an event through an action, a property of its own, or the filter index.
+    // An event reaches the host through an action, a property of the host, or the filter index.
     Dialog makeDialog(const std::function<void()>& act)
     {
         m_shell.script.announcesOpening = false;
@@ -182,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(Callbacks, ExtendedWinFileDialogNestingCallback,
 TEST_F(ExtendedWinFileDialogNesting, closeWorksWhileTheDialogOpens)
 {
     const auto dialog = saveDialog("A (*.a);;B (*.b)");
-    dialog->currentFilterIndex()->setValue(7); // the Shell takes its last type and says so when it opens
+    dialog->currentFilterIndex()->setValue(7); // the Shell selects its last type and reports that when it opens
     dialog->currentFilterIndex()->signalPropertyChanged.connect([&] { dialog->close(); });
     EXPECT_EQ(run(*dialog, [](RecordingDialog&) { FAIL() << "the dialog is closed before the user sees it"; }),
         QDialog::Accepted);

@@ -21,8 +21,7 @@
 
 namespace morvane::test {
 
-/** A Shell that writes down what it is asked, a parent, a folder, and checks at the end that nothing was left behind.
- */
+/** A Shell that records its calls, a parent and a folder. Checks at the end that nothing has leaked. */
 class ExtendedWinFileDialogTest : public ::testing::Test
 {
 protected:
@@ -30,7 +29,7 @@ protected:
     using Play = std::function<void(RecordingDialog&)>;
     using Calls = std::vector<std::string>;
 
-    /** What a dialog is made of, but for the parent. */
+    /** The arguments of a dialog except for the parent. */
     struct Arguments
     {
         std::string caption = "Measurement";
@@ -49,7 +48,7 @@ protected:
     Dialog saveDialog(const std::string& filter = "");
     Dialog menuDialog();
 
-    /** Runs the dialog while @p play acts on it; cancels when that has not ended the run. */
+    /** Runs the dialog while @p play acts on it; cancels if the dialog is still open then. */
     QDialog::DialogCode run(ExtendedWinFileDialog& dialog, const Play& play = {});
     /** The calls that @p action makes. */
     Calls callsOf(const std::function<void()>& action);
@@ -65,7 +64,7 @@ protected:
     RecordingShell m_shell;
     RecordingHelpLauncher m_help;
     std::unique_ptr<QWidget> m_parent = std::make_unique<QWidget>();
-    /** Every apartment is left once more than it was joined, where joining failed. */
+    /** How often the apartment was joined minus how often it was left; it is also left after a failed join. */
     int m_expectedApartments = 0;
 
 private:

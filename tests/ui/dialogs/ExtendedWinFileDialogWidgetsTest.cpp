@@ -20,7 +20,7 @@ namespace {
 
 using ::testing::IsEmpty;
 
-/** The dialog as it works without a Shell of the operating system, used with keys and mouse. */
+/** The dialog without a Shell of the operating system, used with keys and mouse. */
 class ExtendedWinFileDialogWidgets : public ExtendedWinFileDialogTest
 {
 protected:

@@ -62,7 +62,7 @@ int FileDialogTest::run(QExtendedFileDialog& dialog, const Act& act)
 int FileDialogTest::run(QExtendedFileDialog& dialog, ModalScript& script, const Act& act)
 {
     bool acted = false;
-    // A timer of its own, so that the script's steps are left for the windows that the dialog opens.
+    // Uses a separate timer, so that the steps of the script remain for the windows that the dialog opens.
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
         if (acted || !dialog.isVisible()) {

@@ -43,8 +43,8 @@ protected:
     Dialog saveDialog(const std::string& filter = "");
 
     /**
-     * Runs the dialog and acts on it as soon as it is open; when it is still open after that, it is cancelled.
-     * Steps for message boxes can be added to @p script before.
+     * Runs the dialog and acts on it as soon as it is open; cancels it if it is still open after that. Steps for
+     * message boxes can be added to @p script before the call.
      */
     static int run(QExtendedFileDialog& dialog, const Act& act);
     static int run(QExtendedFileDialog& dialog, ModalScript& script, const Act& act);

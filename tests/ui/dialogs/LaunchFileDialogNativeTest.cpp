@@ -1,4 +1,4 @@
-// What the launcher hands to the native dialog, call by call.
+// What the launcher passes to the native dialog, call by call.
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingShell.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
@@ -35,7 +35,7 @@ protected:
         m_shell.clearCalls();
         const bool result =
             ui::LaunchFileDialog(files, filterIndex, "Caption", filters, selection, save, several, index);
-        for (std::string& file : files) { // they come in the platform's form
+        for (std::string& file : files) { // they are in the platform's form
             file = QDir::fromNativeSeparators(QString::fromStdString(file)).toStdString();
         }
         return result;
@@ -162,7 +162,7 @@ TEST_F(LaunchFileDialogNative, leavesTheOutputsAloneUnlessAccepted)
     m_shell.failCalls("CoInitializeEx");
     EXPECT_FALSE(launch({}, false, true, 0));
     m_shell.failNothing();
-    m_shell.coInitializeEx(nullptr, 0); // what the failed call has left one time too often
+    m_shell.coInitializeEx(nullptr, 0); // balances the failed call: the apartment was left but not joined
     m_shell.failCalls("CoCreateInstance");
     EXPECT_FALSE(launch({}, false, true, 0));
     EXPECT_THAT(files, ElementsAre("old", "older", "oldest"));

@@ -1,4 +1,4 @@
-// What is particular to the launcher with the dialog made of Qt's widgets.
+// Behaviour that the launcher has only with the dialog made of Qt's widgets.
 #include "LaunchFileDialogTest.h"
 
 namespace morvane::test {

@@ -41,7 +41,7 @@ protected:
     {
         ExtendedFileDialog::setUseNativeFileDialog(native);
         if (QGuiApplication::platformName() == QLatin1String("windows")) {
-            m_widgets.emplace(m_shell); // the system's own dialog takes no events of Qt
+            m_widgets.emplace(m_shell); // the system's own dialog does not receive Qt events
         }
         for (const char* const name : {"a.dat", "b.dat", "c.txt"}) {
             QFile file(path(name));
@@ -54,7 +54,7 @@ protected:
     QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
     std::string text(const char* name) const { return path(name).toStdString(); }
 
-    /** Launches while the user acts; cancels when that has not closed the dialog. */
+    /** Launches while the user acts; cancels if the dialog is still open then. */
     bool launch(const Texts& selection, bool save, bool several, int index, std::function<void(FileDialogDriver&)> act)
     {
         ModalScript user;
@@ -70,7 +70,7 @@ protected:
     Texts files{"old", "older", "oldest"};
     int filterIndex = -77;
     ui::WidgetShell m_shell{ui::WidgetShell::Appearance::AlwaysWidgets};
-    std::optional<ui::ShellOverride> m_widgets; ///< engaged where the Shell would not be made of widgets by itself
+    std::optional<ui::ShellOverride> m_widgets; ///< set where the default Shell is not made of widgets
 
 private:
     const bool m_before;

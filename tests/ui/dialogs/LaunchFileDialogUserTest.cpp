@@ -1,4 +1,4 @@
-// The launcher from a user's side, with either dialog.
+// The launcher as a user sees it, with both dialogs.
 #include "LaunchFileDialogTest.h"
 
 namespace morvane::test {

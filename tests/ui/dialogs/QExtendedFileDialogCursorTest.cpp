@@ -203,7 +203,7 @@ TEST_F(QExtendedFileDialogCursor, directorySetBeforeTheRunLeavesAnArrowOnceItIsR
 TEST_F(QExtendedFileDialogCursor, waitStandsAboveTheArrowFromTheBeginningWhileTheFolderIsRead)
 {
     const Dialog dialog = openDialog();
-    AtShow atShow(*dialog); // no event has told yet that the folder is read
+    AtShow atShow(*dialog); // no event has reported yet that the folder is read
 
     run(*dialog, [](FileDialogDriver&) {
         EXPECT_TRUE(waitUntil([] { return overrideCursors() == Cursors({Qt::ArrowCursor}); }));

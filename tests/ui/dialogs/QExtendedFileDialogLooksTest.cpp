@@ -1,4 +1,4 @@
-// What one sees of the dialog at its first opening.
+// The appearance of the dialog when it opens for the first time.
 #include "FileDialogTest.h"
 
 #include <QComboBox>

@@ -15,7 +15,7 @@ struct Name
 {
     const char* label;
     const char* utf8;
-    bool typable; ///< can be typed as it stands into the name field
+    bool typable; ///< can be typed unchanged into the name field
 
     QString text() const { return QString::fromUtf8(utf8); }
 };

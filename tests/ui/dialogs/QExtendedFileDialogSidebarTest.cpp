@@ -29,7 +29,7 @@ protected:
         return urls;
     }
 
-    // Fails while the sidebar still shows what it had.
+    // Fails while the sidebar still shows its earlier entries.
     template <typename Error>
     static QMetaObject::Connection failOnChange(const QExtendedFileDialog& dialog, const Error& error)
     {

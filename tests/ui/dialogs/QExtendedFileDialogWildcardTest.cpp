@@ -17,7 +17,7 @@ protected:
         makeFiles({QStringLiteral("a.txt"), QStringLiteral("b.dat"), QStringLiteral("c.dat"), QStringLiteral("d.csv")});
     }
 
-    // The types that the dialog shows after the pattern was entered under the type of that row.
+    // The types that the dialog shows after the type in @p row was selected and @p pattern was entered.
     QStringList typesAfter(const std::string& filter, int row, const QString& pattern)
     {
         const Dialog dialog = openDialog(filter);

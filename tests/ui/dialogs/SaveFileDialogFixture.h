@@ -38,7 +38,7 @@ inline void acceptName(QFileDialog& dialog, const QString& name)
     driver.click(QDialogButtonBox::Save);
 }
 
-/** The key goes to the button that has the focus, as for a person who looks at the box. */
+/** Sends the key to the button that has the focus, as a real keyboard does. */
 inline void pressKey(QMessageBox& box, Qt::Key key)
 {
     QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box, key);
@@ -64,8 +64,8 @@ protected:
     std::string directory() const { return m_directory.path().toStdString(); }
     std::string path(const std::string& name) const { return directory() + "/" + name; }
 
-    /** A name that the extension rule leaves alone is reported as the dialog has it: the native one in the platform's
-     * form. */
+    /** A name that the extension rule does not change has the form of the dialog: with the native dialog, the form of
+     * the platform. */
     std::string unchanged(const std::string& name) const
     {
         return GetParam() ? QDir::toNativeSeparators(QString::fromStdString(path(name))).toStdString() : path(name);
@@ -97,7 +97,7 @@ protected:
             m_parent.data(), "Save data", directory(), "report", writers, selected, "");
     }
 
-    // The steps of these tests are those of a person before Qt's widgets, on every platform.
+    // These tests operate Qt's widgets, so the native dialog is made of widgets on every platform.
     morvane::ui::WidgetShell m_shell{morvane::ui::WidgetShell::Appearance::AlwaysWidgets};
     morvane::ui::ShellOverride m_override{m_shell};
     QTemporaryDir m_directory;

@@ -14,7 +14,7 @@ class SaveFileDialogTest : public SaveFlow
 {
 };
 
-/** Of a flow that was just made and belongs to the parent. */
+/** @p flow is new and belongs to @p parent. */
 void cancelAndExpectTheDialog(SaveFileDialog& flow, const QWidget& parent, bool isNative)
 {
     EXPECT_EQ(parent.findChild<QExtendedFileDialog*>() != nullptr, !isNative);
@@ -209,7 +209,7 @@ TEST_P(SaveFileDialogTest, findsItsWriterWhateverBlanksTheTextsHave)
     const std::vector<std::string> writers = {
         "Text (*.txt)", " Long  table ( *.csv  *.tsv ) ", "Page\t(*.html)", "Page (*.html)", "Page (*.html)"};
     for (int index = 0; index < 5; ++index) {
-        const int expected = std::min(index, 3); // of equal ones the first
+        const int expected = std::min(index, 3); // of equal types, the first
         const auto flow = makeFlow(writers, index);
         EXPECT_EQ(flow->selectedWriter(), expected);
         ModalScript user;

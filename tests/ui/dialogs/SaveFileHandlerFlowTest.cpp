@@ -19,7 +19,7 @@ class SaveFileHandlerFlowTest : public SaveFlow
 struct Script
 {
     std::vector<std::string> calls;
-    std::string nameToCheck; ///< empty: the name given
+    std::string nameToCheck; ///< if empty, the given name
     std::string throwIn;
 };
 

@@ -1,4 +1,4 @@
-// The save flow on places that change or refuse.
+// The save flow at places that change or refuse access.
 #include "SaveFileDialogFixture.h"
 
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
@@ -14,7 +14,7 @@ class SaveFilePlacesTest : public SaveFlow
 {
 };
 
-/** Does something between the dialog and the look at the disk. */
+/** Runs an action after the dialog and before the flow checks the disk. */
 class ActingHandler : public morvane::DefaultSaveFileMessageHandler
 {
 public:

@@ -1,4 +1,4 @@
-// The shapes in which the three save-file classes are made, and the dialogs that they make.
+// The ways to construct the three save-file classes, and the dialogs that they make.
 #include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "support/QtPrinters.h"
@@ -55,7 +55,7 @@ class SaveFileShapes : public ::testing::Test
 protected:
     std::string directory() const { return m_folder.path().toStdString(); }
 
-    /** Accepts the dialog as it stands and returns the name. */
+    /** Accepts the dialog unchanged and returns the name. */
     std::string accept(Flow& flow)
     {
         ModalScript user;
@@ -140,7 +140,7 @@ TYPED_TEST(SaveFileShapes, noHandlerMeansTheDefaultOne)
     EXPECT_TRUE(flow.launch());
 }
 
-/** Shows the protected dialog. */
+/** Gives access to the protected dialog. */
 template <typename Flow>
 class Opened : public Flow
 {
