@@ -20,7 +20,7 @@ public:
     /** "r3c1" for row 3, column 1. */
     static QVariant position(int row, int column) { return QStringLiteral("r%1c%2").arg(row).arg(column); }
 
-    /** Which cells are selectable and enabled; all of them unless set. */
+    /** Sets which cells are selectable and enabled; by default, all are. */
     std::function<Qt::ItemFlags(int row, int column)> cellFlags;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override { return parent.isValid() ? 0 : m_rows; }

@@ -26,7 +26,7 @@ public:
     int copies = 0;
 };
 
-/** Remembers the keys whose press or release came through to it. */
+/** Records the keys whose press or release reaches it. */
 class KeyWidget : public QWidget
 {
 public:
@@ -232,8 +232,7 @@ protected:
         QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &listener, action);
     }
 
-    /** At once where the clipboard belongs to the process; where the system owns it, its listeners hear a moment later.
-     */
+    /** Waits, because listeners are not always told at once: if the system owns the clipboard, it tells them later. */
     template <typename Condition>
     static bool becomes(Condition condition)
     {
@@ -291,7 +290,7 @@ TEST_F(CopyShortcutClipboardTest, hearsOfEachCopyOnce)
     onClipboardChange([&changes] { ++changes; });
     handler->copyToClipboard();
     EXPECT_TRUE(becomes([&changes] { return changes > 0; }));
-    if (QGuiApplication::platformName() != QLatin1String("windows")) { // there may be news of earlier copies, too
+    if (QGuiApplication::platformName() != QLatin1String("windows")) { // there may be signals of earlier copies, too
         EXPECT_EQ(changes, 1);
     }
 }

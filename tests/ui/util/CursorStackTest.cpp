@@ -18,7 +18,7 @@ using Cursors = std::vector<Qt::CursorShape>;
 struct Removal
 {
     Cursors before;
-    Cursors after; ///< one wait cursor less
+    Cursors after; ///< without one wait cursor
 };
 
 void clear()
@@ -37,7 +37,7 @@ TEST(CursorStack, givesUpTheUppermostOfTheShapeAndKeepsWhatLiesAbove)
         {{Qt::WaitCursor, Qt::BusyCursor, Qt::ArrowCursor}, {Qt::BusyCursor, Qt::ArrowCursor}},
         {{Qt::WaitCursor, Qt::BusyCursor, Qt::WaitCursor, Qt::ArrowCursor},
             {Qt::WaitCursor, Qt::BusyCursor, Qt::ArrowCursor}},
-        // Somebody has taken off the wait cursor for their own.
+        // Other code has removed the wait cursor in place of its own cursor.
         {{Qt::BusyCursor}, {}},
         {{Qt::ArrowCursor, Qt::BusyCursor}, {Qt::ArrowCursor}},
     };

@@ -37,7 +37,7 @@ QStringList installedFontFiles()
     return files;
 }
 
-/** Families of the application fonts, one entry a font file. */
+/** Families of the application fonts, one entry for each font file. */
 QList<QStringList> loadedFonts()
 {
     QList<QStringList> fonts;
@@ -141,7 +141,7 @@ TEST_F(FontsTest, theWarningHoldsThePathAsItWasGiven)
 TEST_F(FontsTest, anEmptyPathIsWarnedOf)
 {
     addFontToDatabase("");
-    // Qt adds a complaint of its own.
+    // Qt logs a warning of its own, too.
     EXPECT_EQ(log.texts(QtWarningMsg).count(warningStart), 1);
 }
 
@@ -212,7 +212,7 @@ TEST_F(FontsTest, afterAFailureTheNextFilesAreTried)
 
 #ifdef Q_OS_UNIX
 
-/** Permissions bind, which they do not for the superuser. */
+/** Drops the rights of the superuser, for whom file permissions have no effect. */
 class UnprivilegedUser
 {
 public:

@@ -1,4 +1,4 @@
-// What builds for debugging say of a GUI class that is used in another thread.
+// The warnings of debug builds when a GUI class is used in another thread.
 #include "support/MessageLog.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/dialogs/LaunchFileDialog.h"
@@ -22,7 +22,7 @@ constexpr bool tells = false;
 constexpr bool tells = true;
 #endif
 
-/** The warnings while `action` runs in a thread of its own. */
+/** Runs `action` in a thread of its own and returns the warnings. */
 QStringList warningsInAnotherThread(const std::function<void()>& action)
 {
     const MessageLog log;

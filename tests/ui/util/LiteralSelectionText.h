@@ -7,7 +7,7 @@
 
 namespace morvane::test {
 
-/** The text by the plainest means: all selected indexes, sorted, each compared with the one before. */
+/** Makes the text in the plainest way: sorts all selected indexes and compares each with the one before. */
 inline QString textOfSortedIndexes(QModelIndexList indexes, const QAbstractItemModel& model)
 {
     std::sort(indexes.begin(), indexes.end());

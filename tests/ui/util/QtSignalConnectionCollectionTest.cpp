@@ -18,7 +18,7 @@ using ::testing::ElementsAre;
 static_assert(!std::is_copy_constructible_v<QtSignalConnectionCollection>);
 static_assert(!std::is_copy_assignable_v<QtSignalConnectionCollection>);
 
-/** An action that notes in a list when one of its connections is cut. */
+/** An action that adds an entry to a list when one of its connections is disconnected. */
 class NotingAction : public QAction
 {
 public:

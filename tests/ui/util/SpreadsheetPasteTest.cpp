@@ -12,8 +12,8 @@ using SpreadsheetPasteTest = morvane::test::TableCopyFixture;
 
 const QString filterName = QStringLiteral("Text - txt - csv (StarCalc)");
 
-/** What LibreOffice Calc makes of the text as tab-separated cells: semicolons between them, quotation marks around
- * those that are no numbers. */
+/** Lets LibreOffice Calc read the text as tab-separated cells. Returns the cells with semicolons between them, and with
+ * quotation marks around cells that are not numbers. */
 QString pastedIntoCalc(const QString& text)
 {
     const QTemporaryDir directory;

@@ -13,7 +13,7 @@ using morvane::test::clipboardText;
 using morvane::test::textOfSortedIndexes;
 using Selection = QItemSelectionModel;
 
-/** A user and a program that select at random; the same seed does the same. */
+/** Selects cells at random, as a user and as a program do; the same seed gives the same selections. */
 class RandomSelector
 {
 public:

@@ -16,7 +16,7 @@ namespace morvane::test {
 
 QString clipboardText();
 
-/** The text by the plainest means: all selected indexes, sorted, each compared with the one before. */
+/** Makes the text in the plainest way: sorts all selected indexes and compares each with the one before. */
 QString textOfSortedIndexes(const QTableView& view);
 
 /** A shown table view of five rows and four columns with a copy handler, and a user who works in it. */
@@ -36,7 +36,8 @@ protected:
         QItemSelectionModel::SelectionFlags command = QItemSelectionModel::Select);
     QModelIndex index(int row, int column) const { return view.model()->index(row, column); }
 
-    /** Presses the copy shortcut in the view. Returns what is on the clipboard then, "(untouched)" if nothing came. */
+    /** Presses the copy shortcut in the view. Returns the text on the clipboard, "(untouched)" if nothing was copied.
+     */
     QString copied();
 
     CellModel model;

@@ -10,7 +10,7 @@
 
 namespace {
 
-/** A model whose cells take time, and which notes the cursor that shows while each is being read. */
+/** A model whose cells take time to read. It records the cursor that is shown while each cell is read. */
 class SlowTable
 {
 public:
@@ -106,7 +106,7 @@ TEST(TableCopyWaitTest, theWaitIsOverWhenTheClipboardChanges)
     QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &listener,
         [&] { ++(QGuiApplication::overrideCursor() ? changesWithCursor : changesWithoutCursor); });
     table.copy();
-    // Where the system owns the clipboard, its listeners hear of it a moment later, and of what was copied before.
+    // If the system owns the clipboard, its listeners are told a moment later, also about earlier copies.
     EXPECT_TRUE(QTest::qWaitFor([&] { return changesWithoutCursor > 0; }));
     EXPECT_EQ(changesWithCursor, 0);
 }

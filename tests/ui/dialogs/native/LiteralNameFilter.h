@@ -20,7 +20,8 @@ inline bool operator==(const FileTypeText& a, const FileTypeText& b)
 
 namespace morvane::test {
 
-// The expressions that define what a name filter means. They recurse once a character: keep the texts short.
+// The expressions that define what a name filter means. They recurse once for each character, so the texts must be
+// short.
 
 inline ui::FileTypeText splitByExpression(const std::string& filter)
 {
@@ -41,7 +42,7 @@ inline std::string extensionByExpression(const std::string& filter)
     return std::regex_match(filter, match, expression) ? match[1].str() : std::string();
 }
 
-/** Splitting at `;;` character by character. */
+/** Splits at `;;`, character by character. */
 inline QStringList splitFiltersLiterally(const QString& filters)
 {
     QStringList pieces;

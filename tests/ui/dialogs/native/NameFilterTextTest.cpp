@@ -111,7 +111,7 @@ TEST(NameFilterText, agreesWithTheExpressionsOnRandomTexts)
     for (int i = 0; i < 20000 && !testing::Test::HasFailure(); ++i) {
         std::string text;
         for (int piece = length(random); piece > 0; --piece) {
-            // Line breaks and zeros are rare, or else nothing would ever match.
+            // Line breaks and zeros are rare, because hardly any text with them matches.
             const std::size_t chosen = pick(random);
             text += (chosen == 8 || chosen == 9) && i % 8 != 0 ? "x" : pieces[chosen];
         }

@@ -10,7 +10,7 @@
 
 namespace morvane::test {
 
-/** The rule for the extension of a saved file in the words that define it. */
+/** The rule for the extension of a saved file, written step by step as it is defined. */
 inline std::string applyExtensionByExpressions(const std::string& filename, const std::string& nameFilter)
 {
     const std::size_t dot = nameFilter.rfind('.');

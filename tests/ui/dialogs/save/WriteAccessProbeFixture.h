@@ -36,7 +36,7 @@ protected:
         return path(name);
     }
 
-    /** What the probe says, having left the directory exactly as it was. */
+    /** Expects that the probe gives this answer and leaves the directory unchanged. */
     void expectAnswer(bool expected, const fs::path& target)
     {
         const DiskState before(m_directory.path());

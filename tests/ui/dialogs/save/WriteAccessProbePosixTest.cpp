@@ -1,4 +1,4 @@
-// What only POSIX systems have: links, permissions of users, pipes, limits.
+// Features of POSIX systems only: links, permissions of users, pipes, limits.
 #include "WriteAccessProbeFixture.h"
 
 #include <fcntl.h>
@@ -21,7 +21,7 @@ class WriteAccessProbePosix : public WriteAccessProbeTest
 {
 };
 
-/** Runs @p question in a child process, prepared there by @p prepare, and returns its answer. */
+/** Runs @p prepare and then @p question in a child process, and returns the answer of @p question. */
 bool askInChild(const std::function<void()>& prepare, const std::function<bool()>& question)
 {
     const pid_t child = fork();
@@ -159,7 +159,7 @@ TEST_F(WriteAccessProbePosix, answersWithoutDescriptorsLeft)
 {
     const fs::path file = makeFile("file");
     const auto useUp = [&] {
-        // The sanitizer's look at a type for the first time takes descriptors of its own.
+        // When the sanitizer checks a type for the first time, it needs descriptors.
         checkWriteAccess(path("none/new"));
         const rlimit limit{3, 3};
         if (setrlimit(RLIMIT_NOFILE, &limit) != 0) {

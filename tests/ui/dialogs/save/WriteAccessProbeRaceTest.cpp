@@ -1,4 +1,4 @@
-// The probe while another thread makes files and renames them onto the name that is probed.
+// The probe while another thread makes files and renames them to the name that is probed.
 #include "WriteAccessProbeFixture.h"
 
 #include <boost/filesystem/fstream.hpp>
@@ -12,7 +12,7 @@ using namespace morvane::test;
 
 namespace {
 
-/** docs/quality.md has the figures of 20,000. */
+/** docs/quality.md has the results of 20,000 rounds. */
 int numberOfRounds()
 {
     const int wanted = qEnvironmentVariableIntValue("MORVANE_RACE_ROUNDS");
@@ -21,7 +21,7 @@ int numberOfRounds()
 
 const int rounds = numberOfRounds();
 
-/** Probes the name without a pause until the rival is done. */
+/** Probes the name without a pause until the other thread is done. */
 class WriteAccessProbeRace : public WriteAccessProbeTest
 {
 protected:
@@ -52,16 +52,16 @@ protected:
         m_isPaused = false;
     }
 
-    /** What a careful program does when it saves: it writes a file of another name and gives it the right one. */
+    /** Saves as a careful program does: writes a file with another name and then renames it. */
     void playRound(int round)
     {
         fs::ofstream(m_other, std::ios::binary) << round;
         waitForProbes(1);
         boost::system::error_code error;
         for (fs::rename(m_other, m_name, error); error; fs::rename(m_other, m_name, error)) {
-            ++m_refusedRenames; // the program knows, and still has its file
+            ++m_refusedRenames; // the program sees the error and still has its file
         }
-        waitForProbes(2); // one may be under way
+        waitForProbes(2); // the first of the two may have begun before the rename
         m_lost += holds(m_name, round) ? 0 : 1;
         for (fs::remove(m_name, error); error; fs::remove(m_name, error)) {
         }
@@ -102,7 +102,7 @@ protected:
     std::atomic<bool> m_isPaused{false};
     std::atomic<int> m_probes{0};
     int m_refused = 0;
-    // Of the rival until it is joined.
+    // Used only by the other thread until it is joined.
     int m_lost = 0;
     int m_leftBehind = 0;
     int m_refusedRenames = 0;

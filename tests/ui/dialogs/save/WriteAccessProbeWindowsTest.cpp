@@ -1,4 +1,4 @@
-// What only Windows has: files that are locked by being open, attributes, names that are not told apart by case.
+// Features of Windows only: open files that are locked, attributes, names without distinction of case.
 #include "windows/ExclusiveFile.h"
 
 #include "WriteAccessProbeFixture.h"

@@ -1,4 +1,4 @@
-// Compiled for Windows against the SDK's declarations and elsewhere against ours: what holds for one holds for both.
+// Compiled for Windows with the SDK's declarations and elsewhere with ours, so that both pass the same checks.
 #include "ui/qt/dialogs/shell/ComPtr.h"
 #include "ui/qt/dialogs/shell/Shell.h"
 
@@ -17,7 +17,7 @@ static_assert(sizeof(HWND) == sizeof(void*));
 static_assert(sizeof(COMDLG_FILTERSPEC) == 2 * sizeof(void*));
 static_assert(std::is_pointer_v<HWND>);
 
-// Interfaces are one pointer to their slots, so that they have no data and no second base.
+// An interface consists of one pointer to its slots, so it has no data and no second base.
 static_assert(sizeof(IUnknown) == sizeof(void*) && std::is_abstract_v<IUnknown>);
 static_assert(sizeof(IFileOpenDialog) == sizeof(void*) && std::is_base_of_v<IFileDialog, IFileOpenDialog>);
 static_assert(sizeof(IFileSaveDialog) == sizeof(void*) && std::is_base_of_v<IFileDialog, IFileSaveDialog>);
@@ -48,7 +48,7 @@ static_assert(static_cast<unsigned>(E_INVALIDARG) == 0x80070057u);
 static_assert(static_cast<unsigned>(RPC_E_CHANGED_MODE) == 0x80010106u);
 static_assert(ERROR_CANCELLED == 1223 && ERROR_FILE_NOT_FOUND == 2 && ERROR_BUSY == 170);
 
-// The slots in their order: an implementation that overrides all of them with these signatures compiles in both worlds.
+// The slots in their order. An implementation that overrides all of them with these signatures compiles on both sides.
 struct Sink final : IFileDialogEvents, IFileDialogControlEvents
 {
     virtual ~Sink() = default;

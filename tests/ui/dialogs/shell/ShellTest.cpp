@@ -24,7 +24,9 @@ class Counted final : public StackObject<IUnknown>
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
-        *object = riid == IID_IUnknown ? this : reinterpret_cast<Counted*>(0x10); // rubbish beside the failure
+        *object = riid == IID_IUnknown
+                      ? this
+                      : reinterpret_cast<Counted*>(0x10); // an invalid pointer together with the failure
         if (riid != IID_IUnknown) {
             return E_NOINTERFACE;
         }
@@ -73,7 +75,7 @@ TEST(ShellComPtr, addsAReferenceOnlyWhenItShares)
         EXPECT_EQ(object.references, 2u);
         const auto moved = std::move(shared);
         EXPECT_EQ(object.references, 2u);
-        EXPECT_FALSE(shared); // NOLINT: what is left behind is the point
+        EXPECT_FALSE(shared); // NOLINT: the test checks the moved-from pointer
     }
     EXPECT_EQ(object.references, 1u);
 }

@@ -73,7 +73,7 @@ TEST_F(WidgetShellAcceptMenu, givesTheButtonTheTextOfItsFirstItemThatCanBeChosen
     show([&](QFileDialog& window) {
         EXPECT_EQ(textOf(window), QStringLiteral("Open as copy"));
         FileDialogDriver::whenActive(window).typeName(
-            QStringLiteral("zzz.txt")); // Qt gives the button its text anew; nothing is suggested
+            QStringLiteral("zzz.txt")); // Qt sets the text of the button again; there are no suggestions
         FileDialogDriver::whenActive(window).clickFile(QStringLiteral("inner"));
         EXPECT_EQ(textOf(window), QStringLiteral("Open as copy"));
         EXPECT_EQ(customize->SetControlItemState(0, 1, CDCS_VISIBLE), S_OK);
@@ -236,7 +236,7 @@ TEST_F(WidgetShellAcceptMenu, showsEachItemInItsState)
             ASSERT_EQ(actions.size(), 2);
             EXPECT_EQ(actions.at(1)->text(), QStringLiteral("Open read-only"));
             EXPECT_EQ(actions.at(1)->isVisible(), (state & CDCS_VISIBLE) != 0) << state;
-            // Qt takes what cannot be seen for disabled.
+            // For Qt, an invisible action is also disabled.
             EXPECT_EQ(actions.at(1)->isEnabled(), state == CDCS_ENABLEDVISIBLE) << state;
         }
         const auto kept = [&window] {
@@ -303,7 +303,8 @@ TEST_F(WidgetShellAcceptMenuLook, hasALineTowardsTheText)
 
 TEST_F(WidgetShellAcceptMenuLook, hasAnArrowInTheColourOfText)
 {
-    const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("fusion"))); // not every style asks for it
+    const std::unique_ptr<QStyle> style(
+        QStyleFactory::create(QStringLiteral("fusion"))); // not every style uses this colour
     show([&style](QFileDialog& window) {
         arrow(window).setStyle(style.get());
         const Look ordinary(arrow(window));

@@ -1,4 +1,4 @@
-// What the user may choose under which options, and what of it can be read before it is chosen.
+// What the user may choose with which options, and what can be read of the choice before the user accepts.
 #include "WidgetShellRunTest.h"
 
 #include <QComboBox>
@@ -22,7 +22,7 @@ struct Choice
     const char* typed;
     FILEOPENDIALOGOPTIONS set;
     FILEOPENDIALOGOPTIONS clear;
-    const char* message; ///< empty: it is accepted
+    const char* message; ///< empty if the choice is accepted
 };
 
 TEST_F(WidgetShellChoice, mustExistAsFarAsTheOptionsSay)

@@ -1,4 +1,4 @@
-// The dialog of a desktop in place of Qt's widgets, played through the interface by which Qt talks to the desktop.
+// The dialog of a desktop in place of Qt's widgets. The test implements Qt's platform interface to the desktop.
 #include "WidgetShellRunTest.h"
 
 #include <QAbstractButton>
@@ -16,7 +16,7 @@ namespace {
 
 using namespace morvane::ui;
 
-/** What the desktop shows, and its user. */
+/** The dialog that the desktop shows, and its user. */
 class DesktopDialog : public QPlatformFileDialogHelper
 {
 public:

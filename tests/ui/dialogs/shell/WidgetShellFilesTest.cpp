@@ -1,4 +1,4 @@
-// Which files and folders a run of the widgets accepts.
+// The files and folders that a dialog of widgets accepts.
 #include "WidgetShellRunTest.h"
 
 #include <QLineEdit>
@@ -161,7 +161,7 @@ TEST_F(WidgetShellFiles, closingTheDialogWithTheFolderThatIsTypedAsksNothingMore
 {
     const HRESULT hr = show([&](QFileDialog& window) {
         const FileDialogDriver driver = FileDialogDriver::whenActive(window);
-        window.setDirectory(folder.filePath(QStringLiteral("inner"))); // told only when the loop runs again
+        window.setDirectory(folder.filePath(QStringLiteral("inner"))); // the sink is told only when the loop runs again
         sink.on["OnFolderChange"] = [&] { return dialog->Close(E_ABORT); };
         driver.typeName(QStringLiteral("missing.txt"));
         driver.pressAccept();

@@ -182,7 +182,7 @@ TEST_F(WidgetShellHost, hasNoTypesWhileItPicksFolders)
 TEST_F(WidgetShellHost, picksNoFolderThatIsAFileOrMissing)
 {
     change(FOS_PICKFOLDERS, FOS_FILEMUSTEXIST);
-    dialog->SetDefaultExtension(text("txt").c_str()); // not for folders
+    dialog->SetDefaultExtension(text("txt").c_str()); // has no effect on folders
     for (const char* const typed : {"a.txt", "missing"}) {
         dialog->SetFileName(text(typed).c_str());
         const HRESULT hr = show([&](QFileDialog& window) {
@@ -233,7 +233,7 @@ TEST_F(WidgetShellHost, opensAFolderAmongTheTypedNames)
     EXPECT_EQ(sink.count("OnFileOk"), 0);
 }
 
-/** The places of the custom controls in their row, each of which must be there once. */
+/** The places of the custom controls in their row; no place may occur twice. */
 std::set<int> placesInRow(QFileDialog& window)
 {
     auto* const row = window.findChild<QWidget*>(QStringLiteral("customControls"));

@@ -47,7 +47,7 @@ TEST_F(WidgetShellItemArrayAttributes, ofAnItemTellWhatItIs)
     constexpr SFGAOF folderBits = SFGAO_FOLDER | SFGAO_FILESYSANCESTOR;
     std::vector<std::pair<const char*, SFGAOF>> table = {
         {"a.txt", SFGAO_STREAM}, {"inner", folderBits}, {".hidden", SFGAO_STREAM | SFGAO_HIDDEN}};
-#ifndef Q_OS_WIN // where Qt writes files that only Explorer takes for links
+#ifndef Q_OS_WIN // on Windows, Qt makes shortcuts, which are links only for Explorer
     table.emplace_back("link", SFGAO_STREAM | SFGAO_LINK);
     table.emplace_back("door", folderBits | SFGAO_LINK);
 #endif

@@ -61,7 +61,7 @@ TEST_F(WidgetShellItem, isAFileAndNothingWithinTheProgram)
     EXPECT_TRUE(FAILED(make(QStringLiteral(":/qt-project.org"), item)));
 }
 
-#ifndef Q_OS_WIN // where a backslash stands between folders only
+#ifndef Q_OS_WIN // on Windows, a backslash is always a separator
 TEST_F(WidgetShellItem, takesABackslashForASeparatorUnlessThereIsSuchAFile)
 {
     const QString name = folder.filePath(QStringLiteral("sub\\file"));
@@ -149,7 +149,7 @@ TEST(WidgetShellItemApartment, refusesAnotherKindOfApartment)
     ASSERT_EQ(shell.coInitializeEx(nullptr, COINIT_APARTMENTTHREADED), S_OK);
     EXPECT_EQ(shell.coInitializeEx(nullptr, COINIT_MULTITHREADED), RPC_E_CHANGED_MODE);
     shell.coUninitialize();
-    shell.coUninitialize(); // once too often
+    shell.coUninitialize(); // one call too many
     EXPECT_EQ(shell.coInitializeEx(nullptr, COINIT_MULTITHREADED), S_OK);
     shell.coUninitialize();
 }

@@ -1,4 +1,4 @@
-// What one sees of the dialog when it opens.
+// The appearance of the dialog when it opens.
 #include "WidgetShellRunTest.h"
 
 #include "support/FileDialogDriver.h"
@@ -48,7 +48,7 @@ TEST_F(WidgetShellLooks, placesAndColumnsAreWholeWithControlsOfTheHost)
     ASSERT_EQ(customize->AddPushButton(2, text("Button").c_str()), S_OK);
     ASSERT_EQ(customize->AddCheckButton(3, text("Check box").c_str(), TRUE), S_OK);
     show(expectWhole);
-    show(expectWhole); // with what Qt has stored after the first time
+    show(expectWhole); // with the widths that Qt has stored after the first run
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// The owner of the dialog, and what ends a run from outside.
+// The owner of the dialog, and outside events that end a run.
 #include "WidgetShellRunTest.h"
 
 #include <QComboBox>
@@ -79,7 +79,7 @@ TEST_F(WidgetShellOwnerRun, anOwnerThatGoesDuringACallbackEndsTheRun)
     }
 }
 
-/** An owner who is destroyed in a callback that the user brings about in the open dialog. */
+/** An owner that is destroyed in a callback, which an action of the user in the open dialog causes. */
 class WidgetShellOwner : public WidgetShellRun
 {
 protected:
@@ -133,7 +133,7 @@ TEST_F(WidgetShellOwner, endsTheRunWhenTheFolderChangesAsTheUserAccepts)
     dialog->SetFileName(text("a.txt").c_str());
     const auto accept = [this](QFileDialog& window) {
         const FileDialogDriver driver = FileDialogDriver::whenActive(window);
-        window.setDirectory(folder.filePath(QStringLiteral("inner"))); // told as the button is pressed
+        window.setDirectory(folder.filePath(QStringLiteral("inner"))); // the sink is told when the button is pressed
         driver.pressAccept();
     };
     EXPECT_EQ(runAndLose("OnFolderChange", accept), cancelled);

@@ -1,4 +1,4 @@
-// What the event sinks of a host decide together, and what becomes of a choice after that.
+// The common decision of all event sinks of a host, and its effect on a choice.
 #include "WidgetShellRunTest.h"
 
 #include <QPushButton>
@@ -26,7 +26,7 @@ protected:
         EXPECT_EQ(second.references, 1u);
         WidgetShellRun::TearDown();
     }
-    /** Presses accept, refuses to replace when that is asked, and cancels what is left. */
+    /** Presses accept, rejects the overwrite question if it is asked, and cancels the dialog if it is still open. */
     HRESULT acceptAndRefuse(bool& asked)
     {
         asked = false;
@@ -175,7 +175,7 @@ TEST_F(WidgetShellSinks, decideAboutOneChoiceAtATime)
         int decisions = 0;
         show([&](QFileDialog& window) {
             sink.on["OnFileOk"] = [&] {
-                if (++decisions == 1) { // as in an event loop that the sink runs
+                if (++decisions == 1) { // as if the sink ran an event loop
                     FileDialogDriver::whenActive(window).typeName(QStringLiteral("other.txt"));
                     FileDialogDriver::whenActive(window).pressAccept();
                 }

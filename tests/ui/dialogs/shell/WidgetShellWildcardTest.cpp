@@ -1,4 +1,4 @@
-// A wildcard in the name field filters what is listed, and is never a choice.
+// A wildcard in the name field filters the listed files, and is never accepted as a name.
 #include "WidgetShellRunTest.h"
 
 #include <QComboBox>
@@ -170,7 +170,7 @@ TEST_F(WidgetShellWildcard, isWhatTheUserTypesAndNotANameThatTheHostSetsOrThatIs
     EXPECT_EQ(results(), QStringList(QStringLiteral("report.png *.jpg")));
     QFile file(folder.filePath(QStringLiteral("x*y.txt")));
     if (!file.open(QIODevice::WriteOnly)) {
-        return; // not a name on every platform
+        return; // not a valid name on every platform
     }
     dialog->SetFileName(text("").c_str());
     EXPECT_EQ(show([](QFileDialog& window) {
