@@ -36,7 +36,7 @@ bool boxCompletesWithWhatItContains()
     return completer.split("::").last() == "ctkCompleter" && box.completer()->completionCount() == 2;
 }
 
-/** Looks up a narrow path on the disk. Names are wide on Windows; a host needs no preparations for that. */
+/** Looks up a narrow path on the disk. Windows has wide names; a host needs no preparations for that. */
 bool findsWhatHasANameBeyondAscii()
 {
     const QTemporaryDir temporary;

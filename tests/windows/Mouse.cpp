@@ -13,7 +13,7 @@ LONG normalized(LONG position, int metric)
     return static_cast<LONG>((static_cast<LONGLONG>(position) * 65536 + extent / 2) / extent);
 }
 
-/** Contains its position, so that no other mouse movement can change it. */
+/** The event contains its position, so that a mouse movement before it has no effect. */
 INPUT button(POINT position, DWORD flags)
 {
     INPUT input{};

@@ -4,7 +4,8 @@
 
 #include <array>
 
-/** Has the name of Qxt's label and the functions of it that the program uses, but another layout and other virtuals. */
+/** Has the name of Qxt's label and its functions that the program uses, but another layout and other virtual functions.
+ */
 class QxtLabel : public QFrame
 {
     Q_OBJECT

@@ -24,9 +24,7 @@ class Counted final : public StackObject<IUnknown>
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override
     {
-        *object = riid == IID_IUnknown
-                      ? this
-                      : reinterpret_cast<Counted*>(0x10); // an invalid pointer together with the failure
+        *object = riid == IID_IUnknown ? this : reinterpret_cast<Counted*>(0x10); // invalid; the call fails
         if (riid != IID_IUnknown) {
             return E_NOINTERFACE;
         }

@@ -303,8 +303,7 @@ TEST_F(WidgetShellAcceptMenuLook, hasALineTowardsTheText)
 
 TEST_F(WidgetShellAcceptMenuLook, hasAnArrowInTheColourOfText)
 {
-    const std::unique_ptr<QStyle> style(
-        QStyleFactory::create(QStringLiteral("fusion"))); // not every style uses this colour
+    const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("fusion"))); // not every style uses it
     show([&style](QFileDialog& window) {
         arrow(window).setStyle(style.get());
         const Look ordinary(arrow(window));
