@@ -25,7 +25,7 @@ public:
     void selectFile(const QString& path) override
     {
         m_driver.clickFile(QFileInfo(path).fileName());
-        QCoreApplication::processEvents(); // what a user sees before going on
+        QCoreApplication::processEvents(); // a user sees the result before the next action
     }
     void clickButton(DWORD, const QString& label) override { m_driver.clickControl(label); }
     void toggleCheck(DWORD, const QString& label) override { m_driver.toggleControl(label); }

@@ -503,7 +503,7 @@ TEST_F(FilterComboHandsField, returnEnterTabAndLosingTheFocusFinishAndTheFieldSt
     finish("ca", "Car", [this] { press({Key::Shift}, Key::Tab); });
     EXPECT_TRUE(before.hasFocus());
     finish("do", "Dog", [this] {
-        click(after); // Qt closes the suggestions with this one
+        click(after); // this click only closes the suggestions
         click(after);
     });
     EXPECT_TRUE(after.hasFocus());

@@ -50,7 +50,7 @@ protected:
     void press(Key key);
     void press(std::initializer_list<Key> held, Key key);
     void press(std::initializer_list<Key> held, char character);
-    /** Types ASCII characters, which every keyboard has. */
+    /** Types text of ASCII characters. */
     void type(const QString& text);
 
     /** In the middle of the widget. */

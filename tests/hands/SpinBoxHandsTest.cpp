@@ -656,7 +656,7 @@ protected:
         }
         narrow.setRange(0, 10);
         wide.setRange(0, 100);
-        QString other = QStringLiteral("0.25"); // clears what an earlier test has left in the cache
+        QString other = QStringLiteral("0.25"); // replaces what is remembered from an earlier test
         int pos = 0;
         wide.validate(other, pos);
         for (QScientificSpinBox* const field : {&narrow, &wide}) {

@@ -121,7 +121,7 @@ void FileDialogDriver::enterName(const QString& text) const
 void FileDialogDriver::enterFolder(const QString& folder) const
 {
     enterName(folder);
-    QCoreApplication::processEvents(); // what a user sees before going on
+    QCoreApplication::processEvents(); // a user sees the result before the next action
 }
 
 QAbstractButton* FileDialogDriver::button(QDialogButtonBox::StandardButton which) const
@@ -307,7 +307,7 @@ void FileDialogDriver::pickTypeWithKeys(int row) const
     }
     QTest::keyClick(&list, Qt::Key_Return);
     EXPECT_TRUE(waitUntil([&] { return !list.isVisible(); }));
-    QCoreApplication::processEvents(); // what a user sees before going on
+    QCoreApplication::processEvents(); // a user sees the result before the next action
 }
 
 void FileDialogDriver::pickTypeWithMouse(int row) const
@@ -321,7 +321,7 @@ void FileDialogDriver::pickTypeWithMouse(int row) const
     moveMouse(*list.viewport(), place);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
     EXPECT_TRUE(waitUntil([&] { return !list.isVisible(); }));
-    QCoreApplication::processEvents(); // what a user sees before going on
+    QCoreApplication::processEvents(); // a user sees the result before the next action
 }
 
 void FileDialogDriver::stepToType(int row) const
@@ -330,7 +330,7 @@ void FileDialogDriver::stepToType(int row) const
     ASSERT_LT(row, combo.count());
     while (combo.currentIndex() != row) {
         QTest::keyClick(&combo, combo.currentIndex() < row ? Qt::Key_Down : Qt::Key_Up);
-        QCoreApplication::processEvents(); // what a user sees before going on
+        QCoreApplication::processEvents(); // a user sees the result before the next action
     }
 }
 

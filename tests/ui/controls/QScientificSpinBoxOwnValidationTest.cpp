@@ -14,7 +14,7 @@ QValidator::State stateOf(const QScientificSpinBox& spin, QString text)
     return spin.validate(text, pos);
 }
 
-/** What the spin boxes share is a refusal of this number, which every one of them would take by itself. */
+/** The spin boxes share the refusal of this number, which is remembered. By its own range, the wide one accepts it. */
 class QScientificSpinBoxOwnValidationShared : public ::testing::Test
 {
 protected:
@@ -109,7 +109,7 @@ TEST(QScientificSpinBoxOwnValidation, givesTheSameAnswersAsTheSharedOneGivesForT
         QString second = text;
         int firstPos = 2;
         int secondPos = 2;
-        stateOf(shared, "0.375"); // forgets the text before
+        stateOf(shared, "0.375"); // replaces the remembered text
         const QValidator::State state = shared.validate(first, firstPos);
         EXPECT_EQ(own.validate(second, secondPos), state) << text;
         EXPECT_EQ(secondPos, firstPos) << text;

@@ -107,7 +107,7 @@ TEST_P(DialogReentrancyOfEach, endsAsCancelledWhenTheApplicationQuits)
     QApplication::exec();
     EXPECT_FALSE(accepted);
     EXPECT_TRUE(m_user.finished());
-    delete m_parent; // what it owns stays until then
+    delete m_parent; // the dialogs that it owns exist until here
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 

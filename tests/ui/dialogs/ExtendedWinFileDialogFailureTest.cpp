@@ -203,7 +203,7 @@ bool mayChange(const std::string& call, const char* what)
                         "IShellItemArray::GetCount", "IShellItemArray::GetItemAt", "IShellItem::GetDisplayName"}},
         {"single", {"CoInitializeEx", "CoCreateInstance", "IFileDialog::Show", "IFileDialog::GetResult",
                        "IShellItem::GetDisplayName"}},
-        // Events reach the host through the sink, which needs two calls of QISearch and one of Advise.
+        // Events reach the host through the sink, which needs QISearch and Advise.
         {"clicks", {"CoInitializeEx", "CoCreateInstance", "IFileDialog::Show", "QISearch", "IFileDialog::Advise"}},
         {"checked", {"CoInitializeEx", "CoCreateInstance", "IFileDialog::Show", "QISearch", "IFileDialog::Advise"}},
         {"option", {"CoInitializeEx", "CoCreateInstance", "IFileDialog::QueryInterface",

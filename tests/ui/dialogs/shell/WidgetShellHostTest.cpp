@@ -1,4 +1,4 @@
-// What a host does with a dialog of widgets out of the ordinary: before, while and from where it runs.
+// Unusual actions of a host on a dialog of widgets: before it runs, while it runs, and the places where it is run.
 #include "WidgetShellRunTest.h"
 
 #include <QComboBox>
