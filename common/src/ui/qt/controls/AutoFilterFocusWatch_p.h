@@ -24,8 +24,7 @@ public:
     /** Whether the focus usually comes back after it was lost for this reason. */
     static bool comesBackAfter(Qt::FocusReason reason);
 
-    /** Calls `onLeft` once, when another widget of the field's window gets the focus. `onLeft` may destroy this object.
-     */
+    /** Calls `onLeft` once, when another widget of the window gets the focus. `onLeft` may destroy this object. */
     void start(std::function<void()> onLeft);
     void stop();
 

@@ -68,8 +68,7 @@ public:
         }
     }
 
-    /** The matching number closest to `bound` in this direction, or `bound` itself. None if that number has more than
-     * 19 digits. */
+    /** The matching number closest to `bound` in this direction, or `bound` itself. None if it would need 20 digits. */
     std::optional<quint64> nearest(quint64 bound, Direction direction) const;
 
 private:

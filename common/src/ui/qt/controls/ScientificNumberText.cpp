@@ -168,8 +168,7 @@ bool isStartOfNumber(const QString& text, const NumberRules& rules)
     }
 }
 
-/** Whether blanks and group separators are at allowed places. Removes a second point if it was typed before the first.
- */
+/** Whether blanks and group separators are at allowed places. Removes one of two points if one was just typed. */
 bool settleSeparators(QString& text, int pos, const NumberRules& rules)
 {
     if (text.at(0) == rules.groupSeparator) {

@@ -32,8 +32,7 @@ struct SelectionBlock
 class SelectionBands
 {
 public:
-    /** @param selection valid ranges only, as from QItemSelectionModel::selection(); ranges of other models are ignored
-     */
+    /** @param selection must have valid ranges only; ranges of other models than @p model are ignored */
     SelectionBands(const QItemSelection& selection, const QAbstractItemModel& model);
     SelectionBands(const SelectionBands&) = delete;
     SelectionBands& operator=(const SelectionBands&) = delete;

@@ -50,8 +50,7 @@ struct SaveFileFlow
     static bool launch(std::shared_ptr<SaveFileFlow> flow);
     /** The save-file object is destroyed. A flow that is running asks nothing more and ends. */
     virtual void abandon() { m_isAbandoned = true; }
-    /** The position of the chosen filter in the caller's list. The first position if several are equal, -1 if none is.
-     */
+    /** The position of the chosen filter in the caller's list. The first one of equal filters. -1 if it is absent. */
     int selectedWriter();
 
     virtual void createDialog(const std::string& filter, const std::string& helpTopic) = 0;

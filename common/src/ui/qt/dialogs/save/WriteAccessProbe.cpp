@@ -33,8 +33,7 @@ fs::path scratchName(boost::system::error_code& error)
     return fs::unique_path("%%%%-%%%%-%%%%-%%%%", error);
 }
 
-// Linux follows up to 40 links. This also limits the attempts if another process creates and removes the file again and
-// again.
+// Linux follows up to 40 links. This also limits the attempts if another process keeps creating and removing the file.
 constexpr int maxAttempts = 41;
 
 #ifdef _WIN32
