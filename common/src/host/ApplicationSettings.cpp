@@ -22,7 +22,7 @@ namespace {
 ui::ReplaceableInstance<ApplicationSettings> currentInstance;
 
 const qint64 largestFile = qint64(16) * 1024 * 1024;
-const int longestWaitMs = 1000; // in each call, for other processes
+const int longestWaitMs = 1000; // longest time that one call waits for other processes
 
 /** Upper case is encoded, because QSettings ignores case in INI files on Windows. */
 QString nameOf(const std::string& key)
@@ -43,7 +43,7 @@ QString targetOf(const QString& fileName)
     return canonical.isEmpty() ? fileName : canonical;
 }
 
-/** Other files are not opened: a pipe or a device would block. */
+/** Whether a file may be opened. Pipes and devices are not opened, because they would block. */
 bool isMissingOrFile(const QString& fileName)
 {
     const QFileInfo info(fileName);
@@ -65,14 +65,14 @@ bool acquire(QLockFile& lock, const QDeadlineTimer& deadline)
     return true;
 }
 
-/** QSettings waits for its lock without a limit, so it is free before QSettings writes. */
+/** Waits until the lock of QSettings is free, because QSettings itself would wait without a limit. */
 bool waitUntilFree(const QString& target, const QDeadlineTimer& deadline)
 {
     QLockFile lock(target + QStringLiteral(".lock"));
     return acquire(lock, deadline);
 }
 
-/** What tells whether a file was replaced between two looks at it. */
+/** Comparing two of these shows whether a file was replaced in between. */
 struct FileState
 {
     explicit FileState(const QString& target)
@@ -95,8 +95,8 @@ struct FileState
     QDateTime modified;
 };
 
-// On Windows a file can be neither opened nor found while it is being replaced. It is back at once, so an empty result
-// counts only if the file was the same before and after the reading.
+// On Windows a file can be neither opened nor found for a moment while it is being replaced. So an empty result counts
+// only if the file was the same before and after the reading.
 std::unique_ptr<QSettings> openForReading(const QString& target)
 {
     const QDeadlineTimer deadline(longestWaitMs);
@@ -161,7 +161,7 @@ struct ApplicationSettings::Impl
     {
         const QString target = targetOf(fileName);
         const QDeadlineTimer deadline(longestWaitMs);
-        // All users of this class wait for this lock, and with a limit. So they do not wait for that of QSettings.
+        // All users of this class wait for this lock, with a limit. So they do not wait for the lock of QSettings.
         QLockFile guard(target + QStringLiteral(".guard"));
         if (!isMissingOrFile(target) || !QDir().mkpath(QFileInfo(target).path()) || !acquire(guard, deadline) ||
             !waitUntilFree(target, deadline)) {
@@ -175,7 +175,7 @@ struct ApplicationSettings::Impl
 
     bool sync(const QString& target)
     {
-        // A second object, because one that has reported a damaged file does not report a failed write.
+        // Two objects, because an object that has reported a damaged file does not report a failed write.
         if (QSettings(target, QSettings::IniFormat).status() == QSettings::FormatError) {
             warnOnce("The settings file is damaged");
         }
@@ -230,7 +230,7 @@ QByteArray ApplicationSettings::getByteArrayValue(const std::string& key)
 
 void ApplicationSettings::depositValue(const std::string& key, const QByteArray& value)
 {
-    // A dialog stores the geometry that it has just restored when it opens. That needs no access to the disk.
+    // A dialog stores the geometry that it has just restored when it opens. Then nothing needs to be written.
     if (m_impl->unwritten.empty() && !value.isEmpty() && m_impl->read(key) == value) {
         return;
     }

@@ -15,10 +15,10 @@ namespace {
 
 ui::ReplaceableInstance<HelpLauncher> currentInstance;
 
-/** The path of the page without links. Empty if there is no such file in the directory. */
+/** The path of the page, with links resolved. Empty if there is no such file in the directory. */
 QString findPage(const QString& helpDirectory, const QString& topic)
 {
-    // QDir would use an absolute topic as the whole path, and the file name would end at a NUL.
+    // With an absolute topic, QDir would ignore the directory. A NUL would end the file name.
     if (helpDirectory.isEmpty() || topic.isEmpty() || QDir::isAbsolutePath(topic) || topic.contains(QChar::Null)) {
         return QString();
     }

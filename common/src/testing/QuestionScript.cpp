@@ -11,7 +11,7 @@ namespace morvane::test {
 
 namespace {
 
-/** Once the box runs its event loop, or the program its own. */
+/** Clicks as soon as the event loop of the box or of the program runs. */
 void clickLater(QAbstractButton& button)
 {
     QTimer::singleShot(0, &button, [&button] { button.click(); });

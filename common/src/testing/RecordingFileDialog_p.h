@@ -4,7 +4,7 @@
 
 namespace morvane::test {
 
-/** The part of a RecordingDialog that the library calls: records each call and answers. Made as a ComObject. */
+/** The COM interfaces of a RecordingDialog. Records each call and returns a result. Created as a ComObject. */
 class RecordingFileDialog : public RecordingDialog
 {
 public:

@@ -20,7 +20,7 @@ HRESULT withoutAttributes(const std::optional<HRESULT>& failure, SFGAOF* attribu
     return failure.value_or(E_NOTIMPL);
 }
 
-/** An item or an array; counts among the live objects of the Shell. */
+/** An item or an array. The Shell counts it among its live objects. */
 template <typename Interface>
 class RecordingObject : public Interface
 {

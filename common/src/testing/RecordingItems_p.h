@@ -4,11 +4,11 @@
 
 namespace morvane::test {
 
-/** An item, or array of items, of a RecordingShell, with one reference. Paths are absolute, with Qt's separators. */
+/** Creates an item or an array of items of a RecordingShell. Paths are absolute, with Qt's separators. */
 ui::ComPtr<IShellItem> makeRecordingItem(RecordingShell& shell, const QString& path);
 ui::ComPtr<IShellItemArray> makeRecordingArray(RecordingShell& shell, const QStringList& paths);
 
-/** The path of an item, read without being recorded; empty for null and for items of another Shell. */
+/** The path of an item. Reading it is not recorded. Empty for null and for items of another Shell. */
 QString pathOf(RecordingShell& shell, IShellItem* item);
 
 std::string nameOfIid(REFIID iid);

@@ -20,7 +20,7 @@ RecordingShell::RecordingShell() = default;
 RecordingShell::~RecordingShell()
 {
     for (void* const memory : m_liveStrings) {
-        ui::freeTaskMemory(memory); // liveStrings() counts them as leaks; a leak checker is not to report them again
+        ui::freeTaskMemory(memory); // liveStrings() has reported these leaks; a leak checker must not report them again
     }
 }
 

@@ -36,7 +36,7 @@ void WordStartModel::setSourceModel(QAbstractItemModel* model)
     }
     QIdentityProxyModel::setSourceModel(model);
     if (model) {
-        // The base class becomes empty without a signal.
+        // The base class becomes empty, but emits no signal.
         connect(model, &QObject::destroyed, this, [this] {
             beginResetModel();
             endResetModel();

@@ -9,7 +9,7 @@ namespace morvane::compat {
 class WordStartModel;
 
 /**
- * Stand-in for CTK's completer with the same name, with the members that Morvane uses: a QCompleter that can also offer
+ * Stand-in for CTK's completer of the same name. Has the members that Morvane uses: a QCompleter that can also offer
  * the entries in which the typed text begins a word. The namespace distinguishes the two classes if a host links CTK,
  * too.
  *

@@ -14,8 +14,8 @@ class AutoFilterEdit
 {
 public:
     /**
-     * As long as one lives, the user changes the combo box and not the program. An edit that begins meanwhile begins at
-     * the entry that was current when the outermost step was made. May outlive the combo box.
+     * While a Step exists, changes of the combo box are the user's and not the program's. An edit that begins in this
+     * time begins at the entry that was current when the outermost Step was created. May outlive the combo box.
      */
     class Step
     {
@@ -35,7 +35,7 @@ public:
     /**
      * Begins an edit, unless one has begun.
      *
-     * @param current the current entry; the one before the edit, unless there is a step
+     * @param current the current entry; it is the entry before the edit, unless a Step exists
      */
     void begin(const QModelIndex& current);
     void end() { m_isBegun = false; }

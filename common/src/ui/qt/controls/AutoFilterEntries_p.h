@@ -9,11 +9,11 @@ class QString;
 
 namespace morvane::ui {
 
-/** Which of the entries that fit a text is found. */
+/** Which entry findEntry() returns if several entries fit the text. */
 enum class EntryPreference
 {
     First, ///< the first one, also for an empty text
-    Equal  ///< the one that fits best, the first one of these; for an empty text only an equal one
+    Equal  ///< the one that fits best, or the first of these; for an empty text, only an equal one
 };
 
 /**
@@ -25,7 +25,7 @@ enum class EntryPreference
 int findEntry(const QAbstractItemModel& entries, int column, const QModelIndex& root, const QString& text,
     EntryPreference preference, int rows = std::numeric_limits<int>::max());
 
-/** Whether a user may take this entry. */
+/** Whether a user may pick this entry. */
 bool isEnabledEntry(const QModelIndex& entry);
 
 /** The entry of the model that a suggestion shows; invalid if the suggestion comes from another model. */

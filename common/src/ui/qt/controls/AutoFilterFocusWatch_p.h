@@ -10,8 +10,8 @@ class QWidget;
 namespace morvane::ui {
 
 /**
- * Finds out whether a ComboBoxAutoFilter has really lost the focus while another window, a menu or a popup has it: the
- * focus may come back, or go on to another widget of the same window.
+ * Finds out whether a ComboBoxAutoFilter has really lost the focus. While another window, a menu or a popup has the
+ * focus, the combo box may still get it back, or another widget of the same window may get it.
  */
 class AutoFilterFocusWatch
 {
@@ -24,7 +24,7 @@ public:
     /** Whether the focus usually comes back after it was lost for this reason. */
     static bool comesBackAfter(Qt::FocusReason reason);
 
-    /** Calls `onLeft` once, when another widget of the field's window gets the focus. It may destroy the watch. */
+    /** Calls `onLeft` once, when another widget of the window gets the focus. `onLeft` may destroy this object. */
     void start(std::function<void()> onLeft);
     void stop();
 

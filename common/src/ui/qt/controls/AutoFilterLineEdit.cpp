@@ -23,7 +23,7 @@ QMetaMethod lineSlot(const char* signature)
     return type.method(type.indexOfSlot(signature));
 }
 
-/** The signals and the slot with which a line follows a completer. Looked up once, because each key needs them. */
+/** The signals and the slot that connect a completer with a line. Looked up only once, because each key needs them. */
 struct CompleterConnections
 {
     const QMetaMethod activated = completerSignal("activated(QString)");
@@ -47,7 +47,7 @@ bool isMarked(const QAbstractItemView& popup, const QModelIndex& entry)
 AutoFilterLineEdit::CompleterDetached::CompleterDetached(QLineEdit& line, QCompleter& completer)
     : m_line(&line), m_completer(&completer)
 {
-    // From any slot: QLineEdit connects one of them to a private slot, which not every version of Qt has.
+    // From all slots of the line: one of them is a private slot, which not every version of Qt has.
     const CompleterConnections& both = completerConnections();
     QObject::disconnect(m_completer, both.activated, m_line, QMetaMethod());
     QObject::disconnect(m_completer, both.highlighted, m_line, QMetaMethod());

@@ -11,7 +11,7 @@ namespace morvane::ui {
 /**
  * The editor line of ComboBoxAutoFilter.
  *
- * Return, Enter and Tab emit editingFinished() whatever the line holds, even where other widgets wait for the focus.
+ * Return, Enter and Tab emit editingFinished() for any text. The line itself never moves the focus on Tab.
  * After each key, and after a text from an input method, the completer's current entry is marked in the completer's
  * popup, and the line keeps what was typed. Losing the focus neither ends nor changes the editing.
  */
@@ -20,10 +20,10 @@ class AutoFilterLineEdit : public QLineEdit
 public:
     explicit AutoFilterLineEdit(QWidget* parent = nullptr);
 
-    /** The line of a combo box, null if it is of another class. */
+    /** The line of a combo box. Null if the line has another class. */
     static AutoFilterLineEdit* of(const QComboBox& box);
 
-    /** As long as it lives, a completer does not write its entries into the line edit. */
+    /** While it exists, a completer does not write its entries into the line edit. */
     class CompleterDetached
     {
     public:
@@ -42,11 +42,11 @@ public:
 
     /** Marks a suggestion in the completer's popup, or none if it is invalid, and calls keepMark(). */
     void markSuggestion(const QModelIndex& suggestion);
-    /** Leaves the mark in the completer's popup alone until the text is edited. */
+    /** Does not change the mark in the completer's popup until the text is edited. */
     void keepMark() { m_keepsMark = true; }
     bool keepsMark() const { return m_keepsMark; }
 
-    /** Shows the line without cursor and selection, as a line without the focus. Emits no signal. */
+    /** Shows the line like a line without the focus: without cursor and selection. Emits no signal. */
     void showUnfocused(QFocusEvent& event);
 
 protected:

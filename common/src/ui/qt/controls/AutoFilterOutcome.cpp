@@ -80,7 +80,7 @@ void AutoFilterOutcome::announceActivation()
     }
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     if (alive) {
-        // By name, since calling it is deprecated.
+        // By name, because the signal is deprecated.
         QMetaObject::invokeMethod(box, "activated", Q_ARG(QString, text));
     }
 #endif

@@ -13,7 +13,7 @@ namespace morvane::ui {
 class ComboBoxAutoFilter;
 
 /**
- * Decides which entry the edit of a ComboBoxAutoFilter leads to. Keeps the edit and the entry that the user has picked.
+ * Decides which entry is current after an edit of a ComboBoxAutoFilter. Stores the edit and the entry that was picked.
  */
 class AutoFilterOutcome
 {
@@ -24,7 +24,7 @@ public:
 
     QModelIndex currentEntry() const;
 
-    /** What changes during the life of the returned object is the user's work. */
+    /** Changes are the user's while the returned object exists. */
     AutoFilterEdit::Step step() const { return {m_edit, currentEntry()}; }
     /** Ends the edit when the program, and not the user, has made another entry current. */
     void onCurrentEntryChanged();
@@ -35,7 +35,7 @@ public:
     /** Makes the current entry the one that is restored when the edit is cancelled. */
     void keepCurrent() { m_edit->setBefore(currentEntry()); }
     bool isEditBegun() const { return m_edit->isBegun(); }
-    /** Whether an edit has begun or the line shows another text than that of the current entry. */
+    /** Whether an edit has begun, or the line shows a text that is not that of the current entry. */
     bool isEditUnfinished() const;
     /** The row that is current again when the edit is cancelled. */
     int rowBeforeEdit() const;

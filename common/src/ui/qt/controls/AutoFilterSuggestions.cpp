@@ -14,7 +14,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** The number of suggestions that are searched on each key for the one to mark. */
+/** How many suggestions are searched on each key for the one to mark. */
 constexpr int mostSuggestionsSearched = 10000;
 
 bool endsEditing(int key)
@@ -71,7 +71,7 @@ void AutoFilterSuggestions::setUpPopup(Qt::TextElideMode elide)
     popup->installEventFilter(&m_box);
     popup->viewport()->installEventFilter(&m_box);
     if (auto* const list = qobject_cast<QListView*>(popup)) {
-        // Each key lays the popup out again, and measuring each entry would take most of the time.
+        // Each key causes a new layout of the popup. Measuring each entry would take most of the time.
         list->setUniformItemSizes(true);
     }
 }
@@ -136,7 +136,7 @@ QAbstractItemView* AutoFilterSuggestions::popup() const
 bool AutoFilterSuggestions::filterKey(QObject& popup, QKeyEvent& event)
 {
     if (endsEditing(event.key())) {
-        // Not through the completer, which uses itself after a slot has deleted it with the combo box.
+        // The completer does not get the key: it would access itself after a slot has deleted it with the combo box.
         m_outcome.beginEdit();
         hide();
         QCoreApplication::sendEvent(&m_box, &event);
@@ -184,7 +184,7 @@ bool AutoFilterSuggestions::filterRelease(QObject& viewport, QMouseEvent& event)
     const QPersistentModelIndex entry = entryOfSuggestion(popup()->indexAt(event.pos()), *m_box.model());
     event.accept();
     if (!isEnabledEntry(entry)) {
-        // The popup would close although this entry cannot be picked.
+        // Otherwise the popup would close, although this entry cannot be picked.
         m_resender.resendOutside(viewport, event);
         return true;
     }
@@ -196,7 +196,7 @@ bool AutoFilterSuggestions::filterRelease(QObject& viewport, QMouseEvent& event)
 
 void AutoFilterSuggestions::pick(int row)
 {
-    // QCompleter takes the entry only if the mouse was also pressed on it.
+    // QCompleter makes the entry current only if the mouse was also pressed on it.
     const bool isTaken = m_box.currentIndex() == row;
     m_box.setCurrentIndex(row);
     m_outcome.setPick(m_outcome.currentEntry(), m_box.currentText());

@@ -32,7 +32,7 @@ public:
 
     /** Uses this completer from now on. It offers the entries of the combo box's model. */
     void setCompleter(compat::ctkCompleter& completer);
-    /** Prepares the completer's popup, if it has one. The combo box filters the popup's events. */
+    /** Sets up the completer's popup, if it has one. The combo box filters the popup's events. */
     void setUpPopup(Qt::TextElideMode elide);
     /** Makes the completer offer what the combo box shows: entries of this model in this column. */
     void followModel();
@@ -42,13 +42,13 @@ public:
     void hide();
 
     /**
-     * Handles an event that was sent to the popup or to its viewport. Returns whether the event is dealt with; if it
-     * is, the combo box may be destroyed.
+     * Handles an event that was sent to the popup or to its viewport. Returns whether the event must not be handled
+     * any further. If so, the combo box may have been destroyed.
      */
     bool filter(QObject& watched, QEvent& event);
 
 Q_SIGNALS:
-    /** The user has picked an entry, which is current now. A slot may delete the combo box. */
+    /** The user has picked an entry, and it is current now. A slot may delete the combo box. */
     void picked();
 
 private:

@@ -34,7 +34,7 @@ ComboBoxAutoFilter::ComboBoxAutoFilter(QWidget* parent) : QComboBox(parent), m_i
     expectGuiThread("ComboBoxAutoFilter");
     auto* const list = new AutoFilterItemView;
     setView(list);
-    // Qt calls the filter that was installed last first: this one before those of the popup that contains the list.
+    // Qt calls the filters in reverse order. So this one is called before those of the popup that contains the list.
     list->installEventFilter(this);
     list->viewport()->installEventFilter(this);
 
@@ -100,14 +100,14 @@ void ComboBoxAutoFilter::connectLine()
     if (!lineEdit()) {
         return;
     }
-    // QComboBox would make the entry that equals the text current, even a disabled one. takeOutcome() replaces that.
+    // QComboBox would make an entry with an equal text current, even a disabled one. takeOutcome() is used instead.
     disconnect(lineEdit(), SIGNAL(editingFinished()), this, nullptr);
     connect(lineEdit(), SIGNAL(editingFinished()), this, SLOT(onEditingFinished()));
     connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
         m_impl->outcome.clearPick();
         m_impl->outcome.beginEdit();
         if (m_impl->mode == FormField) {
-            // While the suggestions are open, the completer does not pass on that the focus is lost.
+            // While the suggestions are open, the completer does not tell the combo box that the focus was lost.
             watchFocus();
         }
     });
@@ -152,7 +152,7 @@ bool ComboBoxAutoFilter::validateEntry()
         return false;
     }
     m_impl->outcome.takeRow(index);
-    // The program continues with this entry, and cancelling leads back to it.
+    // The program uses this entry from now on. Cancelling restores it.
     m_impl->outcome.keepCurrent();
     return true;
 }
@@ -250,10 +250,10 @@ bool ComboBoxAutoFilter::eventFilter(QObject* watched, QEvent* event)
 
 bool ComboBoxAutoFilter::filterListKey(QKeyEvent& event)
 {
-    // The mouse was released outside of the entry that it had pressed; a key picks another one.
+    // The mouse was released outside of the entry on which it was pressed. Now a key picks an entry.
     m_itemClicked = false;
     if (event.key() == Qt::Key_Escape) {
-        // The popup would close now, and the list would not get the key press that cancels.
+        // Otherwise the popup would close now, and the list would not get the key press that cancels the edit.
         event.accept();
         return true;
     }
@@ -288,14 +288,15 @@ bool ComboBoxAutoFilter::filterListRelease(QObject& viewport, QMouseEvent& event
     event.accept();
     const QModelIndex entry = view()->indexAt(event.pos());
     if (!isEnabledEntry(entry)) {
-        // QComboBox would activate the entry that the mouse was over last.
+        // QComboBox would activate the last entry that was under the mouse.
         if (m_impl->listEvents.resendOutside(viewport, event)) {
             m_itemClicked = false;
         }
         return true;
     }
     view()->setCurrentIndex(entry);
-    // QComboBox uses itself after activated(int), and a slot may delete it. So the signal is emitted afterwards.
+    // A slot may delete the combo box, and QComboBox accesses itself after activated(int). So the signal is emitted
+    // later.
     m_announcement = Announcement::Held;
     m_itemClicked = true;
     if (!m_impl->listEvents.resend(viewport, event)) {
@@ -457,7 +458,7 @@ void ComboBoxAutoFilter::wheelEvent(QWheelEvent* event)
     const AutoFilterEdit::Step step = m_impl->outcome.step();
     const QPointer<ComboBoxAutoFilter> self(this);
     QComboBox::wheelEvent(event);
-    // Without the focus no focusOutEvent() will end the edit.
+    // Without the focus, no focusOutEvent() ends the edit later.
     if (self && m_impl->mode == FormField && !hasFocus() && m_impl->outcome.isEditBegun()) {
         onEditingFinished();
     }
@@ -479,7 +480,7 @@ void ComboBoxAutoFilter::focusOutEvent(QFocusEvent* event)
     if (AutoFilterLineEdit* const line = AutoFilterLineEdit::of(*this)) {
         line->showUnfocused(*event);
     }
-    // QComboBox gives its own list the focus with the reason that other widgets have.
+    // QComboBox gives its own list the focus with the same reason as other widgets.
     const QWidget* const now = QApplication::focusWidget();
     const bool isInList = now && view()->window()->isAncestorOf(now) && view()->window() != window();
     if (isInList || AutoFilterFocusWatch::comesBackAfter(event->reason())) {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr quint64 patience = 500000;
 
-// Each number of 19 digits fits into 64 bits without sign, and the magnitude of a signed number has at most 19 digits.
+// Each number of 19 digits fits into an unsigned number of 64 bits. A signed number of 64 bits has at most 19 digits.
 constexpr int width = 19;
 
 /** The digits with leading zeros, the most significant one first. */
@@ -40,7 +40,7 @@ quint64 magnitude(qint64 number)
     return number < 0 ? ~bits + 1 : bits;
 }
 
-/** The distance from @p low up to @p high. That of any two qint64 fits. */
+/** The distance from @p low up to @p high. It fits into 64 bits for any two numbers. */
 quint64 distance(qint64 low, qint64 high)
 {
     return low < 0 && high >= 0 ? magnitude(low) + magnitude(high) : static_cast<quint64>(high - low);
@@ -68,7 +68,7 @@ public:
         }
     }
 
-    /** The matching number closest to `bound` in this direction, or `bound` itself. None if it has over 19 digits. */
+    /** The matching number closest to `bound` in this direction, or `bound` itself. None if it would need 20 digits. */
     std::optional<quint64> nearest(quint64 bound, Direction direction) const;
 
 private:

@@ -2,7 +2,7 @@
 
 namespace morvane::ui {
 
-/** Gives each ElidedTextLabel the role of a text and its whole text as accessible name. May be called again. */
+/** Gives each ElidedTextLabel the role of a text, and the whole text as its accessible name. May be called again. */
 void installElidedTextAccessible();
 
 } // namespace morvane::ui

@@ -12,7 +12,7 @@ ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLa
     morvane::ui::installElidedTextAccessible();
     setAlignment(Qt::AlignLeft);
     setElideMode(Qt::ElideLeft);
-    // The tool tip for the previous text is removed, because paintEvent() would take it for one of the host.
+    // The tool tip for the previous text is removed. Otherwise paintEvent() would treat it as a tool tip of the host.
     connect(this, &QxtLabel::textChanged, this, [this, before = text()](const QString& now) mutable {
         if (!before.isEmpty() && toolTip() == before) {
             setToolTip(QString());

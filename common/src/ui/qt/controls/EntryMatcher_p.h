@@ -5,12 +5,12 @@
 
 namespace morvane::ui {
 
-/** How well a text fits an entry, the worst first. */
+/** How well a text fits an entry, in ascending order. */
 enum class EntryFit
 {
     None,
     Contained,       ///< the entry contains the text, whatever the case
-    EqualButForCase, ///< the entry is the text but for the case
+    EqualButForCase, ///< the entry and the text differ only in case
     Equal
 };
 

@@ -7,14 +7,14 @@ class QMouseEvent;
 
 namespace morvane::ui {
 
-/** Lets an event filter send an event to its receiver itself, to act before and after the receiver has handled it. */
+/** Sends an event to its receiver from an event filter, so that the filter can act before and after the receiver. */
 class EventResender
 {
 public:
-    /** @param filter the object with the event filter; it owns this one */
+    /** @param filter the object with the event filter; it owns this object */
     explicit EventResender(QObject& filter);
 
-    /** Whether the event is one that resend() is sending. The filter lets it pass. */
+    /** Whether resend() is sending this event. The filter must not handle it then. */
     bool isResent(const QEvent& event) const { return &event == m_resent; }
 
     /** Sends an event. Returns false when the filter was destroyed meanwhile. */

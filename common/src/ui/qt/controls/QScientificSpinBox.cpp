@@ -118,7 +118,8 @@ QScientificSpinBox::QScientificSpinBox(QWidget* parent)
     : QDoubleSpinBox(parent), m_private(new QScientificSpinBoxPrivate(this))
 {
     expectGuiThread("QScientificSpinBox");
-    // Before all calls that update the text, because the validator of the base class would call validate() each time.
+    // Set before all calls that update the text, because the validator of the base class would call validate() each
+    // time.
     lineEdit()->setValidator(m_private->m_validator);
     m_private->m_validator->follow(*lineEdit());
     setLocale(english());

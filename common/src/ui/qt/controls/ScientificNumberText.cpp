@@ -25,7 +25,7 @@ struct Halves
 
 Halves halvesOfLimit(double limit, int decimals)
 {
-    // An integer part beyond 64 bits counts as 0, and there is no fraction. So hundreds of digits need not be written.
+    // An integer part beyond 64 bits counts as 0, and such a number has no fraction. So its digits are not needed.
     if (std::abs(limit) >= 1e19) {
         return {};
     }
@@ -110,7 +110,7 @@ bool GrowthRange::reachesWithFraction(qint64 match, qint64 right) const
     return finds(right, match == m_min.left ? m_min.right : farEnd(), match == m_max.left ? m_max.right : nearEnd());
 }
 
-/** The next number. That after the last one is the first one. */
+/** The next number. The largest number is followed by the smallest one. */
 qint64 successor(qint64 number)
 {
     using Limits = std::numeric_limits<qint64>;
@@ -168,7 +168,7 @@ bool isStartOfNumber(const QString& text, const NumberRules& rules)
     }
 }
 
-/** Whether blanks and group separators are where they may be. Removes a second point typed before the point. */
+/** Whether blanks and group separators are at allowed places. Removes one of two points if one was just typed. */
 bool settleSeparators(QString& text, int pos, const NumberRules& rules)
 {
     if (text.at(0) == rules.groupSeparator) {
@@ -272,7 +272,7 @@ bool mayGrowIntoRange(const QString& number, const NumberRules& rules)
 
 QString scientificText(double value, int significantDigits)
 {
-    // std::snprintf() would use the decimal point of the C locale, which Qt sets to that of the user.
+    // std::snprintf() would use the decimal point of the C library's locale, which Qt sets to the user's locale.
     std::array<char, 1077> buffer;
     const int precision = significantDigits < 0 ? 6 : significantDigits;
     const auto end =

@@ -11,7 +11,7 @@ struct NumberRules
 {
     double minimum;
     double maximum;
-    int decimals; ///< digits after the point that count when a text may still grow into the range
+    int decimals; ///< digits after the point that are compared when a text may still grow into the range
     QChar delimiter;
     QChar groupSeparator;
     QString prefix;           ///< removed before the number, if present

@@ -5,8 +5,8 @@
 namespace morvane::ui {
 
 /**
- * Calls the slots of `increment` if `steps` is above 0, else those of `decrement`. Returns whether there was a slot;
- * then the step is left to the host. Passes on exceptions of the slots.
+ * Calls the slots of `increment` if `steps` is above 0, else those of `decrement`. Returns whether there was a slot. If
+ * so, the host makes the step. Passes on exceptions of the slots.
  */
 inline bool handStepToHost(
     int steps, boost::signals2::signal<void()>& increment, boost::signals2::signal<void()>& decrement)

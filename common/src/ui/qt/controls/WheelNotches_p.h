@@ -43,7 +43,7 @@ inline QWheelEvent turnBy(int wholeNotches, const QWheelEvent& turn)
         turn.modifiers(), turn.phase(), turn.inverted(), turn.source()};
 }
 
-/** Whether a turn of the wheel ends with this event, so that the rest of a notch is dropped. */
+/** Whether a turn of the wheel ends with this event. The rest of a notch is dropped then. */
 inline bool endsTurn(const QEvent& event)
 {
     return event.type() == QEvent::FocusOut || event.type() == QEvent::Leave;

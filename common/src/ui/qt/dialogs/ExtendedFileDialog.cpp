@@ -7,7 +7,7 @@
 
 namespace {
 
-/** Calls a function with the dialog that exists. Returns a default value if there is none any more. */
+/** Calls a function with the dialog that exists. Returns a default value if no dialog exists any more. */
 template <typename Call>
 auto withDialog(ExtendedWinFileDialog* winDialog, QExtendedFileDialog* qtDialog, Call call)
 {
@@ -45,7 +45,7 @@ ExtendedFileDialog::ExtendedFileDialog(QWidget* parent, const std::string& capti
         m_winDialog.reset(new ExtendedWinFileDialog(parent, caption, directory, filter, helpTopic, acceptMode, false));
     } else {
         m_qtDialog.reset(new QExtendedFileDialog(parent, caption, directory, filter, helpTopic, acceptMode));
-        // A parent that is destroyed deletes the dialog.
+        // When the parent is destroyed, it deletes the dialog.
         QObject::connect(m_qtDialog.get(), &QObject::destroyed, [this] { static_cast<void>(m_qtDialog.release()); });
     }
 }

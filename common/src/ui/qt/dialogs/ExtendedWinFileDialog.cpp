@@ -9,7 +9,7 @@
 
 namespace {
 
-/** The text of the name field for @p file, which may be a list of quoted paths. */
+/** The text of the name field for @p file, which may be several quoted paths. */
 QString nameFieldText(const QString& file)
 {
     const QStringList listed = morvane::ui::quotedNames(file);

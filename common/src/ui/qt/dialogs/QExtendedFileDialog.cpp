@@ -102,7 +102,7 @@ int QExtendedFileDialog::exec()
     prepareToShow();
     const QPointer<QExtendedFileDialog> self(this);
     const bool waits = m_overrideCursorSet || isBeingRead(m_model->rootPath());
-    restoreCursor(); // the wait cursor belongs above the arrow
+    restoreCursor(); // the wait cursor must be above the arrow on the stack
     const morvane::ui::ModalArrowCursor arrow;
     const auto endWait = qScopeGuard([self] {
         if (self) {
@@ -191,7 +191,7 @@ void QExtendedFileDialog::onDirectoryLoaded(const QString& path)
 {
     m_readFolders.insert(keyOf(path));
     restoreCursor();
-    // The model may have read another folder, for the suggestions, and not the one that is waited for.
+    // The model may have read another folder, for the suggestions. Then the dialog still waits for its own folder.
     if (isVisible() && m_shownFolder == m_model->rootPath() && isBeingRead(m_shownFolder)) {
         waitForFolder();
     }

@@ -74,7 +74,7 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
     QWidget* messageParent() override { return m_dialog; }
     bool hasDialog() override { return m_dialog; }
 
-    /** The dialog itself would select its first filter and change the name when it is shown. */
+    /** If this were left to the dialog, it would select its first filter and change the name when it is shown. */
     void takeWildcardBack()
     {
         if (m_dialog->m_savedNameFilters.isEmpty()) {
@@ -90,8 +90,8 @@ struct SaveFileQtDialog::Impl : morvane::ui::SaveFileFlow
     }
 
     QPointer<QExtendedFileDialog> m_dialog;
-    QStringList m_given;     // the caller's filters, one empty text for none
-    QStringList m_shown;     // the same filters as the dialog shows them: simplified, and one for all files if none
+    QStringList m_given;     // the caller's filters; one empty text if there are none
+    QStringList m_shown;     // the filters as the dialog shows them: simplified; one for all files if there are none
     bool m_isOrphan = false; // no parent deletes the dialog
 };
 

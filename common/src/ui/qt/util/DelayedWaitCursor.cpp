@@ -23,8 +23,8 @@ void DelayedWaitCursor::look()
         m_stepsToLook = std::numeric_limits<int>::max();
         return;
     }
-    // Reading the clock takes as long as a quick step, so it is read less often then. Slow steps must not delay the
-    // cursor.
+    // Reading the clock takes as long as a quick step. So it is read less often while steps are quick. While steps are
+    // slow, it is read more often, so that the cursor is not late.
     const bool brisk = nowMs - m_lastLookMs < briskMs;
     m_stride = brisk ? std::min(2 * m_stride, longestStride) : std::max(m_stride / 2, 1);
     m_stepsToLook = m_stride;

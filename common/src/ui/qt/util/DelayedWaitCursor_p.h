@@ -11,7 +11,7 @@ namespace morvane::ui {
 /**
  * Shows the wait cursor when some work has taken half a second, until the object is destroyed.
  *
- * The work calls step() often, since only step() looks at the clock. Most calls only count.
+ * The work must call step() often, because only step() reads the clock. Most calls only count.
  */
 class DelayedWaitCursor
 {

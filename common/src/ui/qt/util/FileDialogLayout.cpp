@@ -23,7 +23,7 @@ namespace morvane::ui {
 
 namespace {
 
-const char* const hiddenHere = "morvaneHidden"; // tells such widgets from those that the host has hidden
+const char* const hiddenHere = "morvaneHidden"; // marks widgets that were hidden here and not by the host
 const QString helperName = QStringLiteral("morvaneFileDialogLists");
 constexpr int nameColumn = 0;
 constexpr int dateColumn = 3;
@@ -63,7 +63,7 @@ private:
             return;
         }
         disconnect(m_loaded);
-        // The list has the rows after all other receivers of the signal were called.
+        // The list has the new rows only after all other receivers of the signal were called.
         QMetaObject::invokeMethod(
             this,
             [this] {
@@ -110,7 +110,7 @@ private:
         }
     }
 
-    /** The widths in which neither titles nor texts are cut. */
+    /** The widths that the titles and the texts need. */
     std::vector<int> neededWidths()
     {
         std::vector<int> widths;

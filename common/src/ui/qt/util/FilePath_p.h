@@ -6,10 +6,10 @@
 
 namespace morvane::ui {
 
-// Conversions between UTF-8 and paths. On Windows, where paths are wide text, Boost's own conversions depend on the
-// code page of the process and on how Boost was linked. These do not.
+// Conversions between UTF-8 and paths. On Windows paths are wide text. There Boost's own conversions depend on the code
+// page of the process and on how Boost was linked. These conversions do not.
 
-/** The path with the UTF-8 name @p utf8. Other systems than Windows take its bytes unchanged. */
+/** The path with the UTF-8 name @p utf8. Outside Windows its bytes are unchanged. */
 boost::filesystem::path pathFromUtf8(const std::string& utf8);
 
 /** The name of @p path in UTF-8, with the separators it has. */
@@ -18,7 +18,7 @@ std::string pathToUtf8(const boost::filesystem::path& path);
 /** The name of @p path in UTF-8, with forward slashes. */
 std::string pathToGenericUtf8(const boost::filesystem::path& path);
 
-/** The name with forward slashes if the platform has other separators, and unchanged if not. */
+/** The name with forward slashes. Unchanged if the platform's separator is the forward slash. */
 std::string withForwardSlashes(std::string utf8);
 
 } // namespace morvane::ui

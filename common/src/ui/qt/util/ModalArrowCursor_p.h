@@ -7,8 +7,7 @@
 
 namespace morvane::ui {
 
-/** Shows the arrow over the whole application while a modal dialog runs. The dialog may leave other cursors above it.
- */
+/** Shows the arrow in the whole application while a modal dialog runs. Other cursors may remain above it. */
 class ModalArrowCursor
 {
 public:

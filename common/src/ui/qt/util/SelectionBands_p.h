@@ -26,14 +26,13 @@ struct SelectionBlock
  * }
  * @endcode
  *
- * Takes the time of sorting the ranges and the memory for them. Ranges may overlap. They may have different parents,
+ * Needs the time for sorting the ranges, and memory for them. Ranges may overlap. They may have different parents,
  * and rows with the same number then count as one row.
  */
 class SelectionBands
 {
 public:
-    /** @param selection valid ranges only, as QItemSelectionModel::selection() gives; those of other models than @p
-     * model are ignored */
+    /** @param selection must have valid ranges only; ranges of other models than @p model are ignored */
     SelectionBands(const QItemSelection& selection, const QAbstractItemModel& model);
     SelectionBands(const SelectionBands&) = delete;
     SelectionBands& operator=(const SelectionBands&) = delete;

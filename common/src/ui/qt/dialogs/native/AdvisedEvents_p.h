@@ -6,7 +6,7 @@
 
 namespace morvane::ui {
 
-/** Keeps a new event handler advised while it lives; afterwards the handler has no observer any more. */
+/** Creates an event handler and advises it. The destructor detaches the observer and unadvises the handler. */
 class AdvisedEvents
 {
 public:

@@ -12,7 +12,7 @@ ControlStandIn::ControlStandIn(IFileDialog* dialog, ControlKind kind, unsigned i
     setAttribute(Qt::WA_DontShowOnScreen);
     setAttribute(Qt::WA_QuitOnClose, false);
     QWidget::show();
-    m_dialog = dialog; // only now, since the native control is visible already
+    m_dialog = dialog; // set after show(), because the native control is already visible
 }
 
 ControlStandIn::~ControlStandIn() = default;
@@ -56,7 +56,7 @@ void ControlStandIn::setStateFlag(CDCONTROLSTATEF flag, bool on)
 
 CDCONTROLSTATEF ControlStandIn::nativeState(IFileDialogCustomize& customize) const
 {
-    // The result of the call is not checked; when it fails, the state of this widget stays in the variable.
+    // The result of the call is not checked. If it fails, the variable keeps the state of this widget.
     const DWORD enabled = isEnabled() ? static_cast<DWORD>(CDCS_ENABLED) : 0;
     const DWORD visible = isVisible() ? static_cast<DWORD>(CDCS_VISIBLE) : 0;
     auto state = static_cast<CDCONTROLSTATEF>(enabled | visible);

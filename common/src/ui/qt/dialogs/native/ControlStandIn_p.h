@@ -14,17 +14,18 @@ enum class ControlKind : int
 };
 
 /**
- * Stands for one control of the native dialog and passes on whether it is visible and enabled.
+ * Represents one control of the native dialog. Passes its visibility and its enabled state on to that control.
  *
- * Qt reports visibility changes only of a widget that counts as shown, so it is shown from the start, on no screen.
+ * Qt reports changes of the visibility only for a widget that is shown. So this widget is shown from the start, with
+ * Qt::WA_DontShowOnScreen.
  */
 class ControlStandIn : public QWidget
 {
 public:
     /**
-     * @param dialog    not owned; null passes nothing on
-     * @param controlId of an item of the accept menu: the identifier of the menu
-     * @param itemId    0 for a button or check box
+     * @param dialog    not owned; with null, nothing is passed on
+     * @param controlId identifier of the control; for an item of the accept menu, that of the menu
+     * @param itemId    identifier of the item; 0 for a button or check box
      */
     ControlStandIn(IFileDialog* dialog, ControlKind kind, unsigned int controlId, unsigned int itemId);
     ~ControlStandIn() override;

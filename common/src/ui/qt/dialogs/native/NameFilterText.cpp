@@ -6,7 +6,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** The text between the last `opening` that `)` follows and the last `)`, and where `opening` begins. */
+/** The text between the last `)` and the last `opening` before it, and the position of that `opening`. */
 struct Enclosed
 {
     bool found = false;
@@ -16,7 +16,7 @@ struct Enclosed
 
 Enclosed findEnclosed(std::string_view filter, std::string_view opening)
 {
-    // In the expressions a dot matches no line break, so a text with a line break never matches as a whole.
+    // A dot in the expressions does not match a line break. So they do not match a text with a line break.
     if (filter.find('\n') != std::string_view::npos || filter.find('\r') != std::string_view::npos) {
         return {};
     }

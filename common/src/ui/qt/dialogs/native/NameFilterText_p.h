@@ -8,10 +8,9 @@
 
 namespace morvane::ui {
 
-// Reading name filters for the native dialog. Internal, not installed.
-// Every function takes time proportional to the length of the text and does not recurse.
+// The time of each function is proportional to the length of the text. No function recurses.
 
-/** One file type as the Shell takes it, UTF-8. */
+/** One file type for the Shell, in UTF-8. */
 struct FileTypeText
 {
     std::string description;
@@ -19,25 +18,29 @@ struct FileTypeText
 };
 
 /**
- * Splits `Images (*.png *.jpg)` into `Images` and `*.png;*.jpg`, as the expression `(.*) \((.*)\).*` does: at the last
- * blank and parenthesis that still have a closing parenthesis after them, up to the last closing one. A text of another
- * form, one with a line break included, is all patterns and gets the description "File of Type".
+ * Splits `Images (*.png *.jpg)` into `Images` and `*.png;*.jpg`.
+ *
+ * The result is that of the expression `(.*) \((.*)\).*`: the patterns end at the last closing parenthesis. They begin
+ * after the last blank and opening parenthesis before it. If the text has another form or contains a line break, the
+ * whole text is the patterns, and the description is "File of Type".
  */
 FileTypeText splitNameFilter(std::string_view filter);
 
 /**
- * The extension that a filter gives to the typed name, as capture 1 of `.* \(\*\.(.*)\).*`: what stands between the
- * last blank, parenthesis, asterisk and dot and the last closing parenthesis. `Data (*.dat)` gives `dat`; two
- * patterns give both, with the blank. Empty when the filter has another form.
+ * The extension that a filter gives to the typed name: `dat` for `Data (*.dat)`.
+ *
+ * The result is capture 1 of the expression `.* \(\*\.(.*)\).*`: the text between the last closing parenthesis and the
+ * last ` (*.` before it. For a filter with several patterns this is the rest of the list: `png *.jpg` for
+ * `Images (*.png *.jpg)`. Empty if the filter has another form.
  */
 std::string extensionOfNameFilter(std::string_view filter);
 
-/** Whether an extension fits every file: `*`, as in `All files (*.*)`, or a first pattern of wildcards alone. */
+/** Whether the first pattern of an extension consists of wildcards only, like the `*` from `All files (*.*)`. */
 bool isBareWildcard(std::string_view extension);
 
 /**
- * Splits filters joined by `;;` and strips the blanks around each. A piece between two separators that is empty is
- * dropped; one that becomes empty by stripping is kept.
+ * Splits filters that are joined by `;;`, and removes the blanks around each of them. An empty filter is left out. A
+ * filter that consists of blanks is kept as an empty text.
  */
 QStringList splitNameFilters(const std::string& filters);
 

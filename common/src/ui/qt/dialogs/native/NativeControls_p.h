@@ -17,27 +17,27 @@ namespace morvane::ui {
 /**
  * The host's own controls in the native dialog: push buttons, check boxes and the menu of the accept button.
  *
- * One counter gives out the identifiers of all controls and menu items, also where the Shell refuses the control.
+ * All controls and menu items get their identifiers from one counter. A control that the Shell refuses gets one, too.
  */
 class NativeControls
 {
 public:
-    /** @param dialog refers to the owner's pointer, which may be filled later; controls are added to no empty one */
+    /** @param dialog the owner's pointer, which may be set later; while it is null, no Shell gets the controls */
     explicit NativeControls(const ComPtr<IFileDialog>& dialog);
     ~NativeControls();
     NativeControls(const NativeControls&) = delete;
     NativeControls& operator=(const NativeControls&) = delete;
 
-    /** Gives the accept button its menu. Before the options are added. */
+    /** Gives the accept button its menu. Call this before options are added. */
     void addAcceptMenu();
-    // The stand-ins that these return belong to this object.
+    // This object owns the stand-ins that these functions return.
     QWidget* addButton(const std::string& text, boost::function<void()> action, bool prominent);
     QWidget* addCheckBox(const std::string& text, boost::shared_ptr<PropertyAbstract<bool>> checked);
     QWidget* addAcceptOption(const std::string& text, int value);
     /** Removes the options from the menu and destroys their stand-ins. */
     void clearAcceptOptions();
 
-    /** Selected when readSelectedAcceptOption() was called last; 255 before. */
+    /** The value that readSelectedAcceptOption() has read last; 255 until it has read one. */
     int selectedAcceptOption() const { return m_selectedAcceptOption; }
     void readSelectedAcceptOption();
 
@@ -50,7 +50,7 @@ private:
     unsigned int add(ControlKind kind, const std::string& text, bool prominent, bool checked);
     HRESULT request(IFileDialogCustomize& customize, ControlKind kind, DWORD id, const std::string& text, bool checked);
 
-    // Destroyed from the last to the first, which hosts rely on.
+    // Members are destroyed in reverse order. Hosts rely on this order.
     const ComPtr<IFileDialog>& m_dialog;
     unsigned int m_nextId = 0;
     unsigned int m_acceptMenuId = 0;

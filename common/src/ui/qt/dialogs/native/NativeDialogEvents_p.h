@@ -6,16 +6,16 @@
 namespace morvane::ui {
 
 /**
- * Receives the events of a running dialog and passes to an observer those that it reacts to.
+ * Receives the events of a running dialog, and passes on to an observer those that the observer handles.
  *
- * Made as a ComObject. A Shell that keeps it too long calls an object without observer, which does nothing.
+ * Created as a ComObject. After detach() it does nothing, so a Shell may keep it longer than the run.
  */
 class NativeDialogEvents : public IFileDialogEvents, public IFileDialogControlEvents
 {
 public:
     NativeDialogEvents(Shell& shell, NativeDialogObserver& observer);
 
-    /** From here on every event is ignored. */
+    /** Removes the observer. All later events are ignored. */
     void detach() { m_observer = nullptr; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;

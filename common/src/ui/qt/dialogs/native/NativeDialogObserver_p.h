@@ -4,13 +4,13 @@
 
 namespace morvane::ui {
 
-/** Reacts to the events of a running dialog. @p dialog is the one that the Shell names in the event. */
+/** Handles the events of a running dialog. @p dialog is the dialog that the Shell passes with the event. */
 class NativeDialogObserver
 {
 public:
     virtual ~NativeDialogObserver() = default;
 
-    /** The user has accepted; the dialog may still refuse. */
+    /** The user has accepted. The dialog may still refuse the choice. */
     virtual void onAccepting(IFileDialog& dialog) = 0;
     virtual void onFolderChanged(IFileDialog& dialog) = 0;
     virtual void onTypeChanged(IFileDialog& dialog) = 0;

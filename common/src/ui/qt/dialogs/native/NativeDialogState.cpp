@@ -85,7 +85,7 @@ void NativeDialogState::tellFileTypes(const QStringList& nameFilters)
 void NativeDialogState::tellFileType(int type, int count)
 {
     const HRESULT result = m_dialog->SetFileTypeIndex(static_cast<UINT>(type));
-    // The Shell limits the index to its list.
+    // The Shell limits the index to the length of its list.
     m_toldType = count == 0 ? 0 : FAILED(result) ? 1 : std::clamp(type, 1, count);
     m_shownType = m_toldType;
 }

@@ -12,15 +12,15 @@
 namespace morvane::ui {
 
 /**
- * What the Shell's dialog is told, and how the user leaves it.
+ * Passes settings to the Shell's dialog, and remembers the folder, the file type and the name that the user has chosen.
  *
- * Not every Shell keeps folder, file type and name from run to run. This remembers what the user has changed and tells
- * it again; to a Shell that keeps it, that is nothing new.
+ * Not every Shell keeps these values from run to run. So bringBack() sets the values that the user has changed again.
+ * In a Shell that has kept them, this changes nothing.
  */
 class NativeDialogState
 {
 public:
-    /** @param dialog refers to the owner's pointer; not empty once an operation is called */
+    /** @param dialog the owner's pointer, which must be set before an operation is called */
     NativeDialogState(Shell& shell, const ComPtr<IFileDialog>& dialog);
 
     // Texts are UTF-8.
@@ -30,32 +30,32 @@ public:
     void tellFileTypes(const QStringList& nameFilters);
     /** @param count the length of the list of file types */
     void tellFileType(int type, int count);
-    /** @param dialog as the Shell names it in an event, or the dialog itself */
+    /** @param dialog the dialog that the Shell passes with an event, or the one of this object */
     void tellFileName(IFileDialog& dialog, const std::string& name);
 
-    /** Tells folder, file type and name again where the user has changed them in the run before. */
+    /** Sets the folder, the file type and the name again if the user has changed them in the previous run. */
     void bringBack(int typeCount);
-    /** Forgets how the user has left the dialog. */
+    /** Forgets the folder and the name of the previous run. */
     void beginRun();
 
     void folderShown(const QString& path);
-    /** Returns whether it is another file type than the one shown before. */
+    /** Returns whether the Shell showed another file type before. */
     bool typeShown(int type);
     void nameAccepted(const std::string& name) { m_acceptedName = name; }
-    /** As it was typed; empty when no name was accepted in this run. */
+    /** The text of the name field that the user accepted in this run. None if no name was accepted. */
     const std::optional<std::string>& acceptedName() const { return m_acceptedName; }
 
 private:
     Shell& m_shell;
     const ComPtr<IFileDialog>& m_dialog;
 
-    /** The file type that the Shell shows, counted from 1, and the one that it was told; 0 without types. */
+    /** The file type that the Shell shows, and the one that was set last. Counted from 1; 0 without types. */
     int m_shownType = 0;
     int m_toldType = 0;
-    /** The folder that this run opened in and the one that the user has gone to; empty before they are announced. */
+    /** The folder in which this run opened, and the folder shown now. Empty until the Shell reports a folder. */
     QString m_openedFolder;
     QString m_leftFolder;
-    /** The name that the Shell was told, and the one that the user has accepted in a save dialog. */
+    /** The name that was set last, and the name that the user has accepted in a save dialog. */
     std::string m_toldName;
     std::optional<std::string> m_acceptedName;
 };

@@ -17,7 +17,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** Whether a name may get it without the user's choice: it is neither the text of several patterns nor a wildcard. */
+/** Whether a name may get this extension although the user has picked no type: it has one pattern and no wildcard. */
 bool isOneExtension(const std::string& extension)
 {
     return !extension.empty() && extension.find_first_of(" ;*?") == std::string::npos;
@@ -65,7 +65,7 @@ NativeFileDialog::NativeFileDialog(QWidget* parent, const std::string& caption, 
 
 NativeFileDialog::~NativeFileDialog()
 {
-    // Before the members are destroyed and, last, the dialog is released. Hosts rely on the order.
+    // This is called before the members are destroyed. The dialog is released last. Hosts rely on this order.
     m_shell.coUninitialize();
 }
 
@@ -97,7 +97,7 @@ void NativeFileDialog::initStartFolder(const std::string& directory)
             m_directory->setValue(pathToUtf8(isFolder ? path : path.parent_path()));
         }
     } catch (const boost::filesystem::filesystem_error&) {
-        // The folder is left to the Shell.
+        // The Shell chooses the folder.
     }
 }
 
@@ -116,14 +116,14 @@ QString NativeFileDialog::currentNameFilter() const
 QDialog::DialogCode NativeFileDialog::exec()
 {
     expectGuiThread("ExtendedWinFileDialog");
-    // The Shell's dialog must not be shown while it runs.
+    // The Shell's dialog must not be shown a second time while it runs.
     if (!m_dialog || m_running) {
         return QDialog::Rejected;
     }
     const FlagGuard running(m_running);
     const AdvisedEvents events(m_shell, *m_dialog, *this);
     prepareRun();
-    // Qt has the handle as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
+    // Qt stores the handle as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
     const auto owner = m_parent ? reinterpret_cast<HWND>(m_parent->winId()) : HWND();
     const HRESULT result = m_dialog->Show(owner);
     m_accepted = result == S_OK && !m_closed;
@@ -195,7 +195,7 @@ void NativeFileDialog::onFolderChanged(IFileDialog& dialog)
         return;
     }
     const QString path = nativePathOf(m_shell, *folder);
-    if (path.isEmpty()) { // a virtual folder has none
+    if (path.isEmpty()) { // a virtual folder has no path
         return;
     }
     m_state.folderShown(path);
@@ -206,7 +206,7 @@ void NativeFileDialog::onTypeChanged(IFileDialog& dialog)
 {
     UINT index = static_cast<UINT>(m_currentFilterIndex->value());
     dialog.GetFileTypeIndex(&index);
-    // The Shell announces its type when it opens, too.
+    // The Shell also reports the type when the dialog opens.
     const bool picked = m_state.typeShown(static_cast<int>(index));
     m_currentFilterIndex->setValue(static_cast<int>(index));
     if (m_acceptMode == QFileDialog::AcceptSave && (picked || m_firstRun)) {

@@ -21,9 +21,9 @@
 namespace morvane::ui {
 
 /**
- * Owns the Shell's dialog object, with what the host has set and the controls that it has added, and runs it.
+ * Owns the Shell's dialog object and runs it. Keeps the host's settings and controls.
  *
- * Texts are UTF-8. Without a dialog object every operation is safe and keeps the values that were set.
+ * Texts are UTF-8. Without a dialog object, all operations are allowed, and the settings are kept.
  */
 class NativeFileDialog final : private NativeDialogObserver
 {
@@ -47,10 +47,10 @@ public:
     const boost::shared_ptr<PropertyAbstract<int>>& currentFilterIndex() const { return m_currentFilterIndex; }
     const QStringList& nameFilters() const { return m_nameFilters; }
     void setNameFilters(const QStringList& filters) { m_nameFilters = filters; }
-    /** Empty when the index of the current filter lies outside the list. */
+    /** Empty if the index of the current filter is outside the list. */
     QString currentNameFilter() const;
     NativeControls& controls() { return m_controls; }
-    /** Tells this dialog from others; null without one. */
+    /** The Shell's dialog object, only for comparisons. Null if there is none. */
     const IFileDialog* shellDialog() const { return m_dialog.get(); }
 
 private:
@@ -66,10 +66,10 @@ private:
     void prepareRun();
     void configure();
     void replaceTypedExtension(IFileDialog& dialog, bool picked);
-    /** What stands in the name field; nothing when it cannot be read. */
+    /** The text of the name field. None if it cannot be read. */
     std::optional<QString> typedName(IFileDialog& dialog);
 
-    // Destroyed from the last to the first, which hosts rely on.
+    // Members are destroyed in reverse order. Hosts rely on this order.
     Shell& m_shell;
     ComPtr<IFileDialog> m_dialog;
     QPointer<QWidget> m_parent;
@@ -89,7 +89,7 @@ private:
     bool m_running = false;
     bool m_firstRun = true;
 
-    /** The last run was ended by close(), or was accepted by the user. */
+    /** Whether close() has ended the last run, and whether the user has accepted in it. */
     bool m_closed = false;
     bool m_accepted = false;
 };

@@ -68,7 +68,7 @@ QStringList NativeResults::typed(const std::string& name) const
 void NativeResults::append(QStringList& paths, IShellItem& item) const
 {
     const QString path = nativePathOf(m_shell, item);
-    if (!path.isEmpty()) { // unreadable, or of an item outside the file system
+    if (!path.isEmpty()) { // empty: unreadable, or not in the file system
         paths.append(path);
     }
 }

@@ -14,13 +14,13 @@ namespace morvane::ui {
 class NativeResults
 {
 public:
-    /** @param dialog not empty */
+    /** @param dialog must not be null */
     NativeResults(Shell& shell, const ComPtr<IFileDialog>& dialog);
 
     /**
-     * What the last run has ended with.
-     * @param typedName the text of the name field that the user accepted. It gives the paths of a save dialog that
-     *                  allows several names, since such a dialog has no list of results.
+     * Returns the files that were chosen in the last run.
+     * @param typedName the text of the name field that the user accepted. The paths are read
+     *                  from it in a save dialog with several names, because such a dialog has no list of results.
      */
     QStringList read(const std::optional<std::string>& typedName) const;
 

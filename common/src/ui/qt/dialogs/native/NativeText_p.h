@@ -7,13 +7,13 @@
 
 namespace morvane::ui {
 
-/** The Shell's text for UTF-8, by the host's own conversion. */
+/** Converts UTF-8 to text for the Shell, with the host's utf8ToWideString(). */
 ShellString shellText(const std::string& utf8);
 
-/** The text that @p shell has returned, which is freed; empty for null. */
+/** Converts a text that @p shell has returned, and frees it. Null gives an empty text. */
 QString takeText(Shell& shell, LPWSTR text);
 
-/** The path in the platform's form; empty when it cannot be read or the item lies outside the file system. */
+/** The item's path in the platform's form. Empty if it cannot be read or the item is not in the file system. */
 QString nativePathOf(Shell& shell, IShellItem& item);
 
 } // namespace morvane::ui

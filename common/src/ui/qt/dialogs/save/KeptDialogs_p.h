@@ -7,7 +7,7 @@ struct IFileDialog;
 namespace morvane::ui {
 
 /**
- * Whether the Shell's dialog belongs to a SaveFileWinDialog, which never deletes it. For tests that count the objects
+ * Whether the Shell's dialog belongs to a SaveFileWinDialog, which never deletes it. Used by tests that count objects
  * that were not released.
  */
 MORVANE_UI_EXPORT bool isKeptForSaveFlow(const IFileDialog& dialog);

@@ -7,8 +7,8 @@ namespace morvane::ui {
 /**
  * Appends the extension of the chosen name filter to @p filename if the name has no extension.
  *
- * The extension starts at the last dot of @p nameFilter, and has no white space, parentheses and asterisks: `.dat` for
- * `Data (*.dat)`, `.lay` for `Layouts (*.plt *.lay)`. The whole text of a filter without a dot is the extension:
+ * The extension is the text from the last dot of @p nameFilter, without white space, parentheses and asterisks: `.dat`
+ * for `Data (*.dat)`, `.lay` for `Layouts (*.plt *.lay)`. The whole text of a filter without a dot is the extension:
  * `Allfiles` for `All files (*)`.
  *
  * A name has no extension if the whole path contains no dot, or if it ends with a dot. It then gets the extension and

@@ -50,7 +50,7 @@ struct SaveFileFlow
     static bool launch(std::shared_ptr<SaveFileFlow> flow);
     /** The save-file object is destroyed. A flow that is running asks nothing more and ends. */
     virtual void abandon() { m_isAbandoned = true; }
-    /** The position of the chosen filter among the caller's, the first one of equal ones. -1 if it is not there. */
+    /** The position of the chosen filter in the caller's list. The first one of equal filters. -1 if it is absent. */
     int selectedWriter();
 
     virtual void createDialog(const std::string& filter, const std::string& helpTopic) = 0;
@@ -62,9 +62,9 @@ struct SaveFileFlow
     /** Shows the dialog modally and returns whether the user has accepted. */
     virtual bool runDialog() = 0;
     virtual QStringList selectedFiles() = 0;
-    /** The caller's filters, also while the dialog shows a typed wildcard instead of one of them. */
+    /** The caller's filters, even while the dialog shows a typed wildcard instead of one of them. */
     virtual QStringList nameFilters() = 0;
-    /** The position of the chosen filter among them. */
+    /** The position of the chosen filter in nameFilters(). */
     virtual int selectedPosition() = 0;
     /** The chosen filter as the dialog shows it. */
     virtual QString selectedFilter() = 0;
@@ -88,7 +88,7 @@ private:
         GivenUp
     };
     bool run();
-    /** Checks m_selectedFilename and asks the user where that is necessary. */
+    /** Checks m_selectedFilename, and asks the user if necessary. */
     Verdict judge();
     bool isAlive() { return !m_isAbandoned && hasDialog(); }
     bool isConfirmed(const std::string& question);

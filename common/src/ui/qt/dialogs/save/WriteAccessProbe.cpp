@@ -33,7 +33,7 @@ fs::path scratchName(boost::system::error_code& error)
     return fs::unique_path("%%%%-%%%%-%%%%-%%%%", error);
 }
 
-// Linux follows as many links. Also limits the attempts if another process keeps creating and removing the file.
+// Linux follows up to 40 links. This also limits the attempts if another process keeps creating and removing the file.
 constexpr int maxAttempts = 41;
 
 #ifdef _WIN32
@@ -92,7 +92,7 @@ Error openExisting(const fs::path& path)
     return OpenFile(path, 0, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING, 0).error();
 }
 
-/** For places where files may be created but not deleted, and for names whose file was deleted a moment ago. */
+/** Used if files may be created but not deleted, and if the file with this name was deleted a moment ago. */
 Error makeAndTryToRemove(const fs::path& path)
 {
     const OpenFile file(path, 0, FILE_SHARE_DELETE, CREATE_NEW, 0);
@@ -163,7 +163,7 @@ public:
 
     Error error() const { return m_error; }
 
-    /** Reads the status of the file itself, whatever its name leads to now. @return whether that was possible */
+    /** Reads the status of this file, even if its name leads to another file now. @return whether that was possible */
     bool readStatus(struct stat& status) const
     {
         return uninterrupted([&] { return ::fstat(m_descriptor, &status); }) == 0;

@@ -12,10 +12,10 @@ namespace morvane::ui {
  * and removed, and the link stays. Files are created exclusively, so that an existing file is never removed, even if
  * its status cannot be read.
  *
- * A file that another process renames to this name meanwhile stays. On Windows the created file is deleted through its
- * own handle, and the renaming may fail. On other systems the created file is compared with the file that has the name.
- * That file is renamed, compared again, and then removed or given its name back, so the name may be missing for a
- * moment.
+ * If another process renames a file to this name meanwhile, that file stays. On Windows the created file is deleted
+ * through its own handle, and the renaming may fail. On other systems the created file is compared with the file that
+ * has the name. That file is renamed, compared again, and then removed or given its name back, so the name may be
+ * missing for a moment.
  *
  * Another process cannot open the created file on Windows. On other systems it can; the file is removed if it is still
  * empty, and what the process writes later is lost. Without hard links, or if the file cannot be renamed, a file that

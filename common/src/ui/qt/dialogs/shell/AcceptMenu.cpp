@@ -30,7 +30,7 @@ AcceptMenu::AcceptMenu(
     connect(m_menu, &QMenu::aboutToShow, this, [this, opening = std::move(opening)] {
         opening();
         if (!isVisible()) {
-            // The dialog was closed, and a menu cannot be stopped from opening now.
+            // The dialog was closed. The menu cannot be prevented from opening now, so it is closed afterwards.
             QMetaObject::invokeMethod(m_menu, &QWidget::close, Qt::QueuedConnection);
         }
     });
@@ -42,7 +42,7 @@ AcceptMenu::~AcceptMenu() = default;
 
 void AcceptMenu::update(const Control& dropDown)
 {
-    // A signal of an action may lead here, so the actions are deleted later.
+    // A signal of an action may have caused this call, so the actions are deleted later.
     for (QAction* const action : m_menu->actions()) {
         m_menu->removeAction(action);
         action->deleteLater();
@@ -79,7 +79,7 @@ bool AcceptMenu::filterMenu(QEvent& event)
     if (m_isResending || (event.type() != QEvent::MouseButtonRelease && event.type() != QEvent::KeyPress)) {
         return false;
     }
-    // QMenu uses its members after an action was triggered, so the pick is reported once it has returned.
+    // QMenu accesses its members after it has triggered an action. So the pick is reported after QMenu has returned.
     m_isResending = true;
     QCoreApplication::sendEvent(m_menu, &event);
     m_isResending = false;
@@ -143,7 +143,7 @@ void AcceptMenu::placeMenu()
         menu.moveLeft(button.left());
     }
     if (screen && menu.top() < room.top()) {
-        // Beside the button, where no other button lies.
+        // There is no room above. Beside the button the menu covers no other button.
         menu.moveTop(button.top());
         menu.moveLeft(button.right() + menu.width() < room.right() ? button.right() + 1 : button.left() - menu.width());
     }

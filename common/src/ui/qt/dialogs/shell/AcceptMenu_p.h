@@ -12,9 +12,9 @@ class QMenu;
 namespace morvane::ui {
 
 /**
- * The arrow at the right end of the accept button, with the menu of the drop-down's items. The arrow is hidden while
- * there is no item to choose. The button itself works as before. The menu opens above the button, since other buttons
- * of the dialog lie below.
+ * The arrow at the end of the accept button, and its menu with the items of the drop-down. The arrow is hidden while
+ * there is no item to choose. The rest of the button works as before. The menu opens above the button, because other
+ * buttons of the dialog are below it.
  */
 class AcceptMenu : public QToolButton
 {

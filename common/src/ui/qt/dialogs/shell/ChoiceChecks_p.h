@@ -9,19 +9,19 @@
 namespace morvane::ui {
 
 /**
- * The Shell's checks of the paths that the user has chosen. What is wrong is told in a message box over the window.
+ * The Shell's checks of the paths that the user has chosen. Errors are shown in a message box over the window.
  *
- * A message box and the observer may destroy the window; the check then has failed.
+ * The window may be destroyed while a message box is open, and by the observer. The check fails then.
  */
 class ChoiceChecks
 {
 public:
-    /** @param settings and @p observer are not used once the window was destroyed */
+    /** @p settings and @p observer are not used after the window was destroyed. */
     ChoiceChecks(QWidget& window, const FileDialogSettings& settings, FileDialogObserver& observer);
 
-    /** Whether every file and folder is there that must be. */
+    /** Whether all files and folders exist that must exist. */
     bool exist(const QStringList& paths);
-    /** Whether every existing file among them may be replaced; the observer is asked before the user. */
+    /** Whether all of the files that exist may be replaced. Asks the observer first, then the user. */
     bool mayReplaceAll(const QStringList& paths);
     void tellMissingFolder(const QString& path);
 

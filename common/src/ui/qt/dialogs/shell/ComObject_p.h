@@ -7,9 +7,10 @@
 namespace morvane::ui {
 
 /**
- * @p Base with its references counted. Made with one reference, the caller's; deletes itself with the last.
+ * Adds reference counting to @p Base. A new object has one reference, which the caller owns. The object deletes itself
+ * when its last reference is released.
  *
- * Base implements its interfaces but for AddRef and Release. Its destructor must call neither.
+ * Base implements its interfaces except AddRef and Release. Its destructor must not call these two.
  */
 template <typename Base>
 class ComObject final : public Base

@@ -7,15 +7,15 @@
 namespace morvane::ui {
 
 /**
- * @p Base as a part of another object, whose identity and reference count it shares.
+ * Makes @p Base a part of another object, with the identity and the reference count of that object.
  *
- * Base implements its interface but for the three operations of IUnknown.
+ * Base implements its interface except the three operations of IUnknown.
  */
 template <typename Base>
 class ComPart final : public Base
 {
 public:
-    /** @param owner has this as a member; the other arguments go to Base */
+    /** @param owner the object that has this one as a member; the other arguments are passed to Base */
     template <typename... Arguments>
     explicit ComPart(IUnknown& owner, Arguments&&... arguments)
         : Base(std::forward<Arguments>(arguments)...), m_owner(owner)

@@ -8,7 +8,7 @@
 
 namespace morvane::ui {
 
-/** Shell::qiSearch() where the operating system has none. */
+/** Implements Shell::qiSearch() for platforms that have no such function. */
 inline HRESULT searchInterfaces(void* that, const QITAB* table, REFIID iid, void** object)
 {
     if (!object) {
@@ -26,7 +26,7 @@ inline HRESULT searchInterfaces(void* that, const QITAB* table, REFIID iid, void
     return E_NOINTERFACE;
 }
 
-/** Answers @p answer, with null in @p result. */
+/** Sets @p result to null and returns @p answer. */
 template <typename Result>
 HRESULT withoutResult(Result** result, HRESULT answer = E_NOTIMPL)
 {
@@ -37,7 +37,7 @@ HRESULT withoutResult(Result** result, HRESULT answer = E_NOTIMPL)
     return answer;
 }
 
-/** A copy of @p text that the caller frees with freeTaskMemory(). */
+/** Makes a copy of @p text. The caller frees it with freeTaskMemory(). */
 inline HRESULT copyToTaskMemory(const QString& text, LPWSTR* copy)
 {
     const ShellString units = toShellString(text);
@@ -50,7 +50,7 @@ inline HRESULT copyToTaskMemory(const QString& text, LPWSTR* copy)
     return S_OK;
 }
 
-/** Frees what copyToTaskMemory() has made, whichever Shell is the process's own; null is allowed. */
+/** Frees a copy made by copyToTaskMemory(), whatever Shell::instance() is. Null is allowed. */
 inline void freeTaskMemory(void* memory)
 {
     std::free(memory);

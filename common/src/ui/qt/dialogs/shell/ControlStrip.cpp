@@ -55,7 +55,7 @@ void ControlStrip::update(const std::vector<Control>& controls)
         anyInRow = anyInRow || (control.isVisible() && button->parentWidget() == m_row);
     }
     m_row->setVisible(anyInRow);
-    // The button box sets the tab order of all its buttons again when one is added.
+    // The button box sets the tab order of its buttons again when a button is added.
     if (m_acceptMenu) {
         QWidget::setTabOrder(m_acceptMenu->parentWidget(), m_acceptMenu);
     }
@@ -70,7 +70,7 @@ QAbstractButton* ControlStrip::buttonFor(const Control& control)
     const DWORD id = control.id;
     if (control.kind == Control::Kind::CheckButton) {
         button = new QCheckBox(m_row);
-        // Not toggled(): Qt uses the button after it, when a callback may have destroyed the dialog.
+        // toggled() is not used: Qt accesses the button after that signal, and a callback may destroy the dialog.
         connect(button, &QAbstractButton::clicked, this, [this, id](bool checked) { m_actions.toggled(id, checked); });
     } else {
         button = new QPushButton(m_row);
@@ -83,7 +83,7 @@ QAbstractButton* ControlStrip::buttonFor(const Control& control)
 
 void ControlStrip::addToRow(QAbstractButton& button)
 {
-    // A button that became prominent has left an empty cell.
+    // When a button becomes prominent, its cell becomes empty.
     int position = 0;
     while (m_rowLayout->itemAtPosition(position / controlsPerRow, position % controlsPerRow)) {
         ++position;

@@ -17,9 +17,9 @@ class AcceptMenu;
 class FileDialogWindow;
 
 /**
- * The widgets of the custom controls in one dialog made of widgets: a row below the file types, the prominent push
- * button below the dialog's own buttons, and the menu on the accept button, which then shows the text of the menu's
- * first item. A child of the dialog.
+ * The widgets of the custom controls in a dialog made of widgets. There is a row below the file types. Prominent push
+ * buttons are below the dialog's own buttons. The accept button has the menu, and shows the text of the menu's first
+ * item. This object is a child of the dialog.
  */
 class ControlStrip : public QObject
 {
@@ -27,7 +27,7 @@ public:
     ControlStrip(FileDialogWindow& dialog, ControlActions actions);
     ~ControlStrip() override;
 
-    /** Makes the widgets match @p controls. May be called from a signal of one of them. */
+    /** Updates the widgets for @p controls. A slot for a signal of such a widget may call this. */
     void update(const std::vector<Control>& controls);
 
 private:

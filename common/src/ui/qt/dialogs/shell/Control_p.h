@@ -18,7 +18,7 @@ struct ControlItem
     CDCONTROLSTATEF state = CDCS_ENABLEDVISIBLE;
 };
 
-/** One custom control of the dialog, whether or not it is on the screen. */
+/** One custom control of the dialog, shown or not. */
 struct Control
 {
     enum class Kind
@@ -37,7 +37,7 @@ struct Control
     std::vector<ControlItem> items{};
     std::optional<DWORD> selectedItem{};
 
-    /** The item that the accept button itself chooses: the first that is visible and enabled. Null without one. */
+    /** The item that a click on the accept button chooses: the first visible and enabled one. Null if there is none. */
     const ControlItem* firstChoice() const;
     bool isEnabled() const { return (state & CDCS_ENABLED) != 0; }
     bool isVisible() const { return (state & CDCS_VISIBLE) != 0; }
@@ -48,7 +48,7 @@ struct ControlActions
 {
     std::function<void(DWORD control)> clicked;
     std::function<void(DWORD control, bool checked)> toggled;
-    /** An item of the accept button's drop-down; returns whether the dialog has ended. */
+    /** The user has picked an item of the accept button's drop-down. Returns whether the dialog has ended. */
     std::function<bool(DWORD control, DWORD item)> itemPicked;
     std::function<void(DWORD control)> activating; ///< the drop-down is about to open
 };

@@ -249,7 +249,7 @@ bool CustomControls::onItemPicked(DWORD id, DWORD item)
     const bool ended = m_actions.itemPicked(id, item);
     Control* const found = find(id);
     if (!ended && found && found->selectedItem == item) {
-        // The choice was refused. Pressing the button itself next chooses the item that the button shows.
+        // The choice was refused. The next click on the button chooses the item that the button shows.
         found->selectedItem = before && findItem(id, *before) ? before : std::nullopt;
     }
     return ended;

@@ -14,11 +14,11 @@ namespace morvane::ui {
 class FileDialogWindow;
 
 /**
- * The controls that an application adds to the dialog, kept from run to run, and shown in the window while there is
- * one. Part of the dialog object, see ComPart.
+ * The controls that an application adds to the dialog. They are kept from run to run, and shown in the window of each
+ * run. This is a part of the dialog object, see ComPart.
  *
- * Push buttons, check buttons and the accept button's drop-down with its items exist. The other kinds of control
- * (menus, combo boxes, radio lists, edit boxes, separators, texts, visual groups) are answered with E_NOTIMPL.
+ * Supports push buttons, check buttons and the accept button's drop-down with its items. The operations for other kinds
+ * of control (menus, combo boxes, radio lists, edit boxes, separators, texts, visual groups) return E_NOTIMPL.
  */
 class CustomControls : public IFileDialogCustomize
 {
@@ -29,7 +29,7 @@ public:
     bool isEmpty() const { return m_controls.empty(); }
     /** Shows the controls in @p window until it is destroyed, and forgets which drop-down item was picked before. */
     void showIn(FileDialogWindow& window);
-    /** Updates the widgets after a change of the dialog's own texts. */
+    /** Updates the widgets after the dialog's own texts have changed. */
     void refresh();
 
     HRESULT STDMETHODCALLTYPE EnableOpenDropDown(DWORD control) override;

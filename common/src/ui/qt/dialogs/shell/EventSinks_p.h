@@ -11,7 +11,7 @@ namespace morvane::ui {
 
 /**
  * The advised event sinks of one dialog, in the order of their cookies. Sinks may be advised and unadvised during a
- * notification: one that was unadvised is not called any more, a new one is called from the next notification on.
+ * notification. An unadvised sink is not called any more. A new sink is called from the next notification on.
  */
 class EventSinks
 {
@@ -20,11 +20,11 @@ public:
     HRESULT unadvise(DWORD cookie);
 
     /**
-     * Calls every sink until one answers neither S_OK nor E_NOTIMPL.
-     * @return that answer, S_OK when there was none
+     * Calls the sinks until one of them returns neither S_OK nor E_NOTIMPL.
+     * @return the result of that sink, or S_OK if there was none
      */
     HRESULT notify(const std::function<HRESULT(IFileDialogEvents&)>& call);
-    /** The same for the sinks that have the interface for controls. */
+    /** Does the same for the sinks that have the interface for controls. */
     HRESULT notifyControls(const std::function<HRESULT(IFileDialogControlEvents&)>& call);
 
 private:
@@ -48,7 +48,7 @@ inline HRESULT EventSinks::unadvise(DWORD cookie)
     if (found == m_sinks.end()) {
         return E_INVALIDARG;
     }
-    // Released only after it has left the map: its last release may call back.
+    // The sink is released after it was removed from the map, because its last release may call this object.
     const ComPtr<IFileDialogEvents> sink = std::move(found->second);
     m_sinks.erase(found);
     return S_OK;

@@ -16,7 +16,7 @@ namespace morvane::ui {
 
 namespace {
 
-// The options of the Shell's own dialogs before the first SetOptions.
+// The options that Windows' own dialogs have before the first SetOptions.
 constexpr FILEOPENDIALOGOPTIONS initialOpenOptions = FOS_FILEMUSTEXIST | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR;
 constexpr FILEOPENDIALOGOPTIONS initialSaveOptions =
     FOS_NOREADONLYRETURN | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR | FOS_OVERWRITEPROMPT;
@@ -41,7 +41,7 @@ FileTypeEntry fileTypeOf(const COMDLG_FILTERSPEC& spec)
     for (const QString& piece : toQString(spec.pszSpec).split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
         const QString pattern = piece.trimmed();
         if (!pattern.isEmpty()) {
-            // To the Shell this means every file, to Qt only names with a dot.
+            // For the Shell, *.* means every file. For Qt, it means only names with a dot.
             type.patterns.append(pattern == QLatin1String("*.*") ? QStringLiteral("*") : pattern);
         }
     }
@@ -70,7 +70,7 @@ HRESULT FileDialogCore::show(HWND owner)
     if (!canShowWindows()) {
         return E_UNEXPECTED;
     }
-    // A sink may release the last other reference.
+    // A sink may release all other references.
     const auto self = ComPtr<IFileDialog>::share(&m_dialog);
     {
         begin();
@@ -365,7 +365,7 @@ void FileDialogCore::onTypeChanged(int index)
 
 bool FileDialogCore::mayAccept(const QStringList& paths)
 {
-    // A sink may run an event loop before it answers; until then a second choice is refused.
+    // A sink may run an event loop before it returns. Until then, a second choice is refused.
     if (m_deciding) {
         return false;
     }

@@ -12,14 +12,14 @@
 namespace morvane::ui {
 
 /**
- * What the open and the save dialog have in common: the state behind IFileDialog and the run of the window.
+ * The common part of the open and the save dialog. Has the state behind IFileDialog and runs the window.
  *
- * An exception that leaves an event sink ends the run and leaves show(), so that it never crosses Qt's event loop.
+ * An exception from an event sink ends the run, and show() throws it again. So it never passes through Qt's event loop.
  */
 class FileDialogCore final : private FileDialogObserver
 {
 public:
-    /** @param dialog the object that this is a part of; not owned */
+    /** @param dialog the object that owns this one */
     FileDialogCore(IFileDialog& dialog, bool saving, bool alwaysWidgets);
     ~FileDialogCore() override;
 
@@ -64,7 +64,7 @@ private:
     void begin();
     void run(QWidget* owner);
     void announceOpening();
-    /** The window is there, and nothing has ended the run. */
+    /** Whether the window exists and the run has not ended. */
     bool isOpen() const { return m_window && !m_notifier.hasRunEnded(); }
     void end(HRESULT result);
     void applyTexts();
@@ -72,7 +72,7 @@ private:
     IFileDialog& m_dialog;
     const bool m_alwaysWidgets;
     FILEOPENDIALOGOPTIONS m_options;
-    FileDialogSettings m_settings; // the flags that follow from the options are filled in for each run
+    FileDialogSettings m_settings; // settingsForRun() adds the flags that depend on the options
     std::optional<QString> m_fileName;
     QString m_defaultFolder;
     SinkNotifier m_notifier;

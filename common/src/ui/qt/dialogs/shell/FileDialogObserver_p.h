@@ -4,7 +4,7 @@
 
 namespace morvane::ui {
 
-/** Called by the window while it runs. Each operation may end the run or destroy the window. */
+/** The window calls these operations while it runs. Each of them may end the run or destroy the window. */
 class FileDialogObserver
 {
 public:

@@ -18,7 +18,7 @@ struct FileDialogSettings
 {
     bool saving = false;
     bool picksFolders = false;
-    bool allowsSeveral = false; ///< when saving, a list of names can be typed, but not picked
+    bool allowsSeveral = false; ///< in a save dialog, several names can be typed, but not picked
     bool fileMustExist = false;
     bool pathMustExist = false;
     bool asksBeforeOverwriting = false;
@@ -27,9 +27,9 @@ struct FileDialogSettings
     QString title;            ///< empty: Qt's own
     QString acceptLabel;      ///< empty: Qt's own
     QString fileNameLabel;    ///< empty: Qt's own
-    QString folder;           ///< of an existing directory
+    QString folder;           ///< path of an existing directory
     QString fileName;
-    bool fileNameIsTyped = false; ///< by the user, in an earlier run
+    bool fileNameIsTyped = false; ///< fileName is a wildcard that the user has typed in an earlier run
     QString defaultSuffix;        ///< added to names without suffix; empty: none
     std::vector<FileTypeEntry> types;
     int typeIndex = 0;

@@ -24,7 +24,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** The type as a filter for the desktop's dialog, which Qt parses. */
+/** The type as a name filter for the desktop's dialog. Qt parses it. */
 QString nativeFilter(const FileTypeEntry& type)
 {
     const QString patterns = type.patterns.isEmpty() ? QStringLiteral("*") : type.patterns.join(QLatin1Char(' '));
@@ -69,7 +69,7 @@ FileDialogWindow::~FileDialogWindow() = default;
 void FileDialogWindow::applySettings()
 {
     setAcceptMode(m_settings.saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    // Whether files must exist is checked in accept(): Qt would disable the button without saying why.
+    // accept() checks whether files must exist. Qt would disable the button without telling the user why.
     const bool several = m_settings.allowsSeveral && !m_settings.saving && !m_settings.usesWidgets;
     setFileMode(m_settings.picksFolders ? QFileDialog::Directory
                 : several               ? QFileDialog::ExistingFiles
@@ -126,8 +126,8 @@ void FileDialogWindow::setUpTypeCombo()
     if (m_settings.types.empty()) {
         return;
     }
-    // Qt gets one placeholder for each type: it simplifies descriptions, and in save mode it would replace the typed
-    // suffix by that of the first pattern. The real texts and patterns are set here.
+    // Qt gets one placeholder for each type, because it simplifies descriptions, and in save mode it would replace the
+    // typed suffix by that of the first pattern. The real texts and patterns are set here.
     QStringList placeholders;
     QStringList descriptions;
     for (const FileTypeEntry& type : m_settings.types) {
@@ -184,7 +184,7 @@ void FileDialogWindow::watchWidgets()
     });
     if (auto* const view = findChild<QAbstractItemView*>(qtFileDialogNames::listView)) {
         connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-            updateAcceptButton(); // Qt checks the typed text, which need not change
+            updateAcceptButton(); // Qt disables the button for some texts, and the text may be unchanged
             m_selectionPending = true;
             deliverLater();
         });
@@ -212,7 +212,7 @@ QString FileDialogWindow::typedName() const
 void FileDialogWindow::setTypedName(const QString& name)
 {
     if (m_nameEdit) {
-        // A wildcard that gets another extension, as for another type, is still no file name.
+        // A wildcard stays a wildcard when its extension is replaced, for instance after a change of the type.
         m_editedName = holdsWildcard() ? name : m_editedName;
         m_nameEdit->setText(name);
         return;
@@ -293,7 +293,7 @@ void FileDialogWindow::updateAcceptButton()
 
 void FileDialogWindow::keepAcceptText()
 {
-    // Qt shows "Open" on it while a folder is selected, but here the button acts on the name.
+    // Qt shows "Open" on the button while a folder is selected. But in this dialog the button acts on the name.
     const QString& text = m_optionText.isEmpty() ? m_acceptText : m_optionText;
     if (consistsOfWidgets() && !text.isEmpty() && acceptButton()->text() != text) {
         acceptButton()->setText(text);
@@ -306,7 +306,7 @@ void FileDialogWindow::onTypePicked(int index)
         forgetWildcard();
     }
     m_settings.typeIndex = index;
-    applyPatterns(); // Qt has just set its placeholder, also when the same type was picked again
+    applyPatterns(); // Qt has set its placeholder, even if the same type was picked again
     deliverLater();
 }
 
@@ -323,7 +323,7 @@ void FileDialogWindow::onNativeTypePicked(const QString& filter)
 
 void FileDialogWindow::deliverLater()
 {
-    // Qt emits these signals within its own changes, when the window must not be changed or destroyed.
+    // Qt emits these signals during its own changes. The window must not be changed or destroyed then.
     QMetaObject::invokeMethod(
         this, [this] { deliver(); }, Qt::QueuedConnection);
 }

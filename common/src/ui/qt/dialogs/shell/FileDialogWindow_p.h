@@ -15,11 +15,11 @@ class QLineEdit;
 namespace morvane::ui {
 
 /**
- * The file dialog on the screen: QFileDialog whose file types are identified by position, with the checks of the
- * Shell in place of Qt's and an observer that takes part in each decision.
+ * The file dialog on the screen. Unlike QFileDialog, it identifies file types by their position, makes the checks of
+ * the Shell instead of Qt's, and asks an observer before each decision.
  *
- * Where the desktop's own dialog appears instead, not every change can be observed: a refused folder or choice opens
- * the dialog again.
+ * If the desktop's own dialog is shown instead, not every change can be observed. After a refused choice that dialog is
+ * opened again.
  */
 class FileDialogWindow : public QFileDialog
 {
@@ -27,7 +27,7 @@ public:
     FileDialogWindow(QWidget* owner, const FileDialogSettings& settings, FileDialogObserver& observer);
     ~FileDialogWindow() override;
 
-    /** Returns when the user, or done(), has ended the dialog or it was destroyed. */
+    /** Returns when the user or done() has ended the dialog, or when the dialog was destroyed. */
     void run();
 
     bool consistsOfWidgets() const { return m_nameEdit != nullptr; }
@@ -36,13 +36,13 @@ public:
     /** Whether the name is a wildcard that the user has typed. Such a name filters the list and names no file. */
     bool holdsWildcard() const;
     void setTypeIndex(int index);
-    /** Enters @p folder as the user would; the observer is called before this returns. */
+    /** Enters @p folder as if the user did it. Calls the observer before it returns. */
     void setFolder(const QString& folder);
-    /** The selected files, or else the one whose name is typed. */
+    /** The selected files. If there are none, the files whose names are typed. */
     QStringList selectedPaths() const;
     void setTexts(const QString& title, const QString& acceptLabel, const QString& fileNameLabel);
 
-    /** The text of the accept button in place of its own; empty restores its own. */
+    /** Replaces the text of the accept button. An empty text restores the button's own text. */
     void setOptionText(const QString& text);
 
     void accept() override;
@@ -57,7 +57,7 @@ private:
     void watchWidgets();
     void applyPatterns();
     void filterByWildcard();
-    /** False when the wildcard names a folder that is not there. */
+    /** Returns whether the name field still has a wildcard to filter by. False if the named folder does not exist. */
     bool enterFolderOfWildcard();
     void forgetWildcard();
     QAbstractButton* acceptButton() const;
@@ -77,15 +77,15 @@ private:
     QLineEdit* m_nameEdit = nullptr;
     QComboBox* m_typeCombo = nullptr;
     QFileSystemModel* m_model = nullptr;
-    QString m_acceptText; ///< of the accept button itself
-    QString m_optionText; ///< in its place, unless empty
+    QString m_acceptText; ///< the accept button's own text
+    QString m_optionText; ///< shown instead of m_acceptText, unless empty
     QString m_folder;
-    QString m_editedName;        ///< as the user has edited it, until a name is set
-    QStringList m_typedPatterns; ///< in place of those of the type
-    int m_toldType;              ///< the type last reported to the observer
+    QString m_editedName;        ///< the name field's text after the user's last edit
+    QStringList m_typedPatterns; ///< used instead of the patterns of the type, unless empty
+    int m_toldType;              ///< the type that was last reported to the observer or set by the program
     bool m_folderPending = false;
     bool m_selectionPending = false;
-    bool m_again = false; ///< the desktop's dialog has ended with a choice that was refused
+    bool m_again = false; ///< the desktop's dialog has closed, but the choice was refused
 };
 
 } // namespace morvane::ui

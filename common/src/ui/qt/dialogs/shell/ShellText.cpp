@@ -36,7 +36,7 @@ char32_t codePointOf(char32_t high, char32_t low)
     return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
 }
 
-/** Units of 16 bits are joined to pairs; units of 32 bits are characters already. */
+/** Units of 16 bits may be surrogate pairs. Units of 32 bits are code points. */
 template <typename Unit>
 ShellString converted(const Unit* units, std::size_t count)
 {

@@ -13,17 +13,17 @@ namespace morvane::ui {
 using ShellString = std::basic_string<WCHAR>;
 
 /**
- * The Shell's text for wide text, whose units are UTF-16 where `wchar_t` has 16 bits and code points otherwise. What is
- * no character, a lone surrogate or a value above 0x10FFFF, becomes U+FFFD. A NUL stays where it is.
+ * Converts wide text to text for the Shell. The units of the wide text are UTF-16 if `wchar_t` has 16 bits, and code
+ * points otherwise. A lone surrogate or a value above 0x10FFFF becomes U+FFFD. NUL characters are kept.
  */
 MORVANE_UI_EXPORT ShellString toShellString(const std::wstring& text);
 MORVANE_UI_EXPORT ShellString toShellString(const QString& text);
 
-/** The text up to its NUL; null gives an empty text. */
+/** The text up to the first NUL. Null gives an empty text. */
 MORVANE_UI_EXPORT QString toQString(const WCHAR* text);
 MORVANE_UI_EXPORT QString toQString(const ShellString& text);
 
-/** The text up to its NUL as UTF-8, a lone surrogate as U+FFFD; null gives an empty text. */
+/** The text up to the first NUL, as UTF-8. A lone surrogate becomes U+FFFD. Null gives an empty text. */
 MORVANE_UI_EXPORT std::string toUtf8(const WCHAR* text);
 
 } // namespace morvane::ui

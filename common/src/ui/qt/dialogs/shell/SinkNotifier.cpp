@@ -47,7 +47,7 @@ FileDialogObserver::OverwriteAnswer SinkNotifier::overwriting(const QString& pat
     tell([&](IFileDialogEvents& sink) {
         const HRESULT result = sink.OnOverwrite(&m_dialog, item.get(), &response);
         response = result == S_OK ? response : FDEOR_DEFAULT;
-        return result == S_OK && response != FDEOR_DEFAULT ? S_FALSE : S_OK; // the first decision stands
+        return result == S_OK && response != FDEOR_DEFAULT ? S_FALSE : S_OK; // the first decision is final
     });
     if (m_ended || response == FDEOR_REFUSE) {
         return OverwriteAnswer::Refuse;
@@ -72,7 +72,7 @@ HRESULT SinkNotifier::tell(const std::function<HRESULT(IFileDialogEvents&)>& cal
 
 HRESULT SinkNotifier::guarded(const std::function<HRESULT()>& call)
 {
-    // A sink may have called Close() in an event that others follow.
+    // A sink may have called Close() during an earlier event.
     if (m_ended) {
         return E_ABORT;
     }

@@ -9,16 +9,16 @@
 namespace morvane::ui {
 
 /**
- * Tells the advised sinks of one dialog what happens in a run, until the run has ended.
+ * Notifies the advised sinks of one dialog of the events in a run, until the run has ended.
  *
- * An exception that leaves a sink is kept until rethrow(), so that it never crosses Qt's event loop.
+ * An exception from a sink is kept until rethrow(). So it never passes through Qt's event loop.
  */
 class SinkNotifier
 {
 public:
     /**
-     * @param dialog   named to the sinks; not owned
-     * @param onThrown called when a sink has thrown; is to end the run
+     * @param dialog   passed to the sinks; not owned
+     * @param onThrown called when a sink has thrown; must end the run
      */
     SinkNotifier(IFileDialog& dialog, std::function<void()> onThrown);
 
@@ -26,10 +26,10 @@ public:
     HRESULT unadvise(DWORD cookie) { return m_sinks.unadvise(cookie); }
 
     void beginRun() { m_ended = false; }
-    /** From here on no sink is called. */
+    /** From now on no sink is called. */
     void endRun() { m_ended = true; }
     bool hasRunEnded() const { return m_ended; }
-    /** Throws what a sink has thrown, once. */
+    /** Throws the exception of a sink, if there is one, and forgets it. */
     void rethrow();
 
     /** Returns whether every sink allows it. */

@@ -15,12 +15,12 @@ QString absolutePath(QString name, const QString& folder)
     if (name == QLatin1String("~") || name.startsWith(QLatin1String("~/"))) {
         name.replace(0, 1, QDir::homePath());
     }
-    // To Qt a leading colon means a resource of the program.
+    // For Qt, a name that begins with a colon is a resource of the program.
     const bool ordinary = name.startsWith(QLatin1Char(':'));
     return QDir::cleanPath(ordinary ? folder + QLatin1Char('/') + name : QDir(folder).absoluteFilePath(name));
 }
 
-/** The names of a list whose last quote may still be missing; the whole text when it is no list. */
+/** The names of a list. The last quote of the list may be missing. Returns the whole text if it is not a list. */
 QStringList typedNames(const QString& text)
 {
     const QString list = text.trimmed();

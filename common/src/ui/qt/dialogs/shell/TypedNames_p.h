@@ -5,18 +5,18 @@
 namespace morvane::ui {
 
 /**
- * The names in a text that is a list of names in double quotes, `"a.dat" "b c.dat"`, blanks around it or not. Empty
- * when the text is no such list. A name may have quotes of its own, but not two with only blanks in between.
+ * The names in a list of names in double quotes, such as `"a.dat" "b c.dat"`. White space around the list is ignored.
+ * Empty if the text is not such a list. A name may contain quotes, but not two quotes with only white space between.
  */
 QStringList quotedNames(const QString& text);
 
 /**
- * The absolute paths that the text of the name field means in @p folder. Where several names are allowed, names in
- * double quotes are separate names; otherwise, and without quotes, the text is one name. `~` is the home directory.
+ * The absolute paths for the text of the name field, in @p folder. If several names are allowed, the text may be a list
+ * of names in double quotes. Otherwise it is one name, which may be in double quotes. `~` is the home directory.
  */
 QStringList pathsOfTypedText(const QString& text, const QString& folder, bool severalAllowed);
 
-/** The text that means @p names: several in double quotes, one as it is unless it begins with a quote itself. */
+/** The text for @p names. Each name is in double quotes, except a single name that does not begin with a quote. */
 QString typedTextOfNames(const QStringList& names);
 
 } // namespace morvane::ui

@@ -21,7 +21,7 @@ QStringList patternsOfTypedText(const QString& text)
         const bool separate = std::all_of(pieces.begin(), pieces.end(), isWildcard);
         patterns += separate ? pieces : QStringList(part.trimmed());
     }
-    // To Qt this means names with a dot.
+    // For Qt, *.* means only names with a dot.
     std::replace(patterns.begin(), patterns.end(), QStringLiteral("*.*"), QStringLiteral("*"));
     return patterns;
 }

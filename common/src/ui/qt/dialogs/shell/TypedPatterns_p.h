@@ -5,8 +5,8 @@
 namespace morvane::ui {
 
 /**
- * The patterns of a typed wildcard. Semicolons separate them, and so do blanks where each piece is a wildcard, since
- * a name may contain blanks. `*.*` is every file.
+ * The patterns of a typed wildcard. They are separated by semicolons. Blanks separate them only if each piece is a
+ * wildcard, because a name may contain blanks. `*.*` means every file.
  */
 QStringList patternsOfTypedText(const QString& text);
 

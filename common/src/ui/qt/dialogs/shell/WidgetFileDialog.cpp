@@ -9,7 +9,7 @@ namespace morvane::ui {
 
 namespace {
 
-/** The dialog object: its interfaces, with the operations of IFileDialog passed to the core. */
+/** The dialog object with its interfaces. Passes the operations of IFileDialog on to the core. */
 template <typename Interface>
 class WidgetFileDialog : public Interface
 {

@@ -5,8 +5,8 @@
 namespace morvane::ui {
 
 /**
- * Makes an open or save dialog on Qt's widgets, with one reference, which the caller owns.
- * @param alwaysWidgets never the desktop's own dialog
+ * Creates an open or save dialog on top of QFileDialog. The caller owns its one reference.
+ * @param alwaysWidgets whether the desktop's own dialog is never used
  */
 IFileDialog* makeWidgetFileDialog(bool saving, bool alwaysWidgets);
 

@@ -195,7 +195,7 @@ QString pathOfParsingName(const QString& name)
     if (!path.startsWith(QLatin1Char('/')) || !QFileInfo::exists(path)) {
         path.replace(QLatin1Char('\\'), QLatin1Char('/'));
     }
-    if (path.startsWith(QLatin1Char(':'))) { // to Qt a resource of the program, to the Shell a file
+    if (path.startsWith(QLatin1Char(':'))) { // for Qt a resource of the program, for the Shell a file
         path.prepend(QDir::currentPath() + QLatin1Char('/'));
     }
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());

@@ -7,18 +7,18 @@
 
 namespace morvane::ui {
 
-/** An item of the file system, existing or not; @p path is absolute, with Qt's separators. */
+/** An item of the file system. It need not exist. @p path is absolute, with Qt's separators. */
 ComPtr<IShellItem> makeShellItem(const QString& path);
 
-/** The items for @p paths, at least one, in that order. */
+/** The items for @p paths, in this order. There must be at least one path. */
 ComPtr<IShellItemArray> makeShellItemArray(const QStringList& paths);
 
-/** The path of any Shell's item with Qt's separators; empty for null and for items outside the file system. */
+/** The path of an item of any Shell, with Qt's separators. Empty for null and for items outside the file system. */
 QString pathOfShellItem(IShellItem* item);
 
 /**
- * The absolute path that a parsing name means: both separators are understood, and a relative name starts at the
- * current directory. A backslash in the name of a file that exists is part of the name.
+ * The absolute path for a parsing name. The name may have both kinds of separators, and may be relative to the current
+ * directory. In an absolute name of an existing file, a backslash is part of the name.
  */
 QString pathOfParsingName(const QString& name);
 

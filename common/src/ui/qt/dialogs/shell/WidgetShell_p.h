@@ -5,23 +5,26 @@
 namespace morvane::ui {
 
 /**
- * The Shell on platforms that have none: its dialog is QFileDialog behind the published interfaces.
+ * The Shell for platforms that have none. Its dialog is a QFileDialog behind the published interfaces.
  *
- * Paths given to it may use either separator; what it returns is in the platform's native form. Apartments are only
- * counted. Strings come from the C library's heap and go back to it.
+ * Paths in parameters may have both kinds of separators. Paths in results have the platform's native form. Of an
+ * apartment, only the kind and the number of initializations are kept. Strings are on the C library's heap.
  *
- * The dialog honours FOS_PICKFOLDERS, FOS_ALLOWMULTISELECT, FOS_FILEMUSTEXIST, FOS_PATHMUSTEXIST, FOS_OVERWRITEPROMPT
- * and FOS_FORCESHOWHIDDEN; the other options are stored and read back. Its controls are push buttons, check buttons and
- * the drop-down of the accept button; the other kinds of control are answered with E_NOTIMPL.
+ * The dialog uses the options FOS_PICKFOLDERS, FOS_ALLOWMULTISELECT, FOS_FILEMUSTEXIST, FOS_PATHMUSTEXIST,
+ * FOS_NOVALIDATE, FOS_OVERWRITEPROMPT and FOS_FORCESHOWHIDDEN. Other options are only stored. Its controls are push
+ * buttons, check buttons and the drop-down of the accept button. The operations for other controls return E_NOTIMPL.
  */
 class MORVANE_UI_EXPORT WidgetShell final : public Shell
 {
 public:
-    /** Which dialog appears when it carries no custom controls. With controls it is always Qt's own. */
+    /**
+     * Which dialog is shown. A dialog with custom controls is always Qt's own. So is one with a file type whose
+     * description is empty, not simplified, or equal to that of another type.
+     */
     enum class Appearance
     {
-        DesktopWherePossible, ///< the desktop's own dialog when Qt has one for it
-        AlwaysWidgets         ///< Qt's widgets, alike everywhere
+        DesktopWherePossible, ///< the desktop's own dialog if Qt supports it
+        AlwaysWidgets         ///< Qt's widgets on all desktops
     };
 
     explicit WidgetShell(Appearance appearance = Appearance::DesktopWherePossible);

@@ -4,7 +4,7 @@
 
 namespace morvane::ui {
 
-/** Passes every call to the operating system. Exists on Windows only. */
+/** Passes every call on to the operating system. Exists only on Windows. */
 class WindowsShell final : public Shell
 {
 public:

@@ -8,8 +8,8 @@
 namespace morvane::compat {
 
 /**
- * Stand-in for Qxt's label with the same name, with the members that Morvane uses: one line of text that is elided if
- * it does not fit.
+ * Stand-in for Qxt's label of the same name. Has the members that Morvane uses: one line of text, which is elided if it
+ * does not fit.
  *
  * sizeHint() has space for the whole text. minimumSizeHint() has space for the ellipsis only, or for the whole text
  * with Qt::ElideNone. Both include frame and margins, and follow the rotation. A text exactly as wide as the contents
