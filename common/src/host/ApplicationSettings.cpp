@@ -72,42 +72,52 @@ bool waitUntilFree(const QString& target, const QDeadlineTimer& deadline)
     return acquire(lock, deadline);
 }
 
-/** Comparing two of these shows whether a file was replaced in between. */
+QString guardOf(const QString& target)
+{
+    return target + QStringLiteral(".guard");
+}
+
+/** What shows that a file was replaced, or is being replaced. */
 struct FileState
 {
     explicit FileState(const QString& target)
-        : isBeingReplaced(QFileInfo::exists(target + QStringLiteral(".guard"))),
+        : hasGuard(QFileInfo::exists(guardOf(target))),
           exists(QFileInfo::exists(target)),
           size(QFileInfo(target).size()),
           modified(QFileInfo(target).lastModified())
     {
     }
 
-    bool isCalm(const FileState& before) const
+    bool isSameFile(const FileState& other) const
     {
-        return !isBeingReplaced && !before.isBeingReplaced && exists == before.exists && size == before.size &&
-               modified == before.modified;
+        return exists == other.exists && size == other.size && modified == other.modified;
     }
 
-    bool isBeingReplaced;
+    bool hasGuard;
     bool exists;
     qint64 size;
     QDateTime modified;
 };
 
-// On Windows a file can be neither opened nor found for a moment while it is being replaced. So an empty result counts
-// only if the file was the same before and after the reading.
-std::unique_ptr<QSettings> openForReading(const QString& target)
+/** Whether `settings`, which were read between the two states, have all that was in the file. */
+bool isReliable(const QSettings& settings, const FileState& before, const FileState& after)
 {
-    const QDeadlineTimer deadline(longestWaitMs);
-    for (;;) {
-        const FileState before(target);
-        auto settings = std::make_unique<QSettings>(target, QSettings::IniFormat);
-        if (FileState(target).isCalm(before) || !settings->allKeys().isEmpty() || deadline.hasExpired()) {
-            return settings;
-        }
-        QThread::msleep(2);
+    const bool wasRead = after.exists && settings.status() != QSettings::AccessError;
+    const bool wasLeftAlone = !before.hasGuard && !after.hasGuard;
+    return after.isSameFile(before) ? wasRead || wasLeftAlone : !settings.allKeys().isEmpty();
+}
+
+// On Windows a file can be neither opened nor found while it is being replaced.
+std::unique_ptr<QSettings> openForReading(const QString& target, const QDeadlineTimer& deadline)
+{
+    const FileState before(target);
+    auto settings = std::make_unique<QSettings>(target, QSettings::IniFormat);
+    if (!isReliable(*settings, before, FileState(target))) {
+        QLockFile guard(guardOf(target)); // nobody replaces the file while this is locked
+        acquire(guard, deadline);
+        settings = std::make_unique<QSettings>(target, QSettings::IniFormat);
     }
+    return settings;
 }
 
 // QSettings reads a file again only when its size or its time, in milliseconds, has changed.
@@ -135,7 +145,7 @@ struct ApplicationSettings::Impl
         }
     }
 
-    QByteArray read(const std::string& key)
+    QByteArray read(const std::string& key, const QDeadlineTimer& deadline)
     {
         const QString target = targetOf(fileName);
         if (!isMissingOrFile(target)) {
@@ -143,10 +153,10 @@ struct ApplicationSettings::Impl
             return QByteArray();
         }
         // QSettings still holds the values that could not be written, and tries to write them on every access.
-        if (hasRefused && !waitUntilFree(target, QDeadlineTimer(longestWaitMs))) {
+        if (hasRefused && !waitUntilFree(target, deadline)) {
             return QByteArray();
         }
-        const std::unique_ptr<QSettings> settings = openForReading(target);
+        const std::unique_ptr<QSettings> settings = openForReading(target, deadline);
         if (settings->status() != QSettings::NoError) {
             warnOnce(settings->status() == QSettings::FormatError ? "The settings file is damaged"
                                                                   : "The settings file cannot be read");
@@ -157,12 +167,11 @@ struct ApplicationSettings::Impl
     }
 
     /** Writes all values that are not written yet. */
-    bool write()
+    bool write(const QDeadlineTimer& deadline)
     {
         const QString target = targetOf(fileName);
-        const QDeadlineTimer deadline(longestWaitMs);
         // All users of this class wait for this lock, with a limit. So they do not wait for the lock of QSettings.
-        QLockFile guard(target + QStringLiteral(".guard"));
+        QLockFile guard(guardOf(target));
         if (!isMissingOrFile(target) || !QDir().mkpath(QFileInfo(target).path()) || !acquire(guard, deadline) ||
             !waitUntilFree(target, deadline)) {
             return false;
@@ -218,24 +227,25 @@ ApplicationSettings::ApplicationSettings(const QString& fileName)
 ApplicationSettings::~ApplicationSettings()
 {
     if (!m_impl->unwritten.empty()) {
-        m_impl->write();
+        m_impl->write(QDeadlineTimer(longestWaitMs));
     }
 }
 
 QByteArray ApplicationSettings::getByteArrayValue(const std::string& key)
 {
     const auto unwritten = m_impl->unwritten.find(key);
-    return unwritten != m_impl->unwritten.end() ? unwritten->second : m_impl->read(key);
+    return unwritten != m_impl->unwritten.end() ? unwritten->second : m_impl->read(key, QDeadlineTimer(longestWaitMs));
 }
 
 void ApplicationSettings::depositValue(const std::string& key, const QByteArray& value)
 {
+    const QDeadlineTimer deadline(longestWaitMs);
     // A dialog stores the geometry that it has just restored when it opens. Then nothing needs to be written.
-    if (m_impl->unwritten.empty() && !value.isEmpty() && m_impl->read(key) == value) {
+    if (m_impl->unwritten.empty() && !value.isEmpty() && m_impl->read(key, deadline) == value) {
         return;
     }
     m_impl->unwritten[key] = value;
-    if (m_impl->write()) {
+    if (m_impl->write(deadline)) {
         m_impl->unwritten.clear();
     } else {
         m_impl->warnOnce("The settings file cannot be written");

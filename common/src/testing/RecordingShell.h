@@ -71,7 +71,8 @@ struct ShellScript
  * count from 1. QueryInterface is recorded; AddRef and Release are not. Any call can be made to fail, by its number or
  * its name. A call that fails has no effect and returns null in its out parameters.
  *
- * Objects must not outlive the Shell. Its destructor does not wait for them, so check leakedObjects() before.
+ * Objects must not outlive the Shell, except the dialog of a SaveFileWinDialog, which is never called again. The
+ * destructor does not wait for objects, so check leakedObjects() before.
  */
 class RecordingShell : public ui::Shell
 {

@@ -203,6 +203,20 @@ TEST_F(ExtendedWinFileDialogConstruction, letsGoOfCheckBoxesAndThenOfActionsBetw
     EXPECT_EQ(gone.front(), "check box");
 }
 
+TEST_F(ExtendedWinFileDialogConstruction, destroysStandInsOfOptionsThenOfControlsBeforeWhatTheControlsCall)
+{
+    std::vector<std::string> gone;
+    auto dialog = menuDialog();
+    const auto watch = [&gone](QWidget* standIn, const char* name) {
+        QObject::connect(standIn, &QObject::destroyed, [&gone, name] { gone.emplace_back(name); });
+    };
+    watch(dialog->addCustomButton("Button", [action = std::make_shared<Leaving>(gone, "action")] {}), "control");
+    watch(dialog->addAcceptButtonOption("Option", 1), "option");
+    watch(dialog->addCustomCheckBox("Check", boost::make_shared<LeavingFlag>(gone)), "control");
+    dialog.reset();
+    EXPECT_THAT(gone, ElementsAre("option", "control", "control", "check box", "action"));
+}
+
 TEST_F(ExtendedWinFileDialogConstruction, leavesTheApartmentEvenWhenJoiningFailed)
 {
     m_shell.failCalls("CoInitializeEx", RPC_E_CHANGED_MODE);

@@ -1,7 +1,6 @@
 #include "ui/qt/controls/AutoFilterOutcome_p.h"
 
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
-#include "ui/qt/controls/EntryMatcher_p.h"
 
 #include <QLineEdit>
 #include <QPointer>
@@ -48,7 +47,7 @@ int AutoFilterOutcome::findRow() const
     }
     const QString text = m_box.lineEdit()->text();
     const bool canStay = m_box.editMode() == ComboBoxAutoFilter::FormField && m_box.currentIndex() >= 0;
-    if (canStay && EntryMatcher(text).fit(m_box.itemText(m_box.currentIndex())) == EntryFit::Equal) {
+    if (canStay && m_box.itemText(m_box.currentIndex()) == text) {
         return m_box.currentIndex();
     }
     return findEntry(*m_box.model(), m_box.modelColumn(), m_box.rootModelIndex(), text, preference());

@@ -12,7 +12,7 @@ namespace morvane::ui {
 
 /**
  * An editable combo box that offers only the entries that contain the typed text. It emits a signal for the outcome of
- * an edit: selectionComplete() when an entry was chosen, editingCanceled() when the edit was cancelled. The edit mode
+ * an edit: selectionComplete() when it was completed, editingCanceled() when it was cancelled. The edit mode
  * sets how the combo box is used.
  *
  * In the tables, "line" is the line edit, "suggestions" is the popup of the completer, and "popup list" is the popup of

@@ -138,10 +138,10 @@ public:
     void setOwnValidation(bool own);
 
     /**
-     * Returns `value` with decimals() significant digits, in the format of printf's "%.*G" in the C locale. Trailing
-     * zeros are dropped. The text has an exponent only if the absolute value, rounded to these digits, is below 1E-04,
-     * or at least ten to the power of decimals(). The exponent has at least two digits. The text has no prefix or
-     * suffix.
+     * Returns `value` with decimals() significant digits (one for 0, six for a negative decimals()), in the format of
+     * printf's "%.*G" in the C locale. Trailing zeros are dropped. The text has an exponent only if the absolute value,
+     * rounded to these digits, is below 1E-04, or at least ten to the power of the number of these digits. The exponent
+     * has at least two digits. The text has no prefix or suffix.
      */
     QString textFromValue(double value) const override;
 

@@ -42,7 +42,7 @@ public:
     /** Returns whether the Shell showed another file type before. */
     bool typeShown(int type);
     void nameAccepted(const std::string& name) { m_acceptedName = name; }
-    /** The text of the name field that the user accepted in this run. None if no name was accepted. */
+    /** The text of the name field when the user accepted last in this run, even if the dialog refused it. */
     const std::optional<std::string>& acceptedName() const { return m_acceptedName; }
 
 private:

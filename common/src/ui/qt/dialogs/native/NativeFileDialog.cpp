@@ -10,6 +10,8 @@
 #include "ui/qt/util/FilePath_p.h"
 #include "ui/qt/util/GuiThread_p.h"
 
+#include <QScopedValueRollback>
+
 #include <boost/filesystem/operations.hpp>
 #include <boost/make_shared.hpp>
 
@@ -22,18 +24,6 @@ bool isOneExtension(const std::string& extension)
 {
     return !extension.empty() && extension.find_first_of(" ;*?") == std::string::npos;
 }
-
-class FlagGuard
-{
-public:
-    explicit FlagGuard(bool& flag) : m_flag(flag) { m_flag = true; }
-    ~FlagGuard() { m_flag = false; }
-    FlagGuard(const FlagGuard&) = delete;
-    FlagGuard& operator=(const FlagGuard&) = delete;
-
-private:
-    bool& m_flag;
-};
 
 } // namespace
 
@@ -120,7 +110,7 @@ QDialog::DialogCode NativeFileDialog::exec()
     if (!m_dialog || m_running) {
         return QDialog::Rejected;
     }
-    const FlagGuard running(m_running);
+    const QScopedValueRollback<bool> running(m_running, true);
     const AdvisedEvents events(m_shell, *m_dialog, *this);
     prepareRun();
     // Qt stores the handle as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)

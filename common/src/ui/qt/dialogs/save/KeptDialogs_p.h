@@ -8,7 +8,7 @@ namespace morvane::ui {
 
 /**
  * Whether the Shell's dialog belongs to a SaveFileWinDialog, which never deletes it. Used by tests that count objects
- * that were not released.
+ * that were not released. The list is in SaveFileWinDialog.cpp, so that each process has only one.
  */
 MORVANE_UI_EXPORT bool isKeptForSaveFlow(const IFileDialog& dialog);
 

@@ -8,7 +8,10 @@
 
 namespace morvane::ui {
 
-/** Implements Shell::qiSearch() for platforms that have no such function. */
+/**
+ * Finds the interface in a table for Shell::qiSearch(). Objects that are implemented here answer QueryInterface with
+ * it, and Shells that are not the system's implement qiSearch() with it.
+ */
 inline HRESULT searchInterfaces(void* that, const QITAB* table, REFIID iid, void** object)
 {
     if (!object) {
@@ -26,7 +29,7 @@ inline HRESULT searchInterfaces(void* that, const QITAB* table, REFIID iid, void
     return E_NOINTERFACE;
 }
 
-/** Sets @p result to null and returns @p answer. */
+/** Sets @p result to null and returns @p answer; E_POINTER if there is no place for the result. */
 template <typename Result>
 HRESULT withoutResult(Result** result, HRESULT answer = E_NOTIMPL)
 {

@@ -54,7 +54,8 @@ public:
 
 /**
  * Replaces the process's Shell as long as the guard exists. The guard does not own the replacement. The replacement
- * must outlive the guard and every object that it created. Guards can be nested.
+ * must outlive the guard and every object that it created, except the dialog of a SaveFileWinDialog, which lives until
+ * the process ends. Guards can be nested.
  *
  * @snippet 27-test-your-dialogs/main.cpp shell
  */

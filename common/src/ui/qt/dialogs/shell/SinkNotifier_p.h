@@ -26,7 +26,7 @@ public:
     HRESULT unadvise(DWORD cookie) { return m_sinks.unadvise(cookie); }
 
     void beginRun() { m_ended = false; }
-    /** From now on no sink is called. */
+    /** From now on no further event is sent. Sinks that still wait for the current event receive it. */
     void endRun() { m_ended = true; }
     bool hasRunEnded() const { return m_ended; }
     /** Throws the exception of a sink, if there is one, and forgets it. */
