@@ -28,7 +28,8 @@ testing: ui/qt/dialogs/shell ui/qt/dialogs/save ui/qt/util
 
 # Prints the includes that no rule allows, as FILE: HEADER.
 forbidden_includes() {
-    sources $src | xargs grep -HoE '^ *# *include +"[^"]+"' | sed 's/: *# *include *"/ /; s/"$//' |
+    sources $src | xargs grep -HoE '^ *# *include +("[^"]+"|<(host|property|testing|ui)/[^>]+>)' |
+        sed 's/: *# *include *["<]/ /; s/[">]$//' |
         RULES="$rules" awk -v root="$src/" '
             function folder(path) { sub("/[^/]*$", "", path); return path }
             BEGIN {
@@ -55,10 +56,10 @@ conditionals='^ *# *(if|elif|ifdef|ifndef).*(_WIN32|_WIN64|Q_OS_|__linux__|__APP
 
 complain 'includes that point up' "$(forbidden_includes)"
 complain 'the stand-ins include the library' \
-    "$(sources compat | xargs grep -nE '^ *# *include +"(ui/qt/(util|controls|dialogs)|host|property|testing)/')"
-complain 'property knows Qt' "$(grep -rnE '^ *# *include +<Q[A-Z]' $src/property)"
+    "$(sources compat | xargs grep -nE '^ *# *include +["<](ui/qt/(util|controls|dialogs)|host|property|testing)/')"
+complain 'property knows Qt' "$(grep -rnE '^ *# *include +<Q[A-Za-z]+[/>]' $src/property)"
 complain 'installed headers include internal ones' \
-    "$(sources $src | grep -v '_p\.h$' | grep '\.h$' | xargs grep -nE '^ *# *include +"[^"]+_p\.h"')"
+    "$(sources $src | grep -v '_p\.h$' | grep '\.h$' | xargs grep -nE '^ *# *include +["<].*_p\.h')"
 complain 'internal headers without a namespace' \
     "$(find $src -name '*_p.h' | sort | xargs grep -L '^namespace morvane')"
 complain 'platform headers outside the one header for them' \

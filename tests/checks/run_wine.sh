@@ -16,9 +16,10 @@ done
 }
 
 scratch=$(mktemp -d)
-trap '"$run_wine" --home "$scratch/home" --stop; rm -rf "$scratch"' EXIT
+trap '"$run_wine" --home "$scratch/home" --stop; xargs rm -f <"$state/sockets"; rm -rf "$scratch"' EXIT
 state=$scratch/state
 mkdir "$scratch/bin" "$state"
+: >"$state/sockets"
 export MORVANE_WINE_PLACES=1
 PATH=$scratch/bin:$PATH
 export PATH state
@@ -47,6 +48,7 @@ if counted Xvfb-failures; then
     echo 'no screen' >&2
     exit 1
 fi
+echo "/tmp/.X11-unix/X$$" >>"$state/sockets"
 exec perl -e '
     use Socket;
     my $path = "/tmp/.X11-unix/X$$";
@@ -84,8 +86,12 @@ cmd)
 *)
     echo "$1" >>"$state/runs"
     if counted deaths; then
-        rm -f "$state/server"
-        [ ! -e "$state/dies-late" ] || echo 'first line'
+        if [ -e "$state/dies-late" ]; then
+            echo 'first line'
+            { sleep 0.3; rm -f "$state/server"; } >/dev/null 2>&1 &
+        else
+            rm -f "$state/server"
+        fi
         exit 0
     fi
     exec sh "$1"

@@ -226,26 +226,31 @@ bool FileDialogDriver::waitForListed(QStringList names) const
     return false;
 }
 
-QRect FileDialogDriver::rectangleOf(const QString& name) const
+QModelIndex FileDialogDriver::indexOf(const QString& name) const
 {
-    QAbstractItemView& files = view();
+    const QAbstractItemView& files = view();
     EXPECT_TRUE(waitUntil([&] { return listed().contains(name); })) << name.toStdString();
     for (int row = 0; row < files.model()->rowCount(files.rootIndex()); ++row) {
         const QModelIndex index = files.model()->index(row, 0, files.rootIndex());
         if (index.data().toString() == name) {
-            files.scrollTo(index);
-            return files.visualRect(index);
+            return index;
         }
     }
     return {};
+}
+
+QRect FileDialogDriver::rectangleOf(const QString& name) const
+{
+    const QModelIndex index = indexOf(name);
+    view().scrollTo(index);
+    return view().visualRect(index);
 }
 
 void FileDialogDriver::clickFile(const QString& name, Qt::KeyboardModifiers modifiers) const
 {
     const QPoint place = rectangleOf(name).center();
     QTest::mouseClick(view().viewport(), Qt::LeftButton, modifiers, place);
-    const QItemSelectionModel& selection = *view().selectionModel();
-    EXPECT_TRUE(selection.isSelected(view().indexAt(place))) << name.toStdString();
+    EXPECT_TRUE(view().selectionModel()->isSelected(indexOf(name))) << name.toStdString();
 }
 
 void FileDialogDriver::doubleClickFile(const QString& name) const

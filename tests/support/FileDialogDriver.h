@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QModelIndex>
 #include <QStringList>
 
 #include <functional>
@@ -76,6 +77,7 @@ public:
 
 private:
     QAbstractItemView& view() const;
+    QModelIndex indexOf(const QString& name) const;
     QRect rectangleOf(const QString& name) const;
 
     QFileDialog& m_dialog;
