@@ -19,10 +19,11 @@ host:
 property: host
 ui/qt/util: host ui/qt
 ui/qt/controls: ui/qt/util ui/qt ui/qt/compat
-ui/qt/dialogs/shell: ui/qt/util ui/qt host
+ui/qt/dialogs/qtdialog:
+ui/qt/dialogs/shell: ui/qt/dialogs/qtdialog ui/qt/util ui/qt host
 ui/qt/dialogs/native: ui/qt/dialogs/shell ui/qt/util property host
 ui/qt/dialogs/save: ui/qt/dialogs/shell ui/qt/util ui/qt host ui/qt/dialogs/SaveFileMessageHandlerInterface.h ui/qt/dialogs/DefaultSaveFileMessageHandler.h
-ui/qt/dialogs: ui/qt/dialogs/native ui/qt/dialogs/save ui/qt/dialogs/shell ui/qt/util ui/qt property host
+ui/qt/dialogs: ui/qt/dialogs/native ui/qt/dialogs/save ui/qt/dialogs/shell ui/qt/dialogs/qtdialog ui/qt/util ui/qt property host
 testing: ui/qt/dialogs/shell ui/qt/dialogs/save ui/qt/util
 '
 

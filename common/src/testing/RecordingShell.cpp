@@ -1,7 +1,7 @@
 #include "testing/RecordingShell.h"
 
 #include "testing/RecordingDialog.h"
-#include "testing/RecordingFileDialog_p.h"
+#include "testing/RecordingDialogInterfaces_p.h"
 #include "testing/RecordingItems_p.h"
 #include "ui/qt/dialogs/save/KeptDialogs_p.h"
 #include "ui/qt/dialogs/shell/ComObject_p.h"
@@ -110,7 +110,7 @@ HRESULT RecordingShell::coCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD 
     if (outer || (!saving && clsid != CLSID_FileOpenDialog)) {
         return outer ? CLASS_E_NOAGGREGATION : REGDB_E_CLASSNOTREG;
     }
-    auto* const dialog = new ui::ComObject<RecordingFileDialog>(*this, saving);
+    auto* const dialog = new ui::ComObject<RecordingDialogInterfaces>(*this, saving);
     m_dialogs.push_back(dialog);
     const HRESULT result = dialog->give(iid, object);
     dialog->Release();

@@ -55,7 +55,7 @@ int AutoFilterOutcome::findRow() const
 
 void AutoFilterOutcome::takeRow(int row)
 {
-    const AutoFilterEdit::Step userStep = step();
+    const AutoFilterUserEdit::Step userStep = step();
     const bool isPicked = row == m_pick.row(m_box);
     m_box.setCurrentIndex(row);
     if (isPicked) {

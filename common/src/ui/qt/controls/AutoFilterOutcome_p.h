@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ui/qt/controls/AutoFilterEdit_p.h"
 #include "ui/qt/controls/AutoFilterEntries_p.h"
 #include "ui/qt/controls/AutoFilterPick_p.h"
+#include "ui/qt/controls/AutoFilterUserEdit_p.h"
 
 #include <QPersistentModelIndex>
 
@@ -25,7 +25,7 @@ public:
     QModelIndex currentEntry() const;
 
     /** Changes are the user's while the returned object exists. */
-    AutoFilterEdit::Step step() const { return {m_edit, currentEntry()}; }
+    AutoFilterUserEdit::Step step() const { return {m_edit, currentEntry()}; }
     /** Ends the edit when the program, and not the user, has made another entry current. */
     void onCurrentEntryChanged();
 
@@ -60,7 +60,7 @@ public:
 
 private:
     ComboBoxAutoFilter& m_box;
-    const std::shared_ptr<AutoFilterEdit> m_edit = std::make_shared<AutoFilterEdit>();
+    const std::shared_ptr<AutoFilterUserEdit> m_edit = std::make_shared<AutoFilterUserEdit>();
     AutoFilterPick m_pick;
     QPersistentModelIndex m_current;
 };

@@ -180,7 +180,7 @@ bool AutoFilterSuggestions::filterViewport(QObject& viewport, QEvent& event)
 
 bool AutoFilterSuggestions::filterRelease(QObject& viewport, QMouseEvent& event)
 {
-    const AutoFilterEdit::Step step = m_outcome.step();
+    const AutoFilterUserEdit::Step step = m_outcome.step();
     const QPersistentModelIndex entry = entryOfSuggestion(popup()->indexAt(event.pos()), *m_box.model());
     event.accept();
     if (!isEnabledEntry(entry)) {

@@ -189,7 +189,7 @@ void ComboBoxAutoFilter::setFromValue(const QVariant& value)
 
 void ComboBoxAutoFilter::showPopup()
 {
-    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    const AutoFilterUserEdit::Step step = m_impl->outcome.step();
     m_impl->suggestions.followModel();
     const int before = currentIndex();
     const int index = m_impl->outcome.findRow();
@@ -258,7 +258,7 @@ bool ComboBoxAutoFilter::filterListKey(QKeyEvent& event)
         return true;
     }
     // Return picks an entry during this event.
-    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    const AutoFilterUserEdit::Step step = m_impl->outcome.step();
     m_impl->listEvents.resend(*view(), event);
     return true;
 }
@@ -269,7 +269,7 @@ bool ComboBoxAutoFilter::filterListTab(QKeyEvent& event)
     if (m_impl->mode == SingleEdit || (event.key() != Qt::Key_Tab && !isBack)) {
         return false;
     }
-    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    const AutoFilterUserEdit::Step step = m_impl->outcome.step();
     const QPointer<ComboBoxAutoFilter> self(this);
     const QWidget* const focused = window()->focusWidget();
     if (view()->currentIndex().isValid()) {
@@ -284,7 +284,7 @@ bool ComboBoxAutoFilter::filterListTab(QKeyEvent& event)
 
 bool ComboBoxAutoFilter::filterListRelease(QObject& viewport, QMouseEvent& event)
 {
-    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    const AutoFilterUserEdit::Step step = m_impl->outcome.step();
     event.accept();
     const QModelIndex entry = view()->indexAt(event.pos());
     if (!isEnabledEntry(entry)) {
@@ -318,7 +318,7 @@ void ComboBoxAutoFilter::onItemClicked(const QModelIndex&)
 
 void ComboBoxAutoFilter::onEditingFinished()
 {
-    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    const AutoFilterUserEdit::Step step = m_impl->outcome.step();
     const QPointer<ComboBoxAutoFilter> self(this);
     const bool isTaken = takeOutcome();
     if (!self) {
@@ -345,7 +345,7 @@ void ComboBoxAutoFilter::onEditingCanceled()
 
 void ComboBoxAutoFilter::cancelEdit()
 {
-    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    const AutoFilterUserEdit::Step step = m_impl->outcome.step();
     setCurrentIndex(m_impl->outcome.rowBeforeEdit());
     m_impl->outcome.clearPick();
     closeSelf();
@@ -354,7 +354,7 @@ void ComboBoxAutoFilter::cancelEdit()
 
 void ComboBoxAutoFilter::onCurrentIndexChanged(const QModelIndex& index)
 {
-    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    const AutoFilterUserEdit::Step step = m_impl->outcome.step();
     if (index.row() != currentIndex()) {
         m_impl->outcome.beginEdit();
     }
@@ -384,7 +384,7 @@ void ComboBoxAutoFilter::onItemActivated(int index)
 
 void ComboBoxAutoFilter::keyPressEvent(QKeyEvent* event)
 {
-    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    const AutoFilterUserEdit::Step step = m_impl->outcome.step();
     const QPointer<ComboBoxAutoFilter> self(this);
     m_impl->suggestions.followModel();
     if (m_impl->mode == FormField && handleFieldKey(*event)) {
@@ -455,7 +455,7 @@ void ComboBoxAutoFilter::inputMethodEvent(QInputMethodEvent* event)
 
 void ComboBoxAutoFilter::wheelEvent(QWheelEvent* event)
 {
-    const AutoFilterEdit::Step step = m_impl->outcome.step();
+    const AutoFilterUserEdit::Step step = m_impl->outcome.step();
     const QPointer<ComboBoxAutoFilter> self(this);
     QComboBox::wheelEvent(event);
     // Without the focus, no focusOutEvent() ends the edit later.

@@ -2,12 +2,12 @@
 
 #include "host/ApplicationSettings.h"
 #include "host/HelpLauncher.h"
+#include "ui/qt/dialogs/qtdialog/FileDialogAccessibility_p.h"
+#include "ui/qt/dialogs/qtdialog/FileDialogLayout_p.h"
+#include "ui/qt/dialogs/qtdialog/QtFileDialogNames_p.h"
 #include "ui/qt/util/CursorStack_p.h"
-#include "ui/qt/util/FileDialogAccessibility_p.h"
-#include "ui/qt/util/FileDialogLayout_p.h"
 #include "ui/qt/util/GuiThread_p.h"
 #include "ui/qt/util/ModalArrowCursor_p.h"
-#include "ui/qt/util/QtFileDialogNames_p.h"
 
 #include <QComboBox>
 #include <QCursor>

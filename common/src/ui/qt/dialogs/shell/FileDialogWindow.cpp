@@ -1,10 +1,10 @@
 #include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 
+#include "ui/qt/dialogs/qtdialog/FileDialogAccessibility_p.h"
+#include "ui/qt/dialogs/qtdialog/FileDialogLayout_p.h"
+#include "ui/qt/dialogs/qtdialog/QtFileDialogNames_p.h"
 #include "ui/qt/dialogs/shell/TypedNames_p.h"
 #include "ui/qt/dialogs/shell/TypedPatterns_p.h"
-#include "ui/qt/util/FileDialogAccessibility_p.h"
-#include "ui/qt/util/FileDialogLayout_p.h"
-#include "ui/qt/util/QtFileDialogNames_p.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

@@ -10,7 +10,7 @@ namespace morvane::ui {
  * Knows whether the user has changed something in a ComboBoxAutoFilter since the last outcome, and which entry was
  * current before that.
  */
-class AutoFilterEdit
+class AutoFilterUserEdit
 {
 public:
     /**
@@ -20,13 +20,13 @@ public:
     class Step
     {
     public:
-        Step(std::shared_ptr<AutoFilterEdit> edit, const QModelIndex& current);
+        Step(std::shared_ptr<AutoFilterUserEdit> edit, const QModelIndex& current);
         ~Step();
         Step(const Step&) = delete;
         Step& operator=(const Step&) = delete;
 
     private:
-        const std::shared_ptr<AutoFilterEdit> m_edit;
+        const std::shared_ptr<AutoFilterUserEdit> m_edit;
     };
 
     bool isInStep() const { return m_steps > 0; }

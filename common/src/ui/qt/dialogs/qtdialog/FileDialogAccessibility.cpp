@@ -1,6 +1,6 @@
-#include "ui/qt/util/FileDialogAccessibility_p.h"
+#include "ui/qt/dialogs/qtdialog/FileDialogAccessibility_p.h"
 
-#include "ui/qt/util/QtFileDialogNames_p.h"
+#include "ui/qt/dialogs/qtdialog/QtFileDialogNames_p.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -1,4 +1,4 @@
-#include "testing/RecordingFileDialog_p.h"
+#include "testing/RecordingDialogInterfaces_p.h"
 
 #include "testing/RecordingControls.h"
 #include "testing/RecordingItems_p.h"
@@ -10,18 +10,18 @@
 
 namespace morvane::test {
 
-std::optional<HRESULT> RecordingFileDialog::record(const char* method, const std::string& arguments)
+std::optional<HRESULT> RecordingDialogInterfaces::record(const char* method, const std::string& arguments)
 {
     return m_shell.record(std::string("IFileDialog::") + method, arguments);
 }
 
-HRESULT RecordingFileDialog::QueryInterface(REFIID riid, void** object)
+HRESULT RecordingDialogInterfaces::QueryInterface(REFIID riid, void** object)
 {
     const auto failure = record("QueryInterface", nameOfIid(riid));
     return failure ? ui::withoutResult(object, *failure) : give(riid, object);
 }
 
-HRESULT RecordingFileDialog::Show(HWND owner)
+HRESULT RecordingDialogInterfaces::Show(HWND owner)
 {
     const auto failure = record("Show", owner ? "owner" : "null");
     if (failure || m_running) {
@@ -31,7 +31,7 @@ HRESULT RecordingFileDialog::Show(HWND owner)
     return run(owner);
 }
 
-HRESULT RecordingFileDialog::SetFileTypes(UINT count, const COMDLG_FILTERSPEC* types)
+HRESULT RecordingDialogInterfaces::SetFileTypes(UINT count, const COMDLG_FILTERSPEC* types)
 {
     std::string text = std::to_string(count);
     for (UINT i = 0; types && i < count; ++i) {
@@ -53,7 +53,7 @@ HRESULT RecordingFileDialog::SetFileTypes(UINT count, const COMDLG_FILTERSPEC* t
     return S_OK;
 }
 
-HRESULT RecordingFileDialog::SetFileTypeIndex(UINT index)
+HRESULT RecordingDialogInterfaces::SetFileTypeIndex(UINT index)
 {
     if (const auto failure = record("SetFileTypeIndex", std::to_string(index))) {
         return *failure;
@@ -65,7 +65,7 @@ HRESULT RecordingFileDialog::SetFileTypeIndex(UINT index)
     return S_OK;
 }
 
-HRESULT RecordingFileDialog::GetFileTypeIndex(UINT* index)
+HRESULT RecordingDialogInterfaces::GetFileTypeIndex(UINT* index)
 {
     const auto failure = record("GetFileTypeIndex");
     if (!index) {
@@ -77,7 +77,7 @@ HRESULT RecordingFileDialog::GetFileTypeIndex(UINT* index)
     return failure.value_or(S_OK);
 }
 
-HRESULT RecordingFileDialog::Advise(IFileDialogEvents* sink, DWORD* cookie)
+HRESULT RecordingDialogInterfaces::Advise(IFileDialogEvents* sink, DWORD* cookie)
 {
     if (const auto failure = record("Advise", sink ? "sink" : "null")) {
         return *failure;
@@ -89,13 +89,13 @@ HRESULT RecordingFileDialog::Advise(IFileDialogEvents* sink, DWORD* cookie)
     return result;
 }
 
-HRESULT RecordingFileDialog::Unadvise(DWORD cookie)
+HRESULT RecordingDialogInterfaces::Unadvise(DWORD cookie)
 {
     const auto failure = record("Unadvise", std::to_string(cookie));
     return failure ? *failure : m_sinks->unadvise(cookie);
 }
 
-HRESULT RecordingFileDialog::SetOptions(FILEOPENDIALOGOPTIONS options)
+HRESULT RecordingDialogInterfaces::SetOptions(FILEOPENDIALOGOPTIONS options)
 {
     const QByteArray bits = QByteArray::number(static_cast<unsigned>(options), 16).toUpper();
     const auto failure = record("SetOptions", "0x" + bits.toStdString());
@@ -103,7 +103,7 @@ HRESULT RecordingFileDialog::SetOptions(FILEOPENDIALOGOPTIONS options)
     return failure.value_or(S_OK);
 }
 
-HRESULT RecordingFileDialog::GetOptions(FILEOPENDIALOGOPTIONS* options)
+HRESULT RecordingDialogInterfaces::GetOptions(FILEOPENDIALOGOPTIONS* options)
 {
     const auto failure = record("GetOptions");
     if (!options) {
@@ -115,7 +115,7 @@ HRESULT RecordingFileDialog::GetOptions(FILEOPENDIALOGOPTIONS* options)
     return failure.value_or(S_OK);
 }
 
-HRESULT RecordingFileDialog::SetDefaultFolder(IShellItem* folder)
+HRESULT RecordingDialogInterfaces::SetDefaultFolder(IShellItem* folder)
 {
     const QString path = pathOf(m_shell, folder);
     const auto failure = record("SetDefaultFolder", path.toStdString());
@@ -126,7 +126,7 @@ HRESULT RecordingFileDialog::SetDefaultFolder(IShellItem* folder)
     return S_OK;
 }
 
-HRESULT RecordingFileDialog::SetFolder(IShellItem* folder)
+HRESULT RecordingDialogInterfaces::SetFolder(IShellItem* folder)
 {
     const QString path = pathOf(m_shell, folder);
     const auto failure = record("SetFolder", path.toStdString());
@@ -141,7 +141,7 @@ HRESULT RecordingFileDialog::SetFolder(IShellItem* folder)
     return S_OK;
 }
 
-HRESULT RecordingFileDialog::GetFolder(IShellItem** item)
+HRESULT RecordingDialogInterfaces::GetFolder(IShellItem** item)
 {
     const auto failure = record("GetFolder");
     if (!item) {
@@ -151,7 +151,7 @@ HRESULT RecordingFileDialog::GetFolder(IShellItem** item)
     return failure.value_or(S_OK);
 }
 
-HRESULT RecordingFileDialog::GetCurrentSelection(IShellItem** item)
+HRESULT RecordingDialogInterfaces::GetCurrentSelection(IShellItem** item)
 {
     const auto failure = record("GetCurrentSelection");
     if (!item) {
@@ -161,7 +161,7 @@ HRESULT RecordingFileDialog::GetCurrentSelection(IShellItem** item)
     return failure ? *failure : giveItem(m_selected, item, E_FAIL);
 }
 
-HRESULT RecordingFileDialog::SetFileName(LPCWSTR name)
+HRESULT RecordingDialogInterfaces::SetFileName(LPCWSTR name)
 {
     const auto failure = record("SetFileName", quoted(name));
     if (!failure) {
@@ -170,7 +170,7 @@ HRESULT RecordingFileDialog::SetFileName(LPCWSTR name)
     return failure.value_or(S_OK);
 }
 
-HRESULT RecordingFileDialog::GetFileName(LPWSTR* name)
+HRESULT RecordingDialogInterfaces::GetFileName(LPWSTR* name)
 {
     const auto failure = record("GetFileName");
     if (!name) {
@@ -183,24 +183,24 @@ HRESULT RecordingFileDialog::GetFileName(LPWSTR* name)
     return m_shell.copyString(fileName(), name);
 }
 
-HRESULT RecordingFileDialog::SetTitle(LPCWSTR title)
+HRESULT RecordingDialogInterfaces::SetTitle(LPCWSTR title)
 {
     const auto failure = record("SetTitle", quoted(title));
     m_title = failure ? m_title : ui::toQString(title);
     return failure.value_or(S_OK);
 }
 
-HRESULT RecordingFileDialog::SetOkButtonLabel(LPCWSTR text)
+HRESULT RecordingDialogInterfaces::SetOkButtonLabel(LPCWSTR text)
 {
     return record("SetOkButtonLabel", quoted(text)).value_or(S_OK);
 }
 
-HRESULT RecordingFileDialog::SetFileNameLabel(LPCWSTR label)
+HRESULT RecordingDialogInterfaces::SetFileNameLabel(LPCWSTR label)
 {
     return record("SetFileNameLabel", quoted(label)).value_or(S_OK);
 }
 
-HRESULT RecordingFileDialog::GetResult(IShellItem** item)
+HRESULT RecordingDialogInterfaces::GetResult(IShellItem** item)
 {
     const auto failure = record("GetResult");
     if (!item) {
@@ -213,17 +213,17 @@ HRESULT RecordingFileDialog::GetResult(IShellItem** item)
     return giveItem(m_results.value(0), item, E_UNEXPECTED);
 }
 
-HRESULT RecordingFileDialog::AddPlace(IShellItem* item, FDAP)
+HRESULT RecordingDialogInterfaces::AddPlace(IShellItem* item, FDAP)
 {
     return record("AddPlace", pathOf(m_shell, item).toStdString()).value_or(E_NOTIMPL);
 }
 
-HRESULT RecordingFileDialog::SetDefaultExtension(LPCWSTR extension)
+HRESULT RecordingDialogInterfaces::SetDefaultExtension(LPCWSTR extension)
 {
     return record("SetDefaultExtension", quoted(extension)).value_or(S_OK);
 }
 
-HRESULT RecordingFileDialog::Close(HRESULT result)
+HRESULT RecordingDialogInterfaces::Close(HRESULT result)
 {
     if (const auto failure = record("Close", std::to_string(result))) {
         return *failure;
@@ -235,22 +235,22 @@ HRESULT RecordingFileDialog::Close(HRESULT result)
     return S_OK;
 }
 
-HRESULT RecordingFileDialog::SetClientGuid(REFGUID)
+HRESULT RecordingDialogInterfaces::SetClientGuid(REFGUID)
 {
     return record("SetClientGuid").value_or(E_NOTIMPL);
 }
 
-HRESULT RecordingFileDialog::ClearClientData()
+HRESULT RecordingDialogInterfaces::ClearClientData()
 {
     return record("ClearClientData").value_or(E_NOTIMPL);
 }
 
-HRESULT RecordingFileDialog::SetFilter(IShellItemFilter*)
+HRESULT RecordingDialogInterfaces::SetFilter(IShellItemFilter*)
 {
     return record("SetFilter").value_or(E_NOTIMPL);
 }
 
-HRESULT RecordingFileDialog::GetResults(IShellItemArray** items)
+HRESULT RecordingDialogInterfaces::GetResults(IShellItemArray** items)
 {
     const auto failure = record("GetResults");
     if (!items) {
@@ -260,7 +260,7 @@ HRESULT RecordingFileDialog::GetResults(IShellItemArray** items)
     return failure ? *failure : *items ? S_OK : E_UNEXPECTED;
 }
 
-HRESULT RecordingFileDialog::GetSelectedItems(IShellItemArray** items)
+HRESULT RecordingDialogInterfaces::GetSelectedItems(IShellItemArray** items)
 {
     const auto failure = record("GetSelectedItems");
     if (!items) {
@@ -270,7 +270,7 @@ HRESULT RecordingFileDialog::GetSelectedItems(IShellItemArray** items)
     return failure ? *failure : *items ? S_OK : E_FAIL;
 }
 
-HRESULT RecordingFileDialog::giveItem(const QString& path, IShellItem** item, HRESULT without)
+HRESULT RecordingDialogInterfaces::giveItem(const QString& path, IShellItem** item, HRESULT without)
 {
     *item = path.isEmpty() ? nullptr : makeRecordingItem(m_shell, path).detach();
     return *item ? S_OK : without;

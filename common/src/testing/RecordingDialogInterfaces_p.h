@@ -5,7 +5,7 @@
 namespace morvane::test {
 
 /** The COM interfaces of a RecordingDialog. Records each call and returns a result. Created as a ComObject. */
-class RecordingFileDialog : public RecordingDialog
+class RecordingDialogInterfaces : public RecordingDialog
 {
 public:
     using RecordingDialog::RecordingDialog;

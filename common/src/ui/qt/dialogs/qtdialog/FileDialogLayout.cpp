@@ -1,6 +1,6 @@
-#include "ui/qt/util/FileDialogLayout_p.h"
+#include "ui/qt/dialogs/qtdialog/FileDialogLayout_p.h"
 
-#include "ui/qt/util/QtFileDialogNames_p.h"
+#include "ui/qt/dialogs/qtdialog/QtFileDialogNames_p.h"
 
 #include <QComboBox>
 #include <QDateTime>

@@ -1,10 +1,11 @@
-#include "ui/qt/controls/AutoFilterEdit_p.h"
+#include "ui/qt/controls/AutoFilterUserEdit_p.h"
 
 #include <utility>
 
 namespace morvane::ui {
 
-AutoFilterEdit::Step::Step(std::shared_ptr<AutoFilterEdit> edit, const QModelIndex& current) : m_edit(std::move(edit))
+AutoFilterUserEdit::Step::Step(std::shared_ptr<AutoFilterUserEdit> edit, const QModelIndex& current)
+    : m_edit(std::move(edit))
 {
     if (m_edit->m_steps++ == 0) {
         m_edit->m_atStep = current;
@@ -12,12 +13,12 @@ AutoFilterEdit::Step::Step(std::shared_ptr<AutoFilterEdit> edit, const QModelInd
     }
 }
 
-AutoFilterEdit::Step::~Step()
+AutoFilterUserEdit::Step::~Step()
 {
     --m_edit->m_steps;
 }
 
-void AutoFilterEdit::begin(const QModelIndex& current)
+void AutoFilterUserEdit::begin(const QModelIndex& current)
 {
     if (m_isBegun) {
         return;
@@ -30,13 +31,13 @@ void AutoFilterEdit::begin(const QModelIndex& current)
     }
 }
 
-void AutoFilterEdit::setBefore(const QModelIndex& entry)
+void AutoFilterUserEdit::setBefore(const QModelIndex& entry)
 {
     m_before = entry;
     m_hadEntry = entry.isValid();
 }
 
-int AutoFilterEdit::rowBefore(int rowIfGone) const
+int AutoFilterUserEdit::rowBefore(int rowIfGone) const
 {
     return m_hadEntry && !m_before.isValid() ? rowIfGone : m_before.row();
 }
