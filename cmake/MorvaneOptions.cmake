@@ -1,4 +1,6 @@
 # Options. Everything except the libraries is off when Morvane is embedded.
+set(MORVANE_QT_MAJOR "" CACHE STRING "The major version of Qt, 5 or 6; empty: the one that is found, 5 first")
+set_property(CACHE MORVANE_QT_MAJOR PROPERTY STRINGS 5 6)
 option(MORVANE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(MORVANE_BUILD_EXAMPLES "Build the gallery and the examples" ${PROJECT_IS_TOP_LEVEL})
 option(MORVANE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
@@ -12,7 +14,7 @@ set(MORVANE_BUILD_DESIGNER ${designer_default} CACHE STRING
 option(MORVANE_WARNINGS_AS_ERRORS "Treat warnings in Morvane's own sources as errors" OFF)
 option(MORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 set(MORVANE_BUILD_QUICKLY OFF CACHE STRING
-    "Build faster: ON precompiles headers, which hides missing includes, and does not optimise tests; TESTS leaves the libraries as they are")
+    "Build faster: ON precompiles headers, compiles several sources at once, which hides missing includes, and does not optimise tests; TESTS leaves the libraries as they are")
 set_property(CACHE MORVANE_BUILD_QUICKLY PROPERTY STRINGS OFF TESTS ON)
 option(MORVANE_COVERAGE "Build for measuring the coverage by the tests (g++)" OFF)
 option(MORVANE_BUILD_FUZZERS "Build the fuzzing harnesses with libFuzzer (clang)" OFF)

@@ -38,12 +38,12 @@ function(morvane_write_sbom file)
         "documentDescribes": ["SPDXRef-Morvane"], "packages": [], "relationships": [
             {"spdxElementId": "SPDXRef-DOCUMENT", "relationshipType": "DESCRIBES", "relatedSpdxElement": "SPDXRef-Morvane"}
         ]}]])
-    string(JSON sbom SET "${sbom}" name "\"morvane-${PROJECT_VERSION}\"")
+    string(JSON sbom SET "${sbom}" name "\"morvane${MORVANE_SUFFIX}-${PROJECT_VERSION}\"")
 
     sbom_package(Morvane Morvane ${PROJECT_VERSION} MIT)
     set(qt_licence "LGPL-3.0-only OR GPL-2.0-only OR GPL-3.0-only")
     foreach(module IN ITEMS Core Gui Widgets)
-        sbom_package(Qt5${module} "Qt ${module}" "${Qt5${module}_VERSION}" "${qt_licence}" DEPENDS_ON)
+        sbom_package(${MORVANE_QT}${module} "Qt ${module}" "${${MORVANE_QT}${module}_VERSION}" "${qt_licence}" DEPENDS_ON)
     endforeach()
     sbom_package(BoostFilesystem Boost.Filesystem "${Boost_VERSION_STRING}" BSL-1.0 DEPENDS_ON)
     sbom_package(BoostHeaders "Boost headers" "${Boost_VERSION_STRING}" BSL-1.0 DEPENDS_ON)
@@ -68,6 +68,6 @@ function(morvane_write_sbom file)
     file(WRITE ${file} "${sbom}\n")
 endfunction()
 
-morvane_write_sbom(${PROJECT_BINARY_DIR}/morvane.spdx.json)
-install(FILES ${PROJECT_BINARY_DIR}/morvane.spdx.json
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/morvane COMPONENT Runtime)
+morvane_write_sbom(${PROJECT_BINARY_DIR}/morvane${MORVANE_SUFFIX}.spdx.json)
+install(FILES ${PROJECT_BINARY_DIR}/morvane${MORVANE_SUFFIX}.spdx.json
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/morvane${MORVANE_SUFFIX} COMPONENT Runtime)

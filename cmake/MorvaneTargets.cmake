@@ -52,15 +52,18 @@ endfunction()
 # ccache requires this option for precompiled headers; see also MorvaneOptions.cmake.
 set(morvane_precompiled_options $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 
-# morvane_precompile(TARGET header...)
-# Precompiles the headers for TARGET and its internal sources if MORVANE_BUILD_QUICKLY is on.
-function(morvane_precompile target)
+# morvane_build_quickly(TARGET header...)
+# If MORVANE_BUILD_QUICKLY is on, compiles several sources of TARGET at once, and several of its internal ones, with the
+# headers precompiled.
+function(morvane_build_quickly target)
     get_target_property(type ${target} TYPE)
     if(NOT MORVANE_BUILD_QUICKLY OR (MORVANE_BUILD_QUICKLY STREQUAL "TESTS" AND NOT type STREQUAL "EXECUTABLE"))
         return()
     endif()
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
     target_compile_options(${target} PRIVATE ${morvane_precompiled_options})
     if(TARGET ${target}-objects)
+        set_target_properties(${target}-objects PROPERTIES UNITY_BUILD ON)
         target_compile_options(${target}-objects PRIVATE ${morvane_precompiled_options})
         target_precompile_headers(${target}-objects PRIVATE ${ARGN})
         target_precompile_headers(${target} REUSE_FROM ${target}-objects)

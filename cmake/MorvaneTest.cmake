@@ -1,10 +1,13 @@
-# With MORVANE_BUILD_QUICKLY, compiles TARGET without optimisation and with the precompiled headers of the support library,
-# which is compiled with the same options.
+# With MORVANE_BUILD_QUICKLY, compiles TARGET without optimisation, several of its sources at once, and with the precompiled
+# headers of the support library, which is compiled with the same options.
 function(morvane_compile_quickly target)
     if(NOT MORVANE_BUILD_QUICKLY)
         return()
     endif()
-    target_compile_options(${target} PRIVATE -O0 ${morvane_precompiled_options})
+    # GCC warns of unnamed namespaces in included files, and sources that are compiled together include each other.
+    target_compile_options(${target} PRIVATE -O0 ${morvane_precompiled_options}
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
     if(target STREQUAL morvane-test-support)
         target_precompile_headers(${target} PRIVATE
             <QtTest> <QtWidgets> <gmock/gmock.h> <gtest/gtest.h> <algorithm> <functional> <map> <memory> <string> <vector>)
@@ -53,15 +56,15 @@ function(morvane_add_test name)
 endfunction()
 
 # morvane_header_test(TARGET LIBRARY)
-# Compiles each public header of LIBRARY on its own: once as Morvane's own code is compiled, and once with Qt's keywords
+# Compiles each public header of LIBRARY on its own as Morvane's own code is compiled, and all of them with Qt's keywords
 # (`signals`, `slots`, `emit`) on, as many hosts have them. Building TARGET is the test.
 # A cross build only checks what differs by platform, so it compiles all headers together in one source.
 function(morvane_header_test target library)
     get_target_property(headers ${library} MORVANE_PUBLIC_HEADERS)
     set(sources)
+    list(TRANSFORM headers REPLACE "(.+)" "#include \"\\1\"\n" OUTPUT_VARIABLE includes)
+    list(JOIN includes "" includes)
     if(CMAKE_CROSSCOMPILING)
-        list(TRANSFORM headers REPLACE "(.+)" "#include \"\\1\"\n" OUTPUT_VARIABLE includes)
-        list(JOIN includes "" includes)
         set(sources ${CMAKE_CURRENT_BINARY_DIR}/${target}/all_headers.cpp)
         file(CONFIGURE OUTPUT ${sources} CONTENT "@includes@" @ONLY)
         set(headers)
@@ -69,13 +72,15 @@ function(morvane_header_test target library)
     foreach(header IN LISTS headers)
         string(MAKE_C_IDENTIFIER ${header} name)
         set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}/${name}.cpp)
-        set(keyword_source ${CMAKE_CURRENT_BINARY_DIR}/${target}/${name}_keywords.cpp)
         file(CONFIGURE OUTPUT ${source} CONTENT "#include \"@header@\"\n#include \"@header@\"\n" @ONLY)
-        file(CONFIGURE OUTPUT ${keyword_source}
-            CONTENT "#undef QT_NO_KEYWORDS\n#include \"@header@\"\n#include <QObject>\n#ifndef emit\n#error No keywords\n#endif\n"
-            @ONLY)
-        list(APPEND sources ${source} ${keyword_source})
+        list(APPEND sources ${source})
     endforeach()
+    if(headers)
+        set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}/with_keywords.cpp)
+        file(CONFIGURE OUTPUT ${source}
+            CONTENT "#undef QT_NO_KEYWORDS\n@includes@#include <QObject>\n#ifndef emit\n#error No keywords\n#endif\n" @ONLY)
+        list(APPEND sources ${source})
+    endif()
     add_library(${target} OBJECT ${sources})
     morvane_own_code(${target})
     target_link_libraries(${target} PRIVATE ${library})

@@ -21,7 +21,7 @@ endif()
 set(host ${WORK_DIR}/host)
 run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/embedding -B ${host} ${options} -DMORVANE_SOURCE_DIR=${MORVANE_SOURCE_DIR}
     -DCMAKE_SHARED_LINKER_FLAGS=-Wl,--as-needed -DCMAKE_EXE_LINKER_FLAGS=-Wl,--as-needed
-    -DMORVANE_BUILD_QUICKLY=ON
+    -DCMAKE_UNITY_BUILD=ON
     -DMORVANE_WITH_CTK=ON -DCTK_DIR=${CTK_DIR} -DMORVANE_WITH_QXT=ON -DQxt_ROOT=${QXT_PREFIX})
 run(${CMAKE_COMMAND} --build ${host})
 run(${host}/consumer)

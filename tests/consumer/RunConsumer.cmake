@@ -29,7 +29,7 @@ if(KIND MATCHES "^(add_subdirectory|own_host|examples)$")
 endif()
 if(KIND MATCHES "^(add_subdirectory|own_host)$")
     list(APPEND options -DMORVANE_WITH_CTK=${WITH_CTK} -DCTK_DIR=${CTK_DIR} -DMORVANE_WITH_QXT=${WITH_QXT}
-        -DMORVANE_BUILD_QUICKLY=ON)
+        -DCMAKE_UNITY_BUILD=ON) # as some hosts do, and it saves time
 endif()
 if(WITH_QXT)
     list(APPEND options -DQxt_ROOT=${QXT_PREFIX})

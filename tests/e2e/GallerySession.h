@@ -8,6 +8,9 @@
 
 namespace morvane::test {
 
+/** The role of a button for screen readers. */
+inline const QString pushButton = QStringLiteral("push button");
+
 /**
  * The gallery on a desktop of its own, and its user with keyboard and mouse. A wait that exceeds its time limit ends
  * the test.

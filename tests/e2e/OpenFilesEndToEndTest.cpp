@@ -5,8 +5,6 @@ namespace morvane::test {
 
 namespace {
 
-const QString button = QStringLiteral("push button");
-
 class OpenFilesEndToEnd : public GallerySession
 {
 protected:
@@ -24,7 +22,7 @@ protected:
 TEST_F(OpenFilesEndToEnd, choosesSeveralFilesWithTheMouse)
 {
     click(part(QStringLiteral("check box"), QStringLiteral("Several files")));
-    click(part(button, QStringLiteral("Open…")));
+    click(part(pushButton, QStringLiteral("Open…")));
     waitForWindow(QStringLiteral("Open"));
     const Accessible dialog = part(QStringLiteral("dialog"), QStringLiteral("Open"));
     const Accessible files = partOf(dialog, QStringLiteral("tree"), QStringLiteral("Files"));
@@ -33,7 +31,7 @@ TEST_F(OpenFilesEndToEnd, choosesSeveralFilesWithTheMouse)
     click(first);
     ASSERT_TRUE(eventually([&] { return first.isSelected(); }));
     screen().click(itemOf(files, QStringLiteral("third.dat")).rectangle().center(), Key::Control);
-    click(partOf(dialog, button, QStringLiteral("Open")));
+    click(partOf(dialog, pushButton, QStringLiteral("Open")));
     waitForReport(path(QStringLiteral("first.dat")));
     waitForReport(path(QStringLiteral("third.dat")));
     closeGallery();
@@ -41,7 +39,7 @@ TEST_F(OpenFilesEndToEnd, choosesSeveralFilesWithTheMouse)
 
 TEST_F(OpenFilesEndToEnd, choosesAFileWithTheKeyboardAlone)
 {
-    part(button, QStringLiteral("Open…"));
+    part(pushButton, QStringLiteral("Open…"));
     screen().press({Key::Alt}, 'o');
     waitForWindow(QStringLiteral("Open"));
     const Accessible dialog = part(QStringLiteral("dialog"), QStringLiteral("Open"));
@@ -55,7 +53,7 @@ TEST_F(OpenFilesEndToEnd, choosesAFileWithTheKeyboardAlone)
 
 TEST_F(OpenFilesEndToEnd, leavesTheDialogWithEscape)
 {
-    click(part(button, QStringLiteral("Open…")));
+    click(part(pushButton, QStringLiteral("Open…")));
     waitForWindow(QStringLiteral("Open"));
     waitForFocus(partOf(
         part(QStringLiteral("dialog"), QStringLiteral("Open")), QStringLiteral("text"), QStringLiteral("File name:")));

@@ -4,8 +4,6 @@ namespace morvane::test {
 
 namespace {
 
-const QString button = QStringLiteral("push button");
-
 class SaveReportEndToEnd : public GallerySession
 {
 protected:
@@ -19,14 +17,14 @@ protected:
     /** Saves under the name of the existing file. Returns the overwrite question as soon as it can be answered. */
     Accessible saveOverTheFile()
     {
-        click(part(button, QStringLiteral("Save Report…")));
+        click(part(pushButton, QStringLiteral("Save Report…")));
         waitForWindow(QStringLiteral("Save Report"));
         const Accessible dialog = part(QStringLiteral("dialog"), QStringLiteral("Save Report"));
         type(partOf(dialog, QStringLiteral("text"), QStringLiteral("File name:")), path(QStringLiteral("report.txt")));
         screen().press(Key::Return);
         // The question has the same title as the dialog.
         const Accessible question = part(QStringLiteral("alert message"), QStringLiteral("Save Report"));
-        waitForFocus(partOf(question, button, QStringLiteral("No")));
+        waitForFocus(partOf(question, pushButton, QStringLiteral("No")));
         return question;
     }
 

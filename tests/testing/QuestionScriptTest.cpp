@@ -22,7 +22,7 @@ namespace morvane::test {
 
 namespace {
 
-const QString replace = QStringLiteral("already exists");
+const QString overwriteText = QStringLiteral("already exists");
 const QString elsewhere = QStringLiteral("Unable to save");
 
 class QuestionScriptTest : public ::testing::Test
@@ -54,14 +54,15 @@ TEST_F(QuestionScriptTest, answersTheQuestionsOfTheSaveFlowInOrder)
 {
     m_names = QStringList({QStringLiteral("old"), refused, QStringLiteral("old")});
     QuestionScript user;
-    user.answers(replace, QMessageBox::No);
+    user.answers(overwriteText, QMessageBox::No);
     user.answers(elsewhere, QMessageBox::Yes);
-    user.answers(replace, QMessageBox::Yes);
+    user.answers(overwriteText, QMessageBox::Yes);
     EXPECT_TRUE(m_flow.launch());
     EXPECT_TRUE(user.isFinished());
     EXPECT_EQ(m_flow.selectedFilename(), m_folder.filePath(QStringLiteral("old.dat")).toStdString());
     EXPECT_EQ(user.asked().size(), 3);
-    EXPECT_TRUE(user.asked().at(0).endsWith(QStringLiteral("old.dat already exists. Do you want to replace it?")));
+    EXPECT_TRUE(
+        user.asked().at(0).endsWith(QStringLiteral("old.dat already exists. Do you want to replace it?")));
 }
 
 TEST_F(QuestionScriptTest, givesUpWhereTheScriptSaysNo)
@@ -95,7 +96,7 @@ TEST_F(QuestionScriptTest, closesAQuestionThatIsNotTheNextOne)
 TEST_F(QuestionScriptTest, isNotFinishedWhileAnAnswerIsLeft)
 {
     QuestionScript user;
-    user.answers(replace, QMessageBox::Yes);
+    user.answers(overwriteText, QMessageBox::Yes);
     m_names = QStringList(QStringLiteral("new"));
     EXPECT_TRUE(m_flow.launch());
     EXPECT_FALSE(user.isFinished());
@@ -105,7 +106,7 @@ TEST_F(QuestionScriptTest, survivesTheParentOfAQuestion)
 {
     m_names = QStringList(QStringLiteral("old"));
     QuestionScript user;
-    user.answers(replace, QMessageBox::Yes);
+    user.answers(overwriteText, QMessageBox::Yes);
     QTimer::singleShot(0, [this] { delete m_window; });
     EXPECT_FALSE(m_flow.launch());
     EXPECT_TRUE(user.isFinished());

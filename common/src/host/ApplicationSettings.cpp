@@ -19,7 +19,7 @@ namespace morvane {
 
 namespace {
 
-ui::ReplaceableInstance<ApplicationSettings> currentInstance;
+ui::ReplaceableInstance<ApplicationSettings> currentSettings;
 
 const qint64 largestFile = qint64(16) * 1024 * 1024;
 const int longestWaitMs = 1000; // longest time that one call waits for other processes
@@ -206,12 +206,12 @@ bool ApplicationSettings::Impl::hasRefused = false;
 
 ApplicationSettings& ApplicationSettings::getInstance()
 {
-    return currentInstance.get();
+    return currentSettings.get();
 }
 
 ApplicationSettings* ApplicationSettings::setInstance(ApplicationSettings* replacement)
 {
-    return currentInstance.replace(replacement);
+    return currentSettings.replace(replacement);
 }
 
 QString ApplicationSettings::defaultFileName()

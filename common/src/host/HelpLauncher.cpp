@@ -13,7 +13,7 @@ namespace morvane {
 
 namespace {
 
-ui::ReplaceableInstance<HelpLauncher> currentInstance;
+ui::ReplaceableInstance<HelpLauncher> currentLauncher;
 
 /** The path of the page, with links resolved. Empty if there is no such file in the directory. */
 QString findPage(const QString& helpDirectory, const QString& topic)
@@ -56,12 +56,12 @@ void HelpLauncher::showHelp(const std::string& topic)
 
 HelpLauncher& HelpLauncher::getInstance()
 {
-    return currentInstance.get();
+    return currentLauncher.get();
 }
 
 HelpLauncher* HelpLauncher::setInstance(HelpLauncher* replacement)
 {
-    return currentInstance.replace(replacement);
+    return currentLauncher.replace(replacement);
 }
 
 QString HelpLauncher::helpDirectory() const

@@ -17,7 +17,7 @@ using tour::OpenFileDialog;
 
 namespace {
 
-const QString measurements = QStringLiteral("archive run-001.dat run-002.dat run-003.dat summary.csv");
+const QString entriesToOpen = QStringLiteral("archive run-001.dat run-002.dat run-003.dat summary.csv");
 const QString texts = QStringLiteral("archive notes.txt");
 
 void clickFile(const QString& name, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
@@ -68,7 +68,7 @@ std::vector<TourStep> OpenPage::oneFileSteps(const TourWorkspace& workspace)
     steps.push_back(
         {QStringLiteral("start-file"), [this] { tour::type(form().fileField(), QStringLiteral("run-003.dat")); },
             [this] { return expect(form().startFile() == "run-003.dat", "the file is not accepted"); }});
-    steps.push_back(openStep(QStringLiteral("one-file"), measurements));
+    steps.push_back(openStep(QStringLiteral("one-file"), entriesToOpen));
     steps.push_back(tour::helpStep(workspace, QStringLiteral("help"), QStringLiteral("open-files.html")));
     steps.push_back({QStringLiteral("start-file-in-name"), [] {},
         [] {
@@ -99,7 +99,7 @@ std::vector<TourStep> OpenPage::severalFilesSteps(const TourWorkspace& workspace
             }
         },
         [this] { return expect(fileMode() == QFileDialog::ExistingFiles, "the dialog asks for one file"); }});
-    steps.push_back(openStep(QStringLiteral("several-files"), measurements));
+    steps.push_back(openStep(QStringLiteral("several-files"), entriesToOpen));
     steps.push_back({QStringLiteral("pick-files"),
         [] {
             clickFile(QStringLiteral("run-001.dat"));

@@ -15,7 +15,7 @@ using tour::OpenFileDialog;
 
 namespace {
 
-const QString measurements = QStringLiteral("archive run-001.dat run-002.dat run-003.dat");
+const QString entriesBeforeSaving = QStringLiteral("archive run-001.dat run-002.dat run-003.dat");
 const QString firstType = QStringLiteral("Chosen as type 0, Measurements (*.dat):");
 
 } // namespace
@@ -36,7 +36,7 @@ std::vector<TourStep> SavePage::tourSteps(const TourWorkspace& workspace)
 std::vector<TourStep> SavePage::dialogSteps(const TourWorkspace& workspace, bool native)
 {
     std::vector<TourStep> steps{switchStep(native)};
-    steps.push_back(openStep(QStringLiteral("dialog"), measurements));
+    steps.push_back(openStep(QStringLiteral("dialog"), entriesBeforeSaving));
     steps.push_back({QStringLiteral("start-file-in-name"), [] {},
         [] {
             const OpenFileDialog open;
@@ -51,7 +51,7 @@ std::vector<TourStep> SavePage::dialogSteps(const TourWorkspace& workspace, bool
                     QStringLiteral("the name is \"%1\"").arg(open ? open.name().text() : QString()));
             }});
         steps.push_back({QStringLiteral("first-type"), [] { tour::press(OpenFileDialog().type(), Qt::Key_Up); },
-            [] { return tour::expectListed(measurements); }});
+            [] { return tour::expectListed(entriesBeforeSaving); }});
     }
     append(steps, questionSteps(workspace));
     append(steps, oneCallSteps());
@@ -75,7 +75,7 @@ std::vector<TourStep> SavePage::questionSteps(const TourWorkspace& workspace)
         shownOf(workspace, {QStringLiteral("run-001.dat")}), firstType));
     steps.push_back({QStringLiteral("ask-no-more"), [this] { tour::click(*m_ask); },
         [this] { return expect(!m_ask->isChecked(), "the option is still set"); }});
-    steps.push_back(openStep(QStringLiteral("dialog-without-question"), measurements));
+    steps.push_back(openStep(QStringLiteral("dialog-without-question"), entriesBeforeSaving));
     steps.push_back(chosenStep(
         QStringLiteral("replaced-unasked"), replace, shownOf(workspace, {QStringLiteral("run-001.dat")}), firstType));
     steps.push_back({QStringLiteral("ask-again"), [this] { tour::click(*m_ask); },
@@ -86,7 +86,7 @@ std::vector<TourStep> SavePage::questionSteps(const TourWorkspace& workspace)
 std::vector<TourStep> SavePage::oneCallSteps()
 {
     std::vector<TourStep> steps;
-    steps.push_back(launchStep(QStringLiteral("one-call"), measurements));
+    steps.push_back(launchStep(QStringLiteral("one-call"), entriesBeforeSaving));
     steps.push_back(chosenStep(
         QStringLiteral("one-call-chosen"), [] { tour::enterName(QStringLiteral("new.dat")); },
         QStringLiteral("new.dat=does not exist"), firstType));

@@ -111,7 +111,9 @@ void Tour::stepDone(const QString& complaint)
 
 bool Tour::savePicture()
 {
-    return takeTourPicture(m_window).save(m_output.filePath(fileName()));
+    // Compressing well would take most of the tour's time.
+    constexpr int quickCompression = 80;
+    return takeTourPicture(m_window).save(m_output.filePath(fileName()), "PNG", quickCompression);
 }
 
 void Tour::finish(int exitCode)

@@ -34,10 +34,10 @@ std::string printed(std::optional<qint64> found)
 }
 
 /** Numbers, ranges and near misses of every length. */
-class Cases
+class SearchCases
 {
 public:
-    explicit Cases(quint64 seed) : m_random(seed) {}
+    explicit SearchCases(quint64 seed) : m_random(seed) {}
 
     qint64 below(qint64 end) { return std::uniform_int_distribution<qint64>(0, end - 1)(m_random); }
 
@@ -152,7 +152,7 @@ TEST(DigitSearch, agreesWithTheLoopOnAllNegativeRangesOfThreeDigits)
 
 TEST(DigitSearch, agreesWithTheLoopOnAMillionRandomCases)
 {
-    Cases cases(20210704);
+    SearchCases cases(20210704);
     int matches = 0;
     for (int i = 0; i < 1000000; ++i) {
         const qint64 maximum = cases.anyNumber();
@@ -167,7 +167,7 @@ TEST(DigitSearch, agreesWithTheLoopOnAMillionRandomCases)
 
 TEST(DigitSearch, agreesWithTheLoopOnRangesAroundHalfAMillion)
 {
-    Cases cases(1234567);
+    SearchCases cases(1234567);
     for (int i = 0; i < 300; ++i) {
         const qint64 maximum = cases.below(2) == 0 ? cases.anyNumber() : cases.below(1000000) - 400000;
         const qint64 minimum = cases.minus(maximum, 499990 + cases.below(20));
@@ -179,7 +179,7 @@ TEST(DigitSearch, agreesWithTheLoopOnRangesAroundHalfAMillion)
 
 TEST(DigitSearch, agreesWithTheLoopOnRangesOfEveryWidth)
 {
-    Cases cases(99);
+    SearchCases cases(99);
     for (int i = 0; i < 400; ++i) {
         const qint64 a = cases.anyNumber();
         const qint64 b = cases.anyNumber();

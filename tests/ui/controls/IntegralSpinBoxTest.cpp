@@ -10,7 +10,7 @@ namespace {
 
 using morvane::test::IntegerSpinBox;
 using morvane::ui::IntegralSpinBox;
-using Window = morvane::test::SpinBoxWindow<IntegerSpinBox>;
+using IntegerWindow = morvane::test::SpinBoxWindow<IntegerSpinBox>;
 
 constexpr int lowest = std::numeric_limits<int>::min();
 constexpr int highest = std::numeric_limits<int>::max();
@@ -53,7 +53,7 @@ TEST(IntegralSpinBox, belongsToItsParent)
 
 TEST(IntegralSpinBox, valueCountsFromReturnOn)
 {
-    Window window;
+    IntegerWindow window;
     QSignalSpy changes(&window.spin, QOverload<int>::of(&QSpinBox::valueChanged));
     window.type("42");
     EXPECT_EQ(changes.count(), 0);
@@ -89,7 +89,7 @@ TEST(IntegralSpinBox, wrappedResultIsBroughtIntoTheRange)
 
 TEST(IntegralSpinBox, numbersOfOtherBasesStepAsWell)
 {
-    Window window;
+    IntegerWindow window;
     window.spin.setDisplayIntegerBase(16);
     window.spin.setValue(9);
     QTest::keyClick(&window.spin, Qt::Key_Up);

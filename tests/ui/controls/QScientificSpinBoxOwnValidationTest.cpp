@@ -6,7 +6,7 @@ namespace {
 
 using morvane::test::ScientificSpinBox;
 using morvane::ui::QScientificSpinBox;
-using Window = morvane::test::SpinBoxWindow<ScientificSpinBox>;
+using ScientificWindow = morvane::test::SpinBoxWindow<ScientificSpinBox>;
 
 QValidator::State stateOf(const QScientificSpinBox& spin, QString text)
 {
@@ -131,7 +131,7 @@ TEST(QScientificSpinBoxOwnValidation, repairsNoGroupSeparators)
 
 TEST(QScientificSpinBoxOwnValidation, givesTheOldValueBackForAComma)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setOwnValidation(true);
     window.spin.setValue(9);
     for (const char* const suffix : {"", " V"}) {

@@ -13,7 +13,7 @@
 namespace {
 
 using morvane::test::ScientificSpinBox;
-using Window = morvane::test::SpinBoxWindow<ScientificSpinBox>;
+using ScientificWindow = morvane::test::SpinBoxWindow<ScientificSpinBox>;
 
 /** Sets another locale for the process during a test. */
 class UserLocale
@@ -67,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(Users, QScientificSpinBoxTypingLocale,
 TEST_P(QScientificSpinBoxTypingLocale, takesAScientificNumberKeyByKey)
 {
     const UserLocale user(GetParam());
-    Window window;
+    ScientificWindow window;
     const QString number = QStringLiteral("1.5E-07");
     window.spin.selectAll();
     for (int typed = 1; typed <= number.size(); ++typed) {
@@ -83,7 +83,7 @@ TEST_P(QScientificSpinBoxTypingLocale, takesAScientificNumberKeyByKey)
 TEST_P(QScientificSpinBoxTypingLocale, textValueAndValidationAgree)
 {
     const UserLocale user(GetParam());
-    Window window;
+    ScientificWindow window;
     window.spin.setValue(-1234.5);
     EXPECT_EQ(window.shown(), "-1234.5");
     QString text = window.spin.textFromValue(-1234.5);
@@ -96,7 +96,7 @@ TEST_P(QScientificSpinBoxTypingLocale, textValueAndValidationAgree)
 TEST_P(QScientificSpinBoxTypingLocale, aNumberOutsideTheRangeIsNotRepairedIntoAnotherOne)
 {
     const UserLocale user(GetParam());
-    Window window;
+    ScientificWindow window;
     window.spin.setRange(2, 20);
     window.spin.setValue(3);
     window.type("1.5");
@@ -108,7 +108,7 @@ TEST_P(QScientificSpinBoxTypingLocale, aNumberOutsideTheRangeIsNotRepairedIntoAn
 TEST_P(QScientificSpinBoxTypingLocale, groupsOfDigitsAreCommaSeparated)
 {
     const UserLocale user(GetParam());
-    Window window;
+    ScientificWindow window;
     window.type("1,234.5");
     EXPECT_EQ(window.shown(), "1,234.5");
     window.commit();
@@ -123,7 +123,7 @@ TEST(QScientificSpinBoxTyping, theLocaleOfTheCLibraryDoesNotMatter)
     if (std::string(written) != "1,5") {
         GTEST_SKIP() << "no locale with a decimal comma can be had here";
     }
-    Window window;
+    ScientificWindow window;
     window.type("1.5E-07");
     window.commit();
     EXPECT_EQ(window.spin.value(), 1.5e-07);
@@ -132,7 +132,7 @@ TEST(QScientificSpinBoxTyping, theLocaleOfTheCLibraryDoesNotMatter)
 
 TEST(QScientificSpinBoxTyping, keysThatNoNumberHasAreRefused)
 {
-    Window window;
+    ScientificWindow window;
     window.type("1x.5y");
     EXPECT_EQ(window.shown(), "1.5");
     window.type(QStringLiteral("1..5"));
@@ -141,7 +141,7 @@ TEST(QScientificSpinBoxTyping, keysThatNoNumberHasAreRefused)
 
 TEST(QScientificSpinBoxTyping, valueCountsFromReturnOn)
 {
-    Window window;
+    ScientificWindow window;
     QSignalSpy changes(&window.spin, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
     window.type("12");
     EXPECT_EQ(changes.count(), 0);
@@ -152,7 +152,7 @@ TEST(QScientificSpinBoxTyping, valueCountsFromReturnOn)
 
 TEST(QScientificSpinBoxTyping, valueCountsFromLossOfFocusOn)
 {
-    Window window;
+    ScientificWindow window;
     window.type("2.5E3");
     QTest::keyClick(&window.spin, Qt::Key_Tab);
     ASSERT_TRUE(window.other.hasFocus());
@@ -162,7 +162,7 @@ TEST(QScientificSpinBoxTyping, valueCountsFromLossOfFocusOn)
 
 TEST(QScientificSpinBoxTyping, valueBeyondTheRangeGoesBackToTheLastOne)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setRange(0, 10);
     window.spin.setValue(4);
     window.type("11");
@@ -174,7 +174,7 @@ TEST(QScientificSpinBoxTyping, valueBeyondTheRangeGoesBackToTheLastOne)
 
 TEST(QScientificSpinBoxTyping, correctionToTheNearestValueGoesToTheEndThatStandsForUnacceptableText)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
     window.spin.setRange(2, 10);
     window.spin.setValue(4);
@@ -186,7 +186,7 @@ TEST(QScientificSpinBoxTyping, correctionToTheNearestValueGoesToTheEndThatStands
 
 TEST(QScientificSpinBoxTyping, unfinishedExponentGoesBackToTheLastValue)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setValue(7);
     window.type("1.5E-");
     EXPECT_EQ(window.shown(), "1.5E-");
@@ -197,7 +197,7 @@ TEST(QScientificSpinBoxTyping, unfinishedExponentGoesBackToTheLastValue)
 
 TEST(QScientificSpinBoxTyping, committingRoundsToTheDigitsShown)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setValue(1.23456789012);
     EXPECT_EQ(window.spin.value(), 1.23456789012);
     EXPECT_EQ(window.shown(), "1.2345679");
@@ -207,7 +207,7 @@ TEST(QScientificSpinBoxTyping, committingRoundsToTheDigitsShown)
 
 TEST(QScientificSpinBoxTyping, typedDigitsBeyondTheShownOnesCountUntilTheNextCommit)
 {
-    Window window;
+    ScientificWindow window;
     window.type("6.02214076E+23");
     QTest::keyClick(&window.spin, Qt::Key_Tab);
     EXPECT_EQ(window.shown(), "6.0221408E+23");
@@ -221,7 +221,7 @@ TEST(QScientificSpinBoxTyping, typedDigitsBeyondTheShownOnesCountUntilTheNextCom
 
 TEST(QScientificSpinBoxTyping, deletedTextGoesBackToTheLastValue)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setValue(5);
     window.spin.selectAll();
     QTest::keyClick(&window.spin, Qt::Key_Delete);
@@ -233,7 +233,7 @@ TEST(QScientificSpinBoxTyping, deletedTextGoesBackToTheLastValue)
 
 TEST(QScientificSpinBoxTyping, clearingByProgramLeavesTheValueUntilSomethingIsTyped)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setValue(5);
     window.spin.clear();
     window.commit();
@@ -246,7 +246,7 @@ TEST(QScientificSpinBoxTyping, clearingByProgramLeavesTheValueUntilSomethingIsTy
 
 TEST(QScientificSpinBoxTyping, undoTakesTypedKeysBack)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setValue(5);
     window.type("1");
     QTest::keyClick(&window.spin, Qt::Key_Z, Qt::ControlModifier);
@@ -257,7 +257,7 @@ TEST(QScientificSpinBoxTyping, undoTakesTypedKeysBack)
 
 TEST(QScientificSpinBoxTyping, aNumberMayBePasted)
 {
-    Window window;
+    ScientificWindow window;
     QApplication::clipboard()->setText("6.02214076e23");
     window.spin.selectAll();
     QTest::keyClick(&window.spin, Qt::Key_V, Qt::ControlModifier);
@@ -268,7 +268,7 @@ TEST(QScientificSpinBoxTyping, aNumberMayBePasted)
 
 TEST(QScientificSpinBoxTyping, pastedNonsenseIsRefused)
 {
-    Window window;
+    ScientificWindow window;
     for (const QString& text : {QString("nonsense"), QString(100000, 'x'), QString(QChar(0xd800)), QString("1\n2"),
              QString("\u0661\u0662"), QString("1.5.5")}) {
         window.spin.setValue(3);
@@ -283,7 +283,7 @@ TEST(QScientificSpinBoxTyping, pastedNonsenseIsRefused)
 
 TEST(QScientificSpinBoxTyping, typingBetweenPrefixAndSuffix)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setPrefix("E = ");
     window.spin.setSuffix(" J");
     window.spin.setValue(1);
@@ -297,7 +297,7 @@ TEST(QScientificSpinBoxTyping, typingBetweenPrefixAndSuffix)
 
 TEST(QScientificSpinBoxTyping, theSameKeysAreRefusedBetweenPrefixAndSuffix)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setPrefix("E = ");
     window.spin.setSuffix(" J");
     window.type("1x.5y");
@@ -311,7 +311,7 @@ TEST(QScientificSpinBoxTyping, theSameKeysAreRefusedBetweenPrefixAndSuffix)
 
 TEST(QScientificSpinBoxTyping, prefixAndSuffixThatAreTypedOverComeBack)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setPrefix("E = ");
     window.spin.setSuffix(" J");
     window.spin.lineEdit()->selectAll();
@@ -329,7 +329,7 @@ TEST(QScientificSpinBoxTyping, prefixAndSuffixThatAreTypedOverComeBack)
 
 TEST(QScientificSpinBoxTyping, aKeyAtAnEdgeOfTheNumberThatOnlyTouchesTheSuffixChangesNothing)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setSuffix("%");
     window.spin.setValue(1.23456789012);
     window.spin.lineEdit()->setCursorPosition(9);
@@ -342,7 +342,7 @@ TEST(QScientificSpinBoxTyping, aKeyAtAnEdgeOfTheNumberThatOnlyTouchesTheSuffixCh
 
 TEST(QScientificSpinBoxTyping, undoWorksBetweenPrefixAndSuffix)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setSuffix(" J");
     window.spin.setValue(5);
     window.type("1");
@@ -352,7 +352,7 @@ TEST(QScientificSpinBoxTyping, undoWorksBetweenPrefixAndSuffix)
 
 TEST(QScientificSpinBoxTyping, whiteSpaceAroundAPastedNumberIsLeftOut)
 {
-    Window window;
+    ScientificWindow window;
     for (const QString& affix : {QString(), QString(" J")}) {
         window.spin.setSuffix(affix);
         for (const QString& text : {QString("1.5E3\n"), QString("1.5E3\r\n"), QString("\t1.5E3"), QString("  1.5E3  "),
@@ -372,7 +372,7 @@ TEST(QScientificSpinBoxTyping, whiteSpaceAroundAPastedNumberIsLeftOut)
 
 TEST(QScientificSpinBoxTyping, theCursorStaysBehindWhatWasPutIn)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setPrefix("E = ");
     window.spin.setValue(12);
     window.spin.lineEdit()->setCursorPosition(5);
@@ -387,7 +387,7 @@ TEST(QScientificSpinBoxTyping, theCursorStaysBehindWhatWasPutIn)
 
 TEST(QScientificSpinBoxTyping, whiteSpaceAloneDeletesNothing)
 {
-    Window window;
+    ScientificWindow window;
     for (const QString& affix : {QString(), QString(" J")}) {
         window.spin.setSuffix(affix);
         window.spin.setValue(3);
@@ -400,7 +400,7 @@ TEST(QScientificSpinBoxTyping, whiteSpaceAloneDeletesNothing)
 
 TEST(QScientificSpinBoxTyping, specialValueTextStandsForTheMinimum)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setRange(0, 10);
     window.spin.setSpecialValueText("auto");
     window.spin.setValue(0);
@@ -418,7 +418,7 @@ TEST(QScientificSpinBoxTyping, specialValueTextStandsForTheMinimum)
 
 TEST(QScientificSpinBoxTyping, onlyANumberIsTypedOverTheSpecialValueText)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setRange(0, 10);
     window.spin.setSuffix(" J");
     window.spin.setSpecialValueText("auto");
@@ -437,7 +437,7 @@ TEST(QScientificSpinBoxTyping, onlyANumberIsTypedOverTheSpecialValueText)
 
 TEST(QScientificSpinBoxTyping, readOnlyTakesNoKeysAndNoSteps)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setReadOnly(true);
     window.type("5");
     QTest::keyClick(&window.spin, Qt::Key_Up);
@@ -449,7 +449,7 @@ TEST(QScientificSpinBoxTyping, readOnlyTakesNoKeysAndNoSteps)
 
 TEST(QScientificSpinBoxTyping, withKeyboardTrackingEveryAcceptableKeyCounts)
 {
-    Window window;
+    ScientificWindow window;
     window.spin.setKeyboardTracking(true);
     window.type("1.5E-07");
     EXPECT_EQ(window.spin.value(), 1.5e-07);

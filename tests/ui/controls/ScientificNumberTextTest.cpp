@@ -60,10 +60,10 @@ bool sameBits(double a, double b)
                                          << expected.text.left(100).toStdString();
 }
 
-class Cases
+class TextCases
 {
 public:
-    explicit Cases(quint64 seed) : m_random(seed) {}
+    explicit TextCases(quint64 seed) : m_random(seed) {}
 
     int below(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
     bool oneIn(int n) { return below(n) == 0; }
@@ -154,7 +154,7 @@ private:
 
 TEST(ScientificNumberText, agreesWithTheLiteralFormOnAMillionRandomTexts)
 {
-    Cases cases(42);
+    TextCases cases(42);
     int states[3] = {};
     for (int i = 0; i < 100000; ++i) {
         const NumberRules rules = cases.rules();
@@ -173,7 +173,7 @@ TEST(ScientificNumberText, agreesWithTheLiteralFormOnAMillionRandomTexts)
 
 TEST(ScientificNumberText, agreesWithTheLiteralFormAndItsLoopOverCandidates)
 {
-    Cases cases(43);
+    TextCases cases(43);
     QElapsedTimer timer;
     timer.start();
     int compared = 0;
@@ -187,7 +187,7 @@ TEST(ScientificNumberText, agreesWithTheLiteralFormAndItsLoopOverCandidates)
 
 TEST(ScientificNumberText, agreesWithTheLiteralFormAtEveryCursorPosition)
 {
-    Cases cases(44);
+    TextCases cases(44);
     for (int i = 0; i < 20000; ++i) {
         const NumberRules rules = cases.rules();
         const QString text = cases.text(rules);
@@ -277,7 +277,7 @@ QString printed(double value, int digits)
 
 TEST(ScientificNumberText, isPrintfsTextForAMillionRandomDoubles)
 {
-    Cases cases(45);
+    TextCases cases(45);
     for (int i = 0; i < 1000000; ++i) {
         const double value = i % 3 == 0 ? std::ldexp(cases.below(1 << 30), -cases.below(60)) : cases.anyDouble();
         const int digits = cases.below(16) - 3;

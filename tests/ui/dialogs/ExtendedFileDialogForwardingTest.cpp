@@ -12,9 +12,6 @@ class ExtendedFileDialogForwarding : public ExtendedFileDialogTest
 using ::testing::Contains;
 using ::testing::IsEmpty;
 
-const QString dataFilter = QStringLiteral("Data (*.dat)");
-const QString allFilter = QStringLiteral("All (*)");
-
 TEST_F(ExtendedFileDialogForwarding, selectsAFile)
 {
     const auto native = make(true);

@@ -18,9 +18,6 @@ using ::testing::IsEmpty;
 // Read before any test can have changed it.
 const bool nativeAtStart = ExtendedFileDialog::useNativeFileDialog();
 
-const QString dataFilter = QStringLiteral("Data (*.dat)");
-const QString allFilter = QStringLiteral("All (*)");
-
 TEST_F(ExtendedFileDialogTest, isNativeUnlessToldOtherwise)
 {
     EXPECT_TRUE(nativeAtStart);

@@ -25,6 +25,9 @@
 
 namespace morvane::test {
 
+inline const QString dataFilter = QStringLiteral("Data (*.dat)");
+inline const QString allFilter = QStringLiteral("All (*)");
+
 /** A facade with access to both of its sides: the calls to the Shell, or the Qt dialog below the parent. */
 class ExtendedFileDialogTest : public ::testing::Test
 {

@@ -18,8 +18,6 @@ namespace {
 
 using ::testing::ElementsAre;
 
-const char* const customizeQuery = "IFileDialog::QueryInterface(IFileDialogCustomize)";
-
 class ExtendedWinFileDialogConstruction : public ExtendedWinFileDialogTest
 {
 protected:

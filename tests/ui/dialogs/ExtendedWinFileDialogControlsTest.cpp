@@ -15,8 +15,6 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-const char* const customizeQuery = "IFileDialog::QueryInterface(IFileDialogCustomize)";
-
 boost::shared_ptr<Property<bool>> flag(bool value)
 {
     return boost::make_shared<Property<bool>>(value);

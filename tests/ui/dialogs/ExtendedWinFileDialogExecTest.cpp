@@ -16,8 +16,6 @@ using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-const char* const customizeQuery = "IFileDialog::QueryInterface(IFileDialogCustomize)";
-
 class ExtendedWinFileDialogExec : public ExtendedWinFileDialogTest
 {
 protected:

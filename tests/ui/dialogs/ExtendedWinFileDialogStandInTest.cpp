@@ -15,7 +15,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const char* const customizeQuery = "IFileDialog::QueryInterface(IFileDialogCustomize)";
 constexpr int enabled = 1;
 constexpr int visible = 2;
 

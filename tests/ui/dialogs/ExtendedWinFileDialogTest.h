@@ -21,6 +21,8 @@
 
 namespace morvane::test {
 
+inline constexpr char customizeQuery[] = "IFileDialog::QueryInterface(IFileDialogCustomize)";
+
 /** A Shell that records its calls, a parent and a folder. Checks at the end that nothing has leaked. */
 class ExtendedWinFileDialogTest : public ::testing::Test
 {

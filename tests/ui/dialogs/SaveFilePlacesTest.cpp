@@ -15,10 +15,10 @@ class SaveFilePlacesTest : public SaveFlow
 };
 
 /** Runs an action after the dialog and before the flow checks the disk. */
-class ActingHandler : public morvane::DefaultSaveFileMessageHandler
+class HandlerThatActsAtExists : public morvane::DefaultSaveFileMessageHandler
 {
 public:
-    explicit ActingHandler(std::function<void()> action) : m_action(std::move(action)) {}
+    explicit HandlerThatActsAtExists(std::function<void()> action) : m_action(std::move(action)) {}
     std::string filenameToCheck(const std::string& filename) override
     {
         m_action();
@@ -76,8 +76,8 @@ TEST_P(SaveFilePlacesTest, aDirectoryThatVanishesAfterTheDialogIsNotWritable)
 #endif
     QDir folder(m_directory.path());
     ASSERT_TRUE(folder.mkdir("short-lived"));
-    const auto flow = makeFlow(
-        "Data files (*.dat)", std::make_unique<ActingHandler>([folder]() mutable { folder.rmdir("short-lived"); }));
+    const auto flow = makeFlow("Data files (*.dat)",
+        std::make_unique<HandlerThatActsAtExists>([folder]() mutable { folder.rmdir("short-lived"); }));
     ModalScript user;
     user.on<QFileDialog>(
         [this](QFileDialog& dialog) { acceptName(dialog, QString::fromStdString(path("short-lived/new"))); });
@@ -91,8 +91,8 @@ TEST_P(SaveFilePlacesTest, aDirectoryThatVanishesAfterTheDialogIsNotWritable)
 
 TEST_P(SaveFilePlacesTest, aFileThatAppearsAfterTheDialogIsAskedAbout)
 {
-    const auto flow =
-        makeFlow("Data files (*.dat)", std::make_unique<ActingHandler>([this] { makeFile("new.dat", "theirs"); }));
+    const auto flow = makeFlow(
+        "Data files (*.dat)", std::make_unique<HandlerThatActsAtExists>([this] { makeFile("new.dat", "theirs"); }));
     ModalScript user;
     user.on<QFileDialog>([](QFileDialog& dialog) { acceptName(dialog, "new"); });
     user.on<QMessageBox>([](QMessageBox& box) { answerYes(box); });

@@ -4,7 +4,7 @@
 
 namespace {
 
-struct Typed
+struct TypedPattern
 {
     const char* text;
     const char* patterns; ///< with bars in between
@@ -12,11 +12,11 @@ struct Typed
 
 TEST(TypedPatterns, areSeparatedBySemicolonsAndByBlanksBetweenWildcards)
 {
-    const Typed table[] = {{"*.dat", "*.dat"}, {" *.dat ", "*.dat"}, {"*.dat *.csv", "*.dat|*.csv"},
+    const TypedPattern table[] = {{"*.dat", "*.dat"}, {" *.dat ", "*.dat"}, {"*.dat *.csv", "*.dat|*.csv"},
         {"*.dat;*.csv", "*.dat|*.csv"}, {"*.dat; ;b?.csv", "*.dat|b?.csv"}, {"my rep*", "my rep*"},
         {"my rep*;*.csv a?", "my rep*|*.csv|a?"}, {"\"my rep*\"", "my rep*"}, {"*.*", "*"}, {"*.*;*.dat", "*|*.dat"},
         {"*", "*"}, {";*", "*"}};
-    for (const Typed& row : table) {
+    for (const TypedPattern& row : table) {
         const QStringList patterns = morvane::ui::patternsOfTypedText(QString::fromLatin1(row.text));
         EXPECT_EQ(patterns.join(QLatin1Char('|')).toStdString(), row.patterns) << row.text;
     }

@@ -12,7 +12,7 @@ namespace morvane::ui {
 
 namespace {
 
-ReplaceableInstance<Shell> currentInstance;
+ReplaceableInstance<Shell> currentShell;
 
 #ifdef _WIN32
 using DefaultShell = WindowsShell;
@@ -28,12 +28,12 @@ Shell::~Shell() = default;
 
 Shell& Shell::instance()
 {
-    return currentInstance.get<DefaultShell>();
+    return currentShell.get<DefaultShell>();
 }
 
 Shell* Shell::setInstance(Shell* replacement)
 {
-    return currentInstance.replace(replacement);
+    return currentShell.replace(replacement);
 }
 
 ShellOverride::ShellOverride(Shell& replacement) : m_override(replacement) {}
