@@ -4,7 +4,7 @@
 #include "ui/qt/dialogs/save/SaveFileExtension_p.h"
 #include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
 
-#include <QRegExp>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <boost/filesystem/path.hpp>
@@ -24,7 +24,7 @@ const std::string nameFilters[] = {"Data files (*.dat)", "Layouts (*.plt *.lay)"
 std::string applyByExpressions(const std::string& filename, const std::string& nameFilter)
 {
     static const std::regex noise("[\\s\\(\\)\\*]");
-    static const QRegExp anyExtension("\\.[^\\.]*$");
+    static const QRegularExpression anyExtension("\\.[^\\.]*$");
     const std::size_t dot = nameFilter.rfind('.');
     const std::string extension =
         std::regex_replace(dot == std::string::npos ? nameFilter : nameFilter.substr(dot), noise, "");

@@ -1,20 +1,20 @@
 include(CMakePackageConfigHelpers)
 
-set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Morvane)
-install(TARGETS morvane-host morvane-property morvane-ui EXPORT MorvaneTargets
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${MORVANE_PACKAGE})
+install(TARGETS morvane-host morvane-property morvane-ui EXPORT ${MORVANE_PACKAGE}Targets
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
-install(EXPORT MorvaneTargets NAMESPACE Morvane:: DESTINATION ${package_dir} COMPONENT Development)
+install(EXPORT ${MORVANE_PACKAGE}Targets NAMESPACE Morvane:: DESTINATION ${package_dir} COMPONENT Development)
 if(MORVANE_BUILD_TESTING_LIBRARY)
-    install(TARGETS morvane-testing EXPORT MorvaneTestingTargets
+    install(TARGETS morvane-testing EXPORT ${MORVANE_PACKAGE}TestingTargets
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Testing)
-    install(EXPORT MorvaneTestingTargets NAMESPACE Morvane:: DESTINATION ${package_dir} COMPONENT Testing)
-    export(EXPORT MorvaneTestingTargets NAMESPACE Morvane:: FILE ${PROJECT_BINARY_DIR}/MorvaneTestingTargets.cmake)
+    install(EXPORT ${MORVANE_PACKAGE}TestingTargets NAMESPACE Morvane:: DESTINATION ${package_dir} COMPONENT Testing)
+    export(EXPORT ${MORVANE_PACKAGE}TestingTargets NAMESPACE Morvane:: FILE ${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}TestingTargets.cmake)
 endif()
 
-# The same package straight from the build directory: -DMorvane_DIR=...
-export(EXPORT MorvaneTargets NAMESPACE Morvane:: FILE ${PROJECT_BINARY_DIR}/MorvaneTargets.cmake)
+# The same package straight from the build directory: -DMorvane_DIR=... or -DMorvane-Qt6_DIR=...
+export(EXPORT ${MORVANE_PACKAGE}Targets NAMESPACE Morvane:: FILE ${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}Targets.cmake)
 
 get_property(uses_qxt GLOBAL PROPERTY MORVANE_USES_QXT)
 set(MORVANE_PACKAGE_NEEDS_QXT FALSE)
@@ -24,9 +24,9 @@ if(uses_qxt)
     configure_file(${CMAKE_CURRENT_LIST_DIR}/FindQxt.cmake ${PROJECT_BINARY_DIR}/FindQxt.cmake COPYONLY)
 endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/MorvaneConfig.cmake.in
-    ${PROJECT_BINARY_DIR}/MorvaneConfig.cmake INSTALL_DESTINATION ${package_dir})
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/MorvaneConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/MorvaneConfig.cmake ${PROJECT_BINARY_DIR}/MorvaneConfigVersion.cmake
+    ${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}Config.cmake INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}Config.cmake ${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}ConfigVersion.cmake
         DESTINATION ${package_dir} COMPONENT Development)
 
 include(MorvanePkgConfig)

@@ -2,7 +2,8 @@
 # one for the build directory, which pkg-config prefers when it finds both.
 
 # morvane_pkg_config(NAME name DESCRIPTION text [COMPONENT name] [LIBRARY target] [REQUIRES ...] [CFLAGS ...] [LIBS ...])
-# LIBRARY is what the package links, before LIBS; none for headers alone.
+# LIBRARY is what the package links, before LIBS; none for headers alone. With Qt 6 the names of the package, of its library
+# and of the packages of Morvane in REQUIRES end in -qt6.
 function(morvane_pkg_config)
     cmake_parse_arguments(pc "" "NAME;DESCRIPTION;COMPONENT;LIBRARY" "REQUIRES;CFLAGS;LIBS" ${ARGN})
     if(NOT pc_COMPONENT)
@@ -11,21 +12,22 @@ function(morvane_pkg_config)
     set(pc_directory)
     if(pc_LIBRARY)
         set(pc_directory $<TARGET_FILE_DIR:${pc_LIBRARY}>)
-        list(PREPEND pc_LIBS -L\${libdir} -l${pc_LIBRARY})
+        list(PREPEND pc_LIBS -L\${libdir} -l${pc_LIBRARY}${MORVANE_SUFFIX})
     endif()
+    list(TRANSFORM pc_REQUIRES REPLACE "^(morvane-.*)$" "\\1${MORVANE_SUFFIX}")
     list(JOIN pc_REQUIRES " " pc_REQUIRES)
     list(JOIN pc_LIBS " " pc_LIBS)
 
     file(RELATIVE_PATH prefix_from_pc /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
     string(REGEX REPLACE "/$" "" prefix_from_pc ${prefix_from_pc})
-    morvane_write_pkg_config(${pc_NAME}.pc
+    morvane_write_pkg_config(${pc_NAME}${MORVANE_SUFFIX}.pc
         \${pcfiledir}/${prefix_from_pc} \${prefix}/${CMAKE_INSTALL_LIBDIR} \${prefix}/${CMAKE_INSTALL_INCLUDEDIR}
-        \${includedir}/morvane)
-    install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${pc_NAME}.pc
+        \${includedir}/morvane${MORVANE_SUFFIX})
+    install(FILES ${PROJECT_BINARY_DIR}/pkgconfig/${pc_NAME}${MORVANE_SUFFIX}.pc
             DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT ${pc_COMPONENT})
 
     get_property(compat_includes GLOBAL PROPERTY MORVANE_COMPAT_INCLUDES)
-    morvane_write_pkg_config(${pc_NAME}-uninstalled.pc
+    morvane_write_pkg_config(${pc_NAME}${MORVANE_SUFFIX}-uninstalled.pc
         ${PROJECT_BINARY_DIR} "${pc_directory}" ${PROJECT_SOURCE_DIR}/common/src
         \${includedir} \${prefix}/generated ${compat_includes})
 endfunction()
@@ -67,11 +69,11 @@ if(MORVANE_PACKAGE_NEEDS_QXT)
 endif()
 
 morvane_pkg_config(NAME morvane-host DESCRIPTION "Services that Morvane calls in its host"
-    LIBRARY ${host_library} REQUIRES Qt5Core)
+    LIBRARY ${host_library} REQUIRES ${MORVANE_QT}Core)
 morvane_pkg_config(NAME morvane-property DESCRIPTION "Observable, validated values"
     REQUIRES morvane-host)
 morvane_pkg_config(NAME morvane-ui DESCRIPTION "${PROJECT_DESCRIPTION}"
-    LIBRARY morvane-ui REQUIRES morvane-host morvane-property Qt5Widgets CFLAGS ${label_cflags} LIBS ${label_libs})
+    LIBRARY morvane-ui REQUIRES morvane-host morvane-property ${MORVANE_QT}Widgets CFLAGS ${label_cflags} LIBS ${label_libs})
 if(MORVANE_BUILD_TESTING_LIBRARY)
     morvane_pkg_config(NAME morvane-testing DESCRIPTION "For tests of code that opens Morvane's dialogs"
         LIBRARY morvane-testing COMPONENT Testing REQUIRES morvane-ui)

@@ -3,7 +3,8 @@ include(GenerateExportHeader)
 # How Morvane's own code is compiled. None of this is passed on to consumers.
 add_library(morvane-build-flags INTERFACE)
 target_compile_definitions(morvane-build-flags INTERFACE
-    QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT)
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    $<$<EQUAL:${MORVANE_QT_MAJOR},6>:QT_DISABLE_DEPRECATED_BEFORE=0x060000>)
 if(MSVC)
     target_compile_options(morvane-build-flags INTERFACE
         /W4 /utf-8 /permissive- $<$<BOOL:${MORVANE_WARNINGS_AS_ERRORS}>:/WX>)
@@ -97,14 +98,15 @@ function(morvane_library)
     # The libraries find each other in whatever directory they are installed or unpacked.
     set_target_properties(${arg_NAME} PROPERTIES
         EXPORT_NAME ${arg_EXPORT_NAME} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
-        INSTALL_RPATH "$ORIGIN")
+        INSTALL_RPATH "$ORIGIN"
+        OUTPUT_NAME ${arg_NAME}${MORVANE_SUFFIX})
 
     set(generated ${PROJECT_BINARY_DIR}/generated)
     generate_export_header(${arg_NAME}
         EXPORT_MACRO_NAME ${arg_EXPORT_MACRO} EXPORT_FILE_NAME ${generated}/${arg_EXPORT_HEADER})
     target_include_directories(${arg_NAME} PUBLIC
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/common/src> $<BUILD_INTERFACE:${generated}>
-        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/morvane>)
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/morvane${MORVANE_SUFFIX}>)
     morvane_public_headers(${arg_NAME} ${arg_PUBLIC_HEADERS})
     morvane_install_headers(BASE ${generated} ${arg_EXPORT_HEADER})
 endfunction()
@@ -156,7 +158,7 @@ function(morvane_public_headers target)
     morvane_install_headers(${ARGN})
 endfunction()
 
-# Installs headers under include/morvane, keeping their paths below BASE (the include root unless given), with COMPONENT
+# Installs headers under include/morvane or include/morvane-qt6, keeping their paths below BASE (the include root unless given), with COMPONENT
 # (Development unless given).
 function(morvane_install_headers)
     if(NOT MORVANE_INSTALL)
@@ -172,6 +174,6 @@ function(morvane_install_headers)
     foreach(header IN LISTS arg_UNPARSED_ARGUMENTS)
         cmake_path(GET header PARENT_PATH directory)
         install(FILES ${arg_BASE}/${header}
-                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/morvane/${directory} COMPONENT ${arg_COMPONENT})
+                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/morvane${MORVANE_SUFFIX}/${directory} COMPONENT ${arg_COMPONENT})
     endforeach()
 endfunction()

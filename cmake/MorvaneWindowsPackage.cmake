@@ -1,16 +1,16 @@
 # `cpack -G ZIP`: the DLLs, their import libraries, the headers, the CMake package and the gallery.
-set(CPACK_PACKAGE_NAME morvane)
+set(CPACK_PACKAGE_NAME morvane${MORVANE_SUFFIX})
 set(CPACK_PACKAGE_VENDOR "The Morvane authors")
-set(CPACK_PACKAGE_FILE_NAME morvane-${PROJECT_VERSION}-windows-${CMAKE_SYSTEM_PROCESSOR})
+set(CPACK_PACKAGE_FILE_NAME morvane${MORVANE_SUFFIX}-${PROJECT_VERSION}-windows-${CMAKE_SYSTEM_PROCESSOR})
 set(CPACK_PACKAGE_CHECKSUM SHA256)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/morvane COMPONENT Runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/morvane${MORVANE_SUFFIX} COMPONENT Runtime)
 
 # What the gallery needs to start at a double click. A host has its own Qt.
 if(MORVANE_WINDOWS_SDK)
-    foreach(library Qt5Core Qt5Gui Qt5Widgets Qt5Test libstdc++-6 libgcc_s_seh-1 libwinpthread-1)
+    foreach(library ${MORVANE_QT}Core ${MORVANE_QT}Gui ${MORVANE_QT}Widgets ${MORVANE_QT}Test libstdc++-6 libgcc_s_seh-1 libwinpthread-1)
         install(FILES ${MORVANE_WINDOWS_SDK}/bin/${library}.dll
                 DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Gallery)
     endforeach()
@@ -19,9 +19,13 @@ if(MORVANE_WINDOWS_SDK)
     install(FILES ${MORVANE_WINDOWS_SDK}/plugins/styles/qwindowsvistastyle.dll
             DESTINATION ${CMAKE_INSTALL_BINDIR}/styles COMPONENT Gallery)
     # The terms under which these may be passed on, as the distribution states them.
-    foreach(source qtbase5-dev g++-mingw-w64-x86-64-posix)
+    set(qt_package qtbase5-dev)
+    if(MORVANE_QT_MAJOR EQUAL 6)
+        set(qt_package qt6-base-dev)
+    endif()
+    foreach(source ${qt_package} g++-mingw-w64-x86-64-posix)
         install(FILES /usr/share/doc/${source}/copyright RENAME ${source}.txt
-                DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/morvane/others COMPONENT Gallery OPTIONAL)
+                DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/morvane${MORVANE_SUFFIX}/others COMPONENT Gallery OPTIONAL)
     endforeach()
 endif()
 include(CPack)

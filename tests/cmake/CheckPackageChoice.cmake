@@ -8,10 +8,10 @@ function(write_ctk prefix needed)
         "add_library(CTKCore SHARED IMPORTED)\n"
         "add_library(CTKWidgets SHARED IMPORTED)\n"
         "set_target_properties(CTKCore CTKWidgets PROPERTIES IMPORTED_LOCATION ${prefix}/lib/libCTKWidgets.so)\n"
-        "set_target_properties(CTKWidgets PROPERTIES INTERFACE_LINK_LIBRARIES \"CTKCore;Qt5::Widgets;${needed}\")\n")
+        "set_target_properties(CTKWidgets PROPERTIES INTERFACE_LINK_LIBRARIES \"CTKCore;Qt${QT_MAJOR}::Widgets;${needed}\")\n")
 endfunction()
 set(prefix ${WORK_DIR}/prefix)
-write_ctk(${prefix} Qt5::Xml)
+write_ctk(${prefix} Qt${QT_MAJOR}::Xml)
 foreach(file IN ITEMS include/QxtWidgets/QxtLabel include/QxtCore/qxtglobal.h lib/libQxtWidgets.so lib/libQxtCore.so)
     file(WRITE ${prefix}/${file} "")
 endforeach()
@@ -23,7 +23,7 @@ file(WRITE ${without_widgets}/lib/cmake/ctk-0.1/CTKConfig.cmake "add_library(CTK
 file(WRITE ${without_widgets}/include/QxtCore/qxtglobal.h "")
 file(WRITE ${without_widgets}/lib/libQxtCore.so "")
 set(without_qt ${WORK_DIR}/without_qt)
-write_ctk(${without_qt} Qt5::NoPartOfQt)
+write_ctk(${without_qt} Qt${QT_MAJOR}::NoPartOfQt)
 set(without_core ${WORK_DIR}/without_core)
 file(WRITE ${without_core}/include/QxtWidgets/QxtLabel "")
 file(WRITE ${without_core}/lib/libQxtWidgets.so "")
@@ -40,7 +40,7 @@ function(expect result)
     endif()
     execute_process(
         COMMAND ${CMAKE_COMMAND} -S ${MORVANE_SOURCE_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
-                -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DMORVANE_BUILD_TESTS=OFF -DMORVANE_BUILD_EXAMPLES=OFF
+                -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DMORVANE_QT_MAJOR=${QT_MAJOR} -DMORVANE_BUILD_TESTS=OFF -DMORVANE_BUILD_EXAMPLES=OFF
                 ${forget} ${arg_WITH}
         RESULT_VARIABLE code OUTPUT_VARIABLE output ERROR_VARIABLE output)
     # Messages are wrapped where the paths in them end.
@@ -89,7 +89,7 @@ foreach(machine IN ITEMS "${not_there}" -DCMAKE_PREFIX_PATH=${without_widgets})
     expect(fails ${qxt_missing} WITH ${machine} -DMORVANE_WITH_QXT=ON)
 endforeach()
 expect(fails ${qxt_missing} WITH -DCMAKE_PREFIX_PATH=${without_core} -DMORVANE_WITH_QXT=ON)
-expect(fails Qt5NoPartOfQt WITH -DCMAKE_PREFIX_PATH=${without_qt} -DMORVANE_WITH_CTK=ON)
+expect(fails Qt${QT_MAJOR}NoPartOfQt WITH -DCMAKE_PREFIX_PATH=${without_qt} -DMORVANE_WITH_CTK=ON)
 
 # A build directory of the time when the switches were initially AUTO is told once what it has now.
 foreach(package IN ITEMS CTK QXT)

@@ -2,7 +2,9 @@
 include(${CMAKE_CURRENT_LIST_DIR}/Run.cmake)
 
 file(REMOVE_RECURSE ${WORK_DIR})
-set(options -G ${GENERATOR} -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DCMAKE_CXX_COMPILER_LAUNCHER=${CXX_LAUNCHER})
+# The own variables of the consumers: what this build is called.
+set(options -DMORVANE_QT=Qt${QT_MAJOR} -DMORVANE_PACKAGE=${PACKAGE} -DMORVANE_SUFFIX=${SUFFIX}
+    -G ${GENERATOR} -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DCMAKE_CXX_COMPILER_LAUNCHER=${CXX_LAUNCHER})
 if(SANITIZE)
     list(APPEND options "-DCMAKE_CXX_FLAGS=-fsanitize=address,undefined")
 endif()
@@ -13,11 +15,11 @@ endif()
 set(project ${KIND})
 if(KIND MATCHES "^(.+)_from_the_build_directory$")
     set(project ${CMAKE_MATCH_1})
-    list(APPEND options -DMorvane_DIR=${MORVANE_BINARY_DIR})
+    list(APPEND options -D${PACKAGE}_DIR=${MORVANE_BINARY_DIR})
     set(ENV{PKG_CONFIG_PATH} ${MORVANE_BINARY_DIR}/pkgconfig)
 endif()
 if(KIND STREQUAL stand_ins_beside_others AND WITH_CTK AND WITH_QXT)
-    list(APPEND options -DREAL_PACKAGES=ON -DMORVANE_SOURCE_DIR=${MORVANE_SOURCE_DIR} -DCTK_DIR=${CTK_DIR})
+    list(APPEND options -DREAL_PACKAGES=ON -DMORVANE_QT_MAJOR=${QT_MAJOR} -DMORVANE_SOURCE_DIR=${MORVANE_SOURCE_DIR} -DCTK_DIR=${CTK_DIR})
 elseif(KIND MATCHES "^(find_package|testing|pkg_config|examples|stand_ins_beside_others)$")
     run(${CMAKE_COMMAND} --install ${MORVANE_BINARY_DIR} --prefix ${WORK_DIR}/first)
     # A package that can be moved holds no path of the place it was installed to.
@@ -25,7 +27,7 @@ elseif(KIND MATCHES "^(find_package|testing|pkg_config|examples|stand_ins_beside
     list(APPEND options -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix)
 endif()
 if(KIND MATCHES "^(add_subdirectory|own_host|examples)$")
-    list(APPEND options -DMORVANE_SOURCE_DIR=${MORVANE_SOURCE_DIR})
+    list(APPEND options -DMORVANE_SOURCE_DIR=${MORVANE_SOURCE_DIR} -DMORVANE_QT_MAJOR=${QT_MAJOR})
 endif()
 if(KIND MATCHES "^(add_subdirectory|own_host)$")
     list(APPEND options -DMORVANE_WITH_CTK=${WITH_CTK} -DCTK_DIR=${CTK_DIR} -DMORVANE_WITH_QXT=${WITH_QXT}

@@ -6,7 +6,7 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install ${BINARY_DIR} --component Run
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "cannot install:\n${output}")
 endif()
-file(READ ${PREFIX}/${DATADIR}/doc/morvane/morvane.spdx.json document)
+file(READ ${PREFIX}/${DATADIR}/doc/morvane${SUFFIX}/morvane${SUFFIX}.spdx.json document)
 
 function(expect what is wanted)
     if(NOT is STREQUAL wanted)
@@ -14,7 +14,7 @@ function(expect what is wanted)
     endif()
 endfunction()
 
-foreach(pair IN ITEMS "spdxVersion|SPDX-2.3" "dataLicense|CC0-1.0" "SPDXID|SPDXRef-DOCUMENT" "name|morvane-${VERSION}")
+foreach(pair IN ITEMS "spdxVersion|SPDX-2.3" "dataLicense|CC0-1.0" "SPDXID|SPDXRef-DOCUMENT" "name|morvane${SUFFIX}-${VERSION}")
     string(REPLACE "|" ";" pair "${pair}")
     list(GET pair 0 member)
     list(GET pair 1 wanted)

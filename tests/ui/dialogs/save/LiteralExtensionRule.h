@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QRegExp>
+#include <QRegularExpression>
 #include <QString>
 
 #include <boost/filesystem/path.hpp>
@@ -21,7 +21,7 @@ inline std::string applyExtensionByExpressions(const std::string& filename, cons
         return filename;
     }
     const QString name = QString::fromStdString(filename);
-    if (name.contains(QRegExp("\\.[^\\.]*$")) && !name.endsWith('.')) {
+    if (name.contains(QRegularExpression("\\.[^\\.]*$")) && !name.endsWith('.')) {
         return filename;
     }
     boost::filesystem::path path(filename);

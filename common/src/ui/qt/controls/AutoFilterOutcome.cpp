@@ -77,12 +77,11 @@ void AutoFilterOutcome::announceActivation()
     if (alive) {
         Q_EMIT box->textActivated(text);
     }
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    if (alive) {
-        // By name, because the signal is deprecated.
-        QMetaObject::invokeMethod(box, "activated", Q_ARG(QString, text));
+    // By name: the signal is deprecated in Qt 5 and gone in Qt 6.
+    const int named = alive ? box->metaObject()->indexOfSignal("activated(QString)") : -1;
+    if (named >= 0) {
+        box->metaObject()->method(named).invoke(box, Q_ARG(QString, text));
     }
-#endif
 }
 
 QModelIndex AutoFilterOutcome::currentEntry() const

@@ -34,7 +34,8 @@ Halves halvesOfLimit(double limit, int decimals)
     if (point < 0) {
         return {text.toLongLong(), 0};
     }
-    return {text.leftRef(point).toLongLong(), text.midRef(point + 1).toLongLong()};
+    const QStringView digits(text);
+    return {digits.left(point).toLongLong(), digits.mid(point + 1).toLongLong()};
 }
 
 qint64 powerOfTen(int exponent)
@@ -65,8 +66,9 @@ TypedNumber cutAtPoint(const QString& text, QChar delimiter)
         return {std::nullopt, std::nullopt, signOnly ? text[0] : QLatin1Char('+')};
     }
     const bool endsInPoint = point == text.size() - 1;
-    return {text.leftRef(point).toLongLong(),
-        endsInPoint ? std::nullopt : std::make_optional(text.midRef(point + 1).toLongLong()), QChar()};
+    const QStringView digits(text);
+    return {digits.left(point).toLongLong(),
+        endsInPoint ? std::nullopt : std::make_optional(digits.mid(point + 1).toLongLong()), QChar()};
 }
 
 /** Searches the integer parts and the fractions of a range. */

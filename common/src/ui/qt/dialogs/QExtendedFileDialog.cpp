@@ -156,7 +156,7 @@ void QExtendedFileDialog::accept()
     }
     m_fileTypeCombo->blockSignals(false);
     m_fileNameEdit->setText(text); // Qt has appended the extension of the filter
-    connect(m_fileTypeCombo, SIGNAL(activated(QString)), this, SLOT(revertModifiedFilterAndSelect(QString)),
+    connect(m_fileTypeCombo, &QComboBox::textActivated, this, &QExtendedFileDialog::revertModifiedFilterAndSelect,
         Qt::UniqueConnection);
 }
 
@@ -176,7 +176,7 @@ void QExtendedFileDialog::revertModifiedFilterAndSelect(QString filter)
     if (m_modifiedNameFilter.isEmpty() || m_modifiedNameFilter == filter) {
         return;
     }
-    disconnect(m_fileTypeCombo, SIGNAL(activated(QString)), this, SLOT(revertModifiedFilterAndSelect(QString)));
+    disconnect(m_fileTypeCombo, &QComboBox::textActivated, this, &QExtendedFileDialog::revertModifiedFilterAndSelect);
     const QString current = selectedNameFilter();
     restoreFilters();
     selectNameFilter(current);
