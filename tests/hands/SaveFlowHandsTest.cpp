@@ -166,7 +166,7 @@ TEST_P(SaveFlowHands, endsWithoutAQuestionWhenTheHandlerDestroysTheParentBeforeT
     int asked = 0;
     const auto flow = makeFlow({"Data (*.dat)"}, 0, std::make_unique<LeavingHandler>(m_window, 2, asked));
     ModalScript user;
-    user.on<QFileDialog>([this](QFileDialog& dialog) { enter(dialog, "/proc/refused"); });
+    user.on<QFileDialog>([this](QFileDialog& dialog) { enter(dialog, "/sys/refused"); });
     EXPECT_FALSE(flow->launch());
     EXPECT_TRUE(user.finished());
     EXPECT_EQ(asked, 2);

@@ -31,7 +31,7 @@ QString refusedPath(const QString& directory, const QString& name)
     return directory + QLatin1Char('/') + name + QLatin1Char('|');
 #else
     Q_UNUSED(directory)
-    return QStringLiteral("/proc/") + name;
+    return QStringLiteral("/sys/") + name;
 #endif
 }
 

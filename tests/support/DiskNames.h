@@ -15,7 +15,7 @@ bool diskTakesName(const QString& name);
 QStringList namesForDisk(const QStringList& names);
 
 /**
- * The path of a file that nobody can write although its directory exists: in a system directory where no files can be
+ * The path of a file that nobody can write although its directory exists: in /sys, where no files can be
  * made, or else below @p directory with an invalid name. Ends in @p name and at most one more character.
  */
 QString refusedPath(const QString& directory, const QString& name);

@@ -53,8 +53,8 @@ void answer(QMessageBox::StandardButton button)
 /** A path that cannot be written on any system; if possible, outside of the tour's own directory. */
 QString refusedName(const TourWorkspace& workspace)
 {
-    const bool hasProcesses = QDir::rootPath() == QLatin1String("/");
-    return hasProcesses ? QStringLiteral("/proc/report.txt")
+    const bool isPosix = QDir::rootPath() == QLatin1String("/");
+    return isPosix ? QStringLiteral("/sys/report.txt")
                         : workspace.folder().path(QStringLiteral("archive/|report.txt"));
 }
 
