@@ -247,11 +247,17 @@ TEST(AllocationFaultsTest, theClipboardKeepsItsTextWhenTheNewOneCannotBeMade)
         allocationsOfText = AllocationFaults::count();
     }
     ASSERT_GT(allocationsOfText, 3);
-    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    int survived = 0;
     for (int failing = 1; failing <= allocationsOfText; ++failing) {
-        EXPECT_EQ(runWithFault(failing, [&] { handler.copyToClipboard(); }).outcome, Outcome::OutOfMemory) << failing;
-        EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("before"));
+        QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+        if (runWithFault(failing, [&] { handler.copyToClipboard(); }).outcome == Outcome::Done) {
+            EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(QStringLiteral("r19c2"))) << failing;
+            ++survived;
+        } else {
+            EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("before")) << failing;
+        }
     }
+    EXPECT_LE(survived, 1) << "Qt 6 goes on when merging two selections lacks memory";
     handler.copyToClipboard();
     EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(QStringLiteral("r19c2")));
 }
