@@ -1,16 +1,16 @@
 # shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
 # The command "./dev test-next" runs the tests with the newer compiler and libraries of the next Debian release. ./dev
-# sources this file and provides the functions need, step, die and as_root.
+# sources this file and provides the functions need, step and as_root.
 
 next_host_packages='mmdebstrap util-linux'
 
 next_usage() {
     cat <<'TEXT'
-usage: ./dev test-next [ARGUMENTS]
+usage: ./dev [--qt 5|6] test-next [ARGUMENTS]
 
 Builds everything and runs every test with the compiler, Qt and Boost of the Debian release that follows this machine's
-own, in a root of that release. The arguments go to ctest (-R NAME, ...). MORVANE_QT_MAJOR in the environment chooses the
-Qt, 6 (default) or 5.
+own, in a root of that release. The arguments go to ctest (-R NAME, ...). --qt selects the major version of Qt, which is 6
+otherwise.
 
 Needs root, for making the root and for running in it. The first run makes the root, with the machine's own apt sources;
 it is kept in $XDG_CACHE_HOME/morvane/next, or ~/.cache/morvane/next. The build directory is in build/next. Exit status
@@ -18,23 +18,12 @@ it is kept in $XDG_CACHE_HOME/morvane/next, or ~/.cache/morvane/next. The build 
 TEXT
 }
 
-# The packages of "./dev test" for the chosen Qt. ccache is there because several tests build Morvane once more.
-next_packages() {
-    # shellcheck disable=SC2086 # one a line
-    printf '%s\n' $build_packages $run_packages $test_packages $desktop_packages ccache |
-        if [ "$1" = 6 ]; then
-            sed 's/^qtbase5/qt6-base/; s/^qttools5/qt6-tools/'
-        else
-            cat
-        fi
-}
-
 in_next() { as_root tools/next-root run "$next_root" "$(pwd)" "$next_build" "$@"; }
 
 next_build_and_test() {
     step "configuring $next_build/cmake"
-    in_next cmake --preset dev -B "$next_build/cmake" -DMORVANE_QT_MAJOR="$qt" --log-level=WARNING
-    in_next dpkg-query -W g++ cmake "$(next_packages "$qt" | grep "^qt.*base.*-dev$" | head -n 1)" libboost-dev libgtest-dev
+    in_next cmake --preset dev -B "$next_build/cmake" -DMORVANE_QT_MAJOR="$qt_major" --log-level=WARNING
+    in_next dpkg-query -W g++ cmake libboost-dev libgtest-dev "libqt${qt_major}core*"
     step "building $next_build/cmake"
     in_next cmake --build "$next_build/cmake" -j "$(nproc)"
     step 'running the tests'
@@ -48,19 +37,15 @@ cmd_test_next() {
         return
         ;;
     esac
-    qt=${MORVANE_QT_MAJOR:-6}
-    case $qt in
-    5 | 6) ;;
-    *) die "MORVANE_QT_MAJOR is $qt; 5 and 6 are possible" ;;
-    esac
     status=0
     release=$(tools/next-root release) || status=$?
     [ "$status" = 0 ] || exit "$status"
     # shellcheck disable=SC2086 # the list is to be split
     need $next_host_packages
-    next_root=${XDG_CACHE_HOME:-$HOME/.cache}/morvane/next/$release-qt$qt
-    next_build=$(pwd)/build/next/qt$qt
-    # shellcheck disable=SC2046 # the list is to be split
-    as_root tools/next-root make "$next_root" "$release" $(next_packages "$qt")
+    next_root=${XDG_CACHE_HOME:-$HOME/.cache}/morvane/next/$release-qt$qt_major
+    next_build=$(pwd)/build/next/qt$qt_major
+    # ccache, because several tests build Morvane once more.
+    # shellcheck disable=SC2086 # the lists are to be split
+    as_root tools/next-root make "$next_root" "$release" $build_packages $run_packages $test_packages $desktop_packages ccache
     next_build_and_test "$@"
 }
