@@ -57,8 +57,10 @@ std::vector<TourStep> NativeDialogPage::systemDialogSteps()
         }});
     const auto lock = QStringLiteral("Lock Preview");
     const auto hide = QStringLiteral("Hide Preview");
-    steps.push_back(clickStep(QStringLiteral("preview-disabled"), lock, [] { return expectSystemPreview(true, false); }));
-    steps.push_back(clickStep(QStringLiteral("preview-hidden"), hide, [] { return expectSystemPreview(false, false); }));
+    steps.push_back(
+        clickStep(QStringLiteral("preview-disabled"), lock, [] { return expectSystemPreview(true, false); }));
+    steps.push_back(
+        clickStep(QStringLiteral("preview-hidden"), hide, [] { return expectSystemPreview(false, false); }));
     steps.push_back(clickStep(QStringLiteral("preview-shown"), hide, [] { return expectSystemPreview(true, false); }));
     steps.push_back(clickStep(QStringLiteral("preview-enabled"), lock, [] { return expectSystemPreview(true, true); }));
     steps.push_back({QStringLiteral("accepted"),
