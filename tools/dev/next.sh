@@ -44,6 +44,7 @@ cmd_test_next() {
     need $next_host_packages
     next_root=${XDG_CACHE_HOME:-$HOME/.cache}/morvane/next/$release-qt$qt_major
     next_build=$(pwd)/build/next/qt$qt_major
+    mkdir -p "$next_build"
     # ccache, because several tests build Morvane once more.
     # shellcheck disable=SC2086 # the lists are to be split
     as_root tools/next-root make "$next_root" "$release" $build_packages $run_packages $test_packages $desktop_packages ccache
