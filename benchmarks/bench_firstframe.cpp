@@ -53,7 +53,11 @@ QWidget& window()
     static QWidget* const shown = [] {
         auto* const widget = new QWidget;
         widget->show();
+        // Deprecated since Qt 6.5; activateWindow() only asks the window system.
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
         QApplication::setActiveWindow(widget);
+        QT_WARNING_POP
         QApplication::processEvents();
         return widget;
     }();

@@ -13,6 +13,7 @@
 #include <array>
 #include <memory>
 #include <random>
+#include <utility>
 #include <vector>
 
 #ifdef __GLIBC__
@@ -97,7 +98,7 @@ void copySortedIndexes(const QTableView& view)
     std::sort(indexes.begin(), indexes.end());
     QString text;
     QModelIndex previous;
-    for (const QModelIndex& index : qAsConst(indexes)) {
+    for (const QModelIndex& index : std::as_const(indexes)) {
         if (previous.isValid()) {
             text += index.row() != previous.row() ? QLatin1Char('\n') : QLatin1Char('\t');
         }

@@ -32,7 +32,11 @@ if(MORVANE_QT_MAJOR EQUAL 6)
     set(MORVANE_PACKAGE Morvane-Qt6)
 endif()
 
-find_package(Boost 1.74 REQUIRED COMPONENTS filesystem)
+# CMake's own module is only for a Boost without a configuration file; from CMake 3.30 on, it is deprecated.
+find_package(Boost 1.74 QUIET CONFIG COMPONENTS filesystem)
+if(NOT Boost_FOUND)
+    find_package(Boost 1.74 REQUIRED COMPONENTS filesystem)
+endif()
 
 set(MORVANE_HAS_DESIGNER OFF)
 if(MORVANE_BUILD_DESIGNER STREQUAL "AUTO")

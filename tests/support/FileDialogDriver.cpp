@@ -1,5 +1,6 @@
 #include "support/FileDialogDriver.h"
 
+#include "support/ActiveWindow.h"
 #include "support/ModalScript.h"
 
 #include <gtest/gtest.h>
@@ -95,7 +96,7 @@ void FileDialogDriver::typeName(const QString& text) const
     // Without a window manager, the dialog is not active when it is shown again after a message box. Then Delete would
     // trigger the dialog's shortcut.
     if (m_dialog.isVisible() && !m_dialog.isActiveWindow()) {
-        QApplication::setActiveWindow(&m_dialog);
+        setActiveWindow(m_dialog);
     }
     nameEdit().setFocus();
     QTest::keyClick(&nameEdit(), Qt::Key_A, Qt::ControlModifier);

@@ -14,6 +14,8 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace gallery {
 
 namespace {
@@ -81,7 +83,7 @@ int FontsPage::previewNewFonts()
     int count = 0;
     for (QStringList families; !(families = QFontDatabase::applicationFontFamilies(m_nextFont)).isEmpty(); ++count) {
         ++m_nextFont;
-        for (const QString& family : qAsConst(families)) {
+        for (const QString& family : std::as_const(families)) {
             auto* const item = new QListWidgetItem(tr("%1: 0123456789 äöü ±µΩ°").arg(family), m_fonts);
             QFont font(family);
             font.setPointSizeF(previewPointSize);

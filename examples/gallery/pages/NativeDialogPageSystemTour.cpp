@@ -23,7 +23,7 @@ TourStep clickStep(const QString& name, const QString& control, const std::funct
     return {name, [control] { SystemFileDialog().click(control); }, check};
 }
 
-QString expectPreview(bool visible, bool enabled)
+QString expectSystemPreview(bool visible, bool enabled)
 {
     const QString preview = QStringLiteral("Preview");
     const SystemFileDialog open;
@@ -57,10 +57,12 @@ std::vector<TourStep> NativeDialogPage::systemDialogSteps()
         }});
     const auto lock = QStringLiteral("Lock Preview");
     const auto hide = QStringLiteral("Hide Preview");
-    steps.push_back(clickStep(QStringLiteral("preview-disabled"), lock, [] { return expectPreview(true, false); }));
-    steps.push_back(clickStep(QStringLiteral("preview-hidden"), hide, [] { return expectPreview(false, false); }));
-    steps.push_back(clickStep(QStringLiteral("preview-shown"), hide, [] { return expectPreview(true, false); }));
-    steps.push_back(clickStep(QStringLiteral("preview-enabled"), lock, [] { return expectPreview(true, true); }));
+    steps.push_back(
+        clickStep(QStringLiteral("preview-disabled"), lock, [] { return expectSystemPreview(true, false); }));
+    steps.push_back(
+        clickStep(QStringLiteral("preview-hidden"), hide, [] { return expectSystemPreview(false, false); }));
+    steps.push_back(clickStep(QStringLiteral("preview-shown"), hide, [] { return expectSystemPreview(true, false); }));
+    steps.push_back(clickStep(QStringLiteral("preview-enabled"), lock, [] { return expectSystemPreview(true, true); }));
     steps.push_back({QStringLiteral("accepted"),
         [] {
             SystemFileDialog().setName(QStringLiteral("run-001.dat"));

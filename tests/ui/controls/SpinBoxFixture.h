@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/ActiveWindow.h"
 #include "support/SpinBoxButton.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
@@ -39,7 +40,7 @@ struct SpinBoxWindow
         layout->addWidget(&spin);
         layout->addWidget(&other);
         window.show();
-        QApplication::setActiveWindow(&window);
+        setActiveWindow(window);
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         spin.setFocus();
     }

@@ -1,4 +1,5 @@
 // For each dialog, native and Qt: nested dialogs, and the end of the application while a dialog is open.
+#include "support/ActiveWindow.h"
 #include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
@@ -180,7 +181,7 @@ TEST_F(DialogReentrancy, theActiveWindowMayGoWhileTheLauncherIsOpen)
         SCOPED_TRACE(native);
         auto* const window = new QWidget;
         window->show();
-        QApplication::setActiveWindow(window);
+        setActiveWindow(*window);
         m_user.on<QFileDialog>([&](QFileDialog&) { delete window; });
         EXPECT_FALSE(launchKind(native));
     }

@@ -1,6 +1,7 @@
 #include "ExtendedWinFileDialogTest.h"
 
 #include "property/Property.h"
+#include "support/ActiveWindow.h"
 #include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"
 #include "ui/qt/dialogs/shell/WidgetShell_p.h"
@@ -31,7 +32,7 @@ protected:
         }
         QDir(QString::fromStdString(folder())).mkdir(QStringLiteral("inner"));
         m_parent->show();
-        QApplication::setActiveWindow(m_parent.get());
+        setActiveWindow(*m_parent);
     }
     void TearDown() override { EXPECT_TRUE(m_shell.calls().empty()); }
 

@@ -1,4 +1,5 @@
 // What the launcher passes to the native dialog, call by call.
+#include "support/ActiveWindow.h"
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingShell.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
@@ -79,7 +80,7 @@ TEST_F(LaunchFileDialogNative, ownsTheDialogByTheActiveWindow)
 {
     QWidget window;
     window.show();
-    QApplication::setActiveWindow(&window);
+    setActiveWindow(window);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     launch({}, false, false, 0);
     EXPECT_THAT(m_shell.calls(), Contains("IFileDialog::Show(owner)"));

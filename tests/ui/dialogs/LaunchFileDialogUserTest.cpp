@@ -1,6 +1,8 @@
 // The launcher as a user sees it, with both dialogs.
 #include "LaunchFileDialogTest.h"
 
+#include "support/ActiveWindow.h"
+
 namespace morvane::test {
 
 namespace {
@@ -222,7 +224,7 @@ TEST_P(LaunchFileDialogUser, belongsToTheActiveWindow)
 {
     QWidget window;
     window.show();
-    QApplication::setActiveWindow(&window);
+    setActiveWindow(window);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     launch({}, false, false, 0, [&](FileDialogDriver& driver) {
         EXPECT_EQ(driver.dialog().parentWidget(), &window);

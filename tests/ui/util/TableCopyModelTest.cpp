@@ -223,7 +223,7 @@ TEST_P(TableCopyModelCellTextTest, isCopiedAsItIs)
     EXPECT_EQ(copied(), "x\t" + GetParam().text + "\tx");
 }
 
-const QDateTime moment(QDate(2024, 2, 29), QTime(13, 5, 7), Qt::UTC);
+const QDateTime moment = QDateTime::fromString("2024-02-29T13:05:07Z", Qt::ISODate);
 
 INSTANTIATE_TEST_SUITE_P(Cells, TableCopyModelCellTextTest,
     ::testing::Values(CellText{"Null", QVariant(), ""}, CellText{"NullText", QString(), ""},
