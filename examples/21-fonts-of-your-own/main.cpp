@@ -4,8 +4,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QFontDatabase>
-#include <QListWidget>
+#include <QFontComboBox>
 
 int main(int argc, char** argv)
 {
@@ -21,10 +20,9 @@ int main(int argc, char** argv)
     }
     //! [fonts]
 
-    QListWidget families;
-    families.addItems(QFontDatabase().families());
+    QFontComboBox families;
     families.setWindowTitle("Fonts that this program can use");
-    families.resize(360, 400);
+    families.resize(360, families.sizeHint().height());
     families.show();
     return QApplication::exec();
 }

@@ -106,17 +106,17 @@ void GalleryWindow::addPage(Page* page)
 void GalleryWindow::addMenus()
 {
     QMenu* const file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL | Qt::Key_Q));
 
     QMenu* const view = menuBar()->addMenu(tr("&View"));
     view->addAction(
         tr("&Next Page"), this, [this] { select(m_list->currentRow() + 1); },
-        QKeySequence(Qt::CTRL + Qt::Key_PageDown));
+        QKeySequence(Qt::CTRL | Qt::Key_PageDown));
     view->addAction(
         tr("&Previous Page"), this, [this] { select(m_list->currentRow() - 1); },
-        QKeySequence(Qt::CTRL + Qt::Key_PageUp));
+        QKeySequence(Qt::CTRL | Qt::Key_PageUp));
     view->addSeparator();
-    view->addAction(tr("&Copy the Log"), m_log, &LogPane::copyAll, QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C));
+    view->addAction(tr("&Copy the Log"), m_log, &LogPane::copyAll, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
     view->addAction(tr("Cl&ear the Log"), m_log, &LogPane::clear);
 
     m_helpMenu = menuBar()->addMenu(tr("&Help"));

@@ -5,6 +5,7 @@
 #include "host/InstanceOverride.h"
 #include "LogPane.h"
 #include "Page.h"
+#include "QtShims.h"
 #include "tour/Tour.h"
 #include "tour/TourWorkspace.h"
 
@@ -25,8 +26,7 @@ void nameApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("morvane-gallery"));
     QCoreApplication::setApplicationVersion(QStringLiteral(GALLERY_VERSION));
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    enableHighDpi();
 }
 
 // Uses no GUI application object, so --help and wrong options work without a display.

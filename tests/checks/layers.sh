@@ -67,6 +67,9 @@ complain 'platform headers outside the one header for them' \
     "$(grep -rnE '^ *# *include +<(windows|shobjidl|shlwapi|objbase|shlobj)' $src | grep -v shell/ShellInterfaces.h)"
 complain 'operating-system conditionals outside the platform layer' \
     "$(grep -rnE "$conditionals" $src | grep -vE 'dialogs/shell/|src/host/|save/WriteAccessProbe')"
+complain 'the version of Qt is asked for outside QtShims.h' \
+    "$(sources $src compat designer examples tests fuzz benchmarks |
+        xargs grep -nE '^ *# *(if|elif).*QT_VERSION' | grep -v '/QtShims\.h:')"
 complain 'examples and consumers include internal headers' \
     "$(sources examples tests/consumer designer | xargs grep -nE '^ *# *include +[<"].*_p\.h')"
 exit $failed

@@ -61,8 +61,7 @@ TEST_F(QuestionScriptTest, answersTheQuestionsOfTheSaveFlowInOrder)
     EXPECT_TRUE(user.isFinished());
     EXPECT_EQ(m_flow.selectedFilename(), m_folder.filePath(QStringLiteral("old.dat")).toStdString());
     EXPECT_EQ(user.asked().size(), 3);
-    EXPECT_TRUE(
-        user.asked().at(0).endsWith(QStringLiteral("old.dat already exists. Do you want to replace it?")));
+    EXPECT_TRUE(user.asked().at(0).endsWith(QStringLiteral("old.dat already exists. Do you want to replace it?")));
 }
 
 TEST_F(QuestionScriptTest, givesUpWhereTheScriptSaysNo)

@@ -6,17 +6,18 @@ cmd_coverage() {
     # shellcheck disable=SC2086
     need $build_packages $run_packages $test_packages gcovr
     build coverage
-    find build/coverage -name '*.gcda' -delete
+    coverage=build/coverage$qt_suffix
+    find "$coverage" -name '*.gcda' -delete
     run_tests coverage "$@"
-    step 'counting; lines of build/coverage/report say what was not reached'
+    step "counting; lines of $coverage/report say what was not reached"
     coverage_report
 }
 
 # Branches that only an exception takes are left out: the compiler makes one for nearly every call.
 coverage_report() {
-    gcovr --root . --object-directory build/coverage --filter common/src/ --exclude-throw-branches \
-        --exclude-unreachable-branches --txt build/coverage/report --json build/coverage/report.json --print-summary \
-        --fail-under-line 95 --fail-under-branch 85 build/coverage
+    gcovr --root . --object-directory "$coverage" --filter common/src/ --exclude-throw-branches \
+        --exclude-unreachable-branches --txt "$coverage/report" --json "$coverage/report.json" --print-summary \
+        --fail-under-line 95 --fail-under-branch 85 "$coverage"
 }
 
 cmd_tidy() {
@@ -34,14 +35,14 @@ tidy_sources() { git ls-files 'common/src/*.cpp' | grep -v 'WindowsShell'; }
 tidy_clang() {
     step 'clang-tidy'
     if [ $# -gt 0 ]; then printf '%s\n' "$@"; else tidy_sources; fi |
-        xargs -n 1 -P "$(nproc)" clang-tidy --quiet -p build/dev
+        xargs -n 1 -P "$(nproc)" clang-tidy --quiet -p "build/dev$qt_suffix"
 }
 
 tidy_cppcheck() {
     step 'cppcheck'
     cppcheck --quiet --error-exitcode=1 --enable=warning,style,performance,portability --inline-suppr --library=qt \
         --std=c++17 --suppressions-list=tools/cppcheck-suppressions.txt -j "$(nproc)" \
-        -I common/src -I build/dev/generated common/src
+        -I common/src -I "build/dev$qt_suffix/generated" common/src
 }
 
 cmd_ubsan() {
@@ -65,7 +66,7 @@ cmd_valgrind() {
         step "memcheck of $program"
         QT_QPA_PLATFORM=offscreen valgrind --quiet --error-exitcode=9 --leak-check=full --show-leak-kinds=definite \
             --errors-for-leak-kinds=definite --suppressions=tools/valgrind.supp \
-            "build/dev/bin/$program" --gtest_brief=1 --gtest_filter="$(valgrind_filter "$program")"
+            "build/dev$qt_suffix/bin/$program" --gtest_brief=1 --gtest_filter="$(valgrind_filter "$program")"
     done
 }
 
@@ -92,7 +93,7 @@ cmd_soak() {
     need $build_packages $run_packages $test_packages xvfb xauth
     build dev morvane-soak
     step 'opening and closing every dialog and widget on an X server of its own'
-    xvfb-run -a build/dev/bin/morvane-soak "$@"
+    xvfb-run -a "build/dev$qt_suffix/bin/morvane-soak" "$@"
 }
 
 # With its own directory for Wine. It is stopped at the end, and tests that run at the same time go on.
@@ -100,10 +101,11 @@ soak_windows() {
     windows_prepare
     build windows morvane-soak
     step "opening and closing every dialog and widget under Wine, the native dialogs being the system's own"
-    trap 'packaging/windows/run-wine --home build/windows/soak-wine --stop' EXIT
+    windows=build/windows$qt_suffix
+    trap 'packaging/windows/run-wine --home "$windows/soak-wine" --stop' EXIT
     trap 'exit 143' INT TERM HUP
-    QT_QPA_PLATFORM=windows packaging/windows/run-wine --home build/windows/soak-wine --sdk "$MORVANE_WINDOWS_SDK" \
-        --path build/windows/bin --timeout 172800 -- build/windows/bin/morvane-soak.exe "$@"
+    QT_QPA_PLATFORM=windows packaging/windows/run-wine --home "$windows/soak-wine" --sdk "$MORVANE_WINDOWS_SDK" \
+        --path "$windows/bin" --timeout 172800 -- "$windows/bin/morvane-soak.exe" "$@"
 }
 
 cmd_mutate() {

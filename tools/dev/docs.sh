@@ -9,6 +9,6 @@ cmd_docs() {
     need $build_packages $docs_packages
     build dev morvane-docs
     rm -rf build/docs
-    cp -R build/dev/docs/html build/docs
+    cp -R "build/dev$qt_suffix/docs/html" build/docs
     step "the pages start at $(pwd)/build/docs/index.html"
 }

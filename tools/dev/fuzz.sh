@@ -26,5 +26,5 @@ cmd_fuzz() {
     need $build_packages $run_packages $fuzz_packages
     build fuzz
     step "fuzzing, $seconds seconds a harness"
-    fuzz/run-all build/fuzz build/fuzz/work "$seconds" "$@" || die 'an input caused a failure; see build/fuzz/work'
+    fuzz/run-all "build/fuzz$qt_suffix" build/fuzz/work "$seconds" "$@" || die 'an input caused a failure; see build/fuzz/work'
 }

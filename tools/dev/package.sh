@@ -2,7 +2,7 @@
 # The command "./dev package" makes binary packages and checks that they can be installed, used and removed. ./dev sources
 # this file and provides the functions need, step and die.
 
-package_build_packages='dpkg-dev file pkg-config qttools5-dev'
+package_build_packages='dpkg-dev file pkg-config'
 package_check_packages='mmdebstrap'
 
 package_usage() {
@@ -10,9 +10,11 @@ package_usage() {
 usage: ./dev package [--no-check]
        ./dev package windows
 
-Makes the .deb packages (run time and development) and a .tar.gz in build/package/packages, then installs the .deb files
-in a fresh root made for that, builds and runs a small program there, and removes them again. That needs root; it takes a
-few minutes and fetches packages with the machine's own apt sources. --no-check leaves it out.
+Makes the .deb packages (run time and development) and a .tar.gz in build/package/packages, or with --qt 6 in
+build/package-qt6/packages, then installs the .deb files in a fresh root made for that, builds and runs a small program
+there, and removes them again. That needs root; it takes a few minutes and fetches packages with the machine's own apt
+sources. --no-check leaves it out. The packages for Qt 5 and those for Qt 6 can be installed side by side; when both
+have been made, that is tried, too.
 
 "windows" makes the ZIP for Windows, which is made, too, when build/windows is there.
 TEXT
@@ -22,36 +24,41 @@ package_configure() {
     # With the flags of a distribution's packages, without debug information and file names of this machine.
     flags=$(dpkg-buildflags --get CXXFLAGS)
     link_flags=$(dpkg-buildflags --get LDFLAGS)
-    cmake -S . -B build/package -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
+    cmake -S . -B "$package" -G Ninja -DMORVANE_QT_MAJOR="$qt_major" -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
         -DCMAKE_CXX_FLAGS="$flags -g0 -ffile-prefix-map=$(pwd)=." -DCMAKE_SHARED_LINKER_FLAGS="$link_flags" \
         -DMORVANE_BUILD_TESTS=OFF -DMORVANE_BUILD_EXAMPLES=OFF -DMORVANE_BUILD_DESIGNER=ON -DMORVANE_BUILD_TESTING_LIBRARY=ON \
-        -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=OFF >build/package.log 2>&1 || {
-        cat build/package.log >&2
+        -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=OFF >"$package.log" 2>&1 || {
+        cat "$package.log" >&2
         die 'configuring failed'
     }
 }
 
 package_linux() {
     step 'building the packages'
+    package=build/package$qt_suffix
     mkdir -p build
-    rm -rf build/package/packages
+    rm -rf "$package/packages"
     package_configure
-    cmake --build build/package
+    cmake --build "$package"
     SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null || date +%s)
     export SOURCE_DATE_EPOCH
     for generator in DEB TGZ; do
-        cpack -G "$generator" --config build/package/CPackConfig.cmake -B build/package/packages >build/package.log 2>&1 || {
-            cat build/package.log >&2
+        cpack -G "$generator" --config "$package/CPackConfig.cmake" -B "$package/packages" >"$package.log" 2>&1 || {
+            cat "$package.log" >&2
             die "cpack -G $generator failed"
         }
     done
-    rm -rf build/package/packages/_CPack_Packages
-    step "the packages are in $(pwd)/build/package/packages"
+    rm -rf "$package/packages/_CPack_Packages"
+    step "the packages are in $(pwd)/$package/packages"
 }
 
 package_check() {
     step 'trying the packages in a fresh root'
-    as_root sh packaging/check-debs build/package/packages
+    other=build/package
+    [ "$qt_major" != 5 ] || other=build/package-qt6
+    set -- "$package/packages"
+    [ ! -d "$other/packages" ] || set -- "$@" "$other/packages"
+    as_root sh packaging/check-debs "$@"
 }
 
 cmd_package() {
@@ -71,9 +78,9 @@ cmd_package() {
     ?*) die "unknown argument: $1" ;;
     esac
     # shellcheck disable=SC2086 # the lists are to be split
-    need $build_packages $package_build_packages
+    need $build_packages $package_build_packages $designer_packages
     package_linux
-    if [ -d build/windows ] && command -v package_windows >/dev/null; then
+    if [ -d "build/windows$qt_suffix" ] && command -v package_windows >/dev/null; then
         package_windows
     fi
     [ "$check" = yes ] || return 0

@@ -163,7 +163,7 @@ struct ApplicationSettings::Impl
         }
         // QSettings reads a truncated value as text.
         const QVariant value = settings->value(nameOf(key));
-        return value.type() == QVariant::ByteArray ? value.toByteArray() : QByteArray();
+        return value.userType() == QMetaType::QByteArray ? value.toByteArray() : QByteArray();
     }
 
     /** Writes all values that are not written yet. */

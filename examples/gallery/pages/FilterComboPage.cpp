@@ -1,13 +1,13 @@
 #include "pages/FilterComboPage.h"
 
 #include "pages/FileNameDelegate.h"
+#include "QtShims.h"
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStringListModel>
@@ -35,7 +35,7 @@ void appendFileNames(QStringList& names, const QString& place)
 QStringList fileNamesOfTheMachine()
 {
     QStringList names;
-    appendFileNames(names, QLibraryInfo::location(QLibraryInfo::PrefixPath));
+    appendFileNames(names, directoryOfQt());
     appendFileNames(names, QDir::rootPath());
     names.sort();
     return names;

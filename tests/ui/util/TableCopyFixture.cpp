@@ -51,7 +51,8 @@ void TableCopyFixture::drag(int fromRow, int fromColumn, int toRow, int toColumn
     const QPoint from = view.visualRect(index(fromRow, fromColumn)).center();
     const QPoint to = view.visualRect(index(toRow, toColumn)).center();
     QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier, from);
-    QMouseEvent move(QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent move(
+        QEvent::MouseMove, to, view.viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(view.viewport(), &move);
     QTest::mouseRelease(view.viewport(), Qt::LeftButton, Qt::NoModifier, to);
 }

@@ -1,6 +1,7 @@
 #include "ui/qt/controls/EventResender_p.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QMouseEvent>
 
 #include <utility>
@@ -22,7 +23,8 @@ bool EventResender::resend(QObject& receiver, QEvent& event)
 
 bool EventResender::resendOutside(QObject& receiver, const QMouseEvent& event)
 {
-    QMouseEvent outside(event.type(), QPointF(-1, -1), event.button(), event.buttons(), event.modifiers());
+    QMouseEvent outside(
+        event.type(), QPointF(-1, -1), QCursor::pos(), event.button(), event.buttons(), event.modifiers());
     return resend(receiver, outside);
 }
 

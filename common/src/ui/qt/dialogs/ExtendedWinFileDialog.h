@@ -98,8 +98,8 @@ public:
     QStringList selectedFiles();
 
     /**
-     * Sets what the user may choose; initially `AnyFile`. With `Directory` the user picks a folder. `DirectoryOnly` is
-     * treated as `AnyFile`.
+     * Sets what the user may choose; initially `AnyFile`. With `Directory` the user picks a folder. `DirectoryOnly`,
+     * which only Qt 5 has, is treated as `AnyFile`.
      */
     void setFileMode(QFileDialog::FileMode mode);
 
