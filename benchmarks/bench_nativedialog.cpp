@@ -206,7 +206,7 @@ MORVANE_BENCHMARK(parseSixteenthsOfMebibyte);
 MORVANE_BENCHMARK(configureThroughLibrary)->UseManualTime();
 MORVANE_BENCHMARK(configureShellAlone)->UseManualTime();
 
-MORVANE_RATIO(filter_parse, parseFilters, matchFilters, 0.05);
+MORVANE_RATIO(filter_parse, parseFilters, matchFilters, 0.1);
 MORVANE_RATIO(filter_parse_growth, parseMebibyte, parseSixteenthsOfMebibyte, 1.3);
 MORVANE_RATIO(native_configure, configureThroughLibrary, configureShellAlone, 3);
 

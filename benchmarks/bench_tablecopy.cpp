@@ -159,9 +159,9 @@ MORVANE_BENCHMARK(blockBareReading);
 MORVANE_BENCHMARK(scatteredCopy);
 MORVANE_BENCHMARK(scatteredSortedIndexes);
 
-MORVANE_RATIO(copy_block_1m, blockCopy, blockBareReading, 1.15);
+MORVANE_RATIO(copy_block_1m, blockCopy, blockBareReading, 1.5);
 MORVANE_RATIO(copy_block_literal, blockCopy, blockSortedIndexes, 0.75);
-MORVANE_RATIO(copy_scattered, scatteredCopy, scatteredSortedIndexes, 0.7);
+MORVANE_RATIO(copy_scattered, scatteredCopy, scatteredSortedIndexes, 1.0);
 
 #ifdef __GLIBC__
 

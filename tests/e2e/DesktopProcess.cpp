@@ -38,7 +38,7 @@ QByteArray DesktopProcess::firstLine()
     return readLine().trimmed();
 }
 
-void DesktopProcess::setupChildProcess()
+void DesktopProcess::prepareChild()
 {
     ::setpgid(0, 0);
     // The tests may be killed when they take too long; this process must end then, too.

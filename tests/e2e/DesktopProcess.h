@@ -1,12 +1,13 @@
 #pragma once
 
+#include "support/QtShims.h"
+
 #include <QByteArray>
-#include <QProcess>
 
 namespace morvane::test {
 
 /** A program in a process group of its own. The destructor ends it and all processes that it has started. */
-class DesktopProcess : public QProcess
+class DesktopProcess : public PreparedProcess
 {
 public:
     DesktopProcess() = default;
@@ -18,7 +19,7 @@ public:
     QByteArray firstLine();
 
 protected:
-    void setupChildProcess() override;
+    void prepareChild() override;
 };
 
 } // namespace morvane::test

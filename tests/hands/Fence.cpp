@@ -1,6 +1,7 @@
 #include "hands/Fence.h"
 
 #include "e2e/Eventually.h"
+#include "support/QtShims.h"
 
 #include <gtest/gtest.h>
 
@@ -39,7 +40,7 @@ struct Fence::Impl final : QAbstractNativeEventFilter
     Impl(const Impl&) = delete;
     Impl& operator=(const Impl&) = delete;
 
-    bool nativeEventFilter(const QByteArray& type, void* message, long* /*result*/) override
+    bool nativeEventFilter(const QByteArray& type, void* message, NativeEventResult* /*result*/) override
     {
         if (type != "xcb_generic_event_t") {
             return false;

@@ -39,7 +39,7 @@ int watch(const QString& file, const QString& stop)
     do {
         const QByteArray value = settings.getByteArrayValue("big");
         if (value.size() != 100000 || value.count(value.at(0)) != value.size()) {
-            std::printf("half a value of %d bytes\n", value.size());
+            std::printf("half a value of %d bytes\n", static_cast<int>(value.size()));
             return 1;
         }
         ++reads;

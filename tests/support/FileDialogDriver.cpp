@@ -100,9 +100,9 @@ void FileDialogDriver::typeName(const QString& text) const
     nameEdit().setFocus();
     QTest::keyClick(&nameEdit(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&nameEdit(), Qt::Key_Delete);
-    for (const uint character : text.toUcs4()) {
-        QTest::sendKeyEvent(
-            QTest::Click, &nameEdit(), Qt::Key_unknown, QString::fromUcs4(&character, 1), Qt::NoModifier);
+    for (const char32_t character : text.toStdU32String()) {
+        QTest::sendKeyEvent(QTest::Click, &nameEdit(), Qt::Key_unknown,
+            QString::fromStdU32String(std::u32string(1, character)), Qt::NoModifier);
     }
     EXPECT_EQ(name().toStdString(), text.toStdString());
 }

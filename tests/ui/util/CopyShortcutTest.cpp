@@ -1,5 +1,7 @@
 #include "ui/util/TableCopyFixture.h"
 
+#include "support/QtShims.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -15,6 +17,7 @@
 namespace {
 
 using morvane::test::clipboardText;
+using morvane::test::firstKeyOf;
 using morvane::ui::CopyHandlerAbstract;
 using morvane::ui::TableCopyHandler;
 
@@ -40,7 +43,7 @@ protected:
 
 QKeyEvent keyPress(const QKeySequence& sequence)
 {
-    const int combined = sequence[0];
+    const int combined = firstKeyOf(sequence);
     const auto modifiers = Qt::KeyboardModifiers(combined & static_cast<int>(Qt::KeyboardModifierMask));
     return QKeyEvent(QEvent::KeyPress, combined & ~static_cast<int>(Qt::KeyboardModifierMask), modifiers);
 }

@@ -53,11 +53,10 @@ TEST(ShellText, comesBackAsQtsTextAndAsUtf8)
 
 TEST(ShellText, keepsTheFirstAndTheLastCharacterOfEachPlane)
 {
-    for (uint plane = 1; plane <= 16; ++plane) {
-        const uint characters[] = {plane << 16, (plane << 16) + 0xFFFF};
-        const QString text = QString::fromUcs4(characters, 2);
-        EXPECT_EQ(toQString(toShellString(text)), text) << plane;
-        EXPECT_EQ(toUtf8(toShellString(text).c_str()), text.toStdString()) << plane;
+    for (char32_t plane = 1; plane <= 16; ++plane) {
+        const QString text = QString::fromStdU32String({plane << 16, (plane << 16) + 0xFFFF});
+        EXPECT_EQ(toQString(toShellString(text)), text) << static_cast<unsigned>(plane);
+        EXPECT_EQ(toUtf8(toShellString(text).c_str()), text.toStdString()) << static_cast<unsigned>(plane);
     }
 }
 

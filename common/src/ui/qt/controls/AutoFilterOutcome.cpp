@@ -3,6 +3,7 @@
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 
 #include <QLineEdit>
+#include <QMetaMethod>
 #include <QPointer>
 
 namespace morvane::ui {

@@ -191,14 +191,14 @@ bool settleSeparators(QString& text, int pos, const NumberRules& rules)
 
 bool dropGroupSeparators(QString& text, int& pos, const NumberRules& rules)
 {
-    const int length = text.size();
+    const auto length = text.size();
     const bool tooSmallForGroups = rules.maximum < 1000 && rules.minimum > -1000;
     const bool grouped = text.contains(rules.groupSeparator);
     if (grouped && (tooSmallForGroups || text.contains(QString(2, rules.groupSeparator)))) {
         return false;
     }
     text.remove(rules.groupSeparator);
-    pos = std::max(0, pos - (length - text.size()));
+    pos = std::max(0, pos - static_cast<int>(length - text.size()));
     return grouped;
 }
 
