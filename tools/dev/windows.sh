@@ -1,6 +1,7 @@
 # shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
 # The command "./dev windows" cross-builds for Windows and runs the tests under Wine. "./dev package windows" makes the ZIP.
-# ./dev sources this file and provides the functions need, step, die, build and run_tests.
+# ./dev sources this file and provides the functions need, step, die, build and run_tests, and the variables qt_major and
+# qt_suffix.
 
 windows_run_packages='wine wine64 fonts-wine xvfb'
 
@@ -12,27 +13,32 @@ usage: ./dev windows [--sdk DIR] [ARGUMENTS]
   ARGUMENTS  go to ctest (-R NAME, ...)
 
 The first run makes the SDK, which takes about 15 minutes. Exit status 77 means skipped: the source packages for the SDK
-cannot be reached.
+cannot be reached. Each major version of Qt has an SDK and a build directory of its own: "./dev --qt 6 windows".
 TEXT
 }
+
+windows_directory() { echo "build/windows$qt_suffix"; }
+
+windows_used_sdk() { sed -n 's/^MORVANE_WINDOWS_SDK:PATH=//p' "$(windows_directory)/CMakeCache.txt"; }
+
+windows_stop_wine() { packaging/windows/run-wine --home "$(windows_directory)/wine" --stop; }
 
 # windows_sdk DIR: prints the SDK's directory; makes it when DIR is empty.
 windows_sdk() {
     if [ -n "$1" ]; then
-        [ -d "$1/lib/cmake/Qt5Widgets" ] || die "not an SDK for Windows: $1"
+        [ -d "$1/lib/cmake/Qt${qt_major}Widgets" ] || die "not an SDK for Windows with Qt $qt_major: $1"
         (cd "$1" && pwd)
         return
     fi
-    packaging/windows/make-sdk
+    packaging/windows/make-sdk --qt "$qt_major"
 }
 
 # The SDK is part of the configuration: another one starts afresh.
 windows_configure() {
-    if [ -f build/windows/CMakeCache.txt ] &&
-        ! grep -qxF "MORVANE_WINDOWS_SDK:PATH=$1" build/windows/CMakeCache.txt; then
-        step 'another SDK: build/windows starts afresh'
-        packaging/windows/run-wine --home build/windows/wine --stop
-        rm -rf build/windows
+    if [ -f "$(windows_directory)/CMakeCache.txt" ] && [ "$(windows_used_sdk)" != "$1" ]; then
+        step "another SDK: $(windows_directory) starts afresh"
+        windows_stop_wine
+        rm -rf "$(windows_directory)"
     fi
     export MORVANE_WINDOWS_SDK="$1"
 }
@@ -51,8 +57,8 @@ windows_prepare() {
         given=$2
     fi
     # shellcheck disable=SC2046,SC2086 # the lists are to be split
-    need $(packaging/windows/make-sdk --packages) $windows_run_packages
-    if [ -z "$given" ] && [ ! -f "$(packaging/windows/make-sdk --print-path)/complete" ]; then
+    need $(packaging/windows/make-sdk --qt "$qt_major" --packages) $windows_run_packages
+    if [ -z "$given" ] && [ ! -f "$(packaging/windows/make-sdk --qt "$qt_major" --print-path)/complete" ]; then
         step 'making the SDK for Windows, once (about 15 minutes)'
     fi
     status=0
@@ -75,23 +81,24 @@ cmd_windows() {
     esac
     status=0
     run_tests windows "$@" || status=$?
-    packaging/windows/run-wine --home build/windows/wine --stop
+    windows_stop_wine
     return "$status"
 }
 
 # package_windows [--sdk DIR]: the ZIP, for "./dev package". Without the option the SDK of the last build serves.
 package_windows() {
+    directory=$(windows_directory)
     used=''
-    [ ! -f build/windows/CMakeCache.txt ] || used=$(sed -n 's/^MORVANE_WINDOWS_SDK:PATH=//p' build/windows/CMakeCache.txt)
+    [ ! -f "$directory/CMakeCache.txt" ] || used=$(windows_used_sdk)
     if [ $# -eq 0 ] && [ -n "$used" ]; then
         set -- --sdk "$used"
     fi
     windows_build "$@"
     step 'packing the ZIP for Windows'
-    cpack -G ZIP --config build/windows/CPackConfig.cmake -B build/windows/packages >build/windows/package.log 2>&1 || {
-        cat build/windows/package.log >&2
+    cpack -G ZIP --config "$directory/CPackConfig.cmake" -B "$directory/packages" >"$directory/package.log" 2>&1 || {
+        cat "$directory/package.log" >&2
         die 'cpack -G ZIP failed'
     }
-    rm -rf build/windows/packages/_CPack_Packages
-    step "the ZIP is in $(pwd)/build/windows/packages"
+    rm -rf "$directory/packages/_CPack_Packages"
+    step "the ZIP is in $(pwd)/$directory/packages"
 }
