@@ -7,6 +7,7 @@
 #include <utility>
 
 #include <dlfcn.h>
+#include <linux/fcntl.h>
 #include <sys/types.h>
 
 namespace morvane::test {
@@ -98,6 +99,7 @@ MORVANE_TEST_EXPORT int fstat64(int file, void* status);
 MORVANE_TEST_EXPORT int stat(const char* path, void* status);
 MORVANE_TEST_EXPORT int lstat(const char* path, void* status);
 MORVANE_TEST_EXPORT int fstat(int file, void* status);
+MORVANE_TEST_EXPORT int statx(int directory, const char* path, int flags, unsigned mask, void* status);
 MORVANE_TEST_EXPORT int open(const char* path, int flags, ...);
 MORVANE_TEST_EXPORT int open64(const char* path, int flags, ...);
 MORVANE_TEST_EXPORT int close(int file);
@@ -161,6 +163,14 @@ int fstat64(int file, void* status)
 {
     static auto* const next = original(&fstat64, "fstat64");
     return fails("fstat") ? -1 : next(file, status);
+}
+
+// Newer versions of Boost.Filesystem call it instead of the others.
+int statx(int directory, const char* path, int flags, unsigned mask, void* status)
+{
+    static auto* const next = original(&statx, "statx");
+    const bool followsLinks = (flags & AT_SYMLINK_NOFOLLOW) == 0;
+    return fails(followsLinks ? "stat" : "lstat") ? -1 : next(directory, path, flags, mask, status);
 }
 
 int open(const char* path, int flags, ...)

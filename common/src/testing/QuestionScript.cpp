@@ -11,15 +11,30 @@ namespace morvane::test {
 
 namespace {
 
-/** Clicks as soon as the event loop of the box or of the program runs. */
-void clickLater(QAbstractButton& button)
+/**
+ * Qt has listed the box twice as modal, since the attribute was set while it was being shown. From Qt 6.5 on,
+ * QMessageBox clears the attribute before it is hidden. Then only the destructor of its window takes it from the list,
+ * and only once.
+ */
+void listAsModalOnce(QMessageBox& box)
 {
-    QTimer::singleShot(0, &button, [&button] { button.click(); });
+    box.setAttribute(Qt::WA_DontShowOnScreen, false);
+    box.setAttribute(Qt::WA_DontShowOnScreen);
+}
+
+/** Clicks as soon as the event loop of the box or of the program runs. */
+void clickLater(QMessageBox& box, QAbstractButton& button)
+{
+    QTimer::singleShot(0, &button, [&box, &button] {
+        listAsModalOnce(box);
+        button.click();
+    });
 }
 
 void closeLater(QMessageBox& box)
 {
     QTimer::singleShot(0, &box, [&box] {
+        listAsModalOnce(box);
         if (box.close()) {
             return;
         }
@@ -73,7 +88,7 @@ void QuestionScript::meet(QMessageBox& box)
         return;
     }
     m_answers.pop_front();
-    clickLater(*button);
+    clickLater(box, *button);
 }
 
 } // namespace morvane::test
