@@ -54,8 +54,7 @@ void answer(QMessageBox::StandardButton button)
 QString refusedName(const TourWorkspace& workspace)
 {
     const bool isPosix = QDir::rootPath() == QLatin1String("/");
-    return isPosix ? QStringLiteral("/sys/report.txt")
-                        : workspace.folder().path(QStringLiteral("archive/|report.txt"));
+    return isPosix ? QStringLiteral("/sys/report.txt") : workspace.folder().path(QStringLiteral("archive/|report.txt"));
 }
 
 } // namespace
