@@ -54,8 +54,8 @@ endfunction()
 set(morvane_precompiled_options $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 
 # morvane_build_quickly(TARGET header...)
-# If MORVANE_BUILD_QUICKLY is on, compiles several sources of TARGET at once, and several of its internal ones, with the
-# headers precompiled.
+# If MORVANE_BUILD_QUICKLY is on, compiles several sources of TARGET at once, and precompiles the headers, also for its
+# internal sources. Those are compiled one by one: the programs that link their archive take only what they use.
 function(morvane_build_quickly target)
     get_target_property(type ${target} TYPE)
     if(NOT MORVANE_BUILD_QUICKLY OR (MORVANE_BUILD_QUICKLY STREQUAL "TESTS" AND NOT type STREQUAL "EXECUTABLE"))
@@ -64,7 +64,6 @@ function(morvane_build_quickly target)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
     target_compile_options(${target} PRIVATE ${morvane_precompiled_options})
     if(TARGET ${target}-objects)
-        set_target_properties(${target}-objects PROPERTIES UNITY_BUILD ON)
         target_compile_options(${target}-objects PRIVATE ${morvane_precompiled_options})
         target_precompile_headers(${target}-objects PRIVATE ${ARGN})
         target_precompile_headers(${target} REUSE_FROM ${target}-objects)

@@ -24,6 +24,7 @@ inline int firstKeyOf(const QKeySequence& sequence)
 #endif
 }
 
+#ifndef _WIN32
 /** A process that does something in the child before the program starts. */
 class PreparedProcess : public QProcess
 {
@@ -43,5 +44,6 @@ protected:
     }
 #endif
 };
+#endif
 
 } // namespace morvane::test
