@@ -41,7 +41,12 @@ void clickMenuItem(QMenu& menu, const QString& label)
 {
     for (QAction* const action : menu.actions()) {
         if (action->text() == label) {
-            QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, menu.actionGeometry(action).center());
+            const QPoint place = menu.actionGeometry(action).center();
+            // Newer versions of Qt 6 only close the menu when it has not seen the mouse move a little before the click.
+            for (int step = 0; step < 10; ++step) {
+                moveMouse(menu, place);
+            }
+            QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, place);
             return;
         }
     }

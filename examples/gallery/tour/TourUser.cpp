@@ -1,10 +1,12 @@
 #include "tour/TourUser.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QTest>
@@ -47,7 +49,13 @@ void clickAction(QMenuBar& bar, QAction& action)
 
 void clickAction(QMenu& menu, QAction& action)
 {
-    QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, menu.actionGeometry(&action).center());
+    const QPoint place = menu.actionGeometry(&action).center();
+    // Newer versions of Qt 6 only close the menu when it has not seen the mouse move a little before the click.
+    for (int step = 0; step < 10; ++step) {
+        QMouseEvent move(QEvent::MouseMove, place, menu.mapToGlobal(place), Qt::NoButton, Qt::NoButton, {});
+        QApplication::sendEvent(&menu, &move);
+    }
+    QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, place);
 }
 
 void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers)

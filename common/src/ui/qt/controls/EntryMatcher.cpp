@@ -1,10 +1,25 @@
 #include "ui/qt/controls/EntryMatcher_p.h"
 
+#include <algorithm>
+
 namespace morvane::ui {
+
+EntryMatcher::EntryMatcher(const QString& text)
+    : m_text(text),
+      m_contained(text, Qt::CaseInsensitive),
+      m_hasSurrogates(std::any_of(text.begin(), text.end(), [](QChar unit) { return unit.isSurrogate(); }))
+{
+}
+
+bool EntryMatcher::isContainedIn(const QString& entry) const
+{
+    // With surrogates, QStringMatcher of newer versions of Qt 6 misses what QString finds.
+    return m_hasSurrogates ? entry.contains(m_text, Qt::CaseInsensitive) : m_contained.indexIn(entry) >= 0;
+}
 
 EntryFit EntryMatcher::fit(const QString& entry) const
 {
-    if (m_contained.indexIn(entry) < 0) {
+    if (!isContainedIn(entry)) {
         return EntryFit::None;
     }
     if (entry == m_text) {

@@ -18,13 +18,16 @@ enum class EntryFit
 class EntryMatcher
 {
 public:
-    explicit EntryMatcher(const QString& text) : m_text(text), m_contained(text, Qt::CaseInsensitive) {}
+    explicit EntryMatcher(const QString& text);
 
     EntryFit fit(const QString& entry) const;
 
 private:
+    bool isContainedIn(const QString& entry) const;
+
     const QString m_text;
     const QStringMatcher m_contained;
+    const bool m_hasSurrogates;
 };
 
 } // namespace morvane::ui
