@@ -12,8 +12,9 @@ usage: ./dev windows [--sdk DIR] [ARGUMENTS]
   --sdk DIR  use this SDK (Qt, Boost.Filesystem and GoogleTest for MinGW-w64) instead of making one
   ARGUMENTS  go to ctest (-R NAME, ...)
 
-The first run makes the SDK, which takes about 15 minutes. Exit status 77 means skipped: the source packages for the SDK
-cannot be reached. Each major version of Qt has an SDK and a build directory of its own: "./dev --qt 6 windows".
+The first run makes the SDK, which takes about 15 minutes, for Qt 6 longer. Exit status 77 means skipped: the source
+packages for the SDK cannot be reached. Each major version of Qt has an SDK and a build directory of its own:
+"./dev --qt 6 windows".
 TEXT
 }
 
