@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLibraryInfo>
 #include <QTableView>
 
 #include <boost/make_shared.hpp>
@@ -257,7 +258,8 @@ TEST(AllocationFaultsTest, theClipboardKeepsItsTextWhenTheNewOneCannotBeMade)
             EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("before")) << failing;
         }
     }
-    EXPECT_LE(survived, 1) << "Qt 6 goes on when merging two selections lacks memory";
+    // Qt 6 goes on when merging two selections lacks memory.
+    EXPECT_LE(survived, QLibraryInfo::version().majorVersion() >= 6 ? 1 : 0);
     handler.copyToClipboard();
     EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(QStringLiteral("r19c2")));
 }
