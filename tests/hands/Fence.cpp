@@ -6,18 +6,26 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractNativeEventFilter>
-#include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QWidget>
+#include <QWindow>
 
 #include <cstring>
 
 #include <poll.h>
 #include <qpa/qwindowsysteminterface.h>
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <xcb/xcb.h>
 
 namespace morvane::test {
+
+namespace {
+
+constexpr int patienceMs = 100;
+
+} // namespace
 
 struct Fence::Impl final : QAbstractNativeEventFilter
 {
@@ -73,19 +81,23 @@ struct Fence::Impl final : QAbstractNativeEventFilter
     /** The window manager handles events in order: when it answers, it has passed on all events that it held back. */
     bool waitForWindowManager()
     {
-        XEvent question = messageTo(probe, XInternAtom(display, "_NET_REQUEST_FRAME_EXTENTS", False));
-        XSendEvent(
-            display, DefaultRootWindow(display), False, SubstructureNotifyMask | SubstructureRedirectMask, &question);
-        XFlush(display);
-        QElapsedTimer time;
-        time.start();
         // Counted, because processEvents() may run a step of a modal loop that asks as well: each question has its
         // answer.
-        const long number = ++asked;
+        const long number = askWindowManager();
+        QElapsedTimer time;
+        time.start();
+        QElapsedTimer sinceQuestion;
+        sinceQuestion.start();
         while (!time.hasExpired(timeLimitMs)) {
             countAnswers();
             if (answered >= number) {
                 return true;
+            }
+            // Now and then Openbox answers and keeps the answer, with all else that it has for the server, until
+            // another event comes.
+            if (sinceQuestion.hasExpired(patienceMs)) {
+                askWindowManager();
+                sinceQuestion.start();
             }
             // The window manager may be waiting for this program.
             QCoreApplication::processEvents();
@@ -93,6 +105,16 @@ struct Fence::Impl final : QAbstractNativeEventFilter
             ::poll(&connection, 1, 1);
         }
         return false;
+    }
+
+    /** Returns the number of the question. */
+    long askWindowManager()
+    {
+        XEvent question = messageTo(probe, XInternAtom(display, "_NET_REQUEST_FRAME_EXTENTS", False));
+        XSendEvent(
+            display, DefaultRootWindow(display), False, SubstructureNotifyMask | SubstructureRedirectMask, &question);
+        XFlush(display);
+        return ++asked;
     }
 
     void countAnswers()
@@ -143,8 +165,35 @@ bool Fence::isAt(const QWidget& window, QPoint position) const
            (QPoint(x, y) - position).manhattanLength() < nearEnough;
 }
 
+std::string Fence::describeFocus(const QWidget& window) const
+{
+    ::Display* const display = m_impl->display;
+    Window focus = None;
+    int revertTo = 0;
+    XGetInputFocus(display, &focus, &revertTo);
+    Window active = None;
+    Atom type = None;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    unsigned char* value = nullptr;
+    XGetWindowProperty(display, DefaultRootWindow(display), XInternAtom(display, "_NET_ACTIVE_WINDOW", False), 0, 1,
+        False, XA_WINDOW, &type, &format, &count, &left, &value);
+    if (value != nullptr) {
+        if (count == 1) {
+            std::memcpy(&active, value, sizeof active);
+        }
+        XFree(value);
+    }
+    const QWindow* const ofQt = QGuiApplication::focusWindow();
+    return "the window is " + std::to_string(window.internalWinId()) + ", the server's focus is on " +
+           std::to_string(focus) + ", the window manager's on " + std::to_string(active) + ", Qt's on " +
+           std::to_string(ofQt ? ofQt->winId() : 0);
+}
+
 void Fence::pass()
 {
+    QGuiApplication::sync(); // what Qt has for the server comes before the question
     EXPECT_TRUE(m_impl->waitForWindowManager()) << "the window manager does not answer";
     EXPECT_TRUE(m_impl->waitForOwnEvent()) << "the event of the test itself does not arrive";
     QWindowSystemInterface::flushWindowSystemEvents();

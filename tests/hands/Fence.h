@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 class QPoint;
 class QWidget;
@@ -25,6 +26,9 @@ public:
 
     /** Whether the server shows this window at this place of the screen. */
     bool isAt(const QWidget& window, QPoint position) const;
+
+    /** Which window has the keyboard according to the server, the window manager and Qt, for messages of a test. */
+    std::string describeFocus(const QWidget& window) const;
 
 private:
     struct Impl;

@@ -6,7 +6,6 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
-#include <QTest>
 #include <QWidget>
 
 namespace morvane::test {
@@ -65,13 +64,12 @@ void HandsTest::show(QWidget& window)
 
 void HandsTest::activate(QWidget& window)
 {
-    // A request that comes while the window manager is still busy with the new window is lost.
-    bool active = false;
-    for (int request = 0; request < 5 && !active; ++request) {
-        window.activateWindow();
-        active = QTest::qWaitFor([&] { return window.isActiveWindow(); }, timeLimitMs / 5);
-    }
-    ASSERT_TRUE(active) << "the window does not become the active one";
+    window.activateWindow();
+    ASSERT_TRUE(eventually([&] {
+        settle();
+        return window.isActiveWindow();
+    })) << "the window does not become the active one: "
+        << m_impl->fence.describeFocus(window);
     settle();
     // The window manager moves a window that it has put a frame around.
     ASSERT_TRUE(eventually([&] { return m_impl->fence.isAt(window, onScreen(window, QPoint(0, 0))); }))
