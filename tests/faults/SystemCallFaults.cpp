@@ -104,7 +104,7 @@ MORVANE_TEST_EXPORT int open(const char* path, int flags, ...);
 MORVANE_TEST_EXPORT int open64(const char* path, int flags, ...);
 MORVANE_TEST_EXPORT int close(int file);
 MORVANE_TEST_EXPORT int unlink(const char* path);
-MORVANE_TEST_EXPORT int rename(const char* from, const char* to);
+MORVANE_TEST_EXPORT int rename(const char* from, const char* to) noexcept;
 MORVANE_TEST_EXPORT int link(const char* from, const char* to);
 MORVANE_TEST_EXPORT int rmdir(const char* path);
 MORVANE_TEST_EXPORT ssize_t readlink(const char* path, char* buffer, std::size_t size);
@@ -212,7 +212,7 @@ int unlink(const char* path)
     return fails("unlink") ? -1 : next(path);
 }
 
-int rename(const char* from, const char* to)
+int rename(const char* from, const char* to) noexcept
 {
     static auto* const next = original(&rename, "rename");
     return fails("rename") ? -1 : next(from, to);
