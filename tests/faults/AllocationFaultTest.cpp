@@ -247,7 +247,7 @@ TEST(AllocationFaultsTest, theClipboardKeepsItsTextWhenTheNewOneCannotBeMade)
         ui::selectionText(view.selectionModel()->selection(), model);
         allocationsOfText = AllocationFaults::count();
     }
-    ASSERT_GT(allocationsOfText, 3);
+    ASSERT_GE(allocationsOfText, 3);
     int survived = 0;
     for (int failing = 1; failing <= allocationsOfText; ++failing) {
         QGuiApplication::clipboard()->setText(QStringLiteral("before"));

@@ -2,6 +2,7 @@
 
 // What Qt 5 and Qt 6 spell differently. The only place of the tests that asks for the version of Qt.
 
+#include <QFileDialog>
 #include <QKeySequence>
 #include <QProcess>
 
@@ -12,6 +13,13 @@ namespace morvane::test {
 using NativeEventResult = long;
 #else
 using NativeEventResult = qintptr;
+#endif
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+/** The mode that Qt 5 keeps though it is deprecated; with Qt 6, the mode as which it is treated. */
+constexpr QFileDialog::FileMode directoryOnly = static_cast<QFileDialog::FileMode>(4);
+#else
+constexpr QFileDialog::FileMode directoryOnly = QFileDialog::AnyFile;
 #endif
 
 /** The first key of a sequence, combined with its modifiers. */

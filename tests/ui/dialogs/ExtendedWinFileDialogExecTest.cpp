@@ -1,5 +1,7 @@
 #include "ExtendedWinFileDialogTest.h"
 
+#include "support/QtShims.h"
+
 #include <QDir>
 
 #include <limits>
@@ -364,8 +366,7 @@ INSTANTIATE_TEST_SUITE_P(Modes, ExtendedWinFileDialogExecOptions,
     ::testing::Values(OptionCase{"directory", QFileDialog::Directory, 0x820, 0x1200},
         OptionCase{"existingFiles", QFileDialog::ExistingFiles, 0x1200, 0x820},
         OptionCase{"existingFile", QFileDialog::ExistingFile, 0x1000, 0xA20},
-        OptionCase{"anyFile", QFileDialog::AnyFile, 0, 0x1A20},
-        OptionCase{"directoryOnly", static_cast<QFileDialog::FileMode>(4), 0, 0x1A20}),
+        OptionCase{"anyFile", QFileDialog::AnyFile, 0, 0x1A20}, OptionCase{"directoryOnly", directoryOnly, 0, 0x1A20}),
     [](const auto& tested) { return tested.param.name; });
 
 } // namespace

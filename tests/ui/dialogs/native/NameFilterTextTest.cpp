@@ -36,6 +36,13 @@ struct SplitCase
     const char* extension;
 };
 
+void PrintTo(const SplitCase& c, std::ostream* out)
+{
+    for (const char character : std::string(c.filter)) {
+        *out << (character >= ' ' && character <= '~' ? character : '?');
+    }
+}
+
 class NameFilterTextSplit : public testing::TestWithParam<SplitCase>
 {
 };
