@@ -18,9 +18,10 @@ function(write_boost prefix version)
         "if(NOT PACKAGE_VERSION VERSION_LESS PACKAGE_FIND_VERSION)\nset(PACKAGE_VERSION_COMPATIBLE TRUE)\nendif()\n")
 endfunction()
 
-# write_headers(PREFIX MAJOR MINOR PATCH): one without, which CMake's own module recognises by its header.
+# write_headers(PREFIX MAJOR MINOR PATCH): one without, which CMake's own module recognises by its headers.
 function(write_headers prefix major minor patch)
     math(EXPR number "${major} * 100000 + ${minor} * 100 + ${patch}")
+    file(WRITE ${prefix}/include/boost/config.hpp "")
     file(WRITE ${prefix}/include/boost/version.hpp
         "#define BOOST_VERSION ${number}\n#define BOOST_LIB_VERSION \"${major}_${minor}\"\n")
 endfunction()
@@ -82,6 +83,10 @@ set(alone -DALONE=ON)
 expect_refused(${major}.${older} ${alone} -DBoost_ROOT=${WORK_DIR}/older)
 list(APPEND alone -DBoost_NO_BOOST_CMAKE=ON)
 expect_accepted(${alone} -DBoost_ROOT=${WORK_DIR}/same_headers)
+file(STRINGS ${WORK_DIR}/build_project/CMakeCache.txt found REGEX "^Boost_INCLUDE_DIR:.*/same_headers/")
+if(NOT found)
+    message(SEND_ERROR "not the imitation was found, but another Boost")
+endif()
 expect_refused(${major}.${newer} ${alone} -DBoost_ROOT=${WORK_DIR}/newer_headers)
 
 # Who can do without Morvane only gets a warning.
