@@ -27,13 +27,14 @@ package_set_time() {
 }
 
 package_configure() {
-    # With the flags of a distribution's packages, without debug information and file names of this machine.
+    # With the flags of a distribution's packages, without debug information and file names of this machine. CMake would
+    # overwrite the RPATH of the build when it installs a library, but leave its length.
     flags=$(dpkg-buildflags --get CXXFLAGS)
     link_flags=$(dpkg-buildflags --get LDFLAGS)
     cmake -S . -B "$package" -G Ninja -DMORVANE_QT_MAJOR="$qt_major" -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
         -DCMAKE_CXX_FLAGS="$flags -g0 -ffile-prefix-map=$(pwd)=." -DCMAKE_SHARED_LINKER_FLAGS="$link_flags" \
         -DMORVANE_BUILD_TESTS=OFF -DMORVANE_BUILD_EXAMPLES=OFF -DMORVANE_BUILD_DESIGNER=ON -DMORVANE_BUILD_TESTING_LIBRARY=ON \
-        -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=OFF >"$package.log" 2>&1 || {
+        -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=OFF -DCMAKE_BUILD_WITH_INSTALL_RPATH=ON >"$package.log" 2>&1 || {
         cat "$package.log" >&2
         die 'configuring failed'
     }
@@ -68,7 +69,7 @@ package_compare() {
     (
         cd "$copy/another-directory"
         umask 027
-        TZ=Pacific/Auckland LC_ALL=C package_linux
+        TZ=Pacific/Auckland LC_ALL=C ./dev --no-install --qt "$qt_major" package --no-check
     ) >"$package.log" 2>&1 || {
         tail -n 40 "$package.log" >&2
         die "the second build failed; it is in $copy"
