@@ -47,7 +47,7 @@ difference() {
 command -v abidw >/dev/null && command -v abidiff >/dev/null || skip 'abidw and abidiff are not installed (abigail-tools)'
 rm -rf "$work"
 mkdir -p "$work/headers"
-xargs cp -t "$work/headers" <"$headers"
+xargs -d '\n' cp -t "$work/headers" <"$headers"
 {
     cat "$conditions"
     abidw --version
