@@ -1,6 +1,6 @@
-# CPack runs this after it has made the packages: packs archives again, so that the same files always give the same bytes. CPack
-# takes over the order of the directories, the times and the name of the user.
-if(NOT CPACK_GENERATOR MATCHES "^(TGZ|ZIP)$" OR CMAKE_HOST_WIN32)
+# CPack runs this after it has made the packages: packs them again, so that the same files always give the same bytes. CPack
+# takes over the order of the directories, the times, the umask and the name of the user.
+if(NOT CPACK_GENERATOR MATCHES "^(DEB|TGZ|ZIP)$" OR CMAKE_HOST_WIN32)
     return()
 endif()
 foreach(archive IN LISTS CPACK_PACKAGE_FILES)

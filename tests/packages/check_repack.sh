@@ -25,7 +25,7 @@ tree() {
     find "$directory" -exec touch -h -d "@$time" {} +
 }
 
-# archive DIRECTORY EXTENSION [OPTION]: the files in the order of the directory, or as the names are given.
+# archive DIRECTORY EXTENSION FLAGS [OPTION]: packs the files in the order of the directory.
 archive() { (cd "$work/$1" && "$cmake" -E tar "$3" "$work/$1.$2" ${4:+"$4"} morvane); }
 
 rm -rf "$work"
@@ -62,3 +62,24 @@ for extension in $extensions; do
     [ -x "$work/unpacked.$extension/morvane/bin/program" ] || die "$extension: a program lost its permission"
     [ "$(stat -c %Y "$work/unpacked.$extension/morvane/lib/a.so")" = "$SOURCE_DATE_EPOCH" ] || die "$extension: another time"
 done
+
+command -v dpkg-deb >/dev/null || exit 0
+# deb DIRECTORY SIZE: a package with the files, and with the size that CPack would give it.
+deb() {
+    mkdir -p "$work/$1/DEBIAN"
+    printf 'Package: morvane\nVersion: 1\nArchitecture: all\nMaintainer: somebody <a@b.invalid>\nInstalled-Size: %s\nDescription: some\n' \
+        "$2" >"$work/$1/DEBIAN/control"
+    chmod 755 "$work/$1/DEBIAN"
+    dpkg-deb -b "$work/$1" "$work/$1.deb" >/dev/null
+}
+deb first 100
+deb second 200
+deb other 100
+! cmp -s "$work/first.deb" "$work/second.deb" || die 'deb: nothing to even out'
+sh "$repack" "$work/first.deb" 2>/dev/null
+(umask 077 && TZ=Pacific/Auckland sh "$repack" "$work/second.deb" 2>/dev/null)
+sh "$repack" "$work/other.deb" 2>/dev/null
+cmp "$work/first.deb" "$work/second.deb" || die 'deb: other bytes for the same files'
+! cmp -s "$work/first.deb" "$work/other.deb" || die 'deb: the same bytes for other files'
+size=$(dpkg-deb -f "$work/first.deb" Installed-Size)
+[ "$size" = 9 ] || die "deb: Installed-Size is $size" # four files of less than a kibibyte, and the directories and links
