@@ -37,6 +37,9 @@ find_package(Boost 1.74 QUIET CONFIG COMPONENTS filesystem)
 if(NOT Boost_FOUND)
     find_package(Boost 1.74 REQUIRED COMPONENTS filesystem)
 endif()
+# Boost's types are in the interface, and Boost does not promise that two releases are compatible. So a package is only for
+# the release that it was built with.
+set(MORVANE_BOOST ${Boost_VERSION_MAJOR}.${Boost_VERSION_MINOR})
 
 set(MORVANE_HAS_DESIGNER OFF)
 if(MORVANE_BUILD_DESIGNER STREQUAL "AUTO")

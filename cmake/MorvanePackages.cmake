@@ -7,6 +7,7 @@ set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/cpack/RepackArchives.cmake)
 
 set(CPACK_COMPONENTS_ALL Runtime Development)
 if(MORVANE_BUILD_TESTING_LIBRARY)
@@ -42,6 +43,9 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+# dpkg takes the symbols rather than the shlibs: who uses only older names depends on an older version.
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/cpack/MakeSymbols.cmake)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/debian/symbols)
 
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS Runtime)
 set(CPACK_COMPONENT_DEVELOPMENT_GROUP Dev)
@@ -57,7 +61,9 @@ set(qt_package qtbase5-dev)
 if(MORVANE_QT_MAJOR EQUAL 6)
     set(qt_package qt6-base-dev)
 endif()
+math(EXPR next_boost "${Boost_VERSION_MINOR} + 1")
+set(boost_package "libboost-dev (>= ${MORVANE_BOOST}), libboost-dev (<< ${Boost_VERSION_MAJOR}.${next_boost}~)")
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS
-    "${runtime_package} (= ${PROJECT_VERSION}), ${qt_package} (>= ${MORVANE_OLDEST_QT}), libboost-dev (>= 1.74)")
+    "${runtime_package} (= ${PROJECT_VERSION}), ${qt_package} (>= ${MORVANE_OLDEST_QT}), ${boost_package}")
 
 include(CPack)

@@ -91,6 +91,7 @@ function(morvane_library)
     add_library(Morvane::${arg_EXPORT_NAME} ALIAS ${arg_NAME})
     morvane_own_code(${arg_NAME})
     set_target_properties(${arg_NAME} PROPERTIES AUTOMOC ON)
+    morvane_describe_classes(${arg_NAME})
     if(internal)
         morvane_internals(${arg_NAME} ${internal})
     endif()
@@ -108,6 +109,14 @@ function(morvane_library)
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/morvane${MORVANE_SUFFIX}>)
     morvane_public_headers(${arg_NAME} ${arg_PUBLIC_HEADERS})
     morvane_install_headers(BASE ${generated} ${arg_EXPORT_HEADER})
+endfunction()
+
+# morvane_describe_classes(TARGET): with the debug information from which tests/abi reads the classes. -g1 has none.
+function(morvane_describe_classes target)
+    if(MORVANE_BUILD_TESTS AND CMAKE_CXX_COMPILER_ID STREQUAL GNU AND NOT CMAKE_CROSSCOMPILING
+            AND NOT MORVANE_SANITIZE AND NOT MORVANE_COVERAGE)
+        target_compile_options(${target} PRIVATE $<$<CONFIG:Debug>:-g2>)
+    endif()
 endfunction()
 
 # morvane_split_sources(PUBLIC INTERNAL source...): the internal ones have no public header, NAME.h, beside them.

@@ -21,6 +21,12 @@ if(NOT EXISTS "${MORVANE_WINDOWS_SDK}/bin")
     message(FATAL_ERROR "MORVANE_WINDOWS_SDK is not the directory of an SDK: '${MORVANE_WINDOWS_SDK}'")
 endif()
 
+# The same sources give the same bytes: no times in the programs, and no directories of this machine.
+foreach(kind IN ITEMS EXE MODULE SHARED)
+    set(CMAKE_${kind}_LINKER_FLAGS_INIT -Wl,--no-insert-timestamp)
+endforeach()
+set(CMAKE_CXX_FLAGS_RELEASE_INIT "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${MORVANE_WINDOWS_SDK}=sdk")
+
 # CMake must not find packages of the build machine by accident. Prefixes in CMAKE_PREFIX_PATH are searched.
 set(CMAKE_FIND_ROOT_PATH ${MORVANE_WINDOWS_SDK} ${CMAKE_PREFIX_PATH})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)

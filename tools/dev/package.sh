@@ -11,23 +11,30 @@ usage: ./dev package [--no-check]
        ./dev package windows
 
 Makes the .deb packages (run time and development) and a .tar.gz in build/package/packages, or with --qt 6 in
-build/package-qt6/packages, then installs the .deb files in a fresh root made for that, builds and runs a small program
-there, and removes them again. That needs root; it takes a few minutes and fetches packages with the machine's own apt
-sources. --no-check leaves it out. The packages for Qt 5 and those for Qt 6 can be installed side by side; when both
-have been made, that is tried, too.
+build/package-qt6/packages. Then builds them again in another directory, and the bytes must be the same. Then installs
+the .deb files in a fresh root made for that, builds and runs a small program there, and removes them again. That needs
+root; it takes a few minutes and fetches packages with the machine's own apt sources. --no-check leaves out both. The
+packages for Qt 5 and those for Qt 6 can be installed side by side; when both have been made, that is tried, too.
 
 "windows" makes the ZIP for Windows, which is made, too, when build/windows is there.
 TEXT
 }
 
+# The same time for everything that goes into a package, so that the same commit always gives the same bytes.
+package_set_time() {
+    [ -n "${SOURCE_DATE_EPOCH:-}" ] || SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null || date +%s)
+    export SOURCE_DATE_EPOCH
+}
+
 package_configure() {
-    # With the flags of a distribution's packages, without debug information and file names of this machine.
+    # With the flags of a distribution's packages, without debug information and file names of this machine. CMake would
+    # overwrite the RPATH of the build when it installs a library, but leave its length.
     flags=$(dpkg-buildflags --get CXXFLAGS)
     link_flags=$(dpkg-buildflags --get LDFLAGS)
     cmake -S . -B "$package" -G Ninja -DMORVANE_QT_MAJOR="$qt_major" -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
         -DCMAKE_CXX_FLAGS="$flags -g0 -ffile-prefix-map=$(pwd)=." -DCMAKE_SHARED_LINKER_FLAGS="$link_flags" \
         -DMORVANE_BUILD_TESTS=OFF -DMORVANE_BUILD_EXAMPLES=OFF -DMORVANE_BUILD_DESIGNER=ON -DMORVANE_BUILD_TESTING_LIBRARY=ON \
-        -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=OFF >"$package.log" 2>&1 || {
+        -DMORVANE_WITH_CTK=OFF -DMORVANE_WITH_QXT=OFF -DCMAKE_BUILD_WITH_INSTALL_RPATH=ON >"$package.log" 2>&1 || {
         cat "$package.log" >&2
         die 'configuring failed'
     }
@@ -38,10 +45,9 @@ package_linux() {
     package=build/package$qt_suffix
     mkdir -p build
     rm -rf "$package/packages"
+    package_set_time
     package_configure
     cmake --build "$package"
-    SOURCE_DATE_EPOCH=$(git log -1 --format=%ct 2>/dev/null || date +%s)
-    export SOURCE_DATE_EPOCH
     for generator in DEB TGZ; do
         cpack -G "$generator" --config "$package/CPackConfig.cmake" -B "$package/packages" >"$package.log" 2>&1 || {
             cat "$package.log" >&2
@@ -50,6 +56,32 @@ package_linux() {
     done
     rm -rf "$package/packages/_CPack_Packages"
     step "the packages are in $(pwd)/$package/packages"
+}
+
+# Builds the packages a second time: from a copy of the sources in another directory, with other file times, umask, time zone
+# and language. They must be the same, byte for byte.
+package_compare() {
+    step 'building the packages again, in another directory'
+    packages=$(pwd)/$package/packages
+    copy=$(mktemp -d "${TMPDIR:-/tmp}/morvane-again.XXXXXX")
+    mkdir "$copy/another-directory"
+    git ls-files -z | xargs -0 cp --parents -t "$copy/another-directory"
+    (
+        cd "$copy/another-directory"
+        umask 027
+        TZ=Pacific/Auckland LC_ALL=C ./dev --no-install --qt "$qt_major" package --no-check
+    ) >"$package.log" 2>&1 || {
+        tail -n 40 "$package.log" >&2
+        die "the second build failed; it is in $copy"
+    }
+    different=''
+    for file in "$packages"/*; do
+        cmp -s "$file" "$copy/another-directory/$package/packages/$(basename "$file")" ||
+            different="$different $(basename "$file")"
+    done
+    [ -z "$different" ] || die "the second build, in $copy, gives other bytes:$different"
+    rm -rf "$copy"
+    step "both builds are the same, byte for byte: $(cd "$packages" && echo *)"
 }
 
 package_check() {
@@ -84,6 +116,7 @@ cmd_package() {
         package_windows
     fi
     [ "$check" = yes ] || return 0
+    package_compare
     need "$package_check_packages"
     package_check
 }

@@ -94,6 +94,8 @@ package_windows() {
     if [ $# -eq 0 ] && [ -n "$used" ]; then
         set -- --sdk "$used"
     fi
+    need zip
+    package_set_time
     windows_build "$@"
     step 'packing the ZIP for Windows'
     cpack -G ZIP --config "$directory/CPackConfig.cmake" -B "$directory/packages" >"$directory/package.log" 2>&1 || {

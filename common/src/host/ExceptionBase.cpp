@@ -4,7 +4,12 @@
 
 namespace morvane {
 
-ExceptionBase::ExceptionBase(std::string message) : m_message(std::move(message)) {}
+struct ExceptionBase::Impl
+{
+    std::string message;
+};
+
+ExceptionBase::ExceptionBase(std::string message) : m_impl(std::make_shared<Impl>(Impl{std::move(message)})) {}
 
 ExceptionBase::ExceptionBase(const ExceptionBase& other) = default;
 
@@ -14,7 +19,7 @@ ExceptionBase::~ExceptionBase() = default;
 
 const char* ExceptionBase::what() const noexcept
 {
-    return m_message.c_str();
+    return m_impl->message.c_str();
 }
 
 } // namespace morvane

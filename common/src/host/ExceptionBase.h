@@ -3,6 +3,7 @@
 #include "host/MorvaneHostExport.h"
 
 #include <exception>
+#include <memory>
 #include <string>
 
 namespace morvane {
@@ -32,7 +33,8 @@ public:
     const char* what() const noexcept override;
 
 private:
-    std::string m_message;
+    struct Impl;
+    std::shared_ptr<const Impl> m_impl; // shared by the copies, which so never run out of memory
 };
 
 } // namespace morvane

@@ -41,14 +41,19 @@ void tellThatHelpCannotBeShown(const QString& topic)
 
 } // namespace
 
-HelpLauncher::HelpLauncher() = default;
+struct HelpLauncher::Impl
+{
+    QString helpDirectory;
+};
+
+HelpLauncher::HelpLauncher() : m_impl(std::make_unique<Impl>()) {}
 
 HelpLauncher::~HelpLauncher() = default;
 
 void HelpLauncher::showHelp(const std::string& topic)
 {
     const QString text = QString::fromStdString(topic);
-    const QString page = findPage(m_helpDirectory, text);
+    const QString page = findPage(m_impl->helpDirectory, text);
     if (page.isEmpty() || !QDesktopServices::openUrl(QUrl::fromLocalFile(page))) {
         tellThatHelpCannotBeShown(text);
     }
@@ -66,12 +71,12 @@ HelpLauncher* HelpLauncher::setInstance(HelpLauncher* replacement)
 
 QString HelpLauncher::helpDirectory() const
 {
-    return m_helpDirectory;
+    return m_impl->helpDirectory;
 }
 
 void HelpLauncher::setHelpDirectory(const QString& directory)
 {
-    m_helpDirectory = directory;
+    m_impl->helpDirectory = directory;
 }
 
 } // namespace morvane

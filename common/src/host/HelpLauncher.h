@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <string>
 
 namespace morvane {
@@ -54,7 +55,8 @@ public:
     void setHelpDirectory(const QString& directory);
 
 private:
-    QString m_helpDirectory;
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace morvane

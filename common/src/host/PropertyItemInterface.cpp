@@ -2,6 +2,10 @@
 
 namespace morvane {
 
+struct PropertyItemInterface::Impl
+{
+};
+
 PropertyItemInterface::PropertyItemInterface() = default;
 
 PropertyItemInterface::~PropertyItemInterface() = default;

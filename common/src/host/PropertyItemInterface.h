@@ -4,6 +4,8 @@
 
 #include <boost/signals2/signal.hpp>
 
+#include <memory>
+
 namespace morvane {
 
 /**
@@ -33,6 +35,10 @@ public:
 
     /** Fires once after each change of the value. Observers connect to it if the type of the value does not matter. */
     boost::signals2::signal<void()> signalPropertyChanged;
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl; // null: reserved for later releases, because hosts compile derived classes
 };
 
 } // namespace morvane

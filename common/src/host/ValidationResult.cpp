@@ -4,9 +4,17 @@
 
 namespace morvane {
 
+struct ValidationResult::Impl
+{
+    std::string errorString;
+};
+
 ValidationResult::ValidationResult() = default;
 
-ValidationResult::ValidationResult(std::string errorString) : m_valid(false), m_errorString(std::move(errorString)) {}
+ValidationResult::ValidationResult(std::string errorString)
+    : m_impl(std::make_shared<Impl>(Impl{std::move(errorString)}))
+{
+}
 
 ValidationResult::ValidationResult(const ValidationResult& other) = default;
 
@@ -16,12 +24,12 @@ ValidationResult::~ValidationResult() = default;
 
 bool ValidationResult::isValid() const
 {
-    return m_valid;
+    return !m_impl;
 }
 
 std::string ValidationResult::errorString() const
 {
-    return m_errorString;
+    return m_impl ? m_impl->errorString : std::string();
 }
 
 } // namespace morvane

@@ -2,6 +2,7 @@
 
 #include "host/MorvaneHostExport.h"
 
+#include <memory>
 #include <string>
 
 namespace morvane {
@@ -34,8 +35,8 @@ public:
     std::string errorString() const;
 
 private:
-    bool m_valid = true;
-    std::string m_errorString;
+    struct Impl;
+    std::shared_ptr<const Impl> m_impl; // null: valid
 };
 
 } // namespace morvane

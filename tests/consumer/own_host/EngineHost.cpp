@@ -41,6 +41,10 @@ void ApplicationSettings::depositValue(const std::string& key, const QByteArray&
     engineSettings()[key] = value;
 }
 
+struct HelpLauncher::Impl
+{
+};
+
 HelpLauncher::HelpLauncher() = default;
 HelpLauncher::~HelpLauncher() = default;
 void HelpLauncher::showHelp(const std::string&) {}
@@ -56,29 +60,43 @@ std::wstring utf8ToWideString(const std::string& utf8)
     return QString::fromStdString(utf8).toStdWString();
 }
 
-ExceptionBase::ExceptionBase(std::string message) : m_message(std::move(message)) {}
+struct ExceptionBase::Impl
+{
+    std::string message;
+};
+
+ExceptionBase::ExceptionBase(std::string message) : m_impl(std::make_shared<Impl>(Impl{std::move(message)})) {}
 ExceptionBase::ExceptionBase(const ExceptionBase&) = default;
 ExceptionBase::~ExceptionBase() = default;
 const char* ExceptionBase::what() const noexcept
 {
-    return m_message.c_str();
+    return m_impl->message.c_str();
 }
 
 InvalidPropertyValueException::InvalidPropertyValueException(std::string message) : ExceptionBase(std::move(message)) {}
 InvalidPropertyValueException::InvalidPropertyValueException(const InvalidPropertyValueException&) = default;
 InvalidPropertyValueException::~InvalidPropertyValueException() = default;
 
+struct ValidationResult::Impl
+{
+    std::string errorString;
+};
+
 ValidationResult::ValidationResult() = default;
 ValidationResult::ValidationResult(const ValidationResult&) = default;
 ValidationResult::~ValidationResult() = default;
 bool ValidationResult::isValid() const
 {
-    return m_valid;
+    return !m_impl;
 }
 std::string ValidationResult::errorString() const
 {
-    return m_errorString;
+    return m_impl ? m_impl->errorString : std::string();
 }
+
+struct PropertyItemInterface::Impl
+{
+};
 
 PropertyItemInterface::PropertyItemInterface() = default;
 PropertyItemInterface::~PropertyItemInterface() = default;

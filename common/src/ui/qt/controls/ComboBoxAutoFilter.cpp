@@ -18,10 +18,18 @@ namespace morvane::ui {
 
 struct ComboBoxAutoFilter::Impl
 {
+    enum class Announcement
+    {
+        AtOnce,
+        Held,
+        Due
+    };
+
     explicit Impl(ComboBoxAutoFilter& box) : outcome(box), suggestions(box, outcome), listEvents(box), focusWatch(box)
     {
     }
 
+    Announcement announcement = Announcement::AtOnce;
     EditMode mode = SingleEdit;
     AutoFilterOutcome outcome;
     AutoFilterSuggestions suggestions;
@@ -297,14 +305,14 @@ bool ComboBoxAutoFilter::filterListRelease(QObject& viewport, QMouseEvent& event
     view()->setCurrentIndex(entry);
     // A slot may delete the combo box, and QComboBox accesses itself after activated(int). So the signal is emitted
     // later.
-    m_announcement = Announcement::Held;
+    m_impl->announcement = Impl::Announcement::Held;
     m_itemClicked = true;
     if (!m_impl->listEvents.resend(viewport, event)) {
         return true;
     }
     m_itemClicked = false;
-    const bool isDue = m_announcement == Announcement::Due;
-    m_announcement = Announcement::AtOnce;
+    const bool isDue = m_impl->announcement == Impl::Announcement::Due;
+    m_impl->announcement = Impl::Announcement::AtOnce;
     if (isDue) {
         Q_EMIT selectionComplete();
     }
@@ -375,10 +383,10 @@ void ComboBoxAutoFilter::onItemActivated(int index)
     m_itemClicked = false;
     validateEntry();
     closeSelf();
-    if (m_announcement == Announcement::AtOnce) {
+    if (m_impl->announcement == Impl::Announcement::AtOnce) {
         Q_EMIT selectionComplete();
     } else {
-        m_announcement = Announcement::Due;
+        m_impl->announcement = Impl::Announcement::Due;
     }
 }
 

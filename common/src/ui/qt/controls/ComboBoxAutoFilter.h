@@ -207,12 +207,6 @@ private Q_SLOTS:
 private:
     using ctkCompleter = compat::ctkCompleter;
 
-    enum class Announcement
-    {
-        AtOnce,
-        Held,
-        Due
-    };
     struct Impl;
 
     void keyPressEvent(QKeyEvent* event) override;
@@ -237,7 +231,6 @@ private:
     bool m_escapePressed = false;
     int m_indexBeforeEdit = -1;
     ctkCompleter* m_completer = nullptr;
-    Announcement m_announcement = Announcement::AtOnce;
     std::unique_ptr<Impl> m_impl;
 };
 

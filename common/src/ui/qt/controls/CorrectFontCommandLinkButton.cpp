@@ -9,6 +9,8 @@ CorrectFontCommandLinkButton::CorrectFontCommandLinkButton(QWidget* parent) : QC
     expectGuiThread("CorrectFontCommandLinkButton");
 }
 
+CorrectFontCommandLinkButton::~CorrectFontCommandLinkButton() = default;
+
 QSize CorrectFontCommandLinkButton::minimumSizeHint() const
 {
     return sizeHint();

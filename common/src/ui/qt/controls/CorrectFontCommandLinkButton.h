@@ -17,6 +17,7 @@ class MORVANE_UI_EXPORT CorrectFontCommandLinkButton : public QCommandLinkButton
 public:
     /** @param parent owner; null: a top-level window that the caller deletes */
     explicit CorrectFontCommandLinkButton(QWidget* parent = nullptr);
+    ~CorrectFontCommandLinkButton() override;
 
     /** Returns the preferred size, sizeHint(). */
     QSize minimumSizeHint() const override;

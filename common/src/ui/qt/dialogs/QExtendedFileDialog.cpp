@@ -20,12 +20,20 @@
 #include <QMessageLogger>
 #include <QPointer>
 #include <QScopeGuard>
+#include <QSet>
 #include <QStandardPaths>
 #include <QUrl>
 
 #include <boost/filesystem/exception.hpp>
 
 #include <utility>
+
+struct QExtendedFileDialog::Impl
+{
+    QFileSystemModel* model = nullptr;
+    QString shownFolder;
+    QSet<QString> readFolders;
+};
 
 QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
     const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode)
@@ -38,7 +46,8 @@ QExtendedFileDialog::QExtendedFileDialog(QWidget* parent, const std::string& cap
     : QFileDialog(
           parent, QString::fromStdString(caption), QString::fromStdString(directory), QString::fromStdString(filter)),
       m_helpTopic(helpTopic),
-      m_geometryPersistenceKey("QExtendedFileDialog/Geometry_v2")
+      m_geometryPersistenceKey("QExtendedFileDialog/Geometry_v2"),
+      m_impl(std::make_unique<Impl>())
 {
     init(acceptMode);
     if (!m_helpTopic.empty()) {
@@ -46,7 +55,8 @@ QExtendedFileDialog::QExtendedFileDialog(QWidget* parent, const std::string& cap
     }
 }
 
-QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, QFileDialog::AcceptMode acceptMode) : QFileDialog(&parent)
+QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, QFileDialog::AcceptMode acceptMode)
+    : QFileDialog(&parent), m_impl(std::make_unique<Impl>())
 {
     init(acceptMode);
 }
@@ -101,7 +111,7 @@ int QExtendedFileDialog::exec()
 {
     prepareToShow();
     const QPointer<QExtendedFileDialog> self(this);
-    const bool waits = m_overrideCursorSet || isBeingRead(m_model->rootPath());
+    const bool waits = m_overrideCursorSet || isBeingRead(m_impl->model->rootPath());
     restoreCursor(); // the wait cursor must be above the arrow on the stack
     const morvane::ui::ModalArrowCursor arrow;
     const auto endWait = qScopeGuard([self] {
@@ -189,21 +199,21 @@ void QExtendedFileDialog::launchHelp()
 
 void QExtendedFileDialog::onDirectoryLoaded(const QString& path)
 {
-    m_readFolders.insert(keyOf(path));
+    m_impl->readFolders.insert(keyOf(path));
     restoreCursor();
     // The model may have read another folder, for the suggestions. Then the dialog still waits for its own folder.
-    if (isVisible() && m_shownFolder == m_model->rootPath() && isBeingRead(m_shownFolder)) {
+    if (isVisible() && m_impl->shownFolder == m_impl->model->rootPath() && isBeingRead(m_impl->shownFolder)) {
         waitForFolder();
     }
 }
 
 void QExtendedFileDialog::onRootPathChanged(const QString& path)
 {
-    const bool again = path == m_shownFolder;
+    const bool again = path == m_impl->shownFolder;
     if (!again) {
         // The model reads this folder again when the user comes back to it. It reads no other folder twice.
-        m_readFolders.remove(keyOf(m_shownFolder));
-        m_shownFolder = path;
+        m_impl->readFolders.remove(keyOf(m_impl->shownFolder));
+        m_impl->shownFolder = path;
     }
     if (again ? QFileInfo(path).isDir() : isBeingRead(path)) {
         waitForFolder();
@@ -212,14 +222,14 @@ void QExtendedFileDialog::onRootPathChanged(const QString& path)
 
 bool QExtendedFileDialog::isBeingRead(const QString& folder) const
 {
-    return QFileInfo(folder).isDir() && !m_readFolders.contains(keyOf(folder));
+    return QFileInfo(folder).isDir() && !m_impl->readFolders.contains(keyOf(folder));
 }
 
 /** The same text for all spellings of the path of a folder. */
 QString QExtendedFileDialog::keyOf(const QString& folder) const
 {
-    const QModelIndex index = m_model->index(folder);
-    return index.isValid() ? m_model->filePath(index) : folder;
+    const QModelIndex index = m_impl->model->index(folder);
+    return index.isValid() ? m_impl->model->filePath(index) : folder;
 }
 
 void QExtendedFileDialog::waitForFolder()
@@ -241,10 +251,10 @@ void QExtendedFileDialog::init(QFileDialog::AcceptMode acceptMode)
     m_fileTypeCombo = findChild<QComboBox*>(morvane::ui::qtFileDialogNames::fileTypeCombo);
     m_fileNameEdit = findChild<QLineEdit*>(morvane::ui::qtFileDialogNames::fileNameEdit);
     const auto* const view = findChild<QListView*>(morvane::ui::qtFileDialogNames::listView);
-    m_model = qobject_cast<QFileSystemModel*>(view->model());
-    m_shownFolder = m_model->rootPath();
-    connect(m_model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));
-    connect(m_model, SIGNAL(rootPathChanged(const QString&)), this, SLOT(onRootPathChanged(const QString&)));
+    m_impl->model = qobject_cast<QFileSystemModel*>(view->model());
+    m_impl->shownFolder = m_impl->model->rootPath();
+    connect(m_impl->model, SIGNAL(directoryLoaded(const QString&)), this, SLOT(onDirectoryLoaded(const QString&)));
+    connect(m_impl->model, SIGNAL(rootPathChanged(const QString&)), this, SLOT(onRootPathChanged(const QString&)));
     // For an empty name, Qt's completer selects the open folder itself, which is not visible. A selected row takes
     // precedence over a name that is typed then: accepting would enter the folder and clear the name.
     connect(m_fileNameEdit, &QLineEdit::textChanged, view, [view](const QString& text) {

@@ -3,15 +3,14 @@
 #include "ui/qt/MorvaneUiExport.h"
 
 #include <QFileDialog>
-#include <QSet>
 #include <QSize>
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <string>
 
 class QComboBox;
-class QFileSystemModel;
 class QLineEdit;
 
 /**
@@ -119,6 +118,7 @@ private Q_SLOTS:
 private:
     friend class ExtendedFileDialog;
     friend class SaveFileQtDialog;
+    struct Impl;
 
     // For callers that may have no parent.
     QExtendedFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -144,7 +144,5 @@ private:
     std::string m_helpTopic;
     std::string m_geometryPersistenceKey;
     QSize m_defaultSize = QSize(-1, -1);
-    QFileSystemModel* m_model = nullptr;
-    QString m_shownFolder;
-    QSet<QString> m_readFolders;
+    std::unique_ptr<Impl> m_impl;
 };

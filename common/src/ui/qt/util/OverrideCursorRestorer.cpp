@@ -6,19 +6,24 @@
 
 namespace morvane::ui {
 
-OverrideCursorRestorer::OverrideCursorRestorer()
+struct OverrideCursorRestorer::Impl
+{
+    bool wasActive = false;
+};
+
+OverrideCursorRestorer::OverrideCursorRestorer() : m_impl(std::make_unique<Impl>())
 {
     expectGuiThread("OverrideCursorRestorer");
     if (const QCursor* const active = QGuiApplication::overrideCursor()) {
         m_cursor = *active;
-        m_wasActive = true;
+        m_impl->wasActive = true;
         QGuiApplication::restoreOverrideCursor();
     }
 }
 
 OverrideCursorRestorer::~OverrideCursorRestorer()
 {
-    if (m_wasActive) {
+    if (m_impl->wasActive) {
         QGuiApplication::setOverrideCursor(m_cursor);
     }
 }

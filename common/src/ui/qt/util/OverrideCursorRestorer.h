@@ -4,6 +4,8 @@
 
 #include <QCursor>
 
+#include <memory>
+
 namespace morvane::ui {
 
 /**
@@ -30,8 +32,10 @@ public:
     OverrideCursorRestorer& operator=(const OverrideCursorRestorer&) = delete;
 
 private:
+    struct Impl;
+
     QCursor m_cursor;
-    bool m_wasActive = false;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace morvane::ui

@@ -1,5 +1,6 @@
 #include "ui/qt/dialogs/shell/Shell.h"
 
+#include "host/InstanceOverride.h"
 #include "host/ReplaceableInstance_p.h"
 
 #ifdef _WIN32
@@ -36,7 +37,14 @@ Shell* Shell::setInstance(Shell* replacement)
     return currentShell.replace(replacement);
 }
 
-ShellOverride::ShellOverride(Shell& replacement) : m_override(replacement) {}
+struct ShellOverride::Impl
+{
+    explicit Impl(Shell& replacement) : guard(replacement) {}
+
+    InstanceOverride<Shell> guard;
+};
+
+ShellOverride::ShellOverride(Shell& replacement) : m_impl(std::make_unique<Impl>(replacement)) {}
 
 ShellOverride::~ShellOverride() = default;
 

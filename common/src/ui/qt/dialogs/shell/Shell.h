@@ -1,8 +1,9 @@
 #pragma once
 
-#include "host/InstanceOverride.h"
 #include "ui/qt/dialogs/shell/ShellInterfaces.h"
 #include "ui/qt/MorvaneUiExport.h"
+
+#include <memory>
 
 namespace morvane::ui {
 
@@ -69,7 +70,8 @@ public:
     ShellOverride& operator=(const ShellOverride&) = delete;
 
 private:
-    InstanceOverride<Shell> m_override;
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
 };
 
 /** Returns the row for @p Interface, a base class of @p Object, in a table for Shell::qiSearch(). */

@@ -2,8 +2,9 @@
 
 #include "ui/qt/MorvaneUiExport.h"
 
-#include <QElapsedTimer>
 #include <QFrame>
+
+#include <memory>
 
 namespace morvane::compat {
 
@@ -41,17 +42,17 @@ public:
     explicit QxtLabel(const QString& text, QWidget* parent = nullptr, Qt::WindowFlags flags = {});
     ~QxtLabel() override;
 
-    QString text() const { return m_text; }
+    QString text() const;
 
     /** The alignment of the text in the contents rectangle, before the rotation; Qt::AlignCenter initially. */
-    Qt::Alignment alignment() const { return m_alignment; }
+    Qt::Alignment alignment() const;
     void setAlignment(Qt::Alignment alignment);
 
     /** The position of the ellipsis; Qt::ElideMiddle initially. With Qt::ElideNone the text is clipped at the edge. */
-    Qt::TextElideMode elideMode() const { return m_elideMode; }
+    Qt::TextElideMode elideMode() const;
     void setElideMode(Qt::TextElideMode mode);
 
-    Rotation rotation() const { return m_rotation; }
+    Rotation rotation() const;
     void setRotation(Rotation rotation);
 
     QSize sizeHint() const override;
@@ -73,15 +74,12 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    bool isOnItsSide() const { return m_rotation == Clockwise || m_rotation == CounterClockwise; }
+    struct Impl;
+
     QSize sizeFor(const QString& text) const;
     void invalidateLayout();
 
-    QString m_text;
-    Qt::Alignment m_alignment = Qt::AlignCenter;
-    Qt::TextElideMode m_elideMode = Qt::ElideMiddle;
-    Rotation m_rotation = NoRotation;
-    QElapsedTimer m_sincePress;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace morvane::compat
