@@ -62,6 +62,8 @@ macro(morvane_provide_headers method package)
         add_library(GTest::gtest INTERFACE IMPORTED)
         add_library(GTest::gmock INTERFACE IMPORTED)
         set(GTest_FOUND TRUE)
+    elseif("${package}" STREQUAL Threads AND NOT TARGET Threads::Threads)
+        add_library(Threads::Threads INTERFACE IMPORTED)
     endif()
 endmacro()
 

@@ -4,29 +4,26 @@
 
 // Before the first header: libc++'s <math.h> uses these names.
 extern "C" {
-__declspec(dllimport) double erfc(double);
-__declspec(dllimport) float erfcf(float);
-__declspec(dllimport) double nexttoward(double, long double);
-__declspec(dllimport) float nexttowardf(float, long double);
-__declspec(dllimport) int ilogbl(long double);
-__declspec(dllimport) long double frexpl(long double, int*);
-__declspec(dllimport) long double ldexpl(long double, int);
-__declspec(dllimport) long double modfl(long double, long double*);
-__declspec(dllimport) long double remquol(long double, long double, int*);
-__declspec(dllimport) long double scalblnl(long double, long);
-__declspec(dllimport) long double scalbnl(long double, int);
+using MorvaneLongOne = long double(long double);
+using MorvaneLongTwo = long double(long double, long double);
 
-#define MORVANE_ONE(name) __declspec(dllimport) long double name(long double);
-#define MORVANE_TWO(name) __declspec(dllimport) long double name(long double, long double);
-MORVANE_ONE(acoshl) MORVANE_ONE(acosl) MORVANE_ONE(asinhl) MORVANE_ONE(asinl) MORVANE_ONE(atanhl) MORVANE_ONE(atanl)
-MORVANE_ONE(cbrtl) MORVANE_ONE(ceill) MORVANE_ONE(coshl) MORVANE_ONE(cosl) MORVANE_ONE(erfcl) MORVANE_ONE(erfl)
-MORVANE_ONE(exp2l) MORVANE_ONE(expl) MORVANE_ONE(expm1l) MORVANE_ONE(fabsl) MORVANE_ONE(floorl) MORVANE_ONE(lgammal)
-MORVANE_ONE(log10l) MORVANE_ONE(log1pl) MORVANE_ONE(log2l) MORVANE_ONE(logbl) MORVANE_ONE(logl) MORVANE_ONE(nearbyintl)
-MORVANE_ONE(sinhl) MORVANE_ONE(sinl) MORVANE_ONE(sqrtl) MORVANE_ONE(tanhl) MORVANE_ONE(tanl) MORVANE_ONE(tgammal)
-MORVANE_TWO(atan2l) MORVANE_TWO(fdiml) MORVANE_TWO(fmaxl) MORVANE_TWO(fminl) MORVANE_TWO(fmodl) MORVANE_TWO(hypotl)
-MORVANE_TWO(nextafterl) MORVANE_TWO(nexttowardl) MORVANE_TWO(powl) MORVANE_TWO(remainderl)
-#undef MORVANE_ONE
-#undef MORVANE_TWO
+__declspec(dllimport) double erfc(double), nan(const char*), nexttoward(double, long double);
+__declspec(dllimport) double fma(double, double, double);
+__declspec(dllimport) float erfcf(float), nanf(const char*), nexttowardf(float, long double);
+__declspec(dllimport) float fmaf(float, float, float);
+__declspec(dllimport) MorvaneLongOne acoshl, acosl, asinhl, asinl, atanhl, atanl, cbrtl, ceill, coshl, cosl, erfcl,
+    erfl;
+__declspec(dllimport) MorvaneLongOne exp2l, expl, expm1l, fabsl, floorl, lgammal, log10l, log1pl, log2l, logbl, logl;
+__declspec(dllimport) MorvaneLongOne nearbyintl, rintl, roundl, sinhl, sinl, sqrtl, tanhl, tanl, tgammal, truncl;
+__declspec(dllimport) MorvaneLongTwo atan2l, copysignl, fdiml, fmaxl, fminl, fmodl, hypotl, nextafterl, nexttowardl;
+__declspec(dllimport) MorvaneLongTwo powl, remainderl;
+__declspec(dllimport) int ilogbl(long double);
+__declspec(dllimport) long lrintl(long double), lroundl(long double);
+__declspec(dllimport) long long llrintl(long double), llroundl(long double);
+__declspec(dllimport) long double fmal(long double, long double, long double);
+__declspec(dllimport) long double frexpl(long double, int*), ldexpl(long double, int), modfl(long double, long double*);
+__declspec(dllimport) long double nanl(const char*), remquol(long double, long double, int*);
+__declspec(dllimport) long double scalblnl(long double, long), scalbnl(long double, int);
 }
 
 #include <corecrt.h>
@@ -34,7 +31,8 @@ MORVANE_TWO(nextafterl) MORVANE_TWO(nexttowardl) MORVANE_TWO(powl) MORVANE_TWO(r
 #define MB_CUR_MAX ___mb_cur_max_func()
 
 extern "C" {
-struct timespec {
+struct timespec
+{
     time_t tv_sec;
     long tv_nsec;
 };
