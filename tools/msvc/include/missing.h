@@ -30,6 +30,8 @@ __declspec(dllimport) long double scalblnl(long double, long), scalbnl(long doub
 
 #define MB_CUR_MAX ___mb_cur_max_func()
 
+typedef double max_align_t;
+
 extern "C" {
 struct timespec
 {
