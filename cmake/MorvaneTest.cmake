@@ -5,7 +5,7 @@ function(morvane_compile_quickly target)
         return()
     endif()
     # GCC warns of unnamed namespaces in included files, and sources that are compiled together include each other.
-    target_compile_options(${target} PRIVATE -O0 ${morvane_precompiled_options}
+    target_compile_options(${target} PRIVATE $<IF:$<BOOL:${MSVC}>,/Od,-O0> ${morvane_precompiled_options}
         $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON)
     if(target STREQUAL morvane-test-support)
@@ -58,13 +58,13 @@ endfunction()
 # morvane_header_test(TARGET LIBRARY)
 # Compiles each public header of LIBRARY on its own as Morvane's own code is compiled, and all of them with Qt's keywords
 # (`signals`, `slots`, `emit`) on, as many hosts have them. Building TARGET is the test.
-# A cross build only checks what differs by platform, so it compiles all headers together in one source.
+# A cross build with MinGW only checks what differs by platform, so it compiles all headers together in one source.
 function(morvane_header_test target library)
     get_target_property(headers ${library} MORVANE_PUBLIC_HEADERS)
     set(sources)
     list(TRANSFORM headers REPLACE "(.+)" "#include \"\\1\"\n" OUTPUT_VARIABLE includes)
     list(JOIN includes "" includes)
-    if(CMAKE_CROSSCOMPILING)
+    if(MINGW)
         set(sources ${CMAKE_CURRENT_BINARY_DIR}/${target}/all_headers.cpp)
         file(CONFIGURE OUTPUT ${sources} CONTENT "@includes@" @ONLY)
         set(headers)

@@ -1,0 +1,11 @@
+// refused: -Wzero-length-array
+struct Buffer
+{
+    int length;
+#ifdef FAULT
+    char bytes[0];
+#else
+    char bytes[1];
+#endif
+};
+Buffer buffer{};

@@ -1,0 +1,8 @@
+// refused: undefined symbol: public: int __cdecl ExportedClass::value(void)
+#include "MissingExport.h"
+
+int main()
+{
+    const ExportedClass object;
+    return object.value();
+}

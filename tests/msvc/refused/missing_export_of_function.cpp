@@ -1,0 +1,7 @@
+// refused: undefined symbol: int __cdecl exportedFunction(void)
+#include "MissingExport.h"
+
+int main()
+{
+    return exportedFunction();
+}

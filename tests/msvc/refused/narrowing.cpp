@@ -1,0 +1,14 @@
+// refused: cannot be narrowed
+struct Size
+{
+    int width;
+};
+
+Size sizeOf(double width)
+{
+#ifdef FAULT
+    return Size{width};
+#else
+    return Size{static_cast<int>(width)};
+#endif
+}

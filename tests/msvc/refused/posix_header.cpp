@@ -1,0 +1,5 @@
+// refused: Microsoft's library has no <unistd.h>
+#ifdef FAULT
+#include <unistd.h>
+#endif
+int one = 1;

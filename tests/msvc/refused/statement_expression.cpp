@@ -1,0 +1,12 @@
+// refused: -Wgnu-statement-expression
+int twice(int value)
+{
+#ifdef FAULT
+    return ({
+        int copy = value;
+        copy * 2;
+    });
+#else
+    return value * 2;
+#endif
+}

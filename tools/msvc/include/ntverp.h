@@ -1,0 +1,3 @@
+// Boost.Predef takes the version of the Windows SDK from this header; Wine has none. The number is that of Windows 10.
+#pragma once
+#define VER_PRODUCTBUILD 10011

@@ -1,0 +1,1 @@
+#error "Microsoft's library has no <unistd.h>; Wine's headers have one"
