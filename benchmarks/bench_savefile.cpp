@@ -91,5 +91,5 @@ MORVANE_BENCHMARK(ruleByExpressions);
 MORVANE_BENCHMARK(probeNewName);
 MORVANE_BENCHMARK(openCloseRemove);
 
-MORVANE_RATIO(extension_rule, ruleByHand, ruleByExpressions, 0.2);
+MORVANE_RATIO(extension_rule, ruleByHand, ruleByExpressions, 0.3);
 MORVANE_RATIO(write_probe, probeNewName, openCloseRemove, 2.5);
