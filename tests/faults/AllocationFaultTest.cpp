@@ -247,7 +247,8 @@ TEST(AllocationFaultsTest, theClipboardKeepsItsTextWhenTheNewOneCannotBeMade)
         ui::selectionText(view.selectionModel()->selection(), model);
         allocationsOfText = AllocationFaults::count();
     }
-    ASSERT_GE(allocationsOfText, 3);
+    // The address sanitizer counts one less with Qt 6.
+    ASSERT_GT(allocationsOfText, QLibraryInfo::version().majorVersion() >= 6 ? 2 : 3);
     int survived = 0;
     for (int failing = 1; failing <= allocationsOfText; ++failing) {
         QGuiApplication::clipboard()->setText(QStringLiteral("before"));
