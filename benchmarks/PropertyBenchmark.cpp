@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // What a property adds to the bare emission of its two signals.
 
 #include "property/Property.h"

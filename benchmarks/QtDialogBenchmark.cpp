@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The time from construction to the first painted frame, compared with Qt's own dialog in the same folder.
 
 #include "support/Ratio.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The filtering combo box and its completer beside Qt's own, and the elided label beside the label that it rests on.
 #include "support/Ratio.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The time from exec() to the first painted frame of each dialog, in a folder of 50,000 files, compared with Qt's own
 // dialog. The time from a key to the painted list of the filtering combo box with 1,000,000 entries.
 #include "support/Ratio.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The cost of linking with the library: the time until main() of a program that does nothing, compared with one that is
 // linked with Qt Widgets only, and the sizes of the files.
 #include "support/Ratio.h"

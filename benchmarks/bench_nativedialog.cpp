@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // What the native dialog adds to the Shell's own time: reading name filters, and telling the Shell about them.
 
 #include "support/Ratio.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The save flow's own work on a name: giving it an extension, and finding out whether it can be written.
 
 #include "support/Ratio.h"

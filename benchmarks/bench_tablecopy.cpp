@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Copying a table's selection, compared with the simplest way to make the same text and with reading the cells only.
 
 #include "support/Ratio.h"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # morvane_extract_snippet(SOURCE TAG OUTPUT)
 # Writes the code between the two lines "//! [TAG]" of SOURCE to OUTPUT, for a test that runs what a guide shows. When
 # SOURCE has changed, the next run of CMake writes OUTPUT again.

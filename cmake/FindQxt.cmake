@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Finds the widgets of Qxt, which brings no CMake package of its own, and makes the targets Qxt::Widgets and Qxt::Core.
 # The libraries are called QxtWidgets and QxtCore, in older releases QxtGui and QxtCore, and so are the header directories.
 # Qxt_ROOT names a prefix to search first.

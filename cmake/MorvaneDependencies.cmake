@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Qt, Boost, and what the choice of Qt means for the names of the packages. MorvaneConfig.cmake asks for the same packages;
 # change both together.
 set(morvane_oldest_qt5 5.15)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${MORVANE_PACKAGE})

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Options. Everything except the libraries is off when Morvane is embedded.
 set(MORVANE_QT_MAJOR "" CACHE STRING "The major version of Qt, 5 or 6; empty: the one that is found, 5 first")
 set_property(CACHE MORVANE_QT_MAJOR PROPERTY STRINGS 5 6)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Packages: `cpack -G DEB` (a run-time and a development package) and `cpack -G TGZ` (both in one archive).
 set(CPACK_PACKAGE_NAME morvane${MORVANE_SUFFIX})
 set(CPACK_PACKAGE_VENDOR "The Morvane authors")

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # The same packages for builds without CMake: one to install, which does not contain the path of its install location, and
 # one for the build directory, which pkg-config prefers when it finds both.
 

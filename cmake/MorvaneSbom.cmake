@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Writes what the build consists of, with the versions that were found, as an SPDX 2.3 document, and installs it.
 
 # sbom_package(ID NAME VERSION LICENCE [RELATIONSHIP]): a package and its relationship to Morvane.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 include(GenerateExportHeader)
 
 # How Morvane's own code is compiled. None of this is passed on to consumers.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # With MORVANE_BUILD_QUICKLY, compiles TARGET without optimisation, several of its sources at once, and with the precompiled
 # headers of the support library, which is compiled with the same options.
 function(morvane_compile_quickly target)

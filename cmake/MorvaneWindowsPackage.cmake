@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # `cpack -G ZIP`: the DLLs, their import libraries, the headers, the CMake package and the gallery.
 set(CPACK_PACKAGE_NAME morvane${MORVANE_SUFFIX})
 set(CPACK_PACKAGE_VENDOR "The Morvane authors")

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Runs Doxygen in OUTPUT, where its Doxyfile stands. Each of its warnings is an error, and so is a class without an example.
 file(REMOVE_RECURSE ${OUTPUT}/html)
 file(REMOVE ${OUTPUT}/warnings.txt)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The search for a number that begins with the typed digits, compared with the plain loop. The loop may look at half a
 // million numbers. Here it stops after 1,200, and beyond that only the properties that always hold are checked.
 #include "support/FuzzInput.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The launcher with the native dialog and a Shell without windows. The captions, filters and selections from the host
 // are hostile, and so are the names, types and folders from the user.
 #include "support/FuzzInput.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Name filters, compared with the expressions that define their meaning.
 #include "dialogs/native/LiteralNameFilter.h"
 #include "support/FuzzInput.h"

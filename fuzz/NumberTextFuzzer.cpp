@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Reading a number in plain or scientific notation, compared with reading it step by step.
 #include "controls/LiteralNumberReading.h"
 #include "support/FuzzInput.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A file name and a name filter, one on each line, compared with the expressions that define the extension.
 #include "dialogs/save/LiteralExtensionRule.h"
 #include "support/FuzzInput.h"

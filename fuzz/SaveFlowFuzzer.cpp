@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The save flow with any names, filters and answers from the dialog and from the host's message handler. The flow ends,
 // asks before it replaces a file, leaves no new file behind and damages none.
 #include "support/FuzzInput.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The text of a selection in a table or a tree, compared with sorting all selected indexes.
 #include "support/FuzzInput.h"
 #include "support/QuietApplication.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The input of the Shell made of Qt's widgets, from its callers and from the name field: 16-bit text, parsing names and
 // typed names.
 #include "support/FuzzInput.h"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # CPack runs this before it makes the Debian packages: writes the symbols file of the run-time package from the libraries that
 # are about to be packed.
 if(NOT CPACK_GENERATOR STREQUAL "DEB")

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Cross-building for 64-bit Windows with MinGW-w64. MORVANE_WINDOWS_SDK (cache or environment variable) is a prefix
 # that holds Qt, Boost and GoogleTest for that target; packaging/windows/make-sdk makes one.
 set(CMAKE_SYSTEM_NAME Windows)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // One call asks for files; the window lists the chosen files.
 
 #include "ui/qt/dialogs/LaunchFileDialog.h"

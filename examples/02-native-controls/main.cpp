@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The platform's file dialog with our own controls: a check box, a button, and a menu on the accept button.
 
 #include "property/Property.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A value that validates each new value and calls its observers after a change. No window is needed.
 
 #include "property/Property.h"

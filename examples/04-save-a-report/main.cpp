@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // One object asks for a file name for saving. The returned name has the extension of the chosen type, may be
 // overwritten, and can be written.
 

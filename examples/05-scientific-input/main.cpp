@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A number in scientific notation, and a step that means "one decade" instead of "add one".
 
 #include "ui/qt/controls/QScientificSpinBox.h"

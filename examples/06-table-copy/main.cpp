@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Select cells and press Ctrl+C: the field below shows the text that a spreadsheet program would paste.
 
 #include "ui/qt/util/TableCopyHandler.h"

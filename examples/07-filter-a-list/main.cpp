@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A combo box that offers only the entries that contain the typed text, at any position.
 
 #include "ui/qt/controls/ComboBoxAutoFilter.h"

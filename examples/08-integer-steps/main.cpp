@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // An integer whose steps double and halve it, for sizes that are powers of two.
 
 #include "ui/qt/controls/IntegralSpinBox.h"

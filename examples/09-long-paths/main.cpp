@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A path in a narrow window: the end of the path stays readable, and the tool tip shows the whole path.
 
 #include "ui/qt/controls/ElidedTextLabel.h"

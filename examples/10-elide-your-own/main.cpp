@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The tool tip of an elided text in your own widget: here a button that elides its text.
 
 #include "ui/qt/controls/ElidedTextUtil.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Two buttons, each with an explanation. Their texts are never cut off, even in a small window.
 
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"

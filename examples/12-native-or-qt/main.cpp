@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The same code runs two dialogs: a switch for the whole program selects the platform's dialog or the Qt dialog.
 
 #include "ui/qt/dialogs/ExtendedFileDialog.h"

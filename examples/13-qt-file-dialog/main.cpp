@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The Qt file dialog that stores its geometry: it opens with its last size and position, also in the next run.
 
 #include "ui/qt/dialogs/QExtendedFileDialog.h"

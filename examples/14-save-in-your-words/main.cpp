@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The questions of the save flow with the program's own texts, or in another language.
 
 #include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"

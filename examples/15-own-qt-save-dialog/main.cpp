@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The save flow with a Qt dialog that you configure: a derived class has access to the dialog.
 
 #include "ui/qt/dialogs/QExtendedFileDialog.h"

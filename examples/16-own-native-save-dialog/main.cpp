@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The save flow with the native dialog, which has your own check box.
 
 #include "property/Property.h"

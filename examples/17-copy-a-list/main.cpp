@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The copy shortcut for a widget that has none: your own handler defines what is copied.
 
 #include "ui/qt/util/CopyHandlerAbstract.h"

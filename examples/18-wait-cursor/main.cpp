@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A wait cursor that is always removed, and that is suspended for a question in the middle of the work.
 
 #include "ui/qt/util/OverrideCursor.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Signals connected to an object that is not a QObject: the object disconnects them. No window appears.
 
 #include "ui/qt/util/QtSignalConnectionCollection.h"

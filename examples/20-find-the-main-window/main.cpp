@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Code without a pointer to the windows shows a message in the status bar.
 
 #include "ui/qt/util/MainWindow.h"

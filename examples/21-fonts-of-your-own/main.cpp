@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Fonts that the program ships, without installing them. The first argument is a font file or a directory.
 
 #include "ui/qt/util/Fonts.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The library uses two services of the host: help and settings. Here the host replaces both.
 
 #include "host/ApplicationSettings.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Observing properties without knowing their types: one flag for "something is not saved yet". No window appears.
 
 #include "property/Property.h"

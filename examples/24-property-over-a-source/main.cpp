@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A property whose value is stored elsewhere, here in an environment variable. No window appears.
 
 #include "property/PropertyAbstract.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Errors with a reason, also for the host's own code: all of them can be caught as one type. No window appears.
 
 #include "host/ExceptionBase.h"

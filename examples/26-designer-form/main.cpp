@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A form made with Qt Designer: MeasurementForm.ui contains the library's widgets, and uic generates the class
 // Ui::MeasurementForm from it. To change the form, open it with Designer; the installed plugin provides the widgets.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A test of code that opens a file dialog. No window appears, and the test plays the user.
 
 #include "testing/RecordingDialog.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A test of code that saves. The test answers the dialog and the questions after it.
 
 #include "testing/QuestionScript.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "GalleryWindow.h"
 #include "LogPane.h"
 #include "Page.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Feeds the files and directories on the command line to a harness. This checks the corpora in builds without a fuzzer.
 // Fails when there is nothing to feed.
 #include <algorithm>

@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # check.sh [--renew] CONDITIONS DESCRIPTIONS HEADERS WORK-DIR LIBRARY...
 #
 # Compares libraries with the committed descriptions of their binary interface: the exported symbols, the classes with their

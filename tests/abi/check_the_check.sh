@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # check_the_check.sh COMPILER WORK-DIR: whether check.sh finds changes of a small library, and names them.
 set -eu
 compiler=$1 work=$2

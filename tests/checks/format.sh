@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Every C++ source is formatted as .clang-format says; other versions of clang-format differ in details.
 case $(clang-format --version 2>/dev/null) in
 *' 14.'*) ;;

@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Who may include whom, and where platform headers and operating-system conditionals may stand. Runs in the project's
 # root.
 failed=0

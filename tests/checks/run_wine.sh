@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # The behaviour of packaging/windows/run-wine, with stand-ins for Wine, Wine's server and the X server: what does not start
 # is tried once more, what fails is not, and nothing ends without a word.
 # shellcheck disable=SC2016 # the programs expand their variables themselves

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # find_package(Morvane) accepts only the release of Boost that Morvane was built with. The Boosts are imitations, with enough in
 # them to be found.
 cmake_minimum_required(VERSION 3.25)

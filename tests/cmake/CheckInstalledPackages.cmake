@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Builds Morvane with CTK and Qxt as installed packages, and runs consumers of it: one that embeds it, and those that find it
 # installed and in its build directory, through CMake and pkg-config.
 #

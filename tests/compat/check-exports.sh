@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # check-exports.sh LIBRARY: what the library exports never has the name of a class of CTK or Qxt in the global namespace.
 # A program that links those, too, would mix the two up. Exit code 77 means that this machine cannot look.
 command -v nm >/dev/null 2>&1 || {

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Nothing of Morvane may be found as a header of CTK or Qxt, in whatever case the file system compares names.
 get_target_property(directories Morvane::Ui INTERFACE_INCLUDE_DIRECTORIES)
 foreach(directory IN LISTS directories)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Builds and runs one consumer project in a fresh directory.
 include(${CMAKE_CURRENT_LIST_DIR}/Run.cmake)
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Uses one piece of each library with nothing but the installed headers, and with Qt's keywords switched on.
 #include "host/StringConversion.h"
 #include "property/Property.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Arguments that nobody should pass: they are refused, and nothing changes.
 #include "contract/PortableShells.h"
 

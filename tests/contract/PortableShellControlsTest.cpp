@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Calls for custom controls that do not exist or are of another kind.
 #include "contract/PortableShells.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Which parts of the interfaces our own Shells implement, and what the other parts return.
 #include "contract/PortableShells.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // What a host may do to a dialog of our own Shells while it runs.
 #include "contract/PortableShells.h"
 

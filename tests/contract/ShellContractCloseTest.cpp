@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Ending a dialog from within the callbacks of its sink.
 #include "contract/ShellContract.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "contract/ShellContract.h"
 #include "contract/WindowsDifferences.h"
 #include "windows/NativeDialog.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "e2e/Eventually.h"
 #include "e2e/GallerySession.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Each allocation fails in turn. Nothing may leak, and afterwards, all objects must be as the headers promise.
 #include "faults/AllocationFaults.h"
 #include "property/Property.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Each system call of the write probe fails in turn.
 #include "faults/SystemCallFaults.h"
 #include "support/DiskState.h"

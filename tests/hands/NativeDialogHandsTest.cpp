@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The native dialog and the launcher, used with keyboard and mouse.
 #include "hands/HandsTest.h"
 #include "support/FileDialogDriver.h"

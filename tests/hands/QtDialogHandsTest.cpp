@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The file dialogs made of widgets: Qt's, and the replacement of the native dialog.
 #include "hands/HandsTest.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The save flow, on the native dialog and on the Qt dialog, used with keyboard and mouse.
 #include "hands/HandsTest.h"
 #include "support/FileDialogDriver.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Files that cannot be read or written, in the ways that only exist on Unix.
 
 #include "host/SettingsFixture.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Help pages behind symbolic links. Not on Windows: links need a privilege there, and Qt makes shortcuts instead.
 #include "host/HelpLauncherFixture.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A second process for the tests of the settings: settings_worker MODE FILE [ARGUMENT...]
 
 #include "host/ApplicationSettings.h"

@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # usage: exports.sh FILE TARGET HEADER... -- CHECK [ARGUMENT...]
 #
 # The library FILE, which CHECK builds as TARGET, exports all that its public HEADERs declare and it defines. The names of its

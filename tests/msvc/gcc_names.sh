@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # No source that Windows compiles uses names that only GCC, clang or POSIX systems know, and tools/msvc/gcc-names finds
 # them. Runs in the project's root.
 set -eu

@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # usage: refuses.sh NAME CHECK [ARGUMENT...]
 #
 # CHECK, which builds targets, accepts refused/NAME.cpp, and refuses it with its fault, for the reason in its first line.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 """Small changes to lines of C++: which there are, and how several of them fit into one line that chooses when it runs."""
 
 import re

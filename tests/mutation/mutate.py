@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 """Changes the library's sources in one small way at a time and sees whether a test notices.
 
     ./dev mutate [--sample N] [--seed N] [--files PATTERN] [--again FILE] [--list]

@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # check_repack.sh CMAKE WORK-DIR: whether packaging/repack makes the same archive of the same files, whatever their order in the
 # directory, their times, the umask and the time zone were; and another archive of other files.
 set -eu

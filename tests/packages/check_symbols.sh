@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # check_symbols.sh PACKAGE VERSION DIRECTORY WORK-DIR: whether the libraries in DIRECTORY export what
 # packaging/debian/PACKAGE.symbols lists, and whether a name that is missing or new is noticed.
 set -eu

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "property/Property.h"
 
 #include <boost/signals2/shared_connection_block.hpp>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The steps of setting a value, each of which a subclass can replace.
 
 #include "property/Property.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "soak/DialogAnswer.h"
 #include "soak/Platform.h"
 #include "soak/Subject.h"

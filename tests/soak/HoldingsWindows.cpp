@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Wine 8 answers GetProcessHandleCount and GetGuiResources with 0. Therefore this file counts other data: the system's
 // list of handles, the table of GDI objects, which every process can read, and the windows and menus themselves.
 #include "soak/Holdings.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Opens and closes every dialog and widget many times and checks the resources of the process. Not part of the tests
 // that run automatically: `./dev soak [--windows] [CYCLES [NAME...]]`.
 #include "soak/Holdings.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // What Qt 5 and Qt 6 spell differently. The only place of the tests that asks for the version of Qt.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Questions answered by a script, asked by the save flow and by a host.
 #include "testing/QuestionScript.h"
 

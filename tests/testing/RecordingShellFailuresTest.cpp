@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Every call of the recording Shell can be made to fail; a failed call has no effect and leaks nothing.
 #include "testing/RecordingControls.h"
 #include "testing/RecordingDialog.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The recording Shell as the tests of a host use it: through the library's own dialog classes.
 #include "testing/RecordingShell.h"
 #include "testing/RecordingControls.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Push buttons, check boxes, the menu of the accept button, and their stand-in widgets.
 #include "host/HelpLauncher.h"
 #include "host/InstanceOverride.h"

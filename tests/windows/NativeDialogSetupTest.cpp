@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // What the dialog shows when it opens.
 #include "windows/NativeDialogFixture.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // File types, and the extension of the typed name that follows them in a save dialog. The Shell under test may change
 // extensions on its own, so the tests expect results that only our rule gives.
 #include "windows/NativeDialogFixture.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The launcher on the Shell's own dialog, used with the mouse: the first sample of the README, and several files.
 #include "ui/qt/dialogs/LaunchFileDialog.h"
 #include "windows/Mouse.h"

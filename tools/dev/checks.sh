@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
 # Commands of ./dev that check the code with tools: coverage, tidy, ubsan, valgrind, soak, mutate. ./dev sources this file
 # and provides the functions and the lists of packages.

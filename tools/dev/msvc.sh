@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
 # The command "./dev msvc-check" compiles with clang as Microsoft's compiler would. ./dev sources this file and provides the
 # functions need, configure and run_tests.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
 # The command "./dev package" makes binary packages and checks that they can be installed, used and removed. ./dev sources
 # this file and provides the functions need, step and die.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # shellcheck shell=sh disable=SC2154 # the lists of packages are in ./dev
 # The command "./dev windows" cross-builds for Windows and runs the tests under Wine. "./dev package windows" makes the ZIP.
 # ./dev sources this file and provides the functions need, step, die, build and run_tests, and the variables qt_major and

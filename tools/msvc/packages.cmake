@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Answers find_package() with the machine's headers. The libraries of those packages are not for Windows: tools/msvc/link
 # stands in for them.
 

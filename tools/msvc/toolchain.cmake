@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Compiles as Microsoft's compiler does, with clang in the place of that compiler, libc++ in the place of its standard
 # library, and Wine's headers in the place of the Windows SDK. `include` has what is missing between those three.
 set(CMAKE_SYSTEM_NAME Windows)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "testing/RecordingDialogInterfaces_p.h"
 
 #include "testing/RecordingControls.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "testing/RecordingItems_p.h"
 
 #include "ui/qt/dialogs/shell/ComObject_p.h"

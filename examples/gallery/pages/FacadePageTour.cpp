@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "pages/ChosenFilesTable.h"
 #include "pages/FacadePage.h"
 #include "pages/FileDialogForm.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "pages/FormFieldsPage.h"
 #include "tour/TourUser.h"
 #include "ui/qt/controls/ComboBoxAutoFilter.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The tour where the operating system draws the dialog.
 #include "pages/ChosenFilesTable.h"
 #include "pages/FileDialogForm.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "pages/NumbersTablePage.h"
 #include "tour/TourUser.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "InlineNote.h"
 #include "pages/ChosenFilesTable.h"
 #include "pages/OpenFilesPage.h"

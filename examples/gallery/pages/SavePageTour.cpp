@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "pages/FileDialogForm.h"
 #include "pages/SavePage.h"
 #include "tour/OpenFileDialog.h"

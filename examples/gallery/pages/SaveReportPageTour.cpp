@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "pages/FileDialogForm.h"
 #include "pages/Report.h"
 #include "pages/SaveReportPage.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Uses each library of the package. It needs no display.
 #include "host/StringConversion.h"
 #include "property/Property.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The host services as a host with a settings store and a help system of its own would implement them.
 #include "EngineHost.h"
 

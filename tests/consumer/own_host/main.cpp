@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The library must reach the host's own settings store, not the default one.
 #include "EngineHost.h"
 

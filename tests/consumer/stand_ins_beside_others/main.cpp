@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Uses both labels and both completers in one process, and in one source.
 #include <ctkCompleter.h>
 #include <QxtLabel>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The test of a host: it checks what a function does with the result of the dialog that it opens.
 #include "testing/RecordingDialog.h"
 #include "testing/RecordingShell.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // refused: use of undeclared identifier 'M_PI'
 #ifndef FAULT
 #define _USE_MATH_DEFINES

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // refused: expected unqualified-id
 // <windows.h> has macros of these names.
 #include <windows.h>

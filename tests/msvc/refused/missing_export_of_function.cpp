@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // refused: undefined symbol: int __cdecl exportedFunction(void)
 #include "MissingExport.h"
 

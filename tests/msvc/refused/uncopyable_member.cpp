@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // refused: call to implicitly-deleted copy constructor
 // Exporting a class exports its copy constructor, too, so it is compiled. Other compilers only compile it when it is
 // used.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 """Runs the Conan recipe and its test package with stand-ins for what Conan gives them: once in earnest, and for every
 choice of options up to what it tells CMake. Usage: check_recipe.py SOURCE_TREE WORK_DIR VERSION QT_MAJOR"""
 

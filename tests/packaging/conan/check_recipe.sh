@@ -1,4 +1,7 @@
 #!/bin/sh
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Exit code 77 means that this machine cannot run the check.
 if ! command -v python3 >/dev/null; then
     echo 'skipped: python3 is not installed'

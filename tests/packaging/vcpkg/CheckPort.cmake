@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Runs the vcpkg port with stand-ins for what vcpkg gives it: what it asks for with which features, and once in earnest. A
 # program is linked with what it installs.
 cmake_minimum_required(VERSION 3.25)

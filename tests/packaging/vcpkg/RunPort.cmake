@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Runs the port the way vcpkg does: -DFEATURES=core,... -DWORK_DIR=... [-DCONFIGURE_ONLY=ON]. The package is in WORK_DIR/package
 # then, and what the port called is in WORK_DIR/calls.txt.
 cmake_minimum_required(VERSION 3.25)

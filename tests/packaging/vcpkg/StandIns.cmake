@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Stand-ins for what vcpkg gives a port, as its documentation describes it. Each call is written to RECORD, one a line. With
 # CONFIGURE_ONLY, nothing is built or installed.
 #

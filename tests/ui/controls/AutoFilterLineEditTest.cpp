@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The line edit without a combo box, with a completer whose connections can be counted.
 #include "ui/qt/controls/AutoFilterLineEdit_p.h"
 

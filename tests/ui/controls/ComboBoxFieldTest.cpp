@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The combo box as a field of a form, as far as no events from the window system are needed.
 #include "ComboBoxForm.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // For each dialog, native and Qt: nested dialogs, and the end of the application while a dialog is open.
 #include "support/ActiveWindow.h"
 #include "support/FileDialogDriver.h"

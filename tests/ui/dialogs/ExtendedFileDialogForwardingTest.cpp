@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Each setting of the facade, and its effect on the native dialog and on the Qt dialog.
 #include "ExtendedFileDialogTest.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // What the launcher passes to the native dialog, call by call.
 #include "support/ActiveWindow.h"
 #include "testing/RecordingDialog.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Behaviour that the launcher has only with the dialog made of Qt's widgets.
 #include "LaunchFileDialogTest.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The launcher as a user sees it, with both dialogs.
 #include "LaunchFileDialogTest.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The appearance of the dialog when it opens for the first time.
 #include "FileDialogTest.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The save flow with a host's own message handler.
 #include "SaveFileDialogFixture.h"
 

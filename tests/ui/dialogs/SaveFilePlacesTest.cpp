@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The save flow at places that change or refuse access.
 #include "SaveFileDialogFixture.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The ways to construct the three save-file classes, and the dialogs that they make.
 #include "support/FileDialogDriver.h"
 #include "support/ModalScript.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The warnings of debug builds when a GUI class is used in another thread.
 #include "support/MessageLog.h"
 #include "ui/qt/controls/IntegralSpinBox.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // As with Microsoft's library, the constants exist only if the source asks for them; Wine's header always defines them.
 #include_next <math.h>
 #ifndef _USE_MATH_DEFINES

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // What libc++ and Qt expect of Microsoft's library, and libc++ and Wine's headers do not declare. Every source includes
 // this first.
 #pragma once

@@ -1,1 +1,4 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #error "Microsoft's library has no <unistd.h>; Wine's headers have one"

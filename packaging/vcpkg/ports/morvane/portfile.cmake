@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # Builds the source tree that this port is a part of. It fetches nothing.
 vcpkg_check_linkage(ONLY_DYNAMIC_LIBRARY)
 cmake_path(SET SOURCE_PATH NORMALIZE "${CURRENT_PORT_DIR}/../../../..")

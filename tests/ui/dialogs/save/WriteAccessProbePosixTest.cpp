@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Features of POSIX systems only: links, permissions of users, pipes, limits.
 #include "WriteAccessProbeFixture.h"
 

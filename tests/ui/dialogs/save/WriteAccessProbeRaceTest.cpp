@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The probe while another thread makes files and renames them to the name that is probed.
 #include "WriteAccessProbeFixture.h"
 

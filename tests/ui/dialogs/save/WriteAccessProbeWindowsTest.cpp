@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Features of Windows only: open files that are locked, attributes, names without distinction of case.
 #include "windows/ExclusiveFile.h"
 

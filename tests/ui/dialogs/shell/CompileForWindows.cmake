@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 # cmake -D COMPILER=... -D INCLUDES=a,b -D SOURCES=c,d -P CompileForWindows.cmake
 if(NOT COMPILER OR COMPILER MATCHES "NOTFOUND")
     message("no compiler for Windows was found at configure time")

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The arrow on the accept button and its menu.
 #include "WidgetShellRunTest.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // What the user may choose with which options, and what can be read of the choice before the user accepts.
 #include "WidgetShellRunTest.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The controls of the host among those of the dialog.
 #include "WidgetShellRunTest.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The dialog of a desktop in place of Qt's widgets. The test implements Qt's platform interface to the desktop.
 #include "WidgetShellRunTest.h"
 

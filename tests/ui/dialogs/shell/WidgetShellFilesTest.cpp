@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The files and folders that a dialog of widgets accepts.
 #include "WidgetShellRunTest.h"
 

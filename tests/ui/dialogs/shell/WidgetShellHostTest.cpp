@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // Unusual actions of a host on a dialog of widgets: before it runs, while it runs, and the places where it is run.
 #include "WidgetShellRunTest.h"
 

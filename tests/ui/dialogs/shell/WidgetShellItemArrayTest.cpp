@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The names and attributes of items and of what several files have in common.
 #include "WidgetShellRunTest.h"
 

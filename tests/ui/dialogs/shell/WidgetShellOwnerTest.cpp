@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The owner of the dialog, and outside events that end a run.
 #include "WidgetShellRunTest.h"
 

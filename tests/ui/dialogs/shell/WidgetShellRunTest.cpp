@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The texts and the types of a dialog of widgets.
 #include "WidgetShellRunTest.h"
 

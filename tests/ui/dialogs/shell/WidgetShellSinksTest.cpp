@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The common decision of all event sinks of a host, and its effect on a choice.
 #include "WidgetShellRunTest.h"
 

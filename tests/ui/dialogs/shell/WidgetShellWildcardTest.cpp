@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // A wildcard in the name field filters the listed files, and is never accepted as a name.
 #include "WidgetShellRunTest.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 // The types that Qt's OpenGL headers need. Wine does not have the header.
 #pragma once
 typedef unsigned int GLenum;

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "ui/qt/controls/AutoFilterPick_p.h"
 
 #include "ui/qt/controls/AutoFilterEntries_p.h"

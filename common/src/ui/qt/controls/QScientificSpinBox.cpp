@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "ui/qt/controls/QScientificSpinBox.h"
 
 #include "ui/qt/controls/NumberLineValidator_p.h"

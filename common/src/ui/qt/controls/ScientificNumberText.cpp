@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "ui/qt/controls/ScientificNumberText_p.h"
 
 #include "ui/qt/controls/DigitSearch_p.h"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 """Stand-ins for what Conan 2 gives a recipe, as its documentation describes it. What is not here, a recipe cannot use."""
 
 import os

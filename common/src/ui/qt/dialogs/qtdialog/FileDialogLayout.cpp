@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "ui/qt/dialogs/qtdialog/FileDialogLayout_p.h"
 
 #include "ui/qt/dialogs/qtdialog/QtFileDialogNames_p.h"

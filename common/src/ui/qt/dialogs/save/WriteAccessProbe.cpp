@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "ui/qt/dialogs/save/WriteAccessProbe_p.h"
 
 #include "ui/qt/util/FilePath_p.h"

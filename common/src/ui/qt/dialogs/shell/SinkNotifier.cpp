@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "ui/qt/dialogs/shell/SinkNotifier_p.h"
 
 #include "ui/qt/dialogs/shell/WidgetShellItem_p.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
 #include "ui/qt/dialogs/shell/WindowsShell_p.h"
 
 namespace morvane::ui {

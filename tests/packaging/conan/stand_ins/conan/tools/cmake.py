@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The Morvane authors
+# SPDX-License-Identifier: MIT
+
 """CMake runs in earnest. Qt and Boost are those of the system; what the recipe requires of Morvane is on the prefix path."""
 
 import os
