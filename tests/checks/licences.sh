@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: MIT
 
 # Each file has a licence and a copyright holder, the text of the licence is in LICENSES, and source files and scripts say
-# both in their first lines. The files of packaging/windows do not: they are the key of the toolchains that users keep.
+# both in their first lines. The files of packaging/windows/sdk do not: an SDK that was made is known by their bytes.
 # Runs in the project's root.
 if ! command -v reuse >/dev/null; then
     echo 'skipped: reuse is not installed'
@@ -13,7 +13,7 @@ if ! git rev-parse --git-dir >/dev/null 2>&1; then
     echo 'skipped: without git, reuse takes what is built for sources'
     exit 77
 fi
-silent=$(git ls-files '*.h' '*.cpp' '*.cmake' '*.sh' '*.py' '*CMakeLists.txt' | grep -v '^packaging/windows/' |
+silent=$(git ls-files '*.h' '*.cpp' '*.cmake' '*.sh' '*.py' '*CMakeLists.txt' | grep -v '^packaging/windows/sdk/' |
     while read -r file; do
         [ "$(head -n 3 "$file" | grep -c '^\(//\|#\) SPDX-\(FileCopyrightText: \|License-Identifier: MIT$\)')" = 2 ] ||
             echo "$file"

@@ -75,6 +75,7 @@ TEXT
 
 stand_in wine <<'TEXT'
 case $1 in
+--version) echo "wine-$(cat "$state/version" 2>/dev/null || echo 8.0) (stand-in)" ;;
 wineboot)
     mkdir -p "$WINEPREFIX/drive_c/users"
     : >"$WINEPREFIX/system.reg"
@@ -214,7 +215,7 @@ expect_runs 1
 expect_output 'first line'
 expect_told "Wine's server ended while .* ran"
 
-ends_display='kill -KILL $(cut -d " " -f 1 '$scratch/home/1/display'); sleep 0.2'
+ends_display='kill -KILL $(cut -d " " -f 1 '$scratch/home/wine-8.0/1/display'); sleep 0.2'
 run 'the X server ends meanwhile' "echo one; $ends_display; exit 4"
 expect_status 4
 expect_runs 1
@@ -224,6 +225,15 @@ run 'the X server ends and the program does not tell' "echo one; $ends_display"
 expect_status 125
 expect_runs 1
 expect_told 'the X server ended while .* ran'
+
+run 'the prefix of this version of Wine' 'echo $WINEPREFIX'
+expect_output "$scratch/home/wine-8.0/1/prefix"
+fresh_place
+echo 10.0 >"$state/version"
+run 'another version of Wine has a prefix of its own' 'echo $WINEPREFIX'
+expect_status 0
+expect_output "$scratch/home/wine-10.0/1/prefix"
+[ -e "$scratch/home/wine-8.0/1/prefix" ] || fail 'the other one is gone'
 
 run 'after all that' 'echo one'
 expect_status 0

@@ -7,17 +7,23 @@
 # qt_suffix.
 
 windows_run_packages='wine wine64 fonts-wine xvfb'
+wine_root_packages="$windows_run_packages cmake fonts-dejavu"
 
 windows_usage() {
     cat <<'TEXT'
-usage: ./dev windows [--sdk DIR] [ARGUMENTS]
+usage: ./dev windows [--sdk DIR] [--wine-root] [ARGUMENTS]
 
-  --sdk DIR  use this SDK (Qt, Boost.Filesystem and GoogleTest for MinGW-w64) instead of making one
-  ARGUMENTS  go to ctest (-R NAME, ...)
+  --sdk DIR    use this SDK (Qt, Boost.Filesystem and GoogleTest for MinGW-w64) instead of making one
+  --wine-root  run the tests under the Wine of the Debian release that follows this machine's own, in a root of that release
+  ARGUMENTS    go to ctest (-R NAME, ...); without them the gallery's tour follows the tests
 
 The first run makes the SDK, which takes about 15 minutes, for Qt 6 longer. Exit status 77 means skipped: the source
 packages for the SDK cannot be reached. Each major version of Qt has an SDK and a build directory of its own:
 "./dev --qt 6 windows".
+
+--wine-root needs root, for making the root and for running in it. The root is kept in $XDG_CACHE_HOME/morvane/next, or
+~/.cache/morvane/next. Exit status 77 then also means that there is no next release, or that the machine's apt sources do
+not have it.
 TEXT
 }
 
@@ -71,21 +77,65 @@ windows_prepare() {
     windows_configure "$sdk"
 }
 
-cmd_windows() {
-    case ${1:-} in
-    --help | -h)
-        windows_usage
-        return
-        ;;
-    --sdk)
-        windows_build "$@"
-        shift 2
-        ;;
-    *) windows_build ;;
-    esac
+# Makes the root for --wine-root; sets wine_root and wine_root_output.
+windows_make_wine_root() {
     status=0
-    run_tests windows "$@" || status=$?
-    windows_stop_wine
+    release=$(tools/next-root release) || status=$?
+    [ "$status" = 0 ] || exit "$status"
+    # shellcheck disable=SC2086 # the list is to be split
+    need $next_host_packages
+    wine_root=${XDG_CACHE_HOME:-$HOME/.cache}/morvane/next/$release-wine
+    # shellcheck disable=SC2086 # the list is to be split
+    as_root tools/next-root make "$wine_root" "$release" $wine_root_packages
+}
+
+# windows_run COMMAND [ARGUMENT...]: here, or in the root with the newer Wine.
+windows_run() {
+    if [ -z "$wine_root" ]; then
+        "$@"
+    else
+        as_root tools/next-root run --see "$MORVANE_WINDOWS_SDK" "$wine_root" "$(pwd)" "$(windows_directory)" "$@"
+    fi
+}
+
+# The processes of a root end with the command that was run there, Wine's too.
+windows_run_tests() {
+    step "running the tests under $(windows_run wine --version 2>/dev/null)"
+    windows_run ctest --test-dir "$(pwd)/$(windows_directory)" --output-on-failure --no-tests=error -j "$(nproc)" "$@"
+}
+
+windows_run_tour() {
+    step "the gallery's tour"
+    windows_run env QT_QPA_PLATFORM=windows packaging/windows/run-wine --home "$(windows_directory)/wine" \
+        --sdk "$MORVANE_WINDOWS_SDK" -- "$(windows_directory)/bin/morvane-gallery.exe" --tour "$(windows_directory)/tour"
+}
+
+cmd_windows() {
+    wine_root=''
+    sdk_option=''
+    with_wine_root=no
+    while [ $# -gt 0 ]; do
+        case $1 in
+        --help | -h)
+            windows_usage
+            return
+            ;;
+        --sdk)
+            [ $# -ge 2 ] || die '--sdk wants a directory'
+            sdk_option=$2
+            shift
+            ;;
+        --wine-root) with_wine_root=yes ;;
+        *) break ;;
+        esac
+        shift
+    done
+    [ "$with_wine_root" = no ] || windows_make_wine_root
+    windows_build ${sdk_option:+--sdk "$sdk_option"}
+    status=0
+    windows_run_tests "$@" || status=$?
+    [ "$status" != 0 ] || [ $# -gt 0 ] || windows_run_tour || status=$?
+    [ -n "$wine_root" ] || windows_stop_wine
     return "$status"
 }
 
