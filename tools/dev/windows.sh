@@ -15,7 +15,7 @@ usage: ./dev windows [--sdk DIR] [--wine-root] [ARGUMENTS]
 
   --sdk DIR    use this SDK (Qt, Boost.Filesystem and GoogleTest for MinGW-w64) instead of making one
   --wine-root  run the tests under the Wine of the Debian release that follows this machine's own, in a root of that release
-  ARGUMENTS    go to ctest (-R NAME, ...); without them the gallery's tour follows the tests
+  ARGUMENTS    go to ctest (-R NAME, ...)
 
 The first run makes the SDK, which takes about 15 minutes, for Qt 6 longer. Exit status 77 means skipped: the source
 packages for the SDK cannot be reached. Each major version of Qt has an SDK and a build directory of its own:
@@ -77,7 +77,7 @@ windows_prepare() {
     windows_configure "$sdk"
 }
 
-# Makes the root for --wine-root; sets wine_root and wine_root_output.
+# Makes the root for --wine-root and sets wine_root.
 windows_make_wine_root() {
     status=0
     release=$(tools/next-root release) || status=$?
@@ -104,12 +104,6 @@ windows_run_tests() {
     windows_run ctest --test-dir "$(pwd)/$(windows_directory)" --output-on-failure --no-tests=error -j "$(nproc)" "$@"
 }
 
-windows_run_tour() {
-    step "the gallery's tour"
-    windows_run env QT_QPA_PLATFORM=windows packaging/windows/run-wine --home "$(windows_directory)/wine" \
-        --sdk "$MORVANE_WINDOWS_SDK" -- "$(windows_directory)/bin/morvane-gallery.exe" --tour "$(windows_directory)/tour"
-}
-
 cmd_windows() {
     wine_root=''
     sdk_option=''
@@ -134,7 +128,6 @@ cmd_windows() {
     windows_build ${sdk_option:+--sdk "$sdk_option"}
     status=0
     windows_run_tests "$@" || status=$?
-    [ "$status" != 0 ] || [ $# -gt 0 ] || windows_run_tour || status=$?
     [ -n "$wine_root" ] || windows_stop_wine
     return "$status"
 }
