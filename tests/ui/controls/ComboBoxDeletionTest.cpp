@@ -3,6 +3,8 @@
 
 #include "ComboBoxForm.h"
 
+#include <ostream>
+
 using morvane::test::pressKey;
 using morvane::test::type;
 
@@ -14,6 +16,11 @@ enum class Disposal
     Delete,
     DeleteLater
 };
+
+void PrintTo(Disposal disposal, std::ostream* out)
+{
+    *out << (disposal == Disposal::Delete ? "delete" : "deleteLater()");
+}
 
 class ComboBoxDeletion : public morvane::test::ComboBoxForm, public ::testing::WithParamInterface<Disposal>
 {

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 
 #include <limits>
+#include <ostream>
 #include <type_traits>
 
 namespace {
@@ -30,6 +31,11 @@ struct WrapCase
     int steps;
     int result;
 };
+
+void PrintTo(const WrapCase& c, std::ostream* out)
+{
+    *out << c.value << " after " << c.steps << " steps of " << c.singleStep;
+}
 
 class IntegralSpinBoxWrap : public ::testing::TestWithParam<WrapCase>
 {

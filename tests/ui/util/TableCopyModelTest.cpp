@@ -11,6 +11,7 @@
 #include <QStandardItemModel>
 
 #include <memory>
+#include <ostream>
 
 namespace {
 
@@ -212,6 +213,11 @@ struct CellText
     QVariant data;
     QString text;
 };
+
+void PrintTo(const CellText& c, std::ostream* out)
+{
+    *out << c.what;
+}
 
 class TableCopyModelCellTextTest : public morvane::test::TableCopyFixture,
                                    public ::testing::WithParamInterface<CellText>

@@ -9,6 +9,7 @@
 
 #include <boost/filesystem/path.hpp>
 
+#include <ostream>
 #include <random>
 #include <string>
 
@@ -25,6 +26,12 @@ struct RuleCase
     const char* nameFilter;
     const char* expected;
 };
+
+void PrintTo(const RuleCase& c, std::ostream* out)
+{
+    *out << testing::PrintToString(std::string(c.filename)) << " as "
+         << testing::PrintToString(std::string(c.nameFilter));
+}
 
 class SaveFileExtensionTest : public testing::TestWithParam<RuleCase>
 {
