@@ -4,14 +4,14 @@
 
 # usage: refuses.sh NAME CHECK [ARGUMENT...]
 #
-# CHECK, which builds targets, accepts refused/NAME.cpp, and refuses it with its fault, for the reason in its first line.
+# CHECK, which builds targets, accepts refused/NAME.cpp, and refuses it with its fault, for the reason that it gives itself.
 set -eu
 here=$(dirname "$0")
 name=$1
 shift
-reason=$(sed -n '1s,^// refused: ,,p' "$here/refused/$name.cpp")
+reason=$(sed -n 's,^// refused: ,,p' "$here/refused/$name.cpp")
 [ -n "$reason" ] || {
-    echo "$name.cpp does not give the reason in its first line"
+    echo "$name.cpp does not give the reason (// refused: ...)"
     exit 1
 }
 

@@ -11,7 +11,7 @@ package_check_packages='mmdebstrap'
 package_usage() {
     cat <<'TEXT'
 usage: ./dev package [--no-check]
-       ./dev package windows
+       ./dev package windows [--no-check] [--sdk DIR]
 
 Makes the .deb packages (run time and development) and a .tar.gz in build/package/packages, or with --qt 6 in
 build/package-qt6/packages. Then builds them again in another directory, and the bytes must be the same. Then installs
@@ -19,7 +19,7 @@ the .deb files in a fresh root made for that, builds and runs a small program th
 root; it takes a few minutes and fetches packages with the machine's own apt sources. --no-check leaves out both. The
 packages for Qt 5 and those for Qt 6 can be installed side by side; when both have been made, that is tried, too.
 
-"windows" makes the ZIP for Windows, which is made, too, when build/windows is there.
+"windows" makes the ZIP for Windows, twice as well. "./dev package" makes it, too, once, when build/windows is there.
 TEXT
 }
 
@@ -61,30 +61,31 @@ package_linux() {
     step "the packages are in $(pwd)/$package/packages"
 }
 
-# Builds the packages a second time: from a copy of the sources in another directory, with other file times, umask, time zone
-# and language. They must be the same, byte for byte.
+# package_compare DIRECTORY [ARGUMENT...]: builds the packages of DIRECTORY a second time, with these arguments: from a copy of
+# the sources in another directory, with other file times, umask, time zone and language. They must be the same, byte for byte.
 package_compare() {
     step 'building the packages again, in another directory'
-    packages=$(pwd)/$package/packages
+    directory=$1
+    shift
     copy=$(mktemp -d "${TMPDIR:-/tmp}/morvane-again.XXXXXX")
     mkdir "$copy/another-directory"
     git ls-files -z | xargs -0 cp --parents -t "$copy/another-directory"
     (
         cd "$copy/another-directory"
         umask 027
-        TZ=Pacific/Auckland LC_ALL=C ./dev --no-install --qt "$qt_major" package --no-check
-    ) >"$package.log" 2>&1 || {
-        tail -n 40 "$package.log" >&2
+        TZ=Pacific/Auckland LC_ALL=C ./dev --no-install --qt "$qt_major" package "$@" --no-check
+    ) >"$directory.log" 2>&1 || {
+        tail -n 40 "$directory.log" >&2
         die "the second build failed; it is in $copy"
     }
     different=''
-    for file in "$packages"/*; do
-        cmp -s "$file" "$copy/another-directory/$package/packages/$(basename "$file")" ||
+    for file in "$directory/packages"/*; do
+        cmp -s "$file" "$copy/another-directory/$directory/packages/$(basename "$file")" ||
             different="$different $(basename "$file")"
     done
     [ -z "$different" ] || die "the second build, in $copy, gives other bytes:$different"
     rm -rf "$copy"
-    step "both builds are the same, byte for byte: $(cd "$packages" && echo *)"
+    step "both builds are the same, byte for byte: $(cd "$directory/packages" && echo *)"
 }
 
 package_check() {
@@ -94,6 +95,25 @@ package_check() {
     set -- "$package/packages"
     [ ! -d "$other/packages" ] || set -- "$@" "$other/packages"
     as_root sh packaging/check-debs "$@"
+}
+
+cmd_package_windows() {
+    check=yes
+    sdk_option=''
+    while [ $# -gt 0 ]; do
+        case $1 in
+        --no-check) check=no ;;
+        --sdk)
+            [ $# -ge 2 ] || die '--sdk wants a directory'
+            sdk_option=$2
+            shift
+            ;;
+        *) die "unknown argument: $1" ;;
+        esac
+        shift
+    done
+    package_windows ${sdk_option:+--sdk "$sdk_option"}
+    [ "$check" = no ] || package_compare "$(windows_directory)" windows --sdk "$MORVANE_WINDOWS_SDK"
 }
 
 cmd_package() {
@@ -106,7 +126,7 @@ cmd_package() {
     windows)
         command -v package_windows >/dev/null || die 'there is no package for Windows yet'
         shift
-        package_windows "$@"
+        cmd_package_windows "$@"
         return
         ;;
     --no-check) check=no ;;
@@ -119,7 +139,7 @@ cmd_package() {
         package_windows
     fi
     [ "$check" = yes ] || return 0
-    package_compare
+    package_compare "$package"
     need "$package_check_packages"
     package_check
 }

@@ -155,8 +155,7 @@ TEST_F(WidgetShellHost, takesThePatternsOfATypeApartWhateverIsBetweenThem)
 
 TEST_F(WidgetShellHost, seesHiddenFilesWhenItAsksForThem)
 {
-    QFile hidden(folder.filePath(QStringLiteral(".hidden")));
-    ASSERT_TRUE(hidden.open(QIODevice::WriteOnly));
+    makeHiddenFile();
     for (const bool shown : {false, true}) {
         change(shown ? FILEOPENDIALOGOPTIONS(FOS_FORCESHOWHIDDEN) : 0);
         show([&](QFileDialog& window) {

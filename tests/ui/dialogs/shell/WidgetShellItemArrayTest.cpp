@@ -44,7 +44,7 @@ protected:
 
 TEST_F(WidgetShellItemArrayAttributes, ofAnItemTellWhatItIs)
 {
-    makeFile(".hidden");
+    makeHiddenFile();
     ASSERT_TRUE(QFile::link(folder.filePath(QStringLiteral("a.txt")), folder.filePath(QStringLiteral("link"))));
     ASSERT_TRUE(QFile::link(folder.filePath(QStringLiteral("inner")), folder.filePath(QStringLiteral("door"))));
     constexpr SFGAOF folderBits = SFGAO_FOLDER | SFGAO_FILESYSANCESTOR;
@@ -90,7 +90,7 @@ TEST_F(WidgetShellItemArrayAttributes, ofAnItemThatHasGoneAreThoseOfAFile)
 
 TEST_F(WidgetShellItemArrayAttributes, ofSeveralFilesAreThoseOfAllOrOfAny)
 {
-    makeFile(".hidden");
+    makeHiddenFile();
     const auto items = chosen(QStringLiteral("\"a.txt\" \".hidden\""));
     constexpr SFGAOF mask = SFGAO_STREAM | SFGAO_HIDDEN;
     SFGAOF read = 0;

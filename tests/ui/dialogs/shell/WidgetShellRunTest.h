@@ -41,6 +41,16 @@ protected:
         EXPECT_EQ(sink.references, 1u);
     }
 
+    /** Makes the file .hidden. A dot hides it, but not on Windows. */
+    void makeHiddenFile()
+    {
+        const QString path = folder.filePath(QStringLiteral(".hidden"));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+#ifdef Q_OS_WIN
+        ASSERT_TRUE(SetFileAttributesW(ui::toShellString(path).c_str(), FILE_ATTRIBUTE_HIDDEN));
+#endif
+    }
     void make(const CLSID& clsid)
     {
         if (dialog) {
@@ -120,7 +130,10 @@ protected:
         driver.pressAccept();
         EXPECT_TRUE(script.finished()) << "no message was shown";
     }
-    ui::ShellString text(const char* utf8) { return ui::toShellString(QString::fromUtf8(utf8)); }
+    ui::ShellString text(const char* utf8)
+    {
+        return ui::toShellString(QString::fromUtf8(utf8));
+    }
 
     static constexpr HRESULT cancelled = static_cast<HRESULT>(0x800704C7);
 
