@@ -16,7 +16,7 @@ namespace morvane::ui {
  * The arguments of LaunchFileDialog() by their names, as texts of Qt. Each setter returns the object, so that calls can
  * follow one another. What is not set keeps its initial value.
  *
- * @snippet 37-open-by-options/main.cpp options
+ * @snippet 01-open-files/main.cpp launch
  */
 class MORVANE_UI_EXPORT LaunchFileDialogOptions
 {
@@ -66,7 +66,7 @@ private:
  *                         none is chosen
  * @return whether the user accepted; if true, @p files has at least one file
  *
- * @snippet 37-open-by-options/main.cpp options
+ * @snippet 01-open-files/main.cpp launch
  */
 MORVANE_UI_EXPORT bool LaunchFileDialog(QStringList& files, int& filterIndex, const LaunchFileDialogOptions& options);
 
