@@ -29,29 +29,41 @@ public:
     ///@}
     ~LaunchFileDialogOptions();
 
+    ///@{
     /** The window title. Initially empty: the dialog chooses one. */
     LaunchFileDialogOptions& setCaption(const QString& caption);
     QString caption() const;
+    ///@}
 
+    ///@{
     /** One filter for each entry, such as `Images (*.png *.jpg)`. Initially, and if empty, all files. */
     LaunchFileDialogOptions& setNameFilters(const QStringList& nameFilters);
     QStringList nameFilters() const;
+    ///@}
 
+    ///@{
     /** The position of the filter at the start. Initially 0; out of range, it is the first filter. */
     LaunchFileDialogOptions& setInitialFilterIndex(int index);
     int initialFilterIndex() const;
+    ///@}
 
+    ///@{
     /** Paths as in LaunchFileDialog(). Initially empty: the dialog chooses the folder. */
     LaunchFileDialogOptions& setInitialSelection(const QStringList& paths);
     QStringList initialSelection() const;
+    ///@}
 
+    ///@{
     /** Whether it is a save dialog, in which the file need not exist. Initially false. */
     LaunchFileDialogOptions& setSaveMode(bool saveMode = true);
     bool saveMode() const;
+    ///@}
 
+    ///@{
     /** Whether the user may pick several files. Initially false. */
     LaunchFileDialogOptions& setAllowMultiple(bool allowMultiple = true);
     bool allowMultiple() const;
+    ///@}
 
 private:
     struct Impl;

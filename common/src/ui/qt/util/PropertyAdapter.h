@@ -36,7 +36,10 @@ class MORVANE_UI_EXPORT PropertyAdapter : public QObject
     Q_PROPERTY(QVariant value READ value WRITE setValue NOTIFY valueChanged USER true)
 
 public:
-    /** @param property if null, value() is invalid, and every value is rejected */
+    /**
+     * @param property if null, value() is invalid, and every value is rejected
+     * @param parent   the owner; may be null
+     */
     template <typename T>
     explicit PropertyAdapter(boost::shared_ptr<PropertyAbstract<T>> property, QObject* parent = nullptr)
         : PropertyAdapter(property ? accessTo(property) : Access{}, parent)
@@ -66,12 +69,13 @@ public:
      * The binding ends with @p object or with the adapter, whichever is destroyed first. One adapter may be bound to
      * several objects.
      *
+     * @param object may be null; nothing is bound then
      * @param name   a property with a notify signal; if empty, the object's user property, such as the text of a
      *               QLineEdit or the value of a QSpinBox
      * @param signal if not null, the signal that replaces the notify signal, in Qt's notation:
      *               `SIGNAL(editingFinished())`. A line edit needs it if the validator would reject a text that is not
      *               typed to its end.
-     * @return false if @p object is null or has no such property, or if there is no such signal; then nothing is bound
+     * @return whether it is bound; false if there is no such property or signal
      */
     bool bindTo(QObject* object, const QByteArray& name = QByteArray(), const char* signal = nullptr);
 
