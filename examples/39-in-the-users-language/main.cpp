@@ -7,9 +7,7 @@
 #include "ui/qt/util/Translations.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QPushButton>
-#include <QTranslator>
 
 int main(int argc, char** argv)
 {
@@ -17,11 +15,7 @@ int main(int argc, char** argv)
     const QLocale locale = argc > 1 ? QLocale(QString::fromLocal8Bit(argv[1])) : QLocale::system();
 
     //! [install]
-    // Qt's own texts first: the buttons of questions, the Qt file dialog.
-    QTranslator qtTexts;
-    if (qtTexts.load(locale, "qtbase", "_", QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(&qtTexts);
-    }
+    // The texts of the library and of Qt. Install the catalogue of the program itself after them.
     morvane::ui::installTranslations(locale);
     QGuiApplication::setLayoutDirection(locale.textDirection()); // right to left for Arabic
     //! [install]

@@ -77,7 +77,7 @@ windows_prepare() {
         given=$2
     fi
     # shellcheck disable=SC2046,SC2086 # the lists are to be split
-    need $(packaging/windows/make-sdk --qt "$qt_major" --packages) $windows_run_packages
+    need $(packaging/windows/make-sdk --qt "$qt_major" --packages) $windows_run_packages qttools5-dev-tools
     if [ -z "$given" ] && [ ! -f "$(packaging/windows/make-sdk --qt "$qt_major" --print-path)/complete" ]; then
         step 'making the SDK for Windows, once (about 15 minutes)'
     fi

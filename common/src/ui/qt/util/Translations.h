@@ -16,8 +16,12 @@ namespace morvane::ui {
  * Call it after the application object was created and before the first dialog or widget. Another call replaces the
  * language; widgets that exist keep the old texts. The catalogues are in the library, so no files are needed.
  *
- * The texts of Qt itself, such as those of its file dialog, come from Qt's own catalogues, and the direction of the
- * layout from `QGuiApplication::setLayoutDirection()`. The texts of a message handler of your own are not translated.
+ * Also installs the texts of Qt itself in the same language, such as those of its file dialog, if Qt's catalogue
+ * `qtbase` is where Qt was installed. A program that brings its own copy of it loads that itself. Catalogues that the
+ * program installs afterwards come first.
+ *
+ * The direction of the layout is that of `QGuiApplication::setLayoutDirection()`. The texts of a message handler of
+ * your own are not translated.
  *
  * @snippet 39-in-the-users-language/main.cpp install
  *
