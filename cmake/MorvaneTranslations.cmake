@@ -34,5 +34,4 @@ function(morvane_embed_translations target)
     set_source_files_properties(${directory}/Catalogues.cpp PROPERTIES SKIP_AUTOGEN ON SKIP_UNITY_BUILD_INCLUSION ON
         SKIP_PRECOMPILE_HEADERS ON)
     target_sources(${target} PRIVATE ${directory}/Catalogues.cpp)
-    target_compile_definitions(${target} PRIVATE MORVANE_HAS_CATALOGUES)
 endfunction()

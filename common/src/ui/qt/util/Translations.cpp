@@ -10,14 +10,6 @@
 
 #include <memory>
 
-// Outside of any namespace, as the macro wants it.
-static void initialiseCatalogues()
-{
-#ifdef MORVANE_HAS_CATALOGUES
-    Q_INIT_RESOURCE(morvane_translations);
-#endif
-}
-
 namespace morvane::ui {
 
 namespace {
@@ -77,7 +69,6 @@ bool installTranslations(const QLocale& locale)
     if (!QCoreApplication::instance()) {
         return false;
     }
-    initialiseCatalogues();
     delete installed.library.data(); // which also removes it from the application
     delete installed.qt.data();
     for (const QString& language : locale.uiLanguages()) {
