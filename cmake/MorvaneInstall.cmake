@@ -32,6 +32,15 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}ConfigV
 install(FILES ${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}Config.cmake ${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}ConfigVersion.cmake
         DESTINATION ${package_dir} COMPONENT Development)
 
+# The guides, and the examples that the headers name; the reference pages if the target morvane-docs has made them.
+set(documents ${CMAKE_INSTALL_DATADIR}/doc/morvane${MORVANE_SUFFIX})
+install(FILES README.md CHANGELOG.md DESTINATION ${documents} COMPONENT Development)
+install(DIRECTORY docs/guides docs/images DESTINATION ${documents}/docs COMPONENT Development)
+install(DIRECTORY docs/ DESTINATION ${documents}/docs COMPONENT Development FILES_MATCHING REGEX "/docs/[a-z-]+\\.md$")
+install(DIRECTORY examples/ DESTINATION ${documents}/examples COMPONENT Development
+    REGEX "/examples/(gallery|CMakeLists\\.txt)$" EXCLUDE)
+install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/html DESTINATION ${documents} COMPONENT Development OPTIONAL)
+
 include(MorvanePkgConfig)
 include(MorvaneSbom)
 if(PROJECT_IS_TOP_LEVEL AND WIN32)

@@ -3,7 +3,7 @@
 
 // One call asks for files; the window lists the chosen files.
 
-#include "ui/qt/dialogs/LaunchFileDialog.h"
+#include "ui/qt/dialogs/LaunchFileDialogOptions.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -22,24 +22,23 @@ int main(int argc, char** argv)
 
     //! [launch]
     // Both keep their values between two calls, so the next dialog starts with the last files and filter.
-    std::vector<std::string> files;
+    QStringList files;
     int filter = 0;
 
     QObject::connect(button, &QPushButton::clicked, &window, [&] {
-        const std::vector<std::string> filters = {"Measurements (*.dat *.csv)", "Text (*.txt)", "All files (*)"};
-        const bool saveMode = false;
-        const bool allowMultiple = true;
-        const std::vector<std::string> startAt(files.begin(), files.begin() + (files.empty() ? 0 : 1));
+        morvane::ui::LaunchFileDialogOptions options;
+        options.setCaption("Open measurements");
+        options.setNameFilters({"Measurements (*.dat *.csv)", "Text (*.txt)", "All files (*)"});
+        options.setInitialSelection(files.mid(0, 1)).setInitialFilterIndex(filter);
+        options.setAllowMultiple();
 
         // False if the user cancels; files and filter are not changed then.
-        if (!morvane::ui::LaunchFileDialog(files, filter, "Open", filters, startAt, saveMode, allowMultiple, filter)) {
+        if (!morvane::ui::LaunchFileDialog(files, filter, options)) {
             return;
         }
         list->clear();
-        for (const std::string& file : files) {
-            list->addItem(QString::fromStdString(file)); // all text of the library is UTF-8
-        }
-        type->setText(filter < 0 ? QString() : QString::fromStdString(filters[static_cast<size_t>(filter)]));
+        list->addItems(files);
+        type->setText(options.nameFilters().value(filter));
     });
     //! [launch]
 

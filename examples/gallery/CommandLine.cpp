@@ -5,6 +5,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace gallery {
 
@@ -58,13 +59,16 @@ CommandLine parseCommandLine(const QStringList& arguments)
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")}, translated("Show the version."));
     const QCommandLineOption page(
         QStringLiteral("page"), translated("Start with the page <name>."), translated("name"));
+    const QCommandLineOption language(QStringLiteral("language"),
+        translated("Show the texts of the library and of Qt in <language>: de, fr, es, ja, zh_CN, ar or en."),
+        translated("language"));
     const QCommandLineOption dark(QStringLiteral("dark"), translated("Use a dark palette."));
     const QCommandLineOption tour(QStringLiteral("tour"),
         translated(
             "Play a user on every page, write a summary and one picture for each step to <dir>, and exit with 0 only "
             "if every step ended as expected."),
         translated("dir"));
-    parser.addOptions({help, version, page, dark, tour});
+    parser.addOptions({help, version, page, language, dark, tour});
     addToolkitOptions(parser);
 
     if (!parser.parse(arguments)) {
@@ -84,7 +88,12 @@ CommandLine parseCommandLine(const QStringList& arguments)
         return refuse(translated("--tour needs a directory"));
     }
 
+    if (parser.isSet(language) && QLocale(parser.value(language)) == QLocale::c()) {
+        return refuse(translated("--language needs a language such as de, not \"%1\"").arg(parser.value(language)));
+    }
+
     CommandLine result;
+    result.language = parser.value(language);
     result.page = parser.value(page);
     result.dark = parser.isSet(dark);
     result.tour = parser.isSet(tour);

@@ -22,6 +22,7 @@ struct CommandLine
     /** The text to print: the help, the version, or the error. */
     QString message;
     QString page;
+    QString language; ///< null: that of the user
     bool dark = false;
     bool tour = false;
     QString tourDirectory;

@@ -11,6 +11,7 @@
 #include "QtShims.h"
 #include "tour/Tour.h"
 #include "tour/TourWorkspace.h"
+#include "ui/qt/util/Translations.h"
 
 #include <QApplication>
 #include <QDir>
@@ -43,6 +44,21 @@ int refuse(const QString& reason)
 {
     std::fprintf(stderr, "morvane-gallery: %s\n", reason.toUtf8().constData());
     return badUsage;
+}
+
+/** The tour plays in English unless it is told otherwise, so that its pictures do not depend on the machine. */
+QLocale localeOf(const CommandLine& options)
+{
+    if (!options.language.isNull()) {
+        return QLocale(options.language);
+    }
+    return options.tour ? QLocale(QLocale::English) : QLocale::system();
+}
+
+void useLanguage(const QLocale& locale)
+{
+    morvane::ui::installTranslations(locale);
+    QGuiApplication::setLayoutDirection(locale.textDirection());
 }
 
 bool makeWritable(const QDir& directory)
@@ -114,6 +130,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setApplicationDisplayName(QStringLiteral("Morvane Gallery"));
     QApplication::setWindowIcon(applicationIcon());
+    useLanguage(localeOf(options));
     if (options.dark) {
         useDarkPalette();
     }

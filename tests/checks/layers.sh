@@ -20,7 +20,7 @@ sources() { find "$@" \( -name '*.h' -o -name '*.cpp' \) | sort; }
 rules='
 host:
 property: host
-ui/qt/util: host ui/qt
+ui/qt/util: property host ui/qt
 ui/qt/controls: ui/qt/util ui/qt ui/qt/compat
 ui/qt/dialogs/qtdialog:
 ui/qt/dialogs/shell: ui/qt/dialogs/qtdialog ui/qt/util ui/qt host

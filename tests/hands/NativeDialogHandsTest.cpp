@@ -11,6 +11,7 @@
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 #include "ui/qt/dialogs/LaunchFileDialog.h"
+#include "ui/qt/dialogs/LaunchFileDialogOptions.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
 
 #include <gmock/gmock.h>

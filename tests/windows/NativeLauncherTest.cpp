@@ -3,6 +3,7 @@
 
 // The launcher on the Shell's own dialog, used with the mouse: the first sample of the README, and several files.
 #include "ui/qt/dialogs/LaunchFileDialog.h"
+#include "ui/qt/dialogs/LaunchFileDialogOptions.h"
 #include "windows/Mouse.h"
 #include "windows/NativeDialogFixture.h"
 

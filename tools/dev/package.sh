@@ -5,7 +5,7 @@
 # The command "./dev package" makes binary packages and checks that they can be installed, used and removed. ./dev sources
 # this file and provides the functions need, step and die.
 
-package_build_packages='dpkg-dev file pkg-config'
+package_build_packages='dpkg-dev doxygen file pkg-config'
 package_check_packages='mmdebstrap'
 
 package_usage() {
@@ -51,6 +51,7 @@ package_linux() {
     package_set_time
     package_configure
     cmake --build "$package"
+    cmake --build "$package" --target morvane-docs
     for generator in DEB TGZ; do
         cpack -G "$generator" --config "$package/CPackConfig.cmake" -B "$package/packages" >"$package.log" 2>&1 || {
             cat "$package.log" >&2

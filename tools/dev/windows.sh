@@ -44,13 +44,22 @@ windows_sdk() {
     packaging/windows/make-sdk --qt "$qt_major"
 }
 
-# The SDK is part of the configuration: another one starts afresh.
+# The SDK is part of the configuration, and so are the flags of the toolchain file, which CMake reads only once.
+windows_made_with() {
+    echo "$1"
+    cat cmake/toolchains/mingw-w64.cmake
+}
+
+# windows_configure SDK: another SDK or toolchain file starts afresh.
 windows_configure() {
-    if [ -f "$(windows_directory)/CMakeCache.txt" ] && [ "$(windows_used_sdk)" != "$1" ]; then
-        step "another SDK: $(windows_directory) starts afresh"
+    directory=$(windows_directory)
+    if [ -f "$directory/CMakeCache.txt" ] && ! windows_made_with "$1" | cmp -s - "$directory/made-with"; then
+        step "another SDK or toolchain: $directory starts afresh"
         windows_stop_wine
-        rm -rf "$(windows_directory)"
+        rm -rf "$directory"
     fi
+    mkdir -p "$directory"
+    windows_made_with "$1" >"$directory/made-with"
     export MORVANE_WINDOWS_SDK="$1"
 }
 
@@ -68,7 +77,7 @@ windows_prepare() {
         given=$2
     fi
     # shellcheck disable=SC2046,SC2086 # the lists are to be split
-    need $(packaging/windows/make-sdk --qt "$qt_major" --packages) $windows_run_packages
+    need $(packaging/windows/make-sdk --qt "$qt_major" --packages) $windows_run_packages qttools5-dev-tools
     if [ -z "$given" ] && [ ! -f "$(packaging/windows/make-sdk --qt "$qt_major" --print-path)/complete" ]; then
         step 'making the SDK for Windows, once (about 15 minutes)'
     fi

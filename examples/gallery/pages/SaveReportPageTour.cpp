@@ -36,6 +36,14 @@ QByteArray contentOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/** In the language of the tour. */
+QString defaultQuestion(std::string (morvane::DefaultSaveFileMessageHandler::*question)(), const QString& path)
+{
+    morvane::DefaultSaveFileMessageHandler handler;
+    handler.filenameToCheck(path.toStdString());
+    return QString::fromStdString((handler.*question)());
+}
+
 QString expectQuestion(const QString& part)
 {
     const auto* const box = tour::modal<QMessageBox>();
@@ -157,7 +165,9 @@ std::vector<TourStep> SaveReportPage::replaceSteps(const TourWorkspace& workspac
     const QString path = workspace.folder().path(QStringLiteral("archive/report.txt"));
     const auto before = std::make_shared<QByteArray>();
     const auto enter = [] { tour::enterName(QStringLiteral("report.txt")); };
-    const auto asked = [path] { return expectQuestion(path + QStringLiteral(" already exists.")); };
+    const auto asked = [path] {
+        return expectQuestion(defaultQuestion(&morvane::DefaultSaveFileMessageHandler::okToOverwriteMessage, path));
+    };
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("another-title"),
         [=] {
@@ -182,7 +192,10 @@ std::vector<TourStep> SaveReportPage::refusedSteps(const TourWorkspace& workspac
 {
     const QString refused = refusedName(workspace);
     const auto enter = [refused] { tour::enterName(refused); };
-    const auto asked = [refused] { return expectQuestion(QStringLiteral("Unable to save file ") + refused); };
+    const auto asked = [refused] {
+        return expectQuestion(
+            defaultQuestion(&morvane::DefaultSaveFileMessageHandler::unableToOverwriteMessage, refused));
+    };
     std::vector<TourStep> steps;
     steps.push_back(saveStep(QStringLiteral("dialog-for-refused-place")));
     steps.push_back({QStringLiteral("place-refuses"), enter, asked});

@@ -12,6 +12,7 @@
 #include <QMouseEvent>
 #include <QRadioButton>
 #include <QScrollArea>
+#include <QStyle>
 #include <QTest>
 
 namespace gallery::tour {
@@ -34,8 +35,9 @@ void click(QWidget& widget)
     bringIntoView(widget);
     const bool marked = qobject_cast<QCheckBox*>(&widget) || qobject_cast<QRadioButton*>(&widget);
     const QPoint middle = widget.rect().center();
-    QTest::mouseClick(
-        &widget, Qt::LeftButton, Qt::NoModifier, marked ? QPoint(widget.height() / 2, middle.y()) : middle);
+    const QPoint mark(widget.height() / 2, middle.y());
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier,
+        marked ? QStyle::visualPos(widget.layoutDirection(), widget.rect(), mark) : middle);
 }
 
 void clickItem(QAbstractItemView& view, const QModelIndex& index, Qt::KeyboardModifiers modifiers)

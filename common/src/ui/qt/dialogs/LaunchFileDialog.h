@@ -14,7 +14,7 @@ namespace morvane::ui {
  * Asks the user for files with one call. ExtendedFileDialog's switch determines which dialog is shown. Its parent is
  * the active window, if there is one. All text is UTF-8.
  *
- * @snippet 01-open-files/main.cpp launch
+ * @snippet 37-files-as-std-strings/main.cpp launch
  *
  * @param[out] files         set to the chosen files if the user accepts; otherwise not changed
  * @param[out] filterIndex   set if the user accepts, otherwise not changed: the position of the chosen filter, or -1

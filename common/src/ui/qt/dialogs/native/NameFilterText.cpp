@@ -3,6 +3,8 @@
 
 #include "ui/qt/dialogs/native/NameFilterText_p.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace morvane::ui {
@@ -54,7 +56,9 @@ FileTypeText splitNameFilter(std::string_view filter)
 {
     const Enclosed patterns = findEnclosed(filter, " (");
     FileTypeText result;
-    result.description = patterns.found ? filter.substr(0, patterns.openingAt) : "File of Type";
+    result.description = patterns.found
+                             ? std::string(filter.substr(0, patterns.openingAt))
+                             : QCoreApplication::translate("ExtendedWinFileDialog", "File of Type").toStdString();
     result.patterns = patterns.found ? patterns.text : filter;
     std::replace(result.patterns.begin(), result.patterns.end(), ' ', ';');
     return result;

@@ -13,6 +13,7 @@
 #include "ui/qt/util/FilePath_p.h"
 #include "ui/qt/util/GuiThread_p.h"
 
+#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 #include <boost/filesystem/operations.hpp>
@@ -97,7 +98,8 @@ void NativeFileDialog::initStartFolder(const std::string& directory)
 void NativeFileDialog::initHelpButton()
 {
     m_controls.addButton(
-        "&Help", [this] { HelpLauncher::getInstance().showHelp(m_helpTopic); }, true);
+        QCoreApplication::translate("ExtendedWinFileDialog", "&Help").toStdString(),
+        [this] { HelpLauncher::getInstance().showHelp(m_helpTopic); }, true);
 }
 
 QString NativeFileDialog::currentNameFilter() const

@@ -27,7 +27,7 @@ AcceptMenu::AcceptMenu(
     : QToolButton(&acceptButton), m_acceptButton(acceptButton), m_picked(std::move(picked)), m_menu(new QMenu(this))
 {
     setObjectName(QStringLiteral("acceptMenuArrow"));
-    setAccessibleName(tr("More ways to accept"));
+    setAccessibleName(QCoreApplication::translate("ExtendedWinFileDialog", "More ways to accept"));
     setPopupMode(QToolButton::InstantPopup);
     setMenu(m_menu);
     connect(m_menu, &QMenu::aboutToShow, this, [this, opening = std::move(opening)] {
