@@ -49,6 +49,20 @@ TEST(StyledNumberTyping, neverPassesThroughAnInvalidTextBeforeTheUnitThatStandsA
     }
 }
 
+TEST(StyledNumberTyping, mayPutASecondUnitBeforeTheOneThatStandsAlready)
+{
+    for (const QString unit : {"Pa", "Hz", "mol"}) {
+        const NumberStyle style = withUnit(unit);
+        for (const QString number : {"4.7 ", "4.7 M", "4.7 P", "4.7 m"}) {
+            const QString typed = number + unit;
+            for (int length = 0; length < typed.size(); ++length) {
+                EXPECT_NE(readStyledNumber(typed.left(length) + unit, style).state, QValidator::Invalid)
+                    << typed.left(length).toStdString();
+            }
+        }
+    }
+}
+
 TEST(StyledNumberTyping, mayDeleteAnyDigit)
 {
     const NumberStyle style = withUnit("V");

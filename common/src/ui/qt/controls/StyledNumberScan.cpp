@@ -77,7 +77,6 @@ void StyledNumberScan::dropUnit()
     if (unit.isEmpty() || start < m_at || !equals(QStringView(m_text).mid(start, unit.size()), unit)) {
         return;
     }
-    m_hasUnit = true;
     m_end = start;
     while (!atEnd() && m_text.at(m_end - 1).isSpace()) {
         --m_end;
@@ -230,7 +229,7 @@ void StyledNumberScan::takePrefix()
         return;
     }
     m_isUnfinished = true;
-    m_isWrong = m_hasUnit || !mayBecomeUnit(rest);
+    m_isWrong = !mayBecomeUnit(rest);
 }
 
 /** Whether a text begins the unit, or is a prefix and begins the unit. */

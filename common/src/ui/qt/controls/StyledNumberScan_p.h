@@ -50,9 +50,8 @@ private:
     int m_at = 0;
     int m_end;
 
-    bool m_isWrong = false;      ///< no further typing helps
-    bool m_isUnfinished = false; ///< something is missing
-    bool m_hasUnit = false;
+    bool m_isWrong = false;       ///< no further typing helps
+    bool m_isUnfinished = false;  ///< something is missing
     QByteArray m_plain;           ///< sign and digits in the C locale
     std::vector<int> m_digitEnds; ///< the positions behind the digits
     int m_wholeDigits = 0;        ///< digits before the point
