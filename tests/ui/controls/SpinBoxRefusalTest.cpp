@@ -10,6 +10,7 @@
 
 namespace {
 
+using morvane::test::Integer64SpinBox;
 using morvane::test::IntegerSpinBox;
 using morvane::test::ScientificSpinBox;
 using morvane::test::SpinBoxWindow;
@@ -32,7 +33,7 @@ protected:
     const QColor ordinary = colour();
 };
 
-using SpinBoxes = ::testing::Types<ScientificSpinBox, IntegerSpinBox>;
+using SpinBoxes = ::testing::Types<ScientificSpinBox, IntegerSpinBox, Integer64SpinBox>;
 
 } // namespace
 
