@@ -32,7 +32,8 @@ inline QString literalIntegerText(qint64 number, const ui::IntegerStyle& style)
 /** The number in an acceptable text, read by Qt. None where readInteger() is not acceptable. */
 inline std::optional<qint64> literalInteger(const QString& text, const ui::IntegerStyle& style)
 {
-    static const QRegularExpression parts("^([-+\u2212]?)(0[xX]|0[oO]|0[bB])?(.+)$");
+    static const QRegularExpression parts(
+        "^([-+\u2212]?)(0[xX]|0[oO]|0[bB])?(.+)\\z", QRegularExpression::DotMatchesEverythingOption);
     QRegularExpressionMatch match = parts.match(text);
     QString mark = match.captured(2).toLower();
     QString digits = match.captured(3);
@@ -45,7 +46,7 @@ inline std::optional<qint64> literalInteger(const QString& text, const ui::Integ
     if (!style.groupSeparator.isEmpty()) {
         plain.remove(style.groupSeparator);
     }
-    static const QRegularExpression allDigits("^[0-9a-fA-F]+$");
+    static const QRegularExpression allDigits("^[0-9a-fA-F]+\\z");
     if (!allDigits.match(plain).hasMatch()) {
         return std::nullopt;
     }

@@ -170,7 +170,7 @@ std::optional<double> literalStyledReading(const QString& original, const ui::Nu
             break;
         }
     }
-    static const QRegularExpression onlyDigits("^[0-9]*$");
+    static const QRegularExpression onlyDigits("^[0-9]*\\z");
     if ((whole + part).isEmpty() || !onlyDigits.match(whole + part).hasMatch()) {
         return std::nullopt;
     }

@@ -4,10 +4,9 @@
 #include "ui/qt/controls/IntegerLineValidator_p.h"
 
 #include "ui/qt/controls/Integral64SpinBox.h"
+#include "ui/qt/controls/PutIn_p.h"
 
 #include <QLineEdit>
-
-#include <algorithm>
 
 namespace morvane::ui {
 
@@ -56,24 +55,13 @@ QString IntegerLineValidator::numberIn(const QString& line, int& cursor) const
     return trimmed;
 }
 
-/** Whether the characters that are in `number` and were not in `old` include a separator. */
-bool IntegerLineValidator::isSeparatorPutIn(const QString& old, const QString& number) const
-{
-    const auto start = std::mismatch(number.begin(), number.end(), old.begin(), old.end()).first - number.begin();
-    const auto most = std::min(number.size(), old.size()) - start;
-    decltype(number.size()) end = 0;
-    while (end < most && number.at(number.size() - 1 - end) == old.at(old.size() - 1 - end)) {
-        ++end;
-    }
-    return number.mid(start, number.size() - start - end).contains(m_style.groupSeparator);
-}
-
 QString IntegerLineValidator::withSeparatorsMoved(const QString& number, int& cursor) const
 {
     int before = 0;
     const QString old = numberIn(m_line, before);
     const bool mayBePutIn = m_isWholeSelected && number.contains(m_style.groupSeparator);
-    if (readInteger(old, m_style).state != Acceptable || mayBePutIn || isSeparatorPutIn(old, number)) {
+    if (readInteger(old, m_style).state != Acceptable || mayBePutIn ||
+        putIn(old, number).contains(m_style.groupSeparator)) {
         return number;
     }
     QString result = regrouped(number, cursor, m_style);

@@ -34,7 +34,6 @@ public:
 private:
     void watchCursor(QLineEdit& line);
     QString numberIn(const QString& line, int& cursor) const;
-    bool isSeparatorPutIn(const QString& old, const QString& number) const;
     QString withSeparatorsMoved(const QString& number, int& cursor) const;
 
     const Integral64SpinBox& m_spinBox;

@@ -104,7 +104,8 @@ QString regrouped(const QString& text, int& cursor, const IntegerStyle& style)
     if (cursor > start) {
         const int groups = behindCursor / style.groupLength();
         const auto separators = groups * static_cast<int>(style.groupSeparator.size());
-        cursor = start + static_cast<int>(digits.size()) - behindCursor - separators;
+        // The cursor may have been within a separator of several characters.
+        cursor = qMax(start, start + static_cast<int>(digits.size()) - behindCursor - separators);
     }
     return text.left(start) + digits;
 }

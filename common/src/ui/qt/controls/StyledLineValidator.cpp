@@ -3,6 +3,7 @@
 
 #include "ui/qt/controls/StyledLineValidator_p.h"
 
+#include "ui/qt/controls/PutIn_p.h"
 #include "ui/qt/controls/SiPrefixes_p.h"
 
 #include <QDoubleSpinBox>
@@ -61,7 +62,7 @@ bool StyledLineValidator::isShownValue(const QString& input) const
 QValidator::State StyledLineValidator::validateChange(QString& input, int& pos) const
 {
     const NumberStyle& style = m_style();
-    const int putIn = charactersPutIn(input);
+    const auto added = static_cast<int>(putIn(m_line, input).size());
     QString number = input;
     int cursor = pos;
     if (number.startsWith(m_spinBox.prefix())) {
@@ -71,18 +72,18 @@ QValidator::State StyledLineValidator::validateChange(QString& input, int& pos) 
     if (number.endsWith(m_spinBox.suffix())) {
         number.chop(m_spinBox.suffix().size());
     }
-    const bool folds = foldsUnit(number, putIn, style);
+    const bool folds = foldsUnit(number, added, style);
     if (folds) {
         number = number.trimmed().chopped(style.unit.size());
     }
-    const bool isAmbiguousNow = m_takesForeign && putIn > 1 && translate(number, style);
+    const bool isAmbiguousNow = m_takesForeign && added > 1 && translate(number, style);
     const QString line = m_spinBox.prefix() + number + m_spinBox.suffix();
     const bool onlyAffixesChange = line == m_line && line != input && !folds && !m_isNumberSelected;
     const State state = readStyledNumber(number + m_spinBox.suffix(), style).state;
     if (state == Invalid || onlyAffixesChange) {
         return Invalid;
     }
-    cursor = putIn > 1 || folds ? std::min(cursor, static_cast<int>(number.size())) : cursor;
+    cursor = added > 1 || folds ? std::min(cursor, static_cast<int>(number.size())) : cursor;
     input = line;
     pos = static_cast<int>(m_spinBox.prefix().size()) + qBound(0, cursor, static_cast<int>(number.size()));
     m_line = line;
@@ -91,31 +92,20 @@ QValidator::State StyledLineValidator::validateChange(QString& input, int& pos) 
     return isAmbiguousNow ? Intermediate : state;
 }
 
-int StyledLineValidator::charactersPutIn(const QString& input) const
-{
-    const auto start = std::mismatch(input.begin(), input.end(), m_line.begin(), m_line.end()).first - input.begin();
-    const auto most = std::min(input.size(), m_line.size()) - start;
-    int end = 0;
-    while (end < most && input.at(input.size() - 1 - end) == m_line.at(m_line.size() - 1 - end)) {
-        ++end;
-    }
-    return static_cast<int>(input.size() - start) - end;
-}
-
 /**
  * Whether the number ends with a unit that was put in before the one of the line.
  *
  * If the unit is the letter of a prefix, such as `m`, the letter that is typed first is the unit: `4.7m`. The second
  * one makes the first one a prefix: `4.7mm`.
  */
-bool StyledLineValidator::foldsUnit(const QString& number, int putIn, const NumberStyle& style) const
+bool StyledLineValidator::foldsUnit(const QString& number, int added, const NumberStyle& style) const
 {
-    if (style.unit.isEmpty() || putIn == 0 || m_isSuffixSelected || !number.trimmed().endsWith(style.unit) ||
+    if (style.unit.isEmpty() || added == 0 || m_isSuffixSelected || !number.trimmed().endsWith(style.unit) ||
         readStyledNumber(number, style).state == Invalid) {
         return false;
     }
     const bool isPrefix = style.notation == NumberNotation::SiPrefix && siExponent(style.unit);
-    return !isPrefix || putIn > 1 || !m_hasFolded;
+    return !isPrefix || added > 1 || !m_hasFolded;
 }
 
 /** Rewrites a number of another language. Returns whether it can mean two numbers. */

@@ -51,8 +51,7 @@ public:
 private:
     State validateChange(QString& input, int& pos) const;
     bool isShownValue(const QString& input) const;
-    int charactersPutIn(const QString& input) const;
-    bool foldsUnit(const QString& number, int putIn, const NumberStyle& style) const;
+    bool foldsUnit(const QString& number, int added, const NumberStyle& style) const;
     bool translate(QString& number, const NumberStyle& style) const;
 
     const QDoubleSpinBox& m_spinBox;
