@@ -5,10 +5,13 @@
 #include "LiteralNumberReading.h"
 #include "support/Ratio.h"
 #include "ui/qt/controls/DigitSearch_p.h"
+#include "ui/qt/controls/Integral64SpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
 #include "ui/qt/controls/ScientificNumberText_p.h"
 
 #include <QElapsedTimer>
+#include <QLocale>
+#include <QSpinBox>
 
 #include <algorithm>
 #include <array>
@@ -257,6 +260,87 @@ void textBySnprintf(benchmark::State& state)
 }
 MORVANE_BENCHMARK(textBySnprintf);
 
+/** With prefixes of the SI; German, if wanted. */
+void prepare(QScientificSpinBox& spin, bool german)
+{
+    spin.setNotation(QScientificSpinBox::SiPrefix);
+    spin.setSuffix(QStringLiteral("V"));
+    if (german) {
+        spin.setNumberLocale(QLocale(QLocale::German, QLocale::Germany));
+    }
+}
+
+void validatePrefix(benchmark::State& state)
+{
+    QScientificSpinBox spin;
+    prepare(spin, false);
+    typeKeyByKey(state, spin, QStringLiteral("-1.23456 \u00b5V"));
+}
+MORVANE_BENCHMARK(validatePrefix);
+
+void validateGerman(benchmark::State& state)
+{
+    QScientificSpinBox spin;
+    prepare(spin, true);
+    typeKeyByKey(state, spin, QStringLiteral("-1,23456 \u00b5V"));
+}
+MORVANE_BENCHMARK(validateGerman);
+
+void textWithPrefix(benchmark::State& state, bool german)
+{
+    QScientificSpinBox spin;
+    prepare(spin, german);
+    for (auto _ : state) {
+        for (const double constant : constants) {
+            benchmark::DoNotOptimize(spin.textFromValue(constant));
+        }
+    }
+}
+
+void showPrefix(benchmark::State& state)
+{
+    textWithPrefix(state, false);
+}
+MORVANE_BENCHMARK(showPrefix);
+
+void showGerman(benchmark::State& state)
+{
+    textWithPrefix(state, true);
+}
+MORVANE_BENCHMARK(showGerman);
+
+void showByQt(benchmark::State& state)
+{
+    QDoubleSpinBox spin;
+    spin.setDecimals(12);
+    spin.setRange(-1e24, 1e24);
+    for (auto _ : state) {
+        for (const double constant : constants) {
+            benchmark::DoNotOptimize(spin.textFromValue(constant));
+        }
+    }
+}
+MORVANE_BENCHMARK(showByQt);
+
+void validateHexadecimal64(benchmark::State& state)
+{
+    morvane::ui::Integral64SpinBox spin;
+    spin.setRange(lowest, highest);
+    spin.setBase(morvane::ui::Integral64SpinBox::Hexadecimal);
+    spin.setGroupSeparator(QStringLiteral("_"));
+    typeKeyByKey(state, spin, QStringLiteral("7FFF_1234"));
+}
+MORVANE_BENCHMARK(validateHexadecimal64);
+
+void validateHexadecimalByQt(benchmark::State& state)
+{
+    QSpinBox spin;
+    spin.setRange(0, std::numeric_limits<int>::max());
+    spin.setDisplayIntegerBase(16);
+    typeKeyByKey(state, spin, QStringLiteral("7fff12345"));
+}
+MORVANE_BENCHMARK(validateHexadecimalByQt);
+
 /** Reads texts as they may be pasted: `length` characters of digits, separators and blanks, several times. */
 void readLongTexts(int length, int times)
 {
@@ -291,6 +375,11 @@ MORVANE_RATIO(spin_digit_search_worst, digitSearchWorst, literalDigitSearchWorst
 MORVANE_RATIO(spin_validate_worst, validateWorst, validateWorstWithTheLoop, 0.01);
 MORVANE_RATIO(spin_validate_typical, validateTypical, validateTypicalByQt, 1.0);
 MORVANE_RATIO(spin_read_growth, readMebibyte, readSixteenthsOfMebibyte, 2);
+MORVANE_RATIO(spin_prefix_validate, validatePrefix, validateTypicalByQt, 1.0);
+MORVANE_RATIO(spin_locale_validate, validateGerman, validateTypicalByQt, 1.0);
+MORVANE_RATIO(spin_prefix_text, showPrefix, showByQt, 1.0);
+MORVANE_RATIO(spin_locale_text, showGerman, showByQt, 1.0);
+MORVANE_RATIO(spin_integer64_validate, validateHexadecimal64, validateHexadecimalByQt, 1.0);
 MORVANE_RATIO(spin_text, text, textBySnprintf, 1.5);
 
 } // namespace

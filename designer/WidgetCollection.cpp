@@ -6,6 +6,7 @@
 #include "CommandLinkForDesigner.h"
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 #include "ui/qt/controls/ElidedTextLabel.h"
+#include "ui/qt/controls/Integral64SpinBox.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
 #include "WidgetEntry.h"
@@ -45,8 +46,11 @@ WidgetDescription scientificSpinBox()
     widget.header = QStringLiteral("ui/qt/controls/QScientificSpinBox.h");
     widget.icon = QStringLiteral("scientificspinbox");
     widget.toolTip = QStringLiteral("Scientific Spin Box");
-    widget.whatsThis = QStringLiteral("A spin box for numbers such as 1.5E-07. Set its range, step and value as text: "
-                                      "minimumText, maximumText, singleStepText, valueText.");
+    widget.whatsThis =
+        QStringLiteral("A spin box for numbers such as 1.5E-07. Set its range, step and value as text: "
+                       "minimumText, maximumText, singleStepText, valueText. With notation SiPrefix it shows "
+                       "4.7 \u00b5V, with the unit as suffix. numberLocale, stepMode and refusalShown are off "
+                       "initially.");
     widget.size = QSize(200, 32);
     widget.properties = QStringLiteral("<property name=\"ownValidation\"><bool>true</bool></property>");
     widget.create = create<morvane::ui::QScientificSpinBox>;
@@ -102,11 +106,31 @@ WidgetDescription commandLinkButton()
     return widget;
 }
 
+WidgetDescription integral64SpinBox()
+{
+    WidgetDescription widget;
+    widget.className = QStringLiteral("morvane::ui::Integral64SpinBox");
+    widget.extends = QStringLiteral("QAbstractSpinBox");
+    widget.header = QStringLiteral("ui/qt/controls/Integral64SpinBox.h");
+    widget.icon = QStringLiteral("integral64spinbox");
+    widget.toolTip = QStringLiteral("64-bit Integer Spin Box");
+    widget.whatsThis =
+        QStringLiteral("A spin box for integers of 64 bits, in base 10, 16, 8 or 2, and in groups if there is "
+                       "a groupSeparator. Slots connected to signalIncrement and signalDecrement replace its "
+                       "steps.");
+    widget.size = QSize(160, 32);
+    widget.specifications = QStringLiteral("<stringpropertyspecification name=\"groupSeparator\" notr=\"true\" "
+                                           "type=\"singleline\"/>");
+    widget.create = create<morvane::ui::Integral64SpinBox>;
+    return widget;
+}
+
 } // namespace
 
 WidgetCollection::WidgetCollection()
 {
-    for (const auto& describe : {comboBox, scientificSpinBox, integralSpinBox, elidedLabel, commandLinkButton}) {
+    for (const auto& describe :
+        {comboBox, scientificSpinBox, integralSpinBox, elidedLabel, commandLinkButton, integral64SpinBox}) {
         m_widgets.append(new WidgetEntry(describe(), this));
     }
 }

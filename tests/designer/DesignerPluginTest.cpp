@@ -4,6 +4,7 @@
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 #include "ui/qt/controls/ElidedTextLabel.h"
+#include "ui/qt/controls/Integral64SpinBox.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
 
@@ -27,6 +28,7 @@ namespace {
 
 using morvane::ui::ComboBoxAutoFilter;
 using morvane::ui::CorrectFontCommandLinkButton;
+using morvane::ui::Integral64SpinBox;
 using morvane::ui::IntegralSpinBox;
 using morvane::ui::QScientificSpinBox;
 
@@ -105,6 +107,27 @@ TEST_F(DesignerPluginForm, hasAnIntegerSpinBoxWhoseStepsCanBeTaken)
     EXPECT_EQ(samples->value(), 1024);
 }
 
+TEST_F(DesignerPluginForm, hasAScientificSpinBoxInAnotherNotationAndLanguage)
+{
+    auto* const offset = find<QScientificSpinBox>("offset");
+    ASSERT_TRUE(offset);
+    EXPECT_EQ(offset->notation(), QScientificSpinBox::SiPrefix);
+    EXPECT_EQ(offset->numberLocale(), QLocale(QLocale::German, QLocale::Germany));
+    EXPECT_EQ(offset->stepMode(), QScientificSpinBox::OneTwoFive);
+    EXPECT_TRUE(offset->isRefusalShown());
+    EXPECT_EQ(offset->value(), 4.7e-6);
+    EXPECT_EQ(offset->text(), QStringLiteral("4,7 \u00b5V"));
+}
+
+TEST_F(DesignerPluginForm, hasAnIntegerSpinBoxOf64Bits)
+{
+    auto* const address = find<Integral64SpinBox>("address");
+    ASSERT_TRUE(address);
+    EXPECT_EQ(address->maximum(), 9223372036854775807);
+    EXPECT_EQ(address->value(), 0xdeadbeef0000);
+    EXPECT_EQ(address->text(), "0xDEAD_BEEF_0000");
+}
+
 TEST_F(DesignerPluginForm, hasALabelThatElidesAtTheStart)
 {
     auto* const file = find<ElidedTextLabel>("file");
@@ -142,7 +165,7 @@ TEST(DesignerPluginSpinBox, validatesByItselfAndCanBeToldNotTo)
 std::string lastPart(const ::testing::TestParamInfo<int>& info)
 {
     static const char* const names[] = {
-        "comboBox", "scientificSpinBox", "integralSpinBox", "elidedLabel", "commandLink"};
+        "comboBox", "scientificSpinBox", "integralSpinBox", "elidedLabel", "commandLink", "integral64SpinBox"};
     return names[info.param];
 }
 
@@ -154,7 +177,7 @@ protected:
         auto* const collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(plugin.instance());
         EXPECT_TRUE(collection) << plugin.errorString().toStdString();
         if (collection) {
-            EXPECT_EQ(collection->customWidgets().size(), 5);
+            EXPECT_EQ(collection->customWidgets().size(), 6);
             entry = collection->customWidgets().value(GetParam());
         }
     }
@@ -233,6 +256,6 @@ TEST_P(DesignerPluginWidget, hasAMetaObjectOfItsOwnName)
     EXPECT_EQ(QLatin1String(entry->createWidget(&form)->metaObject()->className()), entry->name());
 }
 
-INSTANTIATE_TEST_SUITE_P(Plugin, DesignerPluginWidget, ::testing::Range(0, 5), lastPart);
+INSTANTIATE_TEST_SUITE_P(Plugin, DesignerPluginWidget, ::testing::Range(0, 6), lastPart);
 
 } // namespace

@@ -5,11 +5,13 @@
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 #include "ui/qt/controls/ElidedTextLabel.h"
+#include "ui/qt/controls/Integral64SpinBox.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
 #include "ui/qt/util/OverrideCursor.h"
 #include "ui/qt/util/OverrideCursorRestorer.h"
 #include "ui/qt/util/TableCopyHandler.h"
+#include "ui/qt/util/WheelGuard.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -47,6 +49,24 @@ void showOne(QWidget& parent)
 {
     Widget widget(&parent);
     showWidget(widget);
+}
+
+void showPrefixes(QWidget& parent)
+{
+    QScientificSpinBox spinBox(&parent);
+    spinBox.setNotation(QScientificSpinBox::SiPrefix);
+    spinBox.setNumberLocale(QLocale(QLocale::German, QLocale::Germany));
+    spinBox.setRefusalShown(true);
+    spinBox.setSuffix(QStringLiteral("V"));
+    showWidget(spinBox);
+}
+
+void showGuardedForm(QWidget& parent)
+{
+    QWidget form(&parent);
+    new IntegralSpinBox(&form);
+    guardWheel(form);
+    showWidget(form);
 }
 
 void elideText(QWidget& parent)
@@ -115,6 +135,9 @@ std::vector<Subject> widgetSubjects()
         {"ComboBoxAutoFilter", &filterComboBox},
         {"QScientificSpinBox", &showOne<QScientificSpinBox>},
         {"IntegralSpinBox", &showOne<IntegralSpinBox>},
+        {"Integral64SpinBox", &showOne<Integral64SpinBox>},
+        {"SiPrefixes", &showPrefixes},
+        {"guardWheel", &showGuardedForm},
         {"ElidedTextLabel", &elideText},
         {"QCommandLinkButton", &showStockLinkButton, nullptr, true},
         {"CorrectFontCommandLinkButton", &showLinkButton, "QCommandLinkButton"},

@@ -3,8 +3,10 @@
 
 #include "pages/IntegralSpinBoxPage.h"
 #include "tour/TourUser.h"
+#include "ui/qt/controls/Integral64SpinBox.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -41,6 +43,17 @@ std::vector<TourStep> IntegralSpinBoxPage::tourSteps(const TourWorkspace&)
             tour::press(*m_channels, Qt::Key_Up);
         },
         [this] { return expect(m_channels->value() == 4, QString::number(m_channels->value())); }});
+    const auto addressIs = [this](const char* text) {
+        return expect(m_address->text() == QString::fromLatin1(text), m_address->text());
+    };
+    steps.push_back({QStringLiteral("type-address"),
+        [this] {
+            tour::type(*m_address->findChild<QLineEdit*>(), QStringLiteral("7fff00001234"));
+            tour::press(*m_address, Qt::Key_Return);
+        },
+        [=] { return addressIs("0x7FFF_0000_1234"); }});
+    steps.push_back({QStringLiteral("decimal-address"), [this] { tour::press(*m_base, Qt::Key_Down); },
+        [=] { return addressIs("140_733_193_392_692"); }});
     return steps;
 }
 

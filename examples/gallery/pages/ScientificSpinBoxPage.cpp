@@ -6,11 +6,13 @@
 #include "ui/qt/controls/QScientificSpinBox.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
@@ -44,15 +46,22 @@ QString describe(QValidator::State state)
 ScientificSpinBoxPage::ScientificSpinBoxPage()
     : Page(QStringLiteral("scientific"), tr("Scientific spin box"),
           tr("Type a number such as 1.5E-07, and press Return or leave the field to set it. The arrow keys, the "
-             "wheel and the buttons make a step. The program defines what a step is.")),
+             "wheel and the buttons make a step. The program defines what a step is. A text that is not acceptable is "
+             "red.")),
       m_decades(new QCheckBox(tr("Step by one &decade"))),
       m_digits(new QSpinBox),
       m_pressure(new SpinBox),
       m_pressureLine(m_pressure->findChild<QLineEdit*>()),
       m_state(new QLabel),
-      m_value(new QLabel)
+      m_value(new QLabel),
+      m_reading(new SpinBox),
+      m_notation(new QComboBox),
+      m_language(new QComboBox),
+      m_stepMode(new QComboBox),
+      m_readingValue(new QLabel)
 {
     body().addWidget(makeConstantsGroup());
+    body().addWidget(makeReadingGroup());
     body().addWidget(makeValidationGroup());
     body().addStretch(1);
 
@@ -62,6 +71,50 @@ ScientificSpinBoxPage::ScientificSpinBoxPage()
     connect(m_pressure, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] { showValidation(); });
     m_decades->setChecked(true);
     showValidation();
+}
+
+QWidget* ScientificSpinBoxPage::makeReadingGroup()
+{
+    m_notation->addItem(tr("SI prefixes"), SpinBox::SiPrefix);
+    m_notation->addItem(tr("Engineering"), SpinBox::Engineering);
+    m_notation->addItem(tr("Scientific"), SpinBox::Scientific);
+    m_language->addItem(tr("as in programs"), QLocale::c());
+    m_language->addItem(tr("German"), QLocale(QLocale::German, QLocale::Germany));
+    m_language->addItem(tr("Swedish"), QLocale(QLocale::Swedish, QLocale::Sweden));
+    m_language->addItem(tr("US English"), QLocale(QLocale::English, QLocale::UnitedStates));
+    m_stepMode->addItem(tr("the digit at the cursor"), SpinBox::LastDigit);
+    m_stepMode->addItem(tr("1, 2, 5, 10"), SpinBox::OneTwoFive);
+    m_stepMode->addItem(tr("decades"), SpinBox::Decade);
+    m_stepMode->addItem(tr("add 1"), SpinBox::Linear);
+    m_reading->setSuffix(QStringLiteral(" V"));
+    m_reading->setRefusalShown(true);
+    m_reading->setMinimumWidth(fieldWidth(*m_reading));
+    const auto apply = [this] {
+        m_reading->setNotation(static_cast<SpinBox::Notation>(m_notation->currentData().toInt()));
+        m_reading->setNumberLocale(m_language->currentData().toLocale());
+        m_reading->setStepMode(static_cast<SpinBox::StepMode>(m_stepMode->currentData().toInt()));
+    };
+    auto* const group = new QGroupBox(tr("Units, languages and steps"));
+    auto* const form = new QFormLayout(group);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+    form->addRow(tr("&Offset, such as 4.7u:"), m_reading);
+    form->addRow(tr("Its value is:"), m_readingValue);
+    form->addRow(tr("&Notation:"), m_notation);
+    form->addRow(tr("Lan&guage:"), m_language);
+    form->addRow(tr("A s&tep changes:"), m_stepMode);
+    for (QComboBox* const choice : {m_notation, m_language, m_stepMode}) {
+        choice->setMinimumWidth(fieldWidth(*choice));
+        connect(choice, QOverload<int>::of(&QComboBox::currentIndexChanged), this, apply);
+    }
+    connect(m_reading, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] { showReading(); });
+    apply();
+    m_reading->setValue(4.7e-6);
+    return group;
+}
+
+void ScientificSpinBoxPage::showReading()
+{
+    m_readingValue->setText(QString::number(m_reading->value(), 'G', 12));
 }
 
 QWidget* ScientificSpinBoxPage::makeConstantsGroup()
@@ -77,7 +130,7 @@ QWidget* ScientificSpinBoxPage::makeConstantsGroup()
         addConstant(*form, tr("&Planck constant:"), 6.62607015e-34, QStringLiteral(" J s")),
         addConstant(*form, tr("&Avogadro constant:"), 6.02214076e23, QStringLiteral(" /mol")),
         addConstant(*form, tr("Speed of &light:"), 299792458, QStringLiteral(" m/s"))};
-    form->addRow(tr("Significant di&gits:"), m_digits);
+    form->addRow(tr("S&ignificant digits:"), m_digits);
     form->addRow(QString(), m_decades);
     return group;
 }

@@ -10,6 +10,7 @@
 #include <vector>
 
 class QCheckBox;
+class QComboBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -21,7 +22,10 @@ class QScientificSpinBox;
 
 namespace gallery {
 
-/** Physical constants that are edited in scientific notation, and the validation state of the typed text. */
+/**
+ * Physical constants that are edited in scientific notation, the validation state of the typed text, and a field with
+ * the other notations, languages and steps.
+ */
 class ScientificSpinBoxPage : public Page
 {
     Q_OBJECT
@@ -36,6 +40,8 @@ private:
 
     QWidget* makeConstantsGroup();
     QWidget* makeValidationGroup();
+    QWidget* makeReadingGroup();
+    void showReading();
     SpinBox* addConstant(QFormLayout& form, const QString& label, double value, const QString& unit);
     void stepByDecades(bool decades);
     void showDigits(int digits);
@@ -49,6 +55,11 @@ private:
     QLineEdit* m_pressureLine;
     QLabel* m_state;
     QLabel* m_value;
+    SpinBox* m_reading;
+    QComboBox* m_notation;
+    QComboBox* m_language;
+    QComboBox* m_stepMode;
+    QLabel* m_readingValue;
 };
 
 } // namespace gallery

@@ -6,6 +6,7 @@
 #include "ui/qt/controls/QScientificSpinBox.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -68,6 +69,39 @@ std::vector<TourStep> ScientificSpinBoxPage::tourSteps(const TourWorkspace&)
             return complaint.isEmpty() ? expect(m_value->text() == QStringLiteral("15000"), m_value->text())
                                        : complaint;
         }});
+    auto* const readingLine = m_reading->findChild<QLineEdit*>();
+    const auto reads = [this](const QString& text, const char* value) {
+        return expect(m_reading->text() == text && m_readingValue->text() == QString::fromLatin1(value),
+            QStringLiteral("the field shows \"%1\", and the value is %2")
+                .arg(m_reading->text(), m_readingValue->text()));
+    };
+    steps.push_back({QStringLiteral("type-prefix"),
+        [=] {
+            tour::type(*readingLine, QStringLiteral("470u"));
+            tour::press(*m_reading, Qt::Key_Return);
+        },
+        [=] { return reads(QStringLiteral("470 \u00b5V"), "0.00047"); }});
+    steps.push_back({QStringLiteral("step-digit"),
+        [=] {
+            tour::press(*m_reading, Qt::Key_Home);
+            tour::press(*m_reading, Qt::Key_Up);
+        },
+        [=] { return reads(QStringLiteral("570 \u00b5V"), "0.00057"); }});
+    steps.push_back({QStringLiteral("decimal-comma"),
+        [this, readingLine] {
+            tour::press(*m_language, Qt::Key_Down);
+            tour::type(*readingLine, QStringLiteral("1,5m"));
+            tour::press(*m_reading, Qt::Key_Return);
+        },
+        [=] { return reads(QStringLiteral("1,5 mV"), "0.0015"); }});
+    steps.push_back({QStringLiteral("refused-text"), [=] { tour::type(*readingLine, QStringLiteral("1.5")); },
+        [this] { return expect(m_reading->isTextRefused(), QStringLiteral("the text is not refused")); }});
+    steps.push_back({QStringLiteral("engineering"),
+        [this] {
+            tour::press(*m_reading, Qt::Key_Return);
+            tour::press(*m_notation, Qt::Key_Down);
+        },
+        [=] { return reads(QStringLiteral("1,5E-03 V"), "0.0015"); }});
     return steps;
 }
 

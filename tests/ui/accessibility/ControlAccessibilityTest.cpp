@@ -5,6 +5,7 @@
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 #include "ui/qt/controls/ElidedTextLabel.h"
+#include "ui/qt/controls/Integral64SpinBox.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
 #include "WidgetAccessibility.h"
@@ -28,6 +29,7 @@ namespace {
 using ::testing::ElementsAre;
 using ui::ComboBoxAutoFilter;
 using ui::CorrectFontCommandLinkButton;
+using ui::Integral64SpinBox;
 using ui::IntegralSpinBox;
 using ui::QScientificSpinBox;
 
@@ -106,6 +108,26 @@ TEST_F(ControlAccessibility, tellTheirValuesAsTheyShowThem)
     EXPECT_EQ(valueOf(current), "2.5E-15");
     EXPECT_EQ(valueOf(samples), "64");
     EXPECT_EQ(valueOf(box), "Benzene");
+}
+
+TEST_F(ControlAccessibility, includeTheSpinBoxOf64BitsWithItsNameAndItsValue)
+{
+    auto* const address = new Integral64SpinBox(&window);
+    address->setRange(0, 0xffffffffff);
+    address->setBase(Integral64SpinBox::Hexadecimal);
+    address->setValue(0xdeadbeef);
+    form->addRow("&Address:", address);
+    EXPECT_EQ(roleOf(address), QAccessible::SpinBox);
+    EXPECT_EQ(nameOf(address), "Address:");
+    EXPECT_EQ(valueOf(address), "DEADBEEF");
+    current->setNotation(QScientificSpinBox::SiPrefix);
+    current->setSuffix("A");
+    current->setValue(2.5e-9);
+    EXPECT_EQ(valueOf(current).trimmed(), "2.5 n") << "Qt leaves out the suffix of all its spin boxes";
+    show();
+    EXPECT_EQ(namelessPartsOf(window), QStringList());
+    QTest::keyClick(&window, Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(window.focusWidget(), address);
 }
 
 TEST_F(ControlAccessibility, areReachedWithTabInTheOrderOfTheForm)

@@ -5,6 +5,7 @@
 
 #include "support/ActiveWindow.h"
 #include "support/SpinBoxButton.h"
+#include "ui/qt/controls/Integral64SpinBox.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
 
@@ -32,6 +33,7 @@ public:
 
 using ScientificSpinBox = Opened<ui::QScientificSpinBox>;
 using IntegerSpinBox = Opened<ui::IntegralSpinBox>;
+using Integer64SpinBox = Opened<ui::Integral64SpinBox>;
 
 /** A window with a spin box that has the focus, and another widget that can take it. */
 template <typename SpinBox>

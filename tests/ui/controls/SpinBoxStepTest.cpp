@@ -9,9 +9,11 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 
 namespace {
 
+using morvane::test::Integer64SpinBox;
 using morvane::test::IntegerSpinBox;
 using morvane::test::ScientificSpinBox;
 using morvane::test::SpinBoxWindow;
@@ -54,7 +56,7 @@ protected:
     int downs = 0;
 };
 
-using SpinBoxes = ::testing::Types<ScientificSpinBox, IntegerSpinBox>;
+using SpinBoxes = ::testing::Types<ScientificSpinBox, IntegerSpinBox, Integer64SpinBox>;
 
 } // namespace
 
@@ -407,17 +409,20 @@ TYPED_TEST(SpinBoxSteps, slotsOfStepsDownAreDestroyedBeforeThoseUp)
     EXPECT_EQ(order, "down up ");
 }
 
-TYPED_TEST(SpinBoxSteps, uncommittedTextIsGivenUpByAStep)
+TYPED_TEST(SpinBoxSteps, uncommittedTextIsGivenUpByAStepExceptWith64Bits)
 {
+    const bool isAccepted = std::is_same_v<TypeParam, Integer64SpinBox>;
     this->window.type("50");
     QTest::keyClick(&this->spin, Qt::Key_Up);
-    EXPECT_EQ(this->spin.value(), 15);
-    EXPECT_EQ(this->window.shown(), "15");
+    EXPECT_EQ(this->spin.value(), isAccepted ? 55 : 15);
+    EXPECT_EQ(this->window.shown(), isAccepted ? "55" : "15");
 }
 
 TYPED_TEST(SpinBoxSteps, stepTypeAndAccelerationMakeNoDifference)
 {
-    this->spin.setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
+    if constexpr (!std::is_same_v<TypeParam, Integer64SpinBox>) {
+        this->spin.setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
+    }
     this->spin.setAccelerated(true);
     QTest::keyClick(&this->spin, Qt::Key_Up);
     EXPECT_EQ(this->spin.value(), 15);

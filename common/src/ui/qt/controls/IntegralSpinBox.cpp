@@ -3,6 +3,7 @@
 
 #include "ui/qt/controls/IntegralSpinBox.h"
 
+#include "ui/qt/controls/RefusalMark_p.h"
 #include "ui/qt/controls/StepSignals_p.h"
 #include "ui/qt/controls/TypedNumber_p.h"
 #include "ui/qt/controls/WheelNotches_p.h"
@@ -17,6 +18,7 @@ class IntegralSpinBoxPrivate
 public:
     TypedText m_typed;
     WheelNotches m_wheel;
+    RefusalMark* m_refusal = nullptr;
 };
 
 IntegralSpinBox::IntegralSpinBox(QWidget* parent)
@@ -25,9 +27,29 @@ IntegralSpinBox::IntegralSpinBox(QWidget* parent)
     expectGuiThread("IntegralSpinBox");
     setKeyboardTracking(false);
     m_private->m_typed.follow(*this, *lineEdit(), QOverload<int>::of(&QSpinBox::valueChanged));
+    m_private->m_refusal = new RefusalMark(this, lineEdit(), [this] {
+        QString text = lineEdit()->displayText();
+        int pos = lineEdit()->cursorPosition();
+        return validate(text, pos) == QValidator::Acceptable;
+    });
 }
 
 IntegralSpinBox::~IntegralSpinBox() = default;
+
+bool IntegralSpinBox::isRefusalShown() const
+{
+    return m_private->m_refusal->isEnabled();
+}
+
+void IntegralSpinBox::setRefusalShown(bool shown)
+{
+    m_private->m_refusal->setEnabled(shown);
+}
+
+bool IntegralSpinBox::isTextRefused() const
+{
+    return m_private->m_refusal->isRefused();
+}
 
 void IntegralSpinBox::stepBy(int steps)
 {

@@ -47,6 +47,10 @@ class MORVANE_UI_EXPORT IntegralSpinBox : public QSpinBox
      * mode gives another number. The property has no notify signal; connect to valueChanged() instead.
      */
     Q_PROPERTY(int value READ enteredValue WRITE setValue USER true)
+    /** Whether a text that is not acceptable is shown as such; false initially. */
+    Q_PROPERTY(bool refusalShown READ isRefusalShown WRITE setRefusalShown)
+    /** Whether `refusalShown` is on and the text is not acceptable. For style sheets. */
+    Q_PROPERTY(bool textRefused READ isTextRefused STORED false DESIGNABLE false)
 
 public:
     /** @param parent owner of the spin box; null for none */
@@ -54,6 +58,13 @@ public:
 
     /** Disconnects every slot of signalDecrement, then of signalIncrement. */
     ~IntegralSpinBox() override;
+
+    bool isRefusalShown() const;
+    /** As QScientificSpinBox::setRefusalShown(): red text, `textRefused` for style sheets, a sentence for screen
+     * readers. */
+    void setRefusalShown(bool shown);
+    /** Returns whether isRefusalShown() is true and validate() returns anything but Acceptable for the text. */
+    bool isTextRefused() const;
 
     /**
      * Steps up if `steps` is above 0, otherwise down; 0 is a step down, too.

@@ -4,8 +4,12 @@
 #include "ui/qt/controls/QScientificSpinBox.h"
 
 #include "ui/qt/controls/NumberLineValidator_p.h"
+#include "ui/qt/controls/NumberStep_p.h"
+#include "ui/qt/controls/RefusalMark_p.h"
 #include "ui/qt/controls/ScientificNumberText_p.h"
 #include "ui/qt/controls/StepSignals_p.h"
+#include "ui/qt/controls/StyledLineValidator_p.h"
+#include "ui/qt/controls/StyledNumber_p.h"
 #include "ui/qt/controls/TypedNumber_p.h"
 #include "ui/qt/controls/WheelNotches_p.h"
 #include "ui/qt/util/GuiThread_p.h"
@@ -18,6 +22,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace morvane::ui {
@@ -69,6 +74,12 @@ public:
     explicit QScientificSpinBoxPrivate(QScientificSpinBox* spinBox);
 
     double validateAndInterpret(const QString& input, int& pos, QValidator::State& state) const;
+    const NumberStyle& style() const;
+    void applyStyle();
+    bool isReadAsInitially() const;
+    bool isTextAcceptable() const;
+    void stepByMode(int steps);
+    QLineEdit& line() const;
 
     QScientificSpinBox* q;
     int m_decimals = mostDigits;
@@ -76,15 +87,38 @@ public:
     QChar m_groupSeparator = QLatin1Char(',');
     NumberLineValidator* m_validator;
     bool m_ownValidation = false;
+    QScientificSpinBox::Notation m_notation = QScientificSpinBox::Scientific;
+    QScientificSpinBox::StepMode m_stepMode = QScientificSpinBox::Linear;
+    QLocale m_numberLocale = QLocale::c();
+    QString m_suffix; ///< as it was set
+    StyledLineValidator* m_styledValidator;
+    RefusalMark* m_refusal = nullptr;
     TypedText m_typed;
     WheelNotches m_wheel;
 
 private:
+    /** The place that the last step changed, as long as the line is as it left it. */
+    struct SteppedPlace
+    {
+        int place = 0;
+        int cursor = 0;
+        QString line;
+    };
+
     NumberRules rules() const;
+    double interpretStyled(const QString& input, QValidator::State& state) const;
+    double steppedValue(double from, int steps) const;
+    void stepPlace(int steps);
+    std::optional<int> placeAtCursor() const;
+
+    mutable NumberStyle m_style;
+    SteppedPlace m_steppedPlace;
 };
 
 QScientificSpinBoxPrivate::QScientificSpinBoxPrivate(QScientificSpinBox* spinBox)
-    : q(spinBox), m_validator(new NumberLineValidator(spinBox))
+    : q(spinBox),
+      m_validator(new NumberLineValidator(spinBox)),
+      m_styledValidator(new StyledLineValidator(spinBox, [this]() -> const NumberStyle& { return style(); }))
 {
     m_validator->setLocale(english());
     m_validator->setDecimals(allDigits);
@@ -93,12 +127,126 @@ QScientificSpinBoxPrivate::QScientificSpinBoxPrivate(QScientificSpinBox* spinBox
 
 NumberRules QScientificSpinBoxPrivate::rules() const
 {
-    return {q->minimum(), q->maximum(), m_decimals, m_delimiter, m_groupSeparator, q->prefix(), q->suffix(),
-        q->specialValueText()};
+    return {q->minimum(), q->maximum(), m_decimals, m_delimiter, m_groupSeparator, q->prefix(),
+        q->QDoubleSpinBox::suffix(), q->specialValueText()};
+}
+
+QLineEdit& QScientificSpinBoxPrivate::line() const
+{
+    return *q->lineEdit();
+}
+
+/** How numbers are written at the moment. What the base class stores is asked anew each time. */
+const NumberStyle& QScientificSpinBoxPrivate::style() const
+{
+    m_style.digits = m_decimals;
+    m_style.unit = q->QDoubleSpinBox::suffix().trimmed();
+    m_style.hasGroups = m_numberLocale != QLocale::c() && q->isGroupSeparatorShown();
+    return m_style;
+}
+
+/** After a change of the notation or the language. */
+void QScientificSpinBoxPrivate::applyStyle()
+{
+    m_style.notation = static_cast<NumberNotation>(m_notation);
+    m_style.signs = m_numberLocale == QLocale::c() ? NumberSigns() : signsOf(m_numberLocale);
+    m_styledValidator->setTakesForeignNumbers(m_numberLocale != QLocale::c());
+    const bool initially = isReadAsInitially();
+    line().setValidator(initially ? static_cast<QValidator*>(m_validator) : m_styledValidator);
+    // Updates the text and the size hints, too.
+    q->QDoubleSpinBox::setSuffix(m_notation == QScientificSpinBox::SiPrefix ? m_suffix.trimmed() : m_suffix);
+    m_styledValidator->begin(line().text());
+}
+
+bool QScientificSpinBoxPrivate::isReadAsInitially() const
+{
+    return m_notation != QScientificSpinBox::SiPrefix && m_numberLocale == QLocale::c();
+}
+
+double QScientificSpinBoxPrivate::interpretStyled(const QString& input, QValidator::State& state) const
+{
+    const double minimum = q->minimum();
+    const double maximum = q->maximum();
+    if (!input.isEmpty() && input == q->specialValueText()) {
+        state = QValidator::Acceptable;
+        return minimum;
+    }
+    const bool hasPrefix = input.startsWith(q->prefix());
+    const StyledReading reading = readStyledNumber(hasPrefix ? input.mid(q->prefix().size()) : input, style());
+    state = reading.state;
+    if (state == QValidator::Acceptable && m_styledValidator->isAmbiguous(input)) {
+        state = QValidator::Intermediate;
+    } else if (state == QValidator::Acceptable && (reading.value < minimum || reading.value > maximum)) {
+        const bool mayShrink = reading.value > maximum ? maximum > 0 : minimum < 0;
+        const bool mayGrow =
+            reading.value < minimum ? minimum > 0 && reading.value >= 0 : maximum < 0 && reading.value <= 0;
+        state = mayShrink || mayGrow ? QValidator::Intermediate : QValidator::Invalid;
+    }
+    return state == QValidator::Acceptable ? reading.value : maximum > 0 ? minimum : maximum;
+}
+
+bool QScientificSpinBoxPrivate::isTextAcceptable() const
+{
+    const auto keepAnswer = qScopeGuard([before = validationCache()] { validationCache() = before; });
+    QString text = line().displayText();
+    int pos = line().cursorPosition();
+    return q->validate(text, pos) == QValidator::Acceptable;
+}
+
+void QScientificSpinBoxPrivate::stepByMode(int steps)
+{
+    if (m_stepMode == QScientificSpinBox::LastDigit) {
+        stepPlace(steps);
+        return;
+    }
+    if (m_typed.isShownBy(line())) {
+        q->interpretText();
+    }
+    q->setValue(steppedValue(q->value(), steps));
+    q->selectAll();
+}
+
+double QScientificSpinBoxPrivate::steppedValue(double from, int steps) const
+{
+    if (from >= 0 && from <= 0 && steps != 0) {
+        from = steps > 0 ? q->singleStep() : -q->singleStep();
+        steps -= steps > 0 ? 1 : -1;
+    }
+    return m_stepMode == QScientificSpinBox::Decade ? decadesAway(from, steps) : oneTwoFiveAway(from, steps);
+}
+
+void QScientificSpinBoxPrivate::stepPlace(int steps)
+{
+    const bool goesOn = m_steppedPlace.line == line().text() && m_steppedPlace.cursor == line().cursorPosition() &&
+                        !line().hasSelectedText();
+    std::optional<int> place = goesOn ? m_steppedPlace.place : placeAtCursor();
+    if (m_typed.isShownBy(line())) {
+        q->interpretText();
+    }
+    if (!place) { // the text was no number
+        line().end(false);
+        place = placeAtCursor().value_or(0);
+    }
+    q->setValue(placesAway(q->value(), *place, steps));
+    const QString prefix = q->prefix();
+    line().setCursorPosition(
+        static_cast<int>(prefix.size()) + cursorBehindPlace(*place, line().text().mid(prefix.size()), style()));
+    m_steppedPlace = {*place, line().cursorPosition(), line().text()};
+}
+
+std::optional<int> QScientificSpinBoxPrivate::placeAtCursor() const
+{
+    const auto prefix = static_cast<int>(q->prefix().size());
+    // A selected number has its cursor at the start.
+    const int cursor = line().hasSelectedText() ? line().selectionEnd() : line().cursorPosition();
+    return decimalPlaceAt(cursor - prefix, line().text().mid(prefix), style());
 }
 
 double QScientificSpinBoxPrivate::validateAndInterpret(const QString& input, int& pos, QValidator::State& state) const
 {
+    if (!isReadAsInitially()) {
+        return interpretStyled(input, state);
+    }
     if (m_ownValidation) {
         const NumberInterpretation interpretation = interpretNumber(input, pos, rules());
         state = interpretation.state;
@@ -125,6 +273,8 @@ QScientificSpinBox::QScientificSpinBox(QWidget* parent)
     // time.
     lineEdit()->setValidator(m_private->m_validator);
     m_private->m_validator->follow(*lineEdit());
+    m_private->m_styledValidator->follow(*lineEdit());
+    m_private->m_refusal = new RefusalMark(this, lineEdit(), [this] { return m_private->isTextAcceptable(); });
     setLocale(english());
     QDoubleSpinBox::setDecimals(allDigits);
     m_private->m_decimals = initialDigits;
@@ -197,9 +347,77 @@ void QScientificSpinBox::setOwnValidation(bool own)
     m_private->m_ownValidation = own;
 }
 
+QScientificSpinBox::Notation QScientificSpinBox::notation() const
+{
+    return m_private->m_notation;
+}
+
+void QScientificSpinBox::setNotation(Notation notation)
+{
+    m_private->m_suffix = suffix();
+    m_private->m_notation = notation;
+    m_private->applyStyle();
+}
+
+QLocale QScientificSpinBox::numberLocale() const
+{
+    return m_private->m_numberLocale;
+}
+
+void QScientificSpinBox::setNumberLocale(const QLocale& locale)
+{
+    m_private->m_suffix = suffix();
+    m_private->m_numberLocale = locale;
+    m_private->applyStyle();
+}
+
+void QScientificSpinBox::resetNumberLocale()
+{
+    setNumberLocale(QLocale::c());
+}
+
+QScientificSpinBox::StepMode QScientificSpinBox::stepMode() const
+{
+    return m_private->m_stepMode;
+}
+
+void QScientificSpinBox::setStepMode(StepMode mode)
+{
+    m_private->m_stepMode = mode;
+}
+
+bool QScientificSpinBox::isRefusalShown() const
+{
+    return m_private->m_refusal->isEnabled();
+}
+
+void QScientificSpinBox::setRefusalShown(bool shown)
+{
+    m_private->m_refusal->setEnabled(shown);
+}
+
+bool QScientificSpinBox::isTextRefused() const
+{
+    return m_private->m_refusal->isRefused();
+}
+
+QString QScientificSpinBox::suffix() const
+{
+    const QString shown = QDoubleSpinBox::suffix();
+    const bool isOurs = shown == m_private->m_suffix.trimmed() && m_private->m_notation == SiPrefix;
+    return isOurs ? m_private->m_suffix : shown;
+}
+
+void QScientificSpinBox::setSuffix(const QString& suffix)
+{
+    m_private->m_suffix = suffix;
+    QDoubleSpinBox::setSuffix(m_private->m_notation == SiPrefix ? suffix.trimmed() : suffix);
+}
+
 QString QScientificSpinBox::textFromValue(double value) const
 {
-    return scientificText(value, m_private->m_decimals);
+    const bool asInitially = m_private->m_notation == Scientific && m_private->isReadAsInitially();
+    return asInitially ? scientificText(value, m_private->m_decimals) : styledNumber(value, m_private->style());
 }
 
 double QScientificSpinBox::valueFromText(const QString& text) const
@@ -218,14 +436,19 @@ QValidator::State QScientificSpinBox::validate(QString& input, int& pos) const
 
 void QScientificSpinBox::fixup(QString& input) const
 {
-    if (!m_private->m_ownValidation) {
+    if (!m_private->m_ownValidation && m_private->isReadAsInitially()) {
         QDoubleSpinBox::fixup(input);
     }
 }
 
 void QScientificSpinBox::stepBy(int steps)
 {
-    if (!handStepToHost(steps, signalIncrement, signalDecrement)) {
+    const bool isHosts = handStepToHost(steps, signalIncrement, signalDecrement);
+    if (!isHosts && m_private->m_stepMode != Linear) {
+        m_private->stepByMode(steps);
+        return;
+    }
+    if (!isHosts) {
         setValue(value() + singleStep() * steps);
     }
     selectAll();

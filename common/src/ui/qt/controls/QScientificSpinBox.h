@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QDoubleSpinBox>
+#include <QLocale>
 #include <QString>
 #include <QValidator>
 
@@ -60,6 +61,12 @@ class QScientificSpinBoxPrivate;
  * @snippet 05-scientific-input/main.cpp number
  * @snippet 05-scientific-input/main.cpp steps
  *
+ * The properties `notation`, `numberLocale`, `stepMode` and `refusalShown` change how numbers are written, read,
+ * stepped and refused. Initially they change nothing.
+ *
+ * @snippet 29-units-and-prefixes/main.cpp notation
+ * @snippet 29-units-and-prefixes/main.cpp locale
+ *
  * GUI thread only.
  */
 class MORVANE_UI_EXPORT QScientificSpinBox : public QDoubleSpinBox
@@ -79,6 +86,18 @@ class MORVANE_UI_EXPORT QScientificSpinBox : public QDoubleSpinBox
     Q_PROPERTY(double value READ enteredValue WRITE setValue USER true)
     /** Whether the spin box ignores the shared validation cache; false initially. */
     Q_PROPERTY(bool ownValidation READ hasOwnValidation WRITE setOwnValidation)
+    /** How numbers are written; Scientific initially. */
+    Q_PROPERTY(Notation notation READ notation WRITE setNotation)
+    /** The language in which numbers are written and read; the C locale initially, which means US English as above. */
+    Q_PROPERTY(QLocale numberLocale READ numberLocale WRITE setNumberLocale RESET resetNumberLocale)
+    /** What a step does if the host does not handle it; Linear initially. */
+    Q_PROPERTY(StepMode stepMode READ stepMode WRITE setStepMode)
+    /** Whether a text that is not acceptable is shown as such; false initially. */
+    Q_PROPERTY(bool refusalShown READ isRefusalShown WRITE setRefusalShown)
+    /** Whether `refusalShown` is on and the text is not acceptable. For style sheets. */
+    Q_PROPERTY(bool textRefused READ isTextRefused STORED false DESIGNABLE false)
+    /** As in QDoubleSpinBox; in the notation SiPrefix without the white space before the unit. */
+    Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     // Forms store doubles with 15 digits after the point, so 1E-18 becomes 0. Qt Designer edits the texts instead.
     /** As in QDoubleSpinBox, but hidden in Qt Designer. */
     Q_PROPERTY(double minimum READ minimum WRITE setMinimum DESIGNABLE false)
@@ -96,6 +115,39 @@ class MORVANE_UI_EXPORT QScientificSpinBox : public QDoubleSpinBox
     Q_PROPERTY(QByteArray valueText READ valueText WRITE setValueText)
 
 public:
+    /** How numbers are written. All notations show decimals() significant digits, without zeros at the end. */
+    enum Notation
+    {
+        Scientific,  ///< as textFromValue() describes: `4.7E-06`
+        Engineering, ///< the exponent is a multiple of three, and omitted if it is 0: `470E-09`, `4.7`
+        /**
+         * With the unit as suffix, and a prefix of the SI in the place of the exponent: `470 nV`. The prefixes are
+         * those from quecto to quetta; numbers beyond them have an exponent.
+         *
+         * A number may be typed as `4.7u`, `4.7 µV`, `4.7e-6` or `4.7E-6 V`; hecto, deca, deci and centi are read, too.
+         * The letter `u` and both characters for µ mean micro. Prefixes are case-sensitive. The prefix exa needs a
+         * blank before it, because `1E` begins an exponent. If the unit is also the letter of a prefix, the typed
+         * letter is the unit, and two are prefix and unit: in metres, `4.7m` is 4.7 and `4.7mm` is 0.0047.
+         */
+        SiPrefix,
+    };
+    Q_ENUM(Notation)
+
+    /** What a step does. All modes but Linear change the digits exactly, and first accept a typed number. */
+    enum StepMode
+    {
+        Linear,     ///< adds the single step
+        Decade,     ///< multiplies or divides by ten: from 1E-6 to 1E-5
+        OneTwoFive, ///< goes to the next number of the sequence 1, 2, 5, 10, 20, 50 and so on
+        /**
+         * Changes the digit before the cursor by one, and carries. If there is none, the first digit; behind the
+         * number, the last digit. The cursor remains behind this digit. Further steps change the same place, even if a
+         * zero there is not shown. Nothing is selected.
+         */
+        LastDigit,
+    };
+    Q_ENUM(StepMode)
+
     /** @param parent owner of the spin box; null for none */
     explicit QScientificSpinBox(QWidget* parent = nullptr);
 
@@ -140,11 +192,72 @@ public:
      */
     void setOwnValidation(bool own);
 
+    Notation notation() const;
+
+    /**
+     * Sets how numbers are written, and updates the text; the value keeps all its digits.
+     *
+     * Notations other than Scientific are read with the rules above; the notation SiPrefix, and each notation with a
+     * numberLocale, never use the shared validation cache. There a number out of the range is Intermediate as long as
+     * its sign is right, and misplaced group separators make a number Intermediate. A text without its unit means the
+     * same as with it.
+     */
+    void setNotation(Notation notation);
+
+    QLocale numberLocale() const;
+
+    /**
+     * Sets the language in which numbers are written and read, and updates the text: with its decimal point, its signs
+     * and its digits, and in groups if groupSeparatorShown is true. Numbers are also read with the digits 0 to 9, with
+     * `-` and with U+2212. The letter of the exponent is `E` in all languages.
+     *
+     * If several characters are put in at once, for instance pasted, they may come from another language. A number is
+     * accepted if it has only one meaning with a decimal comma, with a decimal point and in the language itself; it is
+     * then rewritten. A number with two meanings, such as `1,500`, remains in the line, is Intermediate, and becomes
+     * acceptable when the user edits it. While one types, only the language itself counts.
+     *
+     * The C locale restores the initial behaviour. It differs from US English, which has the rules above. Do not change
+     * the property `locale`, which is that of the base class.
+     */
+    void setNumberLocale(const QLocale& locale);
+    void resetNumberLocale();
+
+    StepMode stepMode() const;
+
+    /**
+     * Sets what a step does if no slot is connected to its signal. Decade and OneTwoFive do not cross 0: a step up
+     * brings a negative number closer to 0. From 0, the first step leads to the single step.
+     */
+    void setStepMode(StepMode mode);
+
+    bool isRefusalShown() const;
+
+    /**
+     * True: while the text is not acceptable, the property `textRefused` is true, and the number is red. Style sheets
+     * may use the property: `QAbstractSpinBox[textRefused="true"]`. When nothing was typed for a moment, screen readers
+     * get a sentence as the accessible description, before the one of the host. All this ends with the refused text.
+     * False, the initial state: a refused text looks like any other.
+     */
+    void setRefusalShown(bool shown);
+
+    /** Returns whether isRefusalShown() is true and validate() returns anything but Acceptable for the text. */
+    bool isTextRefused() const;
+
+    /** Returns the suffix as it was set, with its white space. Hides QDoubleSpinBox::suffix(). */
+    QString suffix() const;
+
+    /**
+     * Sets the text behind the number; in the notation SiPrefix the unit, where a blank always stands between number
+     * and unit or prefix. Hides QDoubleSpinBox::setSuffix(), which would show a blank between prefix and unit, too.
+     */
+    void setSuffix(const QString& suffix);
+
     /**
      * Returns `value` with decimals() significant digits (one for 0, six for a negative decimals()), in the format of
      * printf's "%.*G" in the C locale. Trailing zeros are dropped. The text has an exponent only if the absolute value,
      * rounded to these digits, is below 1E-04, or at least ten to the power of the number of these digits. The exponent
-     * has at least two digits. The text has no prefix or suffix.
+     * has at least two digits. The text has no prefix or suffix. This describes the initial notation and language;
+     * with others, see there. In the notation SiPrefix the text ends with what stands before the unit, such as `4.7 µ`.
      */
     QString textFromValue(double value) const override;
 
@@ -177,7 +290,7 @@ public:
      *
      * Fires the signal of that direction if it has a slot. Otherwise calls setValue() with `value() + singleStep() *
      * steps`; setValue() limits it to the range and replaces typed text that is not committed yet. Finally calls
-     * selectAll().
+     * selectAll(). With another stepMode, see there.
      *
      * A slot may change the value or the range, and may connect and disconnect slots, including itself. An exception of
      * a slot passes to the caller of stepBy(), and the spin box stays as it is; no exception may reach Qt's event loop.
@@ -195,6 +308,8 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    friend class QScientificSpinBoxPrivate;
+
     double enteredValue() const;
 
     /** Does nothing here. Code that wraps signalIncrement may call it when a slot was connected. */

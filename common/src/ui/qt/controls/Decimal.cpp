@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/qt/controls/Decimal_p.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+
+namespace morvane::ui {
+
+namespace {
+
+constexpr int mostDigits = 17;
+
+/** Takes apart what std::to_chars() writes: [-]d[.ddd]e[+-]dd */
+Decimal takenApart(const char* begin, const char* end)
+{
+    Decimal result;
+    result.isNegative = *begin == '-';
+    const char* const exponent = std::find(begin, end, 'e');
+    result.count = 0;
+    for (const char* character = begin; character != exponent; ++character) {
+        if (*character >= '0' && *character <= '9') {
+            result.digits[static_cast<std::size_t>(result.count++)] = *character;
+        }
+    }
+    while (result.count > 1 && result.digits[static_cast<std::size_t>(result.count - 1)] == '0') {
+        --result.count;
+    }
+    result.exponent = result.isZero() ? 0 : std::atoi(QByteArray(exponent + 1, int(end - exponent - 1)).constData());
+    return result;
+}
+
+} // namespace
+
+Decimal shortestDecimal(double number)
+{
+    std::array<char, 32> buffer;
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific).ptr;
+    return takenApart(buffer.data(), end);
+}
+
+Decimal roundedDecimal(double number, int significantDigits)
+{
+    const int digits = significantDigits < 0 ? 6 : std::clamp(significantDigits, 1, mostDigits);
+    std::array<char, 32> buffer;
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific, digits - 1)
+            .ptr;
+    return takenApart(buffer.data(), end);
+}
+
+double toDouble(const Decimal& decimal)
+{
+    QByteArray text(decimal.isNegative ? "-" : "");
+    text.append(decimal.digits.data(), decimal.count);
+    text.append('E').append(QByteArray::number(decimal.exponent - decimal.count + 1));
+    return nearestDouble(text);
+}
+
+double nearestDouble(const QByteArray& number, bool* exact)
+{
+    bool ok = false;
+    const double result = number.toDouble(&ok);
+    if (exact) {
+        *exact = ok;
+    }
+    return result;
+}
+
+} // namespace morvane::ui

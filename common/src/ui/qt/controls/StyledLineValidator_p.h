@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "ui/qt/controls/StyledNumber_p.h"
+
+#include <QString>
+#include <QValidator>
+
+#include <functional>
+
+class QDoubleSpinBox;
+class QLineEdit;
+
+namespace morvane::ui {
+
+/**
+ * Validates each change in the line of a spin box whose numbers have prefixes of the SI, or are written in a language.
+ *
+ * Adds prefix and suffix of the spin box where they are missing. A typed unit replaces the one that is there already. A
+ * text of several characters that is put in at once is read as readForeignNumber() does, if the spin box has a
+ * language, and is rewritten with the signs of that language.
+ */
+class StyledLineValidator : public QValidator
+{
+public:
+    using StyleSource = std::function<const NumberStyle&()>;
+
+    /**
+     * @param spinBox owner; has the prefix, the suffix and the special value text
+     * @param style   how numbers are written at the moment
+     */
+    StyledLineValidator(QDoubleSpinBox* spinBox, StyleSource style);
+    ~StyledLineValidator() override;
+
+    /** Watches the selection in the line, to know what a change replaces. */
+    void follow(const QLineEdit& line);
+
+    /** Takes this text as the one that was accepted last. */
+    void begin(const QString& line) const;
+
+    /** Whether texts that are put in at once may come from other languages. */
+    void setTakesForeignNumbers(bool takes) { m_takesForeign = takes; }
+
+    /** Whether this text was put into the line at once and can mean two numbers. */
+    bool isAmbiguous(const QString& line) const { return !m_ambiguous.isNull() && line == m_ambiguous; }
+
+    State validate(QString& input, int& pos) const override;
+
+private:
+    State validateChange(QString& input, int& pos) const;
+    bool isShownValue(const QString& input) const;
+    bool foldsUnit(const QString& number, int added, const NumberStyle& style) const;
+    bool translate(QString& number, const NumberStyle& style) const;
+
+    const QDoubleSpinBox& m_spinBox;
+    const StyleSource m_style;
+    bool m_takesForeign = false;
+    mutable QString m_line; ///< the text that was accepted last
+    mutable QString m_ambiguous;
+    mutable bool m_hasFolded = false; ///< whether the last change was a unit that was there already
+    bool m_isNumberSelected = false;
+    bool m_isSuffixSelected = false;
+};
+
+} // namespace morvane::ui
