@@ -105,12 +105,13 @@ TEST_F(DesignerPluginForm, hasAnIntegerSpinBoxWhoseStepsCanBeTaken)
     EXPECT_EQ(samples->value(), 1024);
 }
 
-TEST_F(DesignerPluginForm, hasALabelThatElidesAtTheStart)
+TEST_F(DesignerPluginForm, hasALabelThatElidesWhereTheFormSaysAndCanBeCopied)
 {
     auto* const file = find<ElidedTextLabel>("file");
     ASSERT_TRUE(file);
     EXPECT_EQ(file->text(), "/projects/turbine/measurements/2026-03-12/run-17.dat");
-    EXPECT_EQ(file->elideMode(), Qt::ElideLeft);
+    EXPECT_EQ(file->elideMode(), Qt::ElideMiddle);
+    EXPECT_TRUE(file->isCopyable());
 }
 
 TEST_F(DesignerPluginForm, hasACommandLinkThatKeepsItsSize)
