@@ -78,6 +78,9 @@ TEST_F(DesignerPluginForm, hasAComboBoxThatFiltersItsEntries)
     box->completer()->setCompletionPrefix("ene");
     EXPECT_EQ(box->completer()->completionCount(), 1);
     EXPECT_EQ(box->completer()->currentCompletion(), "Benzene");
+    EXPECT_TRUE(box->isMatchingWords() && box->isIgnoringAccents() && box->isMatchShown());
+    box->completer()->setCompletionPrefix("zene ben");
+    EXPECT_EQ(box->completer()->completionCount(), 1);
 }
 
 TEST_F(DesignerPluginForm, hasAScientificSpinBoxWithNumbersThatDoublesInFormsCannotHold)

@@ -32,7 +32,7 @@ std::vector<TourStep> LabelsPage::tourSteps(const TourWorkspace& workspace)
             tour::press(*m_label, Qt::Key_C, Qt::ControlModifier);
         },
         [this] {
-            return expect(m_label->hasFocus() && QApplication::clipboard()->text() == m_path->text(),
+            return expect(window()->focusWidget() == m_label && QApplication::clipboard()->text() == m_path->text(),
                 "the whole path is not on the clipboard");
         }});
     steps.push_back({QStringLiteral("elide-middle"), [this] { m_elideMode->setCurrentIndex(Qt::ElideMiddle); },

@@ -149,13 +149,8 @@ QLayout* TablePastePage::makeButtons()
 void TablePastePage::showRefusals(const QList<TablePasteRefusal>& cells)
 {
     const TablePasteRefusal& first = cells.first();
-    QString text =
-        tr("Nothing was pasted. Row %1, column %2: %3.").arg(first.row + 1).arg(first.column + 1).arg(reasonFor(first));
-    if (cells.size() > 1) {
-        text += ' ' + tr("%1 cells were in the way.").arg(cells.size());
-    }
-    m_note->setText(text);
-    Q_EMIT reported(text);
+    m_note->setText(tr("Row %1, column %2: %3").arg(first.row + 1).arg(first.column + 1).arg(reasonFor(first)));
+    Q_EMIT reported(tr("Nothing was pasted, because of %1 cells").arg(cells.size()));
 }
 
 } // namespace gallery

@@ -79,6 +79,10 @@ namespace morvane::ui {
  *
  * @snippet 07-filter-a-list/main.cpp filter
  *
+ * Texts can also be compared by words, and without accents, and the suggestions can show what was found:
+ *
+ * @snippet 32-words-in-any-order/main.cpp words
+ *
  * In a SingleEdit, "the entry before the edit" is recorded only once: it is the current entry when the list is first
  * opened or an entry is first activated. So create a new SingleEdit for each edit, or use a FormField.
  *
