@@ -95,19 +95,13 @@ void AutoFilterSuggestions::keepPopup()
 
 void AutoFilterSuggestions::updateDelegate(QAbstractItemView& popup)
 {
-    QAbstractItemDelegate* const before = popup.itemDelegate();
-    const bool isOwn = dynamic_cast<AutoFilterDelegate*>(before) != nullptr;
-    if (!isOwn) {
-        m_stockDelegate = before;
+    const QPointer<QAbstractItemDelegate> old = m_delegate;
+    if (popup.itemDelegate() != m_delegate) {
+        m_stockDelegate = popup.itemDelegate();
     }
-    if (m_showsMatch) {
-        popup.setItemDelegate(new AutoFilterDelegate(popup, *m_completer, m_outcome.matching()));
-    } else if (isOwn) {
-        popup.setItemDelegate(m_stockDelegate);
-    }
-    if (isOwn) {
-        delete before;
-    }
+    m_delegate = m_showsMatch ? new AutoFilterDelegate(popup, *m_completer, m_outcome.matching()) : nullptr;
+    popup.setItemDelegate(m_delegate ? m_delegate : m_stockDelegate);
+    delete old;
 }
 
 void AutoFilterSuggestions::followMatching()

@@ -6,10 +6,10 @@
 #include "ui/qt/controls/AutoFilterCompleter_p.h"
 #include "ui/qt/controls/EventResender_p.h"
 
+#include <QAbstractItemDelegate>
 #include <QObject>
 #include <QPointer>
 
-class QAbstractItemDelegate;
 class QAbstractItemModel;
 class QAbstractItemView;
 class QEvent;
@@ -78,6 +78,7 @@ private:
     QPointer<AutoFilterCompleter> m_completer;
     bool m_showsMatch = false;
     QPointer<QAbstractItemDelegate> m_stockDelegate;
+    QPointer<QAbstractItemDelegate> m_delegate; // shows the match
     QPointer<QAbstractItemModel> m_followedModel;
     int m_followedColumn = 0;
 };

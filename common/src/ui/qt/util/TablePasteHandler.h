@@ -35,7 +35,7 @@ namespace morvane::ui {
  *
  * - Cells are counted by their positions in the model, as TableCopyHandler does: hidden cells are written, too, and
  * moved columns do not matter.
- * - A cell must be enabled and editable in the model that the view shows.
+ * - A cell must be enabled and editable in the model that the view shows. The edit triggers of the view do not matter.
  * - If the view shows a QSortFilterProxyModel, the cells are written into its source model, because the proxy may sort
  * or filter rows away as soon as they change. So `setData()` of the proxy is not called. New rows are added at the end
  * of the source model.
