@@ -181,6 +181,23 @@ void measureKey(benchmark::State& state, Prepare prepare, Key key)
     }
 }
 
+/** The filtered list for a text that was pasted. Each time, nothing is known of earlier texts. */
+template <typename Box>
+void filterMillion(benchmark::State& state, const QString& text, int expected)
+{
+    Field<Box>& own = field<Box>(1000000);
+    const auto filter = [&] {
+        own.box.completer()->setCompletionPrefix(text);
+        benchmark::DoNotOptimize(own.box.completer()->completionModel()->rowCount());
+    };
+    measureKey(
+        state, [&] { own.forget(); }, filter);
+    if (own.box.completer()->completionModel()->rowCount() < expected) {
+        state.SkipWithError("too few entries were found");
+    }
+    own.forget();
+}
+
 template <typename Box>
 void firstKey(benchmark::State& state, int count)
 {
@@ -280,6 +297,35 @@ void uniformClear(benchmark::State& state)
     clearing<UniformComboBox>(state);
 }
 
+/** With words that are compared in any order. */
+class WordsComboBox : public Own
+{
+public:
+    explicit WordsComboBox(QWidget* parent) : Own(parent) { setMatchingWords(true); }
+};
+
+/** With accents that are ignored, too. */
+class AccentsComboBox : public WordsComboBox
+{
+public:
+    explicit AccentsComboBox(QWidget* parent) : WordsComboBox(parent) { setIgnoringAccents(true); }
+};
+
+void wordsOfMillion(benchmark::State& state)
+{
+    filterMillion<WordsComboBox>(state, QStringLiteral("pressure bearing"), 5000);
+}
+
+void accentsOfMillion(benchmark::State& state)
+{
+    filterMillion<AccentsComboBox>(state, QStringLiteral("pressure bearing"), 5000);
+}
+
+void stockContainsOfMillion(benchmark::State& state)
+{
+    filterMillion<UniformComboBox>(state, QStringLiteral("pressure"), 5000);
+}
+
 /** A combo box whose line holds the last of 100,000 entries. */
 Own& boxAtTheEnd()
 {
@@ -343,6 +389,9 @@ MORVANE_BENCHMARK(comboClear)->UseManualTime()->Iterations(1)->Repetitions(201);
 MORVANE_BENCHMARK(uniformClear)->UseManualTime()->Iterations(1)->Repetitions(201);
 MORVANE_BENCHMARK(comboFirstKeyOfMillion)->UseManualTime()->Iterations(1)->Repetitions(5);
 MORVANE_BENCHMARK(stockFirstKeyOfMillion)->UseManualTime()->Iterations(1)->Repetitions(5);
+MORVANE_BENCHMARK(wordsOfMillion)->UseManualTime()->Iterations(1)->Repetitions(9);
+MORVANE_BENCHMARK(accentsOfMillion)->UseManualTime()->Iterations(1)->Repetitions(9);
+MORVANE_BENCHMARK(stockContainsOfMillion)->UseManualTime()->Iterations(1)->Repetitions(9);
 MORVANE_BENCHMARK(comboValidate);
 MORVANE_BENCHMARK(stockFindText);
 MORVANE_BENCHMARK(elidedLabelPaint);
@@ -352,6 +401,8 @@ MORVANE_RATIO(completer_first_key, comboFirstKey, stockFirstKey, 1.1);
 MORVANE_RATIO(completer_next_key, comboNextKey, uniformNextKey, 1.2);
 MORVANE_RATIO(completer_clear, comboClear, uniformClear, 1.2);
 MORVANE_RATIO(completer_first_key_1m, comboFirstKeyOfMillion, stockFirstKeyOfMillion, 1.1);
+MORVANE_RATIO(completer_words_1m, wordsOfMillion, stockContainsOfMillion, 1.2);
+MORVANE_RATIO(completer_accents_1m, accentsOfMillion, stockContainsOfMillion, 1.2);
 MORVANE_RATIO(combo_find, comboValidate, stockFindText, 1.0);
 MORVANE_RATIO(label_paint, elidedLabelPaint, plainLabelPaint, 1.5);
 

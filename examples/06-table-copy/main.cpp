@@ -42,6 +42,14 @@ int main(int argc, char** argv)
     QObject::connect(button, &QPushButton::clicked, handler, &morvane::ui::TableCopyHandler::copyToClipboard);
     //! [copy]
 
+    //! [options]
+    // All of this is off initially.
+    handler->setQuoting(true);           // cells with tabs or line ends are pasted as one cell
+    handler->setNumberLocale(QLocale()); // numbers as the user's spreadsheet reads them
+    handler->setKeepingClipboard(true);  // nothing selected: nothing copied
+    handler->setContextMenu(true);       // with "Copy" and "Copy with Headers"
+    //! [options]
+
     auto* const copied = new QPlainTextEdit;
     copied->setReadOnly(true);
     QClipboard* const clipboard = QApplication::clipboard();

@@ -18,6 +18,7 @@ int main(int argc, char** argv)
     auto* const path = new ElidedTextLabel(&window);
     path->setText("/projects/turbine/measurements/2026-03-12/run-17/pressure-inlet.dat");
     // The label sets its tool tip while the text is elided, and clears it when the window is wide enough.
+    path->setCopyable(true); // Ctrl+C and a context menu copy the whole path
     //! [label]
 
     auto* const layout = new QVBoxLayout(&window);

@@ -80,6 +80,9 @@ TEST_F(DesignerPluginForm, hasAComboBoxThatFiltersItsEntries)
     box->completer()->setCompletionPrefix("ene");
     EXPECT_EQ(box->completer()->completionCount(), 1);
     EXPECT_EQ(box->completer()->currentCompletion(), "Benzene");
+    EXPECT_TRUE(box->isMatchingWords() && box->isIgnoringAccents() && box->isMatchShown());
+    box->completer()->setCompletionPrefix("zene ben");
+    EXPECT_EQ(box->completer()->completionCount(), 1);
 }
 
 TEST_F(DesignerPluginForm, hasAScientificSpinBoxWithNumbersThatDoublesInFormsCannotHold)
@@ -128,12 +131,13 @@ TEST_F(DesignerPluginForm, hasAnIntegerSpinBoxOf64Bits)
     EXPECT_EQ(address->text(), "0xDEAD_BEEF_0000");
 }
 
-TEST_F(DesignerPluginForm, hasALabelThatElidesAtTheStart)
+TEST_F(DesignerPluginForm, hasALabelThatElidesWhereTheFormSaysAndCanBeCopied)
 {
     auto* const file = find<ElidedTextLabel>("file");
     ASSERT_TRUE(file);
     EXPECT_EQ(file->text(), "/projects/turbine/measurements/2026-03-12/run-17.dat");
-    EXPECT_EQ(file->elideMode(), Qt::ElideLeft);
+    EXPECT_EQ(file->elideMode(), Qt::ElideMiddle);
+    EXPECT_TRUE(file->isCopyable());
 }
 
 TEST_F(DesignerPluginForm, hasACommandLinkThatKeepsItsSize)

@@ -12,13 +12,17 @@
 #include "ui/qt/util/OverrideCursorRestorer.h"
 #include "ui/qt/util/TableCopyHandler.h"
 #include "ui/qt/util/WheelGuard.h"
+#include "ui/qt/util/TablePasteHandler.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QCommandLinkButton>
+#include <QCompleter>
 #include <QKeyEvent>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QUndoStack>
 
 namespace morvane::test {
 
@@ -101,6 +105,38 @@ void copyTable(QWidget& parent)
     handler->copyToClipboard();
 }
 
+void pasteBlock(QWidget& parent)
+{
+    QStandardItemModel model(2, 2);
+    QTableView view(&parent);
+    view.setModel(&model);
+    view.setCurrentIndex(model.index(0, 0));
+    QUndoStack stack;
+    auto* const handler = new TablePasteHandler(view);
+    handler->setAddingRows(true);
+    handler->setUndoStack(&stack);
+    showWidget(view);
+    handler->paste(QStringLiteral("1\t2\n3\t4\n5\t6\n"));
+    handler->paste(QStringLiteral("1\t2\t3\n"));
+    stack.undo();
+    stack.redo();
+}
+
+void filterWords(QWidget& parent)
+{
+    ComboBoxAutoFilter box(&parent);
+    box.setMatchingWords(true);
+    box.setIgnoringAccents(true);
+    box.setMatchShown(true);
+    box.addItems({"one", "two three", "four"});
+    box.setFiltering(true);
+    box.show();
+    box.completer()->setCompletionPrefix(QStringLiteral("e t"));
+    box.completer()->complete();
+    QCoreApplication::processEvents();
+    box.completer()->popup()->hide();
+}
+
 class LabelCopyHandler : public CopyHandlerAbstract
 {
 public:
@@ -142,6 +178,8 @@ std::vector<Subject> widgetSubjects()
         {"QCommandLinkButton", &showStockLinkButton, nullptr, true},
         {"CorrectFontCommandLinkButton", &showLinkButton, "QCommandLinkButton"},
         {"TableCopyHandler", &copyTable},
+        {"TablePasteHandler", &pasteBlock},
+        {"ComboBoxAutoFilter, words", &filterWords},
         {"CopyHandlerAbstract", &copyLabel},
         {"OverrideCursor", [](QWidget&) { const OverrideCursor cursor(Qt::WaitCursor); }},
         {"OverrideCursorRestorer", &restoreCursor},

@@ -34,6 +34,7 @@ FormFieldsPage::FormFieldsPage()
       m_substance(new ComboBoxAutoFilter(this)),
       m_device(new ComboBoxAutoFilter(this)),
       m_samples(new morvane::ui::IntegralSpinBox(this)),
+      m_channel(new ComboBoxAutoFilter(this)),
       m_held(new QLabel)
 {
     m_operator->setPlaceholderText(tr("Name"));
@@ -46,6 +47,7 @@ FormFieldsPage::FormFieldsPage()
     if (auto* const devices = qobject_cast<QStandardItemModel*>(m_device->model())) {
         devices->item(3)->setEnabled(false);
     }
+    prepareChannel();
     m_samples->setRange(1, 65536);
     m_samples->setValue(1024);
 
@@ -56,6 +58,7 @@ FormFieldsPage::FormFieldsPage()
     form->addRow(tr("&Substance:"), m_substance);
     form->addRow(tr("&Device:"), m_device);
     form->addRow(tr("S&amples:"), m_samples);
+    form->addRow(tr("&Channel:"), m_channel);
     form->addRow(tr("The form holds:"), m_held);
     body().addWidget(group);
     body().addStretch(1);
@@ -75,6 +78,22 @@ void FormFieldsPage::prepareField(ComboBoxAutoFilter& field, const QStringList& 
     });
     connect(&field, &ComboBoxAutoFilter::editingCanceled, this,
         [this, &field] { Q_EMIT reported(tr("editingCanceled, still %1").arg(entryOf(field))); });
+}
+
+void FormFieldsPage::prepareChannel()
+{
+    QStringList channels;
+    for (const char* const place : {"Bearing", "Coolant", "Cr\xC3\xA9maill\xC3\xA8re", "Fabry-P\xC3\xA9rot cavity"}) {
+        for (const char* const quantity : {"pressure", "temperature", "vibration"}) {
+            channels.append(QStringLiteral("%1 %2").arg(QString::fromUtf8(place), QLatin1String(quantity)));
+        }
+    }
+    // The words of a text are found in any order, and with or without accents.
+    m_channel->setMatchingWords(true);
+    m_channel->setIgnoringAccents(true);
+    m_channel->setMatchShown(true);
+    prepareField(*m_channel, channels);
+    m_channel->setToolTip(tr("Several words find an entry that has all of them, for instance: temp perot"));
 }
 
 void FormFieldsPage::showForm()

@@ -27,12 +27,14 @@ public:
 
 private:
     void prepareField(morvane::ui::ComboBoxAutoFilter& field, const QStringList& entries);
+    void prepareChannel();
     void showForm();
 
     QLineEdit* m_operator;
     morvane::ui::ComboBoxAutoFilter* m_substance;
     morvane::ui::ComboBoxAutoFilter* m_device;
     morvane::ui::IntegralSpinBox* m_samples;
+    morvane::ui::ComboBoxAutoFilter* m_channel;
     QLabel* m_held;
 };
 

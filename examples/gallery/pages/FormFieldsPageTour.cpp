@@ -69,6 +69,20 @@ std::vector<TourStep> FormFieldsPage::tourSteps(const TourWorkspace&)
             return complaint.isEmpty() ? expect(m_held->text().endsWith(QStringLiteral("Thermometer")), m_held->text())
                                        : complaint;
         }});
+    steps.push_back(
+        {QStringLiteral("several-words"), [this] { tour::type(*m_channel->lineEdit(), QStringLiteral("temp cre")); },
+            [this] {
+                return offers(
+                    *m_channel, QString::fromUtf8("Cr\xC3\xA9maill\xC3\xA8re temperature"), QStringLiteral("temp cre"));
+            }});
+    steps.push_back({QStringLiteral("words-in-bold"),
+        [this] { tour::type(*m_channel->lineEdit(), QStringLiteral("p era")); },
+        [this] {
+            const QAbstractItemModel& offered = *m_channel->completer()->completionModel();
+            return expect(offered.rowCount() == 4, QStringLiteral("%1 entries are offered").arg(offered.rowCount()));
+        }});
+    steps.push_back({QStringLiteral("words-return"), [=] { tour::press(*suggestions(*m_channel), Qt::Key_Return); },
+        [this] { return holds(*m_channel, QStringLiteral("Bearing temperature")); }});
     return steps;
 }
 

@@ -6,6 +6,7 @@
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 #include "ui/qt/controls/ElidedTextLabel.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFormLayout>
@@ -20,9 +21,10 @@ namespace gallery {
 LabelsPage::LabelsPage()
     : Page(QStringLiteral("labels"), tr("Labels and links"),
           tr("Drag the handle: the label elides the start of its path, and its tool tip then shows the whole path. "
-             "The button below has too little space, but keeps its size.")),
+             "Ctrl+C in the label copies the whole path. The button below has too little space, but keeps its size.")),
       m_path(new QLineEdit(QDir::toNativeSeparators(QCoreApplication::applicationFilePath()))),
       m_label(new ElidedTextLabel),
+      m_elideMode(new QComboBox),
       m_splitter(new QSplitter(Qt::Horizontal)),
       m_button(new morvane::ui::CorrectFontCommandLinkButton)
 {
@@ -30,10 +32,14 @@ LabelsPage::LabelsPage()
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("&Path:"), m_path);
     form->addRow(tr("Elided:"), makePathRow());
+    form->addRow(tr("&Ellipsis:"), m_elideMode);
     form->addRow(tr("Too narrow:"), makeButtonRow());
     body().addLayout(form);
     body().addStretch(1);
 
+    m_elideMode->addItems({tr("At the start"), tr("At the end"), tr("In the middle"), tr("None")});
+    connect(m_elideMode, QOverload<int>::of(&QComboBox::currentIndexChanged), m_label,
+        [this](int mode) { m_label->setElideMode(static_cast<Qt::TextElideMode>(mode)); });
     connect(m_path, &QLineEdit::textChanged, m_label, &ElidedTextLabel::setText);
     connect(m_label, &ElidedTextLabel::clicked, this, [this] { Q_EMIT reported(tr("The label was clicked.")); });
     connect(m_button, &QAbstractButton::clicked, this, [this] { Q_EMIT reported(tr("The button was clicked.")); });
@@ -43,6 +49,7 @@ QWidget* LabelsPage::makePathRow()
 {
     m_label->setText(m_path->text());
     m_label->setAccessibleName(tr("Elided path"));
+    m_label->setCopyable(true);
     m_label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     m_label->setLineWidth(1);
     auto* const rest = new QLabel(tr("Drag the handle."));

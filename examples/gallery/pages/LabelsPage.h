@@ -6,6 +6,7 @@
 #include "Page.h"
 
 class ElidedTextLabel;
+class QComboBox;
 class QLabel;
 class QLineEdit;
 class QSplitter;
@@ -32,6 +33,7 @@ private:
 
     QLineEdit* m_path;
     ElidedTextLabel* m_label;
+    QComboBox* m_elideMode;
     QSplitter* m_splitter;
     morvane::ui::CorrectFontCommandLinkButton* m_button;
 };

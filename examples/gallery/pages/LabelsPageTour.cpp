@@ -7,6 +7,9 @@
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
 #include "ui/qt/controls/ElidedTextLabel.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QSplitter>
 
@@ -23,6 +26,20 @@ std::vector<TourStep> LabelsPage::tourSteps(const TourWorkspace& workspace)
             m_splitter->setSizes({m_splitter->width() / 2, m_splitter->width() / 2});
         },
         [this] { return expect(m_label->toolTip() == m_path->text(), "the elided path is not the tool tip"); }});
+    steps.push_back({QStringLiteral("copy"),
+        [this] {
+            tour::click(*m_label);
+            tour::press(*m_label, Qt::Key_C, Qt::ControlModifier);
+        },
+        [this] {
+            return expect(window()->focusWidget() == m_label && QApplication::clipboard()->text() == m_path->text(),
+                "the whole path is not on the clipboard");
+        }});
+    steps.push_back({QStringLiteral("elide-middle"), [this] { m_elideMode->setCurrentIndex(Qt::ElideMiddle); },
+        [this] {
+            return expect(m_label->elideMode() == Qt::ElideMiddle && m_label->toolTip() == m_path->text(),
+                "the elided path is not the tool tip");
+        }});
     steps.push_back({QStringLiteral("wide"),
         [this] {
             tour::type(*m_path, QStringLiteral("run-001.dat"));

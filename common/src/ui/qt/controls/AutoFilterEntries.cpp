@@ -3,20 +3,19 @@
 
 #include "ui/qt/controls/AutoFilterEntries_p.h"
 
-#include "ui/qt/controls/EntryMatcher_p.h"
-
 #include <QAbstractProxyModel>
 
 namespace morvane::ui {
 
 int findEntry(const QAbstractItemModel& entries, int column, const QModelIndex& root, const QString& text,
-    EntryPreference preference, int rows)
+    EntryPreference preference, EntryMatching matching, int rows)
 {
-    const EntryMatcher matcher(text);
+    const EntryMatcher matcher(text, matching);
+    const bool isEmpty = matching.words ? text.trimmed().isEmpty() : text.isEmpty();
     // A form field compares what its line shows, which is the edit role.
     const int role = preference == EntryPreference::Equal ? Qt::EditRole : Qt::DisplayRole;
     const int last = qMin(entries.rowCount(root), rows);
-    EntryFit best = preference == EntryPreference::Equal && text.isEmpty() ? EntryFit::Contained : EntryFit::None;
+    EntryFit best = preference == EntryPreference::Equal && isEmpty ? EntryFit::Contained : EntryFit::None;
     int bestRow = -1;
     for (int row = 0; row < last; ++row) {
         const QModelIndex entry = entries.index(row, column, root);

@@ -3,12 +3,13 @@
 
 #pragma once
 
+#include "ui/qt/controls/EntryMatcher_p.h"
+
 #include <QModelIndex>
 
 #include <limits>
 
 class QAbstractItemModel;
-class QString;
 
 namespace morvane::ui {
 
@@ -23,10 +24,11 @@ enum class EntryPreference
  * The row of the entry that a text stands for, -1 for none. Disabled entries do not count.
  *
  * @param entries,column,root where the entries are
- * @param rows                how many of them are searched
+ * @param matching            what "contains" means; of a text with words, blanks at the ends do not count
+ * @param rows                how many of the entries are searched
  */
 int findEntry(const QAbstractItemModel& entries, int column, const QModelIndex& root, const QString& text,
-    EntryPreference preference, int rows = std::numeric_limits<int>::max());
+    EntryPreference preference, EntryMatching matching = {}, int rows = std::numeric_limits<int>::max());
 
 /** Whether a user may pick this entry. */
 bool isEnabledEntry(const QModelIndex& entry);

@@ -54,7 +54,7 @@ int AutoFilterOutcome::findRow() const
     if (canStay && m_box.itemText(m_box.currentIndex()) == text) {
         return m_box.currentIndex();
     }
-    return findEntry(*m_box.model(), m_box.modelColumn(), m_box.rootModelIndex(), text, preference());
+    return findEntry(*m_box.model(), m_box.modelColumn(), m_box.rootModelIndex(), text, preference(), m_matching);
 }
 
 void AutoFilterOutcome::takeRow(int row)

@@ -57,6 +57,8 @@ public:
     void takeRow(int row);
     /** How a text without a picked entry is compared with the entries. */
     EntryPreference preference() const;
+    EntryMatching matching() const { return m_matching; }
+    void setMatching(EntryMatching matching) { m_matching = matching; }
 
     /** Emits the signals of QComboBox for an entry that the user has activated. A slot may delete the combo box. */
     void announceActivation();
@@ -65,6 +67,7 @@ private:
     ComboBoxAutoFilter& m_box;
     const std::shared_ptr<AutoFilterUserEdit> m_edit = std::make_shared<AutoFilterUserEdit>();
     AutoFilterPick m_pick;
+    EntryMatching m_matching;
     QPersistentModelIndex m_current;
 };
 

@@ -3,11 +3,10 @@
 
 #include "ui/qt/controls/AutoFilterSuggestions_p.h"
 
+#include "ui/qt/controls/AutoFilterDelegate_p.h"
 #include "ui/qt/controls/AutoFilterLineEdit_p.h"
 #include "ui/qt/controls/AutoFilterOutcome_p.h"
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
-
-#include <ctkCompleter.h>
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -57,8 +56,12 @@ AutoFilterSuggestions::AutoFilterSuggestions(ComboBoxAutoFilter& box, AutoFilter
 
 AutoFilterSuggestions::~AutoFilterSuggestions() = default;
 
-void AutoFilterSuggestions::setCompleter(compat::ctkCompleter& completer)
+void AutoFilterSuggestions::setCompleter(AutoFilterCompleter& completer)
 {
+    if (m_completer) {
+        // It is not used any more and need not follow the model.
+        m_completer->setMatching({});
+    }
     m_completer = &completer;
     m_followedModel = m_box.model();
     m_followedColumn = completer.completionColumn();
@@ -71,11 +74,49 @@ void AutoFilterSuggestions::setUpPopup(Qt::TextElideMode elide)
         return;
     }
     popup->setTextElideMode(elide);
-    popup->installEventFilter(&m_box);
-    popup->viewport()->installEventFilter(&m_box);
+    keepPopup();
     if (auto* const list = qobject_cast<QListView*>(popup)) {
         // Each key causes a new layout of the popup. Measuring each entry would take most of the time.
         list->setUniformItemSizes(true);
+    }
+}
+
+void AutoFilterSuggestions::keepPopup()
+{
+    QAbstractItemView* const popup = m_completer->popup();
+    if (!popup) {
+        return;
+    }
+    // QCompleter installs its own filter and delegate with each model. Of the filters, the last one is called first.
+    popup->installEventFilter(&m_box);
+    popup->viewport()->installEventFilter(&m_box);
+    updateDelegate(*popup);
+}
+
+void AutoFilterSuggestions::updateDelegate(QAbstractItemView& popup)
+{
+    const QPointer<QAbstractItemDelegate> old = m_delegate;
+    if (popup.itemDelegate() != m_delegate) {
+        m_stockDelegate = popup.itemDelegate();
+    }
+    m_delegate = m_showsMatch ? new AutoFilterDelegate(popup, *m_completer, m_outcome.matching()) : nullptr;
+    popup.setItemDelegate(m_delegate ? m_delegate : m_stockDelegate);
+    delete old;
+}
+
+void AutoFilterSuggestions::followMatching()
+{
+    if (m_completer) {
+        m_completer->setMatching(m_outcome.matching());
+        keepPopup();
+    }
+}
+
+void AutoFilterSuggestions::setShowsMatch(bool on)
+{
+    m_showsMatch = on;
+    if (m_completer) {
+        keepPopup();
     }
 }
 
@@ -86,7 +127,8 @@ void AutoFilterSuggestions::followModel()
     }
     if (m_followedModel != m_box.model()) {
         m_followedModel = m_box.model();
-        m_completer->setSourceModel(m_box.model());
+        m_completer->setEntries(m_box.model());
+        keepPopup();
     }
     if (m_followedColumn != m_box.modelColumn()) {
         m_followedColumn = m_box.modelColumn();
@@ -107,7 +149,8 @@ void AutoFilterSuggestions::mark()
     }
     const QAbstractItemModel& suggested = *popup->model();
     const int column = m_completer->completionColumn();
-    const int row = findEntry(suggested, column, QModelIndex(), line->text(), preference, mostSuggestionsSearched);
+    const int row = findEntry(
+        suggested, column, QModelIndex(), line->text(), preference, m_outcome.matching(), mostSuggestionsSearched);
     line->markSuggestion(suggested.index(row, column));
 }
 

@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include "ui/qt/compat/ctkCompleterFwd.h"
+#include "ui/qt/controls/AutoFilterCompleter_p.h"
 #include "ui/qt/controls/EventResender_p.h"
 
+#include <QAbstractItemDelegate>
 #include <QObject>
 #include <QPointer>
 
@@ -34,9 +35,14 @@ public:
     ~AutoFilterSuggestions() override;
 
     /** Uses this completer from now on. It offers the entries of the combo box's model. */
-    void setCompleter(compat::ctkCompleter& completer);
+    void setCompleter(AutoFilterCompleter& completer);
     /** Sets up the completer's popup, if it has one. The combo box filters the popup's events. */
     void setUpPopup(Qt::TextElideMode elide);
+    /** Makes the completer compare texts as the outcome of an edit does. */
+    void followMatching();
+    /** Whether the places of the text are shown in bold. */
+    bool showsMatch() const { return m_showsMatch; }
+    void setShowsMatch(bool on);
     /** Makes the completer offer what the combo box shows: entries of this model in this column. */
     void followModel();
 
@@ -56,6 +62,8 @@ Q_SIGNALS:
 
 private:
     QAbstractItemView* popup() const;
+    void keepPopup();
+    void updateDelegate(QAbstractItemView& popup);
 
     bool filterKey(QObject& popup, QKeyEvent& event);
     void moveMark(QObject& popup, QKeyEvent& event);
@@ -67,7 +75,10 @@ private:
     ComboBoxAutoFilter& m_box;
     AutoFilterOutcome& m_outcome;
     EventResender m_resender;
-    QPointer<compat::ctkCompleter> m_completer;
+    QPointer<AutoFilterCompleter> m_completer;
+    bool m_showsMatch = false;
+    QPointer<QAbstractItemDelegate> m_stockDelegate;
+    QPointer<QAbstractItemDelegate> m_delegate; // shows the match
     QPointer<QAbstractItemModel> m_followedModel;
     int m_followedColumn = 0;
 };

@@ -3,6 +3,7 @@
 
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 
+#include "ui/qt/controls/AutoFilterCompleter_p.h"
 #include "ui/qt/controls/AutoFilterFocusWatch_p.h"
 #include "ui/qt/controls/AutoFilterItemView_p.h"
 #include "ui/qt/controls/AutoFilterLineEdit_p.h"
@@ -10,8 +11,6 @@
 #include "ui/qt/controls/AutoFilterSuggestions_p.h"
 #include "ui/qt/controls/EventResender_p.h"
 #include "ui/qt/util/GuiThread_p.h"
-
-#include <ctkCompleter.h>
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -30,6 +29,12 @@ struct ComboBoxAutoFilter::Impl
 
     explicit Impl(ComboBoxAutoFilter& box) : outcome(box), suggestions(box, outcome), listEvents(box), focusWatch(box)
     {
+    }
+
+    void setMatching(EntryMatching matching)
+    {
+        outcome.setMatching(matching);
+        suggestions.followMatching();
     }
 
     Announcement announcement = Announcement::AtOnce;
@@ -91,12 +96,14 @@ void ComboBoxAutoFilter::init(
 {
     setEditable(editable);
     setLineEdit(new AutoFilterLineEdit);
-    m_completer = new ctkCompleter(model(), this);
-    m_impl->suggestions.setCompleter(*m_completer);
+    auto* const ownCompleter = new AutoFilterCompleter(model(), this);
+    m_completer = ownCompleter;
+    m_impl->suggestions.setCompleter(*ownCompleter);
     m_completer->setModelFiltering(ctkCompleter::FilterContains);
     m_completer->setCompletionMode(mode);
     m_impl->suggestions.setUpPopup(elide);
     m_completer->setCaseSensitivity(cs);
+    m_impl->suggestions.followMatching();
     m_impl->suggestions.followModel();
     setCompleter(m_completer);
     connectLine();
@@ -151,6 +158,40 @@ ComboBoxAutoFilter::EditMode ComboBoxAutoFilter::editMode() const
 void ComboBoxAutoFilter::setEditMode(EditMode mode)
 {
     m_impl->mode = mode;
+}
+
+bool ComboBoxAutoFilter::isMatchingWords() const
+{
+    return m_impl->outcome.matching().words;
+}
+
+void ComboBoxAutoFilter::setMatchingWords(bool on)
+{
+    EntryMatching matching = m_impl->outcome.matching();
+    matching.words = on;
+    m_impl->setMatching(matching);
+}
+
+bool ComboBoxAutoFilter::isIgnoringAccents() const
+{
+    return m_impl->outcome.matching().ignoresAccents;
+}
+
+void ComboBoxAutoFilter::setIgnoringAccents(bool on)
+{
+    EntryMatching matching = m_impl->outcome.matching();
+    matching.ignoresAccents = on;
+    m_impl->setMatching(matching);
+}
+
+bool ComboBoxAutoFilter::isMatchShown() const
+{
+    return m_impl->suggestions.showsMatch();
+}
+
+void ComboBoxAutoFilter::setMatchShown(bool on)
+{
+    m_impl->suggestions.setShowsMatch(on);
 }
 
 bool ComboBoxAutoFilter::validateEntry()

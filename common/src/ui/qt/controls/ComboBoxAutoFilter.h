@@ -79,6 +79,10 @@ namespace morvane::ui {
  *
  * @snippet 07-filter-a-list/main.cpp filter
  *
+ * Texts can also be compared by words, and without accents, and the suggestions can show what was found:
+ *
+ * @snippet 32-words-in-any-order/main.cpp words
+ *
  * In a SingleEdit, "the entry before the edit" is recorded only once: it is the current entry when the list is first
  * opened or an entry is first activated. So create a new SingleEdit for each edit, or use a FormField.
  *
@@ -91,6 +95,12 @@ class MORVANE_UI_EXPORT ComboBoxAutoFilter : public QComboBox
     Q_PROPERTY(bool filtering READ isFiltering WRITE setFiltering)
     /** SingleEdit initially. A new combo box in Qt Designer is a FormField. */
     Q_PROPERTY(EditMode editMode READ editMode WRITE setEditMode)
+    /** Whether the text is a list of words that an entry must contain; false initially. */
+    Q_PROPERTY(bool matchingWords READ isMatchingWords WRITE setMatchingWords)
+    /** Whether a letter with an accent equals the letter without it; false initially. */
+    Q_PROPERTY(bool ignoringAccents READ isIgnoringAccents WRITE setIgnoringAccents)
+    /** Whether the suggestions show in bold where they contain the text; false initially. */
+    Q_PROPERTY(bool matchShown READ isMatchShown WRITE setMatchShown)
 
 public:
     /** How the combo box is used. */
@@ -144,6 +154,32 @@ public:
     EditMode editMode() const;
     /** Call it before an edit begins. */
     void setEditMode(EditMode mode);
+
+    /** False initially. */
+    bool isMatchingWords() const;
+    /**
+     * True: an entry contains a text if it contains each word of the text, in any order; words are separated by blanks.
+     * So "pump 2" finds "2nd pump". Applies wherever this class compares what an entry contains: to the suggestions of
+     * a completer with a popup, and to the entry that is chosen at the end of an edit. A text of blanks only counts as
+     * empty.
+     */
+    void setMatchingWords(bool on);
+
+    /** False initially. */
+    bool isIgnoringAccents() const;
+    /**
+     * True: letters with and without accents are equal, so "Muller" finds "Müller", and the other way round. A letter
+     * with a stroke, such as ø, is a letter of its own. Applies as setMatchingWords() does.
+     */
+    void setIgnoringAccents(bool on);
+
+    /** False initially. */
+    bool isMatchShown() const;
+    /**
+     * True: the suggestions show the text, or its words, in bold wherever they have it. Replaces the delegate of the
+     * completer's popup.
+     */
+    void setMatchShown(bool on);
 
     /**
      * Makes the entry current that matches the line. That is the entry that the user picked or marked, as long as the

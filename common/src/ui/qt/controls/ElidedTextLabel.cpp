@@ -4,10 +4,13 @@
 #include "ui/qt/controls/ElidedTextLabel.h"
 
 #include "ui/qt/controls/ElidedTextAccessible_p.h"
+#include "ui/qt/controls/ElidedTextCopyHandler_p.h"
 #include "ui/qt/controls/ElidedTextUtil.h"
 #include "ui/qt/util/GuiThread_p.h"
 
 #include <QAccessible>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
 
 ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLabel(parent, flags)
 {
@@ -28,8 +31,30 @@ ElidedTextLabel::ElidedTextLabel(QWidget* parent, Qt::WindowFlags flags) : QxtLa
 
 ElidedTextLabel::~ElidedTextLabel() = default;
 
+bool ElidedTextLabel::isCopyable() const
+{
+    return morvane::ui::ElidedTextCopyHandler::find(*this) != nullptr;
+}
+
+void ElidedTextLabel::setCopyable(bool on)
+{
+    morvane::ui::ElidedTextCopyHandler* const handler = morvane::ui::ElidedTextCopyHandler::find(*this);
+    if (on && !handler) {
+        new morvane::ui::ElidedTextCopyHandler(*this);
+    } else if (!on && handler) {
+        handler->remove();
+    }
+}
+
 void ElidedTextLabel::paintEvent(QPaintEvent* event)
 {
     QxtLabel::paintEvent(event);
+    if (hasFocus() && isCopyable()) {
+        QStylePainter painter(this);
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.rect = contentsRect();
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    }
     ElidedTextUtil().updateToolTip(this, contentsRect().width(), text(), text());
 }

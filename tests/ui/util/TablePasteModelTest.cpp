@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 The Morvane authors
+// SPDX-License-Identifier: MIT
+
+#include "ui/util/TablePasteFixture.h"
+
+#include <QIdentityProxyModel>
+#include <QSortFilterProxyModel>
+#include <QTableWidget>
+#include <QUndoStack>
+
+#include <memory>
+
+namespace {
+
+using TablePasteModelTest = morvane::test::TablePasteFixture;
+
+const char* const untouched = "00 01 02/10 11 12/20 21 22/30 31 32";
+
+TEST_F(TablePasteModelTest, aPasteIsOneStepOfTheHostsUndoStack)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    click(1, 0);
+    pressPaste("a\tb\nc\td");
+    EXPECT_EQ(stack.count(), 1);
+    EXPECT_FALSE(stack.undoText().isEmpty());
+    for (int round = 0; round < 3; ++round) {
+        EXPECT_EQ(texts(), "00 01 02/a b 12/c d 22/30 31 32");
+        stack.undo();
+        EXPECT_EQ(texts(), untouched);
+        stack.redo();
+    }
+}
+
+TEST_F(TablePasteModelTest, severalPastesAreUndoneOneByOne)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    click(0, 0);
+    pressPaste("a\tb");
+    click(0, 1);
+    pressPaste("c\td");
+    EXPECT_EQ(texts(), "a c d/10 11 12/20 21 22/30 31 32");
+    stack.undo();
+    EXPECT_EQ(texts(), "a b 02/10 11 12/20 21 22/30 31 32");
+    stack.undo();
+    EXPECT_EQ(texts(), untouched);
+}
+
+TEST_F(TablePasteModelTest, addedRowsAreUndoneAndRedone)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    handler->setAddingRows(true);
+    click(3, 0);
+    pressPaste("a\nb\nc");
+    for (int round = 0; round < 3; ++round) {
+        EXPECT_EQ(texts(), "00 01 02/10 11 12/20 21 22/a 31 32/b  /c  ");
+        stack.undo();
+        EXPECT_EQ(texts(), untouched);
+        stack.redo();
+    }
+}
+
+TEST_F(TablePasteModelTest, aRefusedBlockIsNoStep)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    click(3, 0);
+    pressPaste("a\nb");
+    EXPECT_EQ(stack.count(), 0);
+}
+
+TEST_F(TablePasteModelTest, typesComeBackWithTheValues)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    model.setData(model.index(0, 0), 1.5, Qt::EditRole);
+    model.setItem(0, 1, nullptr);
+    click(0, 0);
+    pressPaste("a\tb");
+    stack.undo();
+    EXPECT_EQ(model.index(0, 0).data(Qt::EditRole), QVariant(1.5));
+    EXPECT_FALSE(model.index(0, 1).data(Qt::EditRole).isValid());
+}
+
+TEST_F(TablePasteModelTest, theStepFollowsRowsThatWereInsertedAndLeavesOutThoseThatWereRemoved)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    click(0, 0);
+    pressPaste("a\nb\nc");
+    model.insertRow(0);
+    model.removeRow(2);
+    EXPECT_EQ(texts(), "  /a 01 02/c 21 22/30 31 32");
+    stack.undo();
+    EXPECT_EQ(texts(), "  /00 01 02/20 21 22/30 31 32");
+    stack.redo();
+    EXPECT_EQ(texts(), "  /a 01 02/c 21 22/30 31 32");
+}
+
+TEST_F(TablePasteModelTest, theStackOrTheModelMayGoFirst)
+{
+    auto stack = std::make_unique<QUndoStack>();
+    handler->setUndoStack(stack.get());
+    auto items = std::make_unique<QStandardItemModel>(2, 2);
+    show(*items);
+    click(0, 0);
+    pressPaste("a");
+    EXPECT_EQ(stack->count(), 1);
+    items.reset();
+    stack->undo();
+    stack->redo();
+    stack.reset();
+    EXPECT_EQ(handler->undoStack(), nullptr);
+    show(model);
+    click(0, 0);
+    pressPaste("b");
+    EXPECT_EQ(texts(), "b 01 02/10 11 12/20 21 22/30 31 32");
+}
+
+TEST_F(TablePasteModelTest, aSortedProxyGetsTheBlockWhereItShowedTheCells)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    QSortFilterProxyModel proxy;
+    proxy.setSourceModel(&model);
+    proxy.sort(0, Qt::DescendingOrder);
+    show(proxy);
+    click(0, 0);
+    pressPaste("05\tx\n95\ty");
+    EXPECT_EQ(texts(), "00 01 02/10 11 12/95 y 22/05 x 32");
+    EXPECT_EQ(texts(proxy), "95 y 22/10 11 12/05 x 32/00 01 02");
+    stack.undo();
+    EXPECT_EQ(texts(), untouched);
+    view.setModel(nullptr);
+}
+
+TEST_F(TablePasteModelTest, rowsThatAFilterHidesAsSoonAsTheyChangeAreWrittenWhole)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    handler->setAddingRows(true);
+    QSortFilterProxyModel proxy;
+    proxy.setSourceModel(&model);
+    proxy.setFilterRegularExpression("^[12]");
+    show(proxy);
+    click(0, 0);
+    pressPaste("a\tb\nc\td\ne\tf");
+    EXPECT_EQ(texts(), "00 01 02/a b 12/c d 22/30 31 32/e f ");
+    EXPECT_EQ(texts(proxy), "");
+    stack.undo();
+    EXPECT_EQ(texts(), untouched);
+    EXPECT_EQ(texts(proxy), "10 11 12/20 21 22");
+    view.setModel(nullptr);
+}
+
+TEST_F(TablePasteModelTest, otherProxiesWriteThemselves)
+{
+    class Doubling : public QIdentityProxyModel
+    {
+    public:
+        bool setData(const QModelIndex& index, const QVariant& value, int role) override
+        {
+            return QIdentityProxyModel::setData(index, value.toString() + value.toString(), role);
+        }
+    } proxy;
+    proxy.setSourceModel(&model);
+    show(proxy);
+    click(0, 0);
+    pressPaste("a\tb");
+    EXPECT_EQ(texts(), "aa bb 02/10 11 12/20 21 22/30 31 32");
+    view.setModel(nullptr);
+}
+
+TEST_F(TablePasteModelTest, aTableWidgetThatSortsItselfGetsEachCellInItsRow)
+{
+    QTableWidget table(3, 2);
+    for (int row = 0; row < 3; ++row) {
+        table.setItem(row, 0, new QTableWidgetItem(QString::number(row)));
+        table.setItem(row, 1, new QTableWidgetItem("old" + QString::number(row)));
+    }
+    table.setSortingEnabled(true);
+    table.sortByColumn(0, Qt::AscendingOrder);
+    morvane::ui::TablePasteHandler pasting(table);
+    QUndoStack stack;
+    pasting.setUndoStack(&stack);
+    table.setCurrentCell(0, 0);
+    EXPECT_TRUE(pasting.paste("9\ta\n8\tb\n7\tc"));
+    EXPECT_EQ(texts(*table.model()), "7 c/8 b/9 a");
+    stack.undo();
+    EXPECT_EQ(texts(*table.model()), "0 old0/1 old1/2 old2");
+}
+
+TEST_F(TablePasteModelTest, aModelThatIsResetMeanwhileRefusesTheRest)
+{
+    const auto connection =
+        QObject::connect(&model, &QAbstractItemModel::dataChanged, &model, [this] { model.setRowCount(0); });
+    click(0, 0);
+    pressPaste("a\nb");
+    QObject::disconnect(connection);
+    EXPECT_EQ(refusals(), "1,0:model:b");
+    EXPECT_EQ(pastes, 0);
+}
+
+TEST_F(TablePasteModelTest, aThousandTimesAThousandCellsComeWhole)
+{
+    QStandardItemModel large(1000, 1000);
+    view.setModel(&large);
+    view.setCurrentIndex(large.index(0, 0));
+    QString block;
+    for (int row = 0; row < 1000; ++row) {
+        for (int column = 0; column < 1000; ++column) {
+            block += QString::number(row * 1000 + column) + (column < 999 ? '\t' : '\n');
+        }
+    }
+    EXPECT_TRUE(handler->paste(block));
+    int wrong = 0;
+    for (int row = 0; row < 1000; ++row) {
+        for (int column = 0; column < 1000; ++column) {
+            wrong += large.index(row, column).data().toInt() != row * 1000 + column ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(wrong, 0);
+    view.setModel(nullptr);
+}
+
+} // namespace
