@@ -152,7 +152,7 @@ QWidget* NativeControls::addList(AddList call, const std::string& label, const s
 {
     std::vector<std::string> texts = entries;
     texts.push_back(label);
-    expectRoom(entries.size() + 2, texts);
+    expectRoom(entries.size() + (label.empty() ? 1 : 2), texts);
     const auto customize = m_source();
     const Label labelOfList(*this, customize.get(), label);
     const unsigned int id = m_nextId++;
@@ -174,7 +174,7 @@ QWidget* NativeControls::addList(AddList call, const std::string& label, const s
 QWidget* NativeControls::addLineEdit(const std::string& label, boost::shared_ptr<PropertyAbstract<std::string>> text)
 {
     const std::string initial = text ? text->value() : std::string();
-    expectRoom(2, {label, initial});
+    expectRoom(label.empty() ? 1 : 2, {label, initial});
     const auto customize = m_source();
     const Label labelOfEdit(*this, customize.get(), label);
     const unsigned int id = m_nextId++;

@@ -48,6 +48,11 @@ QString spokenName(const Control* label)
     return name;
 }
 
+QVariant dataOf(DWORD item)
+{
+    return QVariant(static_cast<uint>(item));
+}
+
 QString shownLabel(const Control* label)
 {
     return label && label->isVisible() ? label->label : QString();
@@ -122,7 +127,7 @@ private:
         if (!(visible == m_shown)) {
             fill(visible);
         }
-        m_box.setCurrentIndex(control.selectedItem ? m_box.findData(*control.selectedItem) : -1);
+        m_box.setCurrentIndex(control.selectedItem ? m_box.findData(dataOf(*control.selectedItem)) : -1);
     }
 
     void fill(std::vector<ControlItem>& items)
@@ -132,7 +137,7 @@ private:
         int length = shortest;
         m_box.clear();
         for (const ControlItem& item : items) {
-            m_box.addItem(item.label, item.id);
+            m_box.addItem(item.label, dataOf(item.id));
             length = std::max(length, static_cast<int>(item.label.size()));
         }
         auto* const model = qobject_cast<QStandardItemModel*>(m_box.model());
