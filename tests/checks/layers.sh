@@ -16,7 +16,7 @@ sources() { find "$@" \( -name '*.h' -o -name '*.cpp' \) | sort; }
 
 # A line for each folder: the folders and headers that its files may include beside their own folder. A folder stands
 # for its own files only, not for those of the folders in it. Each line names what stands above it, so nothing points
-# up. The two exceptions are headers, named one by one.
+# up. The exceptions are headers, named one by one.
 rules='
 host:
 property: host
@@ -24,9 +24,10 @@ ui/qt/util: property host ui/qt
 ui/qt/controls: ui/qt/util ui/qt ui/qt/compat
 ui/qt/dialogs/qtdialog:
 ui/qt/dialogs/shell: ui/qt/dialogs/qtdialog ui/qt/util ui/qt host
-ui/qt/dialogs/native: ui/qt/dialogs/shell ui/qt/util property host
+ui/qt/dialogs/native: ui/qt/dialogs/shell ui/qt/util property host ui/qt/dialogs/FileDialogCustomization.h
+ui/qt/dialogs/custom: ui/qt/dialogs/native ui/qt/dialogs/shell
 ui/qt/dialogs/save: ui/qt/dialogs/shell ui/qt/util ui/qt host ui/qt/dialogs/SaveFileMessageHandlerInterface.h ui/qt/dialogs/DefaultSaveFileMessageHandler.h
-ui/qt/dialogs: ui/qt/dialogs/native ui/qt/dialogs/save ui/qt/dialogs/shell ui/qt/dialogs/qtdialog ui/qt/util ui/qt property host
+ui/qt/dialogs: ui/qt/dialogs/custom ui/qt/dialogs/native ui/qt/dialogs/save ui/qt/dialogs/shell ui/qt/dialogs/qtdialog ui/qt/util ui/qt property host
 testing: ui/qt/dialogs/shell ui/qt/dialogs/save ui/qt/util
 '
 

@@ -26,39 +26,87 @@ TEST_P(PortableShellContract, aDialogWithoutTheInterfaceLeavesNull)
     }
 }
 
-TEST_P(PortableShellContract, aDialogDoesNotOfferPlacesNorClientDataNorFilters)
+TEST_P(PortableShellContract, aDialogDoesNotOfferFilters)
 {
     prepare();
-    EXPECT_EQ(dialog->AddPlace(itemFor(folder.path()).get(), FDAP_TOP), E_NOTIMPL);
-    EXPECT_EQ(dialog->SetClientGuid(IID_IUnknown), E_NOTIMPL);
-    EXPECT_EQ(dialog->ClearClientData(), E_NOTIMPL);
     EXPECT_EQ(dialog->SetFilter(nullptr), E_NOTIMPL);
 }
 
-TEST_P(PortableShellContract, aDialogOffersNoOtherKindsOfControls)
+TEST_P(PortableShellContract, aDialogOffersNoMenus)
 {
     prepare();
     constexpr DWORD id = 1;
-    const auto label = text("Label");
-    EXPECT_EQ(customize->AddMenu(id, label.c_str()), E_NOTIMPL);
-    EXPECT_EQ(customize->AddComboBox(id), E_NOTIMPL);
-    EXPECT_EQ(customize->AddRadioButtonList(id), E_NOTIMPL);
-    EXPECT_EQ(customize->AddEditBox(id, label.c_str()), E_NOTIMPL);
-    EXPECT_EQ(customize->AddSeparator(id), E_NOTIMPL);
-    EXPECT_EQ(customize->AddText(id, label.c_str()), E_NOTIMPL);
-    EXPECT_EQ(customize->SetEditBoxText(id, label.c_str()), E_NOTIMPL);
-    EXPECT_EQ(customize->StartVisualGroup(id, label.c_str()), E_NOTIMPL);
-    EXPECT_EQ(customize->EndVisualGroup(), E_NOTIMPL);
-    EXPECT_EQ(customize->AddPushButton(id, label.c_str()), S_OK) << "nothing has taken the identifier";
+    EXPECT_EQ(customize->AddMenu(id, text("Label").c_str()), E_NOTIMPL);
+    EXPECT_EQ(customize->AddPushButton(id, text("Label").c_str()), S_OK) << "nothing has taken the identifier";
 }
 
-TEST_P(PortableShellContract, aDialogHasNoTextOfAnEditBox)
+TEST_P(PortableShellContract, onlyAnEditBoxHasAText)
 {
     prepare();
-    auto* read = reinterpret_cast<WCHAR*>(this);
-    EXPECT_EQ(customize->GetEditBoxText(1, &read), E_NOTIMPL);
-    EXPECT_EQ(read, nullptr);
+    ASSERT_EQ(customize->AddComboBox(1), S_OK);
+    for (const DWORD id : {1u, 2u}) {
+        auto* read = reinterpret_cast<WCHAR*>(this);
+        EXPECT_EQ(customize->GetEditBoxText(id, &read), E_INVALIDARG);
+        EXPECT_EQ(read, nullptr);
+        EXPECT_EQ(customize->SetEditBoxText(id, text("x").c_str()), E_INVALIDARG);
+    }
     EXPECT_EQ(customize->GetEditBoxText(1, nullptr), E_POINTER);
+}
+
+TEST_P(PortableShellContract, aGroupEndsOnce)
+{
+    prepare();
+    EXPECT_EQ(customize->EndVisualGroup(), E_UNEXPECTED);
+    EXPECT_EQ(customize->StartVisualGroup(1, text("Group").c_str()), S_OK);
+    EXPECT_EQ(customize->EndVisualGroup(), S_OK);
+    EXPECT_EQ(customize->EndVisualGroup(), E_UNEXPECTED);
+}
+
+TEST_P(PortableShellContract, aGroupWhoseIdentifierIsTakenIsNotOpen)
+{
+    prepare();
+    ASSERT_EQ(customize->AddSeparator(1), S_OK);
+    EXPECT_EQ(customize->StartVisualGroup(1, text("Group").c_str()), E_INVALIDARG);
+    EXPECT_EQ(customize->EndVisualGroup(), E_UNEXPECTED);
+}
+
+TEST_P(PortableShellContract, onlySomeControlsHaveALabelOfTheirOwn)
+{
+    prepare();
+    ASSERT_EQ(customize->AddText(1, text("Text").c_str()), S_OK);
+    ASSERT_EQ(customize->StartVisualGroup(2, text("Group").c_str()), S_OK);
+    ASSERT_EQ(customize->AddComboBox(3), S_OK);
+    ASSERT_EQ(customize->AddRadioButtonList(4), S_OK);
+    ASSERT_EQ(customize->AddEditBox(5, text("").c_str()), S_OK);
+    ASSERT_EQ(customize->AddSeparator(6), S_OK);
+    for (const DWORD id : {1u, 2u}) {
+        EXPECT_EQ(customize->SetControlLabel(id, text("New").c_str()), S_OK) << id;
+    }
+    for (const DWORD id : {3u, 4u, 5u, 6u}) {
+        EXPECT_EQ(customize->SetControlLabel(id, text("New").c_str()), E_INVALIDARG) << id;
+    }
+}
+
+TEST_P(PortableShellContract, aListThatLosesItsSelectedEntrySelectsNothing)
+{
+    prepare();
+    DWORD item = 77;
+    ASSERT_EQ(customize->AddComboBox(1), S_OK);
+    ASSERT_EQ(customize->AddControlItem(1, 10, text("First").c_str()), S_OK);
+    ASSERT_EQ(customize->AddControlItem(1, 11, text("Second").c_str()), S_OK);
+    EXPECT_EQ(customize->AddControlItem(1, 10, text("Again").c_str()), E_INVALIDARG);
+    ASSERT_EQ(customize->SetSelectedControlItem(1, 11), S_OK);
+    ASSERT_EQ(customize->RemoveControlItem(1, 11), S_OK);
+    EXPECT_EQ(customize->GetSelectedControlItem(1, &item), E_FAIL);
+    EXPECT_EQ(item, 77u);
+    EXPECT_EQ(customize->AddControlItem(1, 11, text("Second").c_str()), S_OK) << "its identifier is free";
+}
+
+TEST_P(PortableShellContract, placesMustExist)
+{
+    prepare();
+    EXPECT_EQ(dialog->AddPlace(itemFor(folder.path()).get(), FDAP_TOP), S_OK);
+    EXPECT_EQ(dialog->AddPlace(nullptr, FDAP_BOTTOM), E_INVALIDARG);
 }
 
 /** The object must have the interface @p own, at the same address as its IUnknown, and must not have @p other. */

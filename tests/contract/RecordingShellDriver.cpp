@@ -25,6 +25,9 @@ public:
     void clickButton(DWORD control, const QString&) override { m_dialog.userClicks(control); }
     void toggleCheck(DWORD control, const QString&) override { m_dialog.userToggles(control); }
     void pickAcceptItem(DWORD control, DWORD item, const QString&) override { m_dialog.userPicksItem(control, item); }
+    void chooseEntry(DWORD control, DWORD item, int) override { m_dialog.userChooses(control, item); }
+    void chooseRadio(DWORD control, DWORD item, const QString&) override { m_dialog.userChooses(control, item); }
+    void typeText(DWORD control, const QString& text) override { m_dialog.userTypes(control, text); }
     void pressAcceptAndAnswer(bool replace) override
     {
         m_dialog.userAnswersOverwriting(replace);

@@ -31,6 +31,12 @@ public:
     virtual void clickButton(DWORD control, const QString& label) = 0;
     virtual void toggleCheck(DWORD control, const QString& label) = 0;
     virtual void pickAcceptItem(DWORD control, DWORD item, const QString& label) = 0;
+    /** Chooses from a combo box; @p position counts the entries from 0. */
+    virtual void chooseEntry(DWORD control, DWORD item, int position) = 0;
+    /** Chooses a radio button by its label. */
+    virtual void chooseRadio(DWORD control, DWORD item, const QString& label) = 0;
+    /** Replaces the text in an edit box; returns when the Shell has it. */
+    virtual void typeText(DWORD control, const QString& text) = 0;
     /** Presses accept and answers the question whether a file may be replaced. */
     virtual void pressAcceptAndAnswer(bool replace) = 0;
 };

@@ -33,9 +33,22 @@ public:
     void clickButton(DWORD, const QString& label) override { m_driver.clickControl(label); }
     void toggleCheck(DWORD, const QString& label) override { m_driver.toggleControl(label); }
     void pickAcceptItem(DWORD, DWORD, const QString& label) override { m_driver.pickAcceptItem(label); }
+    void chooseEntry(DWORD control, DWORD, int position) override
+    {
+        m_driver.chooseEntry(nameOf(control), position);
+        QCoreApplication::processEvents(); // a user sees the result before the next action
+    }
+    void chooseRadio(DWORD, DWORD, const QString& label) override
+    {
+        m_driver.clickControl(label);
+        QCoreApplication::processEvents();
+    }
+    void typeText(DWORD control, const QString& text) override { m_driver.typeText(nameOf(control), text); }
     void pressAcceptAndAnswer(bool replace) override { m_driver.pressAcceptAndAnswer(replace); }
 
 private:
+    static QString nameOf(DWORD control) { return QStringLiteral("customControl%1").arg(control); }
+
     const FileDialogDriver m_driver;
 };
 

@@ -54,6 +54,9 @@ public:
             [label] { EXPECT_TRUE(NativeDialog::takeMenuEntry(label.toStdWString())) << label.toStdString(); });
         m_dialog.click(NativeDialog::AcceptArrow);
     }
+    void chooseEntry(DWORD, DWORD, int position) override { EXPECT_TRUE(m_dialog.chooseFromCustomList(position)); }
+    void chooseRadio(DWORD, DWORD, const QString& label) override { click(label); }
+    void typeText(DWORD, const QString& text) override { EXPECT_TRUE(m_dialog.setCustomText(text.toStdWString())); }
     void pressAcceptAndAnswer(bool replace) override
     {
         m_helpers.emplace_back([dialog = m_dialog, replace] {

@@ -196,6 +196,39 @@ void FileDialogDriver::toggleControl(const QString& label) const
     QTest::mouseClick(check, Qt::LeftButton, Qt::NoModifier, QPoint(8, check->height() / 2));
 }
 
+QComboBox* FileDialogDriver::customList(const QString& objectName) const
+{
+    auto* const box = m_dialog.findChild<QComboBox*>(objectName);
+    EXPECT_TRUE(box && box->isVisible()) << objectName.toStdString();
+    return box;
+}
+
+QLineEdit* FileDialogDriver::customEdit(const QString& objectName) const
+{
+    auto* const edit = m_dialog.findChild<QLineEdit*>(objectName);
+    EXPECT_TRUE(edit && edit->isVisible()) << objectName.toStdString();
+    return edit;
+}
+
+void FileDialogDriver::chooseEntry(const QString& objectName, int row) const
+{
+    const QPointer<QComboBox> box(customList(objectName));
+    box->setFocus();
+    for (int left = box->count(); left > 0 && box && box->currentIndex() != row; --left) {
+        QTest::keyClick(box.data(), box->currentIndex() < row ? Qt::Key_Down : Qt::Key_Up);
+    }
+    EXPECT_TRUE(!box || box->currentIndex() == row) << "the keys do not reach entry " << row;
+}
+
+void FileDialogDriver::typeText(const QString& objectName, const QString& text) const
+{
+    QLineEdit* const edit = customEdit(objectName);
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClicks(edit, text);
+}
+
 void FileDialogDriver::pickAcceptItem(const QString& label) const
 {
     auto* const arrow = acceptButton().findChild<QToolButton*>();

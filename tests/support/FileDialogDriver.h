@@ -60,6 +60,14 @@ public:
     /** Picks an item of the menu at the accept button. */
     void pickAcceptItem(const QString& label) const;
 
+    /** The custom list or edit box with this object name; the test fails if it is not shown. */
+    QComboBox* customList(const QString& objectName) const;
+    QLineEdit* customEdit(const QString& objectName) const;
+    /** Steps with the keys to an entry of a combo box among the controls; counted from 0. */
+    void chooseEntry(const QString& objectName, int row) const;
+    /** Replaces the text in an edit box among the controls by typing. */
+    void typeText(const QString& objectName, const QString& text) const;
+
     /** The names in the view of the folder, sorted. */
     QStringList listed() const;
     bool waitForListed(QStringList names) const;

@@ -93,6 +93,22 @@ BOOL CALLBACK matchText(HWND window, LPARAM argument)
     return FALSE;
 }
 
+struct ClassSearch
+{
+    const wchar_t* name;
+    HWND found;
+};
+
+BOOL CALLBACK matchCustomClass(HWND window, LPARAM argument)
+{
+    auto& search = *reinterpret_cast<ClassSearch*>(argument);
+    if (GetDlgCtrlID(window) < firstCustomControl || !hasClass(window, search.name)) {
+        return TRUE;
+    }
+    search.found = window;
+    return FALSE;
+}
+
 HWND waitForMenu()
 {
     HWND menu = nullptr;
@@ -343,6 +359,31 @@ bool NativeDialog::isVisible(int control) const
 {
     const HWND window = find(control);
     return window && IsWindowVisible(window);
+}
+
+HWND NativeDialog::customControlOfClass(const wchar_t* name) const
+{
+    ClassSearch search{name, nullptr};
+    EnumChildWindows(m_window, matchCustomClass, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+bool NativeDialog::chooseFromCustomList(int position) const
+{
+    const HWND combo = customControlOfClass(WC_COMBOBOXW);
+    if (!combo) {
+        return false;
+    }
+    send(combo, CB_SETCURSEL, static_cast<WPARAM>(position));
+    const auto id = static_cast<WORD>(GetDlgCtrlID(combo));
+    send(GetParent(combo), WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+    return true;
+}
+
+bool NativeDialog::setCustomText(const std::wstring& text) const
+{
+    const HWND edit = customControlOfClass(WC_EDITW);
+    return edit && send(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str())) != 0;
 }
 
 bool NativeDialog::chooseAcceptOption(int index) const

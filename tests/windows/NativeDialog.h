@@ -85,6 +85,14 @@ public:
     bool isEnabled(int control) const;
     bool isVisible(int control) const;
 
+    /**
+     * Chooses an entry, counted from 0, of the combo box that was added first, as a user does.
+     * False when there is none. Only for the dialog's thread.
+     */
+    bool chooseFromCustomList(int position) const;
+    /** Sets the text in the edit box that was added first. False when there is none. Only for the dialog's thread. */
+    bool setCustomText(const std::wstring& text) const;
+
     /** Opens the menu of the accept button and selects the entry @p index, counted from 0. False when no menu opens. */
     bool chooseAcceptOption(int index) const;
     /** Waits for a menu of this process and selects the entry with this text. False when there is none. */
@@ -98,6 +106,7 @@ public:
 
 private:
     HWND list() const;
+    HWND customControlOfClass(const wchar_t* name) const;
     /** Counted from 0; -1 when it is not listed. */
     int positionOf(const std::wstring& name) const;
     HWND find(int control) const;

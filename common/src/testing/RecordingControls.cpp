@@ -47,10 +47,17 @@ void RecordingControls::pick(DWORD control, DWORD item)
     m_controls.at(control).picked = item;
 }
 
+void RecordingControls::type(DWORD control, const QString& text)
+{
+    m_controls.at(control).label = text;
+}
+
 void RecordingControls::forgetPick()
 {
     for (auto& entry : m_controls) {
-        entry.second.picked.reset();
+        if (entry.second.kind == Kind::DropDown) {
+            entry.second.picked.reset();
+        }
     }
 }
 
@@ -68,31 +75,86 @@ int RecordingControls::itemState(DWORD control, DWORD item) const
 
 bool RecordingControls::isCheckBox(DWORD control) const
 {
-    const auto found = m_controls.find(control);
-    return found != m_controls.end() && found->second.checkButton;
+    const Recorded* const found = find(control);
+    return found && found->kind == Kind::CheckButton;
 }
 
 bool RecordingControls::isChecked(DWORD control) const
 {
-    const auto found = m_controls.find(control);
-    return found != m_controls.end() && found->second.checked;
+    const Recorded* const found = find(control);
+    return found && found->checked;
 }
 
 std::optional<DWORD> RecordingControls::idOf(const QString& label) const
 {
     for (const auto& [id, control] : m_controls) {
-        if (!control.dropDown && control.label == label) {
+        if ((control.kind == Kind::PushButton || control.kind == Kind::CheckButton) && control.label == label) {
             return id;
         }
     }
     return std::nullopt;
 }
 
+std::optional<DWORD> RecordingControls::listOf(const QString& label) const
+{
+    return labelled(label, Kind::List);
+}
+
+std::optional<DWORD> RecordingControls::editBoxOf(const QString& label) const
+{
+    return labelled(label, Kind::EditBox);
+}
+
+std::optional<DWORD> RecordingControls::labelled(const QString& label, Kind kind) const
+{
+    for (const auto& entry : m_controls) {
+        if (entry.second.kind == kind && labelOf(entry.first) == label) {
+            return entry.first;
+        }
+    }
+    return std::nullopt;
+}
+
+QString RecordingControls::labelOf(DWORD id) const
+{
+    const Recorded& control = m_controls.at(id);
+    const Recorded* const before = control.before ? find(*control.before) : nullptr;
+    if (before && before->kind == Kind::Text && before->group == control.group) {
+        return before->label;
+    }
+    const auto members = std::count_if(m_controls.begin(), m_controls.end(),
+        [&control](const auto& entry) { return entry.second.group == control.group; });
+    return control.group && members == 1 ? textOf(*control.group) : QString();
+}
+
+std::vector<std::pair<DWORD, QString>> RecordingControls::itemsOf(DWORD control) const
+{
+    std::vector<std::pair<DWORD, QString>> items;
+    if (const Recorded* const found = find(control)) {
+        for (const Item& item : found->items) {
+            items.emplace_back(item.id, item.label);
+        }
+    }
+    return items;
+}
+
+std::optional<DWORD> RecordingControls::selectedIn(DWORD control) const
+{
+    const Recorded* const found = find(control);
+    return found ? found->picked : std::nullopt;
+}
+
+QString RecordingControls::textOf(DWORD control) const
+{
+    const Recorded* const found = find(control);
+    return found ? found->label : QString();
+}
+
 std::optional<std::pair<DWORD, DWORD>> RecordingControls::itemOf(const QString& label) const
 {
     for (const auto& [id, control] : m_controls) {
         for (const Item& item : control.items) {
-            if (item.label == label) {
+            if (control.kind == Kind::DropDown && item.label == label) {
                 return std::make_pair(id, item.id);
             }
         }
@@ -105,15 +167,42 @@ std::optional<HRESULT> RecordingControls::record(const char* method, const std::
     return m_shell.record(std::string("IFileDialogCustomize::") + method, arguments);
 }
 
-HRESULT RecordingControls::add(DWORD id, const Recorded& control)
+HRESULT RecordingControls::add(DWORD id, Kind kind, LPCWSTR label)
 {
-    return m_controls.emplace(id, control).second ? S_OK : E_INVALIDARG;
+    Recorded control;
+    control.kind = kind;
+    control.label = ui::toQString(label);
+    control.group = m_openGroup;
+    control.before = m_last;
+    if (!m_controls.emplace(id, control).second) {
+        return E_INVALIDARG;
+    }
+    m_last = id;
+    return S_OK;
 }
 
 RecordingControls::Recorded* RecordingControls::find(DWORD id)
 {
     const auto found = m_controls.find(id);
     return found == m_controls.end() ? nullptr : &found->second;
+}
+
+const RecordingControls::Recorded* RecordingControls::find(DWORD id) const
+{
+    const auto found = m_controls.find(id);
+    return found == m_controls.end() ? nullptr : &found->second;
+}
+
+RecordingControls::Recorded* RecordingControls::find(DWORD id, Kind kind)
+{
+    Recorded* const found = find(id);
+    return found && found->kind == kind ? found : nullptr;
+}
+
+RecordingControls::Recorded* RecordingControls::findWithItems(DWORD id)
+{
+    Recorded* const found = find(id, Kind::DropDown);
+    return found ? found : find(id, Kind::List);
 }
 
 RecordingControls::Item* RecordingControls::findItem(DWORD id, DWORD item)
@@ -132,29 +221,25 @@ HRESULT RecordingControls::EnableOpenDropDown(DWORD control)
     if (const auto failure = record("EnableOpenDropDown", text(control))) {
         return *failure;
     }
-    const bool present =
-        std::any_of(m_controls.begin(), m_controls.end(), [](const auto& entry) { return entry.second.dropDown; });
-    Recorded dropDown;
-    dropDown.dropDown = true;
-    return present ? E_UNEXPECTED : add(control, dropDown);
+    const bool present = std::any_of(
+        m_controls.begin(), m_controls.end(), [](const auto& entry) { return entry.second.kind == Kind::DropDown; });
+    return present ? E_UNEXPECTED : add(control, Kind::DropDown);
 }
 
 HRESULT RecordingControls::AddPushButton(DWORD control, LPCWSTR label)
 {
     const auto failure = record("AddPushButton", text(control, label));
-    Recorded button;
-    button.label = ui::toQString(label);
-    return failure ? *failure : add(control, button);
+    return failure ? *failure : add(control, Kind::PushButton, label);
 }
 
 HRESULT RecordingControls::AddCheckButton(DWORD control, LPCWSTR label, BOOL checked)
 {
     const auto failure = record("AddCheckButton", text(control, label) + ", " + std::to_string(checked));
-    Recorded check;
-    check.label = ui::toQString(label);
-    check.checkButton = true;
-    check.checked = checked != FALSE;
-    return failure ? *failure : add(control, check);
+    const HRESULT result = failure ? *failure : add(control, Kind::CheckButton, label);
+    if (SUCCEEDED(result)) {
+        find(control)->checked = checked != FALSE;
+    }
+    return result;
 }
 
 HRESULT RecordingControls::GetControlState(DWORD control, CDCONTROLSTATEF* state)
@@ -183,7 +268,7 @@ HRESULT RecordingControls::GetCheckButtonState(DWORD control, BOOL* checked)
 {
     const auto failure = record("GetCheckButtonState", text(control));
     const Recorded* const found = find(control);
-    if (failure || !found || !found->checkButton || !checked) {
+    if (failure || !found || found->kind != Kind::CheckButton || !checked) {
         return failure.value_or(E_INVALIDARG);
     }
     *checked = found->checked ? TRUE : FALSE;
@@ -194,7 +279,7 @@ HRESULT RecordingControls::SetCheckButtonState(DWORD control, BOOL checked)
 {
     const auto failure = record("SetCheckButtonState", text(control) + ", " + std::to_string(checked));
     Recorded* const found = find(control);
-    if (failure || !found || !found->checkButton) {
+    if (failure || !found || found->kind != Kind::CheckButton) {
         return failure.value_or(E_INVALIDARG);
     }
     found->checked = checked != FALSE;
@@ -204,8 +289,8 @@ HRESULT RecordingControls::SetCheckButtonState(DWORD control, BOOL checked)
 HRESULT RecordingControls::AddControlItem(DWORD control, DWORD item, LPCWSTR label)
 {
     const auto failure = record("AddControlItem", text(control, item) + ", " + quoted(label));
-    Recorded* const found = find(control);
-    if (failure || !found || !found->dropDown || findItem(control, item)) {
+    Recorded* const found = findWithItems(control);
+    if (failure || !found || findItem(control, item)) {
         return failure.value_or(E_INVALIDARG);
     }
     found->items.push_back({item, ui::toQString(label), CDCS_ENABLEDVISIBLE});
@@ -230,8 +315,8 @@ HRESULT RecordingControls::RemoveControlItem(DWORD control, DWORD item)
 HRESULT RecordingControls::RemoveAllControlItems(DWORD control)
 {
     const auto failure = record("RemoveAllControlItems", text(control));
-    Recorded* const found = find(control);
-    if (failure || !found || !found->dropDown) {
+    Recorded* const found = findWithItems(control);
+    if (failure || !found) {
         return failure.value_or(E_INVALIDARG);
     }
     found->items.clear();
@@ -265,17 +350,19 @@ HRESULT RecordingControls::SetControlItemState(DWORD control, DWORD item, CDCONT
 HRESULT RecordingControls::GetSelectedControlItem(DWORD control, DWORD* item)
 {
     const auto failure = record("GetSelectedControlItem", text(control));
-    const Recorded* const found = find(control);
-    if (failure || !found || !found->dropDown || !item) {
+    const Recorded* const found = findWithItems(control);
+    if (failure || !found || !item) {
         return failure.value_or(E_INVALIDARG);
+    }
+    const bool isMenu = found->kind == Kind::DropDown;
+    const auto scripted = isMenu ? m_shell.script.selectedItem : std::nullopt;
+    if (scripted || found->picked) {
+        *item = scripted ? *scripted : *found->picked;
+        return S_OK;
     }
     const auto first = std::find_if(
         found->items.begin(), found->items.end(), [](const Item& entry) { return entry.state == CDCS_ENABLEDVISIBLE; });
-    if (m_shell.script.selectedItem || found->picked) {
-        *item = m_shell.script.selectedItem ? *m_shell.script.selectedItem : *found->picked;
-        return S_OK;
-    }
-    if (first == found->items.end()) {
+    if (!isMenu || first == found->items.end()) {
         return E_FAIL;
     }
     *item = first->id;
@@ -296,14 +383,16 @@ HRESULT RecordingControls::MakeProminent(DWORD control)
 {
     const auto failure = record("MakeProminent", text(control));
     const Recorded* const found = find(control);
-    return failure ? *failure : found && !found->dropDown ? S_OK : E_INVALIDARG;
+    return failure ? *failure : found && found->kind != Kind::DropDown ? S_OK : E_INVALIDARG;
 }
 
 HRESULT RecordingControls::SetControlLabel(DWORD control, LPCWSTR label)
 {
     const auto failure = record("SetControlLabel", text(control, label));
     Recorded* const found = find(control);
-    if (failure || !found || found->dropDown) {
+    const bool hasLabel = found && (found->kind == Kind::PushButton || found->kind == Kind::CheckButton ||
+                                       found->kind == Kind::Text || found->kind == Kind::Group);
+    if (failure || !hasLabel) {
         return failure.value_or(E_INVALIDARG);
     }
     found->label = ui::toQString(label);
@@ -328,47 +417,77 @@ HRESULT RecordingControls::AddMenu(DWORD control, LPCWSTR label)
 
 HRESULT RecordingControls::AddComboBox(DWORD control)
 {
-    return record("AddComboBox", text(control)).value_or(E_NOTIMPL);
+    const auto failure = record("AddComboBox", text(control));
+    return failure ? *failure : add(control, Kind::List);
 }
 
 HRESULT RecordingControls::AddRadioButtonList(DWORD control)
 {
-    return record("AddRadioButtonList", text(control)).value_or(E_NOTIMPL);
+    const auto failure = record("AddRadioButtonList", text(control));
+    return failure ? *failure : add(control, Kind::List);
 }
 
 HRESULT RecordingControls::AddEditBox(DWORD control, LPCWSTR label)
 {
-    return record("AddEditBox", text(control, label)).value_or(E_NOTIMPL);
+    const auto failure = record("AddEditBox", text(control, label));
+    return failure ? *failure : add(control, Kind::EditBox, label);
 }
 
 HRESULT RecordingControls::AddSeparator(DWORD control)
 {
-    return record("AddSeparator", text(control)).value_or(E_NOTIMPL);
+    const auto failure = record("AddSeparator", text(control));
+    return failure ? *failure : add(control, Kind::Separator);
 }
 
 HRESULT RecordingControls::AddText(DWORD control, LPCWSTR label)
 {
-    return record("AddText", text(control, label)).value_or(E_NOTIMPL);
+    const auto failure = record("AddText", text(control, label));
+    return failure ? *failure : add(control, Kind::Text, label);
 }
 
 HRESULT RecordingControls::GetEditBoxText(DWORD control, WCHAR** text)
 {
-    return ui::withoutResult(text, record("GetEditBoxText", std::to_string(control)).value_or(E_NOTIMPL));
+    const auto failure = record("GetEditBoxText", std::to_string(control));
+    const Recorded* const found = find(control, Kind::EditBox);
+    if (failure || !found || !text) {
+        return ui::withoutResult(text, failure.value_or(E_INVALIDARG));
+    }
+    return m_shell.copyString(found->label, text);
 }
 
 HRESULT RecordingControls::SetEditBoxText(DWORD control, LPCWSTR label)
 {
-    return record("SetEditBoxText", text(control, label)).value_or(E_NOTIMPL);
+    const auto failure = record("SetEditBoxText", text(control, label));
+    Recorded* const found = find(control, Kind::EditBox);
+    if (failure || !found) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    found->label = ui::toQString(label);
+    return S_OK;
 }
 
 HRESULT RecordingControls::StartVisualGroup(DWORD control, LPCWSTR label)
 {
-    return record("StartVisualGroup", text(control, label)).value_or(E_NOTIMPL);
+    const auto failure = record("StartVisualGroup", text(control, label));
+    if (failure || m_openGroup) {
+        return failure.value_or(E_UNEXPECTED);
+    }
+    const HRESULT result = add(control, Kind::Group, label);
+    if (SUCCEEDED(result)) {
+        m_openGroup = control;
+    }
+    return result;
 }
 
 HRESULT RecordingControls::EndVisualGroup()
 {
-    return record("EndVisualGroup").value_or(E_NOTIMPL);
+    const auto failure = record("EndVisualGroup");
+    const bool wasOpen = m_openGroup.has_value();
+    if (failure || !wasOpen) {
+        return failure.value_or(E_UNEXPECTED);
+    }
+    m_openGroup.reset();
+    return S_OK;
 }
 
 } // namespace morvane::test

@@ -10,7 +10,8 @@ namespace morvane::test {
 /**
  * The custom controls of a RecordingDialog. The object shares the identity and the reference count of the dialog.
  *
- * Labels are the exact texts that the host passed, including mnemonics: "&Help".
+ * Labels are the exact texts that the host passed, including mnemonics: "&Help". The label of a list or an edit box is
+ * the text directly before it, or the heading of the group that has only this control.
  *
  * @snippet testing/RecordingShellTest.cpp controls
  */
@@ -25,7 +26,18 @@ public:
     // These functions are not recorded.
     /** The button or check box with this label; empty if there is none. */
     std::optional<DWORD> idOf(const QString& label) const;
-    /** The item with this label and the control that contains it (control first); empty if there is none. */
+    /** The combo box or list of radio buttons with this label; empty if there is none. */
+    std::optional<DWORD> listOf(const QString& label) const;
+    /** The edit box with this label; empty if there is none. */
+    std::optional<DWORD> editBoxOf(const QString& label) const;
+    /** The items of a list, in order, as pairs of identifier and label; empty if the control has none. */
+    std::vector<std::pair<DWORD, QString>> itemsOf(DWORD control) const;
+    /** The item that is selected in a list; empty if none is. */
+    std::optional<DWORD> selectedIn(DWORD control) const;
+    /** What stands in an edit box, a text, or the heading of a group; empty also if the control does not exist. */
+    QString textOf(DWORD control) const;
+    /** The item of the accept button's menu with this label and the control that contains it (control first); empty if
+     * there is none. */
     std::optional<std::pair<DWORD, DWORD>> itemOf(const QString& label) const;
     /** The bits of CDCONTROLSTATEF of a control or an item; -1 if it does not exist. */
     int state(DWORD control) const;
@@ -39,9 +51,11 @@ public:
     // What the dialog does for the user.
     /** Toggles a check box, which must exist, and returns its new state. */
     bool toggle(DWORD control);
-    /** Selects an item of the control's menu. Control and item must exist. */
+    /** Selects an item of a menu or of a list. Control and item must exist. */
     void pick(DWORD control, DWORD item);
-    /** Clears every selection made with pick(). */
+    /** Replaces the text in an edit box, which must exist. */
+    void type(DWORD control, const QString& text);
+    /** Clears every selection made with pick() in a menu. */
     void forgetPick();
 
     /** @cond called by the library */
@@ -81,23 +95,42 @@ private:
         QString label;
         CDCONTROLSTATEF state;
     };
+    enum class Kind
+    {
+        PushButton,
+        CheckButton,
+        DropDown,
+        List,
+        EditBox,
+        Text,
+        Separator,
+        Group
+    };
     struct Recorded
     {
-        QString label{};
+        Kind kind = Kind::PushButton;
+        QString label{}; // of an edit box: the text in it
         CDCONTROLSTATEF state = CDCS_ENABLEDVISIBLE;
-        bool checkButton = false;
-        bool dropDown = false;
+        std::optional<DWORD> group{};
+        std::optional<DWORD> before{}; // the control that was added before it
         bool checked = false;
         std::vector<Item> items{};
         std::optional<DWORD> picked{};
     };
 
     std::optional<HRESULT> record(const char* method, const std::string& arguments = std::string());
-    HRESULT add(DWORD id, const Recorded& control);
+    HRESULT add(DWORD id, Kind kind, LPCWSTR label = nullptr);
     Recorded* find(DWORD id);
+    const Recorded* find(DWORD id) const;
+    Recorded* find(DWORD id, Kind kind);
+    Recorded* findWithItems(DWORD id);
     Item* findItem(DWORD id, DWORD item);
+    QString labelOf(DWORD id) const;
+    std::optional<DWORD> labelled(const QString& label, Kind kind) const;
 
     RecordingShell& m_shell;
+    std::optional<DWORD> m_last; // the control that was added last
+    std::optional<DWORD> m_openGroup;
     std::map<DWORD, Recorded> m_controls;
 };
 

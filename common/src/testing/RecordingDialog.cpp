@@ -20,9 +20,8 @@ namespace morvane::test {
 
 namespace {
 
-std::optional<DWORD> usableControl(const RecordingControls& controls, const QString& label)
+std::optional<DWORD> usableControl(const RecordingControls& controls, std::optional<DWORD> control)
 {
-    const auto control = controls.idOf(label);
     return control && controls.state(*control) == CDCS_ENABLEDVISIBLE ? control : std::nullopt;
 }
 
@@ -67,6 +66,9 @@ HRESULT RecordingDialog::run(HWND owner)
         m_results = m_outcome == S_OK ? m_results : QStringList();
     });
     play();
+    if (m_outcome == S_OK && !m_client.empty()) {
+        m_shell.clientFolders[m_client] = folder();
+    }
     return *m_outcome;
 }
 
@@ -194,7 +196,7 @@ void RecordingDialog::userSelects(const QString& path)
 
 bool RecordingDialog::userClicks(const QString& label)
 {
-    const auto control = usableControl(*m_controls, label);
+    const auto control = usableControl(*m_controls, m_controls->idOf(label));
     if (!control || m_controls->isCheckBox(*control)) {
         return false;
     }
@@ -204,7 +206,7 @@ bool RecordingDialog::userClicks(const QString& label)
 
 bool RecordingDialog::userToggles(const QString& label)
 {
-    const auto control = usableControl(*m_controls, label);
+    const auto control = usableControl(*m_controls, m_controls->idOf(label));
     if (!control || !m_controls->isCheckBox(*control)) {
         return false;
     }
@@ -220,6 +222,44 @@ bool RecordingDialog::userPicksItem(const QString& label)
     }
     userPicksItem(found->first, found->second);
     return true;
+}
+
+bool RecordingDialog::userChooses(const QString& label, int position)
+{
+    const auto list = usableControl(*m_controls, m_controls->listOf(label));
+    const auto items = list ? m_controls->itemsOf(*list) : std::vector<std::pair<DWORD, QString>>();
+    if (position < 0 || position >= static_cast<int>(items.size())) {
+        return false;
+    }
+    const DWORD item = items[static_cast<std::size_t>(position)].first;
+    if (m_controls->itemState(*list, item) != CDCS_ENABLEDVISIBLE) {
+        return false;
+    }
+    userChooses(*list, item);
+    return true;
+}
+
+bool RecordingDialog::userTypes(const QString& label, const QString& text)
+{
+    const auto edit = usableControl(*m_controls, m_controls->editBoxOf(label));
+    if (edit) {
+        userTypes(*edit, text);
+    }
+    return edit.has_value();
+}
+
+void RecordingDialog::userChooses(DWORD control, DWORD item)
+{
+    if (m_controls->selectedIn(control) == item) {
+        return;
+    }
+    m_controls->pick(control, item);
+    fireControls([&](IFileDialogControlEvents& sink) { return sink.OnItemSelected(m_controls.get(), control, item); });
+}
+
+void RecordingDialog::userTypes(DWORD control, const QString& text)
+{
+    m_controls->type(control, text);
 }
 
 void RecordingDialog::userClicks(DWORD control)
@@ -259,7 +299,14 @@ QStringList RecordingDialog::chosenPaths() const
 
 QString RecordingDialog::folder() const
 {
-    return m_folder.isEmpty() ? QDir::currentPath() : m_folder;
+    const auto kept = m_shell.clientFolders.find(m_client);
+    for (const QString& candidate :
+        {m_folder, kept == m_shell.clientFolders.end() ? QString() : kept->second, m_defaultFolder}) {
+        if (!candidate.isEmpty()) {
+            return candidate;
+        }
+    }
+    return QDir::currentPath();
 }
 
 } // namespace morvane::test

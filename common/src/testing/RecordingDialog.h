@@ -67,12 +67,28 @@ public:
     bool userToggles(const QString& label);
     /** @copydoc userClicks(const QString&) */
     bool userPicksItem(const QString& label);
+    /**
+     * Chooses an entry of a combo box or of a list of radio buttons, which is found by its label.
+     * @param position of the entry, counted from 0
+     * @return false if there is no such list or entry, or one of them is hidden or disabled; nothing is done then
+     */
+    bool userChooses(const QString& label, int position);
+    /**
+     * Replaces the text in an edit box, which is found by its label. As in a real dialog, no event tells the host; it
+     * reads the text at the next event, and when the dialog is accepted or closed.
+     * @return false if there is no such edit box, or it is hidden or disabled; nothing is done then
+     */
+    bool userTypes(const QString& label, const QString& text);
     /** The same with the identifiers of the controls, also if they are hidden or disabled. The controls must exist. */
     void userClicks(DWORD control);
     /** @copydoc userClicks(DWORD) */
     void userToggles(DWORD control);
     /** @copydoc userClicks(DWORD) */
     void userPicksItem(DWORD control, DWORD item);
+    /** @copydoc userClicks(DWORD) */
+    void userChooses(DWORD control, DWORD item);
+    /** @copydoc userClicks(DWORD) */
+    void userTypes(DWORD control, const QString& text);
 
     /**
      * Calls the advised sinks in order, as the dialog itself does. Stops at the first result other than S_OK and
@@ -91,6 +107,12 @@ public:
     bool isSaving() const { return m_saving; }
     /** The title that the host set; empty before that. */
     QString title() const { return m_title; }
+    /** The text that the host has set for the accept button; empty if it has set none. */
+    QString acceptButtonText() const { return m_acceptButtonText; }
+    /** The label that the host has set for the name field; empty if it has set none. */
+    QString fileNameLabel() const { return m_fileNameLabel; }
+    /** The folders that the host has added to the places, those at the top first. */
+    QStringList places() const { return m_topPlaces + m_bottomPlaces; }
     /** The text of the name field. */
     QString fileName() const { return m_fileName.value_or(QString()); }
     /** The folder, with slashes; the process's current directory if the host set none. */
@@ -118,7 +140,13 @@ protected:
     const std::unique_ptr<ui::EventSinks> m_sinks;
     std::optional<QString> m_fileName;
     QString m_folder;
+    QString m_defaultFolder;
+    std::string m_client; // identifier under which the folder is kept
     QString m_title;
+    QString m_acceptButtonText;
+    QString m_fileNameLabel;
+    QStringList m_topPlaces;
+    QStringList m_bottomPlaces;
     QString m_selected;
     const std::unique_ptr<RecordingControls> m_controls;
     HWND m_owner = nullptr;

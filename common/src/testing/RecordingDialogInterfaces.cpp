@@ -125,7 +125,7 @@ HRESULT RecordingDialogInterfaces::SetDefaultFolder(IShellItem* folder)
     if (failure || path.isEmpty()) {
         return failure.value_or(E_INVALIDARG);
     }
-    m_folder = m_folder.isEmpty() ? path : m_folder;
+    m_defaultFolder = path;
     return S_OK;
 }
 
@@ -195,12 +195,16 @@ HRESULT RecordingDialogInterfaces::SetTitle(LPCWSTR title)
 
 HRESULT RecordingDialogInterfaces::SetOkButtonLabel(LPCWSTR text)
 {
-    return record("SetOkButtonLabel", quoted(text)).value_or(S_OK);
+    const auto failure = record("SetOkButtonLabel", quoted(text));
+    m_acceptButtonText = failure ? m_acceptButtonText : ui::toQString(text);
+    return failure.value_or(S_OK);
 }
 
 HRESULT RecordingDialogInterfaces::SetFileNameLabel(LPCWSTR label)
 {
-    return record("SetFileNameLabel", quoted(label)).value_or(S_OK);
+    const auto failure = record("SetFileNameLabel", quoted(label));
+    m_fileNameLabel = failure ? m_fileNameLabel : ui::toQString(label);
+    return failure.value_or(S_OK);
 }
 
 HRESULT RecordingDialogInterfaces::GetResult(IShellItem** item)
@@ -216,9 +220,15 @@ HRESULT RecordingDialogInterfaces::GetResult(IShellItem** item)
     return giveItem(m_results.value(0), item, E_UNEXPECTED);
 }
 
-HRESULT RecordingDialogInterfaces::AddPlace(IShellItem* item, FDAP)
+HRESULT RecordingDialogInterfaces::AddPlace(IShellItem* item, FDAP where)
 {
-    return record("AddPlace", pathOf(m_shell, item).toStdString()).value_or(E_NOTIMPL);
+    const QString path = pathOf(m_shell, item);
+    const auto failure = record("AddPlace", path.toStdString() + (where == FDAP_TOP ? ", top" : ", bottom"));
+    if (failure || path.isEmpty()) {
+        return failure.value_or(E_INVALIDARG);
+    }
+    (where == FDAP_TOP ? m_topPlaces : m_bottomPlaces).append(path);
+    return S_OK;
 }
 
 HRESULT RecordingDialogInterfaces::SetDefaultExtension(LPCWSTR extension)
@@ -238,14 +248,21 @@ HRESULT RecordingDialogInterfaces::Close(HRESULT result)
     return S_OK;
 }
 
-HRESULT RecordingDialogInterfaces::SetClientGuid(REFGUID)
+HRESULT RecordingDialogInterfaces::SetClientGuid(REFGUID guid)
 {
-    return record("SetClientGuid").value_or(E_NOTIMPL);
+    const QByteArray bytes(reinterpret_cast<const char*>(&guid), sizeof(guid));
+    const auto failure = record("SetClientGuid", bytes.toHex().toStdString());
+    m_client = failure ? m_client : bytes.toHex().toStdString();
+    return failure.value_or(S_OK);
 }
 
 HRESULT RecordingDialogInterfaces::ClearClientData()
 {
-    return record("ClearClientData").value_or(E_NOTIMPL);
+    const auto failure = record("ClearClientData");
+    if (!failure) {
+        m_shell.clientFolders.erase(m_client);
+    }
+    return failure.value_or(S_OK);
 }
 
 HRESULT RecordingDialogInterfaces::SetFilter(IShellItemFilter*)

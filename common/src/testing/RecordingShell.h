@@ -141,6 +141,8 @@ public:
     std::optional<HRESULT> record(const std::string& name, const std::string& arguments);
     HRESULT copyString(const QString& text, LPWSTR* copy);
     void keep(IFileDialogEvents* sink) { m_keptSinks.push_back(ui::ComPtr<IFileDialogEvents>::share(sink)); }
+    // What the dialogs keep, by client identifier (the library's setMemoryKey()).
+    std::map<std::string, QString> clientFolders;
     void objectMade() { ++m_liveObjects; }
     void objectGone() { --m_liveObjects; }
     void dialogGone(RecordingDialog* dialog);

@@ -116,18 +116,6 @@ TEST_F(WidgetShellControls, controlsLineUpWithTheRowsOfTheDialog)
     });
 }
 
-TEST_F(WidgetShellControls, otherKindsOfControlsAreNotImplemented)
-{
-    EXPECT_EQ(customize->AddMenu(1, text("x").c_str()), E_NOTIMPL);
-    EXPECT_EQ(customize->AddComboBox(1), E_NOTIMPL);
-    EXPECT_EQ(customize->AddRadioButtonList(1), E_NOTIMPL);
-    EXPECT_EQ(customize->AddEditBox(1, text("x").c_str()), E_NOTIMPL);
-    EXPECT_EQ(customize->AddSeparator(1), E_NOTIMPL);
-    EXPECT_EQ(customize->AddText(1, text("x").c_str()), E_NOTIMPL);
-    EXPECT_EQ(customize->StartVisualGroup(1, text("x").c_str()), E_NOTIMPL);
-    EXPECT_EQ(customize->EndVisualGroup(), E_NOTIMPL);
-}
-
 TEST_F(WidgetShellControls, anItemMayBeTriggeredWithoutTheMenuAsAssistiveTechnologyDoes)
 {
     customize->EnableOpenDropDown(0);

@@ -5,7 +5,6 @@
 #include "WidgetShellRunTest.h"
 
 #include <QComboBox>
-#include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QThread>
@@ -235,20 +234,24 @@ TEST_F(WidgetShellHost, opensAFolderAmongTheTypedNames)
     EXPECT_EQ(sink.count("OnFileOk"), 0);
 }
 
-/** The places of the custom controls in their row; no place may occur twice. */
-std::set<int> placesInRow(QFileDialog& window)
+/** The labels of the custom controls in their row, in reading order; no two controls may overlap. */
+QStringList labelsInRow(QFileDialog& window)
 {
+    QCoreApplication::processEvents(); // the layout
     auto* const row = window.findChild<QWidget*>(QStringLiteral("customControls"));
-    auto* const layout = qobject_cast<QGridLayout*>(row->layout());
-    std::set<int> places;
-    for (int i = 0; i < layout->count(); ++i) {
-        int line = 0;
-        int column = 0;
-        int span = 0;
-        layout->getItemPosition(i, &line, &column, &span, &span);
-        EXPECT_TRUE(places.insert(line * 4 + column).second) << "two controls at " << line << ", " << column;
+    std::map<std::pair<int, int>, QAbstractButton*> places;
+    for (auto* const button : row->findChildren<QAbstractButton*>()) {
+        for (const auto& other : places) {
+            EXPECT_FALSE(other.second->geometry().intersects(button->geometry()))
+                << button->text().toStdString() << " covers " << other.second->text().toStdString();
+        }
+        places[{button->geometry().center().y(), button->x()}] = button;
     }
-    return places;
+    QStringList labels;
+    for (const auto& place : places) {
+        labels.append(place.second->text());
+    }
+    return labels;
 }
 
 TEST_F(WidgetShellHost, movesAProminentButtonOutOfTheRowAndBack)
@@ -261,16 +264,16 @@ TEST_F(WidgetShellHost, movesAProminentButtonOutOfTheRowAndBack)
         const auto isInRow = [&](int id) {
             return row->isAncestorOf(FileDialogDriver::whenActive(window).control(QString::number(id)));
         };
-        EXPECT_EQ(placesInRow(window).size(), 5u);
+        EXPECT_EQ(labelsInRow(window), QStringLiteral("1 2 3 4 5").split(QLatin1Char(' ')));
         EXPECT_EQ(customize->MakeProminent(1), S_OK);
         EXPECT_FALSE(isInRow(1));
-        EXPECT_EQ(placesInRow(window).size(), 4u);
+        EXPECT_EQ(labelsInRow(window), QStringLiteral("2 3 4 5").split(QLatin1Char(' ')));
         EXPECT_EQ(customize->MakeProminent(3), S_OK);
         EXPECT_TRUE(isInRow(1));
         EXPECT_FALSE(isInRow(3));
-        EXPECT_EQ(placesInRow(window).size(), 4u) << "no control covers another";
+        EXPECT_EQ(labelsInRow(window), QStringLiteral("2 4 5 1").split(QLatin1Char(' '))) << "at the end";
         ASSERT_EQ(customize->AddPushButton(6, text("6").c_str()), S_OK);
-        EXPECT_EQ(placesInRow(window), (std::set<int>{0, 1, 2, 3, 4}));
+        EXPECT_EQ(labelsInRow(window), QStringLiteral("2 4 5 1 6").split(QLatin1Char(' ')));
         FileDialogDriver::whenActive(window).clickControl(QStringLiteral("1"));
         window.reject();
     });
@@ -284,7 +287,8 @@ TEST_F(WidgetShellHost, leavesAProminentCheckButtonInItsRow)
     ASSERT_EQ(customize->MakeProminent(1), S_OK);
     show([&](QFileDialog& window) {
         EXPECT_EQ(customize->MakeProminent(2), S_OK);
-        EXPECT_EQ(placesInRow(window), (std::set<int>{0, 1})) << "and the button comes back";
+        EXPECT_EQ(labelsInRow(window), QStringLiteral("Check Button").split(QLatin1Char(' ')))
+            << "and the button comes back";
         window.reject();
     });
 }

@@ -8,6 +8,8 @@
 
 #include <QComboBox>
 
+#include <utility>
+
 namespace {
 
 /** Calls a function with the dialog that exists. Returns a default value if no dialog exists any more. */
@@ -129,4 +131,119 @@ void ExtendedFileDialog::setDontConfirmOverwrite(bool on)
 void ExtendedFileDialog::setShowDirectoriesOnly(bool on)
 {
     withDialog(m_winDialog.get(), m_qtDialog.get(), [&](auto& dialog) { dialog.setShowDirectoriesOnly(on); });
+}
+
+morvane::ui::FileDialogCustomization* ExtendedFileDialog::customization()
+{
+    if (m_winDialog) {
+        return m_winDialog->customization();
+    }
+    return m_qtDialog ? m_qtDialog->customization() : nullptr;
+}
+
+QWidget* ExtendedFileDialog::addCustomButton(const std::string& text, boost::function<void()> action)
+{
+    auto* const custom = customization();
+    return custom ? custom->addCustomButton(text, std::move(action)) : nullptr;
+}
+
+QWidget* ExtendedFileDialog::addCustomCheckBox(
+    const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked)
+{
+    auto* const custom = customization();
+    return custom ? custom->addCustomCheckBox(text, std::move(checked)) : nullptr;
+}
+
+QWidget* ExtendedFileDialog::addCustomComboBox(const std::string& label, const std::vector<std::string>& entries,
+    boost::shared_ptr<morvane::PropertyAbstract<int>> chosen)
+{
+    auto* const custom = customization();
+    return custom ? custom->addCustomComboBox(label, entries, std::move(chosen)) : nullptr;
+}
+
+QWidget* ExtendedFileDialog::addCustomRadioButtons(const std::string& label, const std::vector<std::string>& entries,
+    boost::shared_ptr<morvane::PropertyAbstract<int>> chosen)
+{
+    auto* const custom = customization();
+    return custom ? custom->addCustomRadioButtons(label, entries, std::move(chosen)) : nullptr;
+}
+
+QWidget* ExtendedFileDialog::addCustomLineEdit(
+    const std::string& label, boost::shared_ptr<morvane::PropertyAbstract<std::string>> text)
+{
+    auto* const custom = customization();
+    return custom ? custom->addCustomLineEdit(label, std::move(text)) : nullptr;
+}
+
+QWidget* ExtendedFileDialog::addCustomText(const std::string& text)
+{
+    auto* const custom = customization();
+    return custom ? custom->addCustomText(text) : nullptr;
+}
+
+QWidget* ExtendedFileDialog::addCustomSeparator()
+{
+    auto* const custom = customization();
+    return custom ? custom->addCustomSeparator() : nullptr;
+}
+
+QWidget* ExtendedFileDialog::beginCustomGroup(const std::string& label)
+{
+    auto* const custom = customization();
+    return custom ? custom->beginCustomGroup(label) : nullptr;
+}
+
+void ExtendedFileDialog::endCustomGroup()
+{
+    if (auto* const custom = customization()) {
+        custom->endCustomGroup();
+    }
+}
+
+QWidget* ExtendedFileDialog::customEntry(const QWidget* control, int position)
+{
+    auto* const custom = customization();
+    return custom ? custom->customEntry(control, position) : nullptr;
+}
+
+void ExtendedFileDialog::setAcceptanceCheck(morvane::ui::FileDialogCustomization::AcceptanceCheck check)
+{
+    if (auto* const custom = customization()) {
+        custom->setAcceptanceCheck(std::move(check));
+    }
+}
+
+void ExtendedFileDialog::setAcceptButtonText(const std::string& text)
+{
+    if (auto* const custom = customization()) {
+        custom->setAcceptButtonText(text);
+    }
+}
+
+void ExtendedFileDialog::setFileNameLabel(const std::string& label)
+{
+    if (auto* const custom = customization()) {
+        custom->setFileNameLabel(label);
+    }
+}
+
+void ExtendedFileDialog::addPlace(const std::string& folder, morvane::ui::FileDialogCustomization::Place where)
+{
+    if (auto* const custom = customization()) {
+        custom->addPlace(folder, where);
+    }
+}
+
+void ExtendedFileDialog::setMemoryKey(const std::string& key)
+{
+    if (auto* const custom = customization()) {
+        custom->setMemoryKey(key);
+    }
+}
+
+void ExtendedFileDialog::clearMemory()
+{
+    if (auto* const custom = customization()) {
+        custom->clearMemory();
+    }
 }

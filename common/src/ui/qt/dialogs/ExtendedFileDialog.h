@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "property/PropertyAbstract.h"
+#include "ui/qt/dialogs/FileDialogCustomization.h"
 #include "ui/qt/MorvaneUiExport.h"
 
 #include <QDir>
@@ -10,8 +12,12 @@
 #include <QString>
 #include <QStringList>
 
+#include <boost/function.hpp>
+#include <boost/shared_ptr.hpp>
+
 #include <memory>
 #include <string>
+#include <vector>
 
 class ExtendedWinFileDialog;
 class QExtendedFileDialog;
@@ -85,6 +91,35 @@ public:
     void setDontConfirmOverwrite(bool on);
     /** If true, the Qt dialog lists only directories. The native dialog ignores it. */
     void setShowDirectoriesOnly(bool on);
+
+    ///@{
+    /** See the function of the same name in morvane::ui::FileDialogCustomization. */
+    QWidget* addCustomButton(const std::string& text, boost::function<void()> action);
+    QWidget* addCustomCheckBox(const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked);
+    QWidget* addCustomComboBox(const std::string& label, const std::vector<std::string>& entries,
+        boost::shared_ptr<morvane::PropertyAbstract<int>> chosen);
+    QWidget* addCustomRadioButtons(const std::string& label, const std::vector<std::string>& entries,
+        boost::shared_ptr<morvane::PropertyAbstract<int>> chosen);
+    QWidget* addCustomLineEdit(
+        const std::string& label, boost::shared_ptr<morvane::PropertyAbstract<std::string>> text);
+    QWidget* addCustomText(const std::string& text);
+    QWidget* addCustomSeparator();
+    QWidget* beginCustomGroup(const std::string& label);
+    void endCustomGroup();
+    QWidget* customEntry(const QWidget* control, int position);
+    void setAcceptanceCheck(morvane::ui::FileDialogCustomization::AcceptanceCheck check);
+    void setAcceptButtonText(const std::string& text);
+    void setFileNameLabel(const std::string& label);
+    void addPlace(const std::string& folder, morvane::ui::FileDialogCustomization::Place where);
+    void setMemoryKey(const std::string& key);
+    void clearMemory();
+    ///@}
+
+    /**
+     * The same functions as an object, which the other file dialogs have, too. Null after the Qt dialog was destroyed
+     * with its parent.
+     */
+    morvane::ui::FileDialogCustomization* customization();
 
 private:
     friend struct morvane::ui::ParentlessFileDialog;

@@ -123,6 +123,84 @@ int ExtendedWinFileDialog::selectedAcceptMenuOption() const
     return m_native->controls().selectedAcceptOption();
 }
 
+QWidget* ExtendedWinFileDialog::addCustomComboBox(const std::string& label, const std::vector<std::string>& entries,
+    boost::shared_ptr<morvane::PropertyAbstract<int>> chosen)
+{
+    return customization()->addCustomComboBox(label, entries, std::move(chosen));
+}
+
+QWidget* ExtendedWinFileDialog::addCustomRadioButtons(const std::string& label, const std::vector<std::string>& entries,
+    boost::shared_ptr<morvane::PropertyAbstract<int>> chosen)
+{
+    return customization()->addCustomRadioButtons(label, entries, std::move(chosen));
+}
+
+QWidget* ExtendedWinFileDialog::addCustomLineEdit(
+    const std::string& label, boost::shared_ptr<morvane::PropertyAbstract<std::string>> text)
+{
+    return customization()->addCustomLineEdit(label, std::move(text));
+}
+
+QWidget* ExtendedWinFileDialog::addCustomText(const std::string& text)
+{
+    return customization()->addCustomText(text);
+}
+
+QWidget* ExtendedWinFileDialog::addCustomSeparator()
+{
+    return customization()->addCustomSeparator();
+}
+
+QWidget* ExtendedWinFileDialog::beginCustomGroup(const std::string& label)
+{
+    return customization()->beginCustomGroup(label);
+}
+
+void ExtendedWinFileDialog::endCustomGroup()
+{
+    customization()->endCustomGroup();
+}
+
+QWidget* ExtendedWinFileDialog::customEntry(const QWidget* control, int position)
+{
+    return customization()->customEntry(control, position);
+}
+
+void ExtendedWinFileDialog::setAcceptanceCheck(morvane::ui::FileDialogCustomization::AcceptanceCheck check)
+{
+    customization()->setAcceptanceCheck(std::move(check));
+}
+
+void ExtendedWinFileDialog::setAcceptButtonText(const std::string& text)
+{
+    customization()->setAcceptButtonText(text);
+}
+
+void ExtendedWinFileDialog::setFileNameLabel(const std::string& label)
+{
+    customization()->setFileNameLabel(label);
+}
+
+void ExtendedWinFileDialog::addPlace(const std::string& folder, morvane::ui::FileDialogCustomization::Place where)
+{
+    customization()->addPlace(folder, where);
+}
+
+void ExtendedWinFileDialog::setMemoryKey(const std::string& key)
+{
+    customization()->setMemoryKey(key);
+}
+
+void ExtendedWinFileDialog::clearMemory()
+{
+    customization()->clearMemory();
+}
+
+morvane::ui::FileDialogCustomization* ExtendedWinFileDialog::customization()
+{
+    return m_native->customization();
+}
+
 boost::shared_ptr<morvane::PropertyAbstract<int>> ExtendedWinFileDialog::currentFilterIndex()
 {
     return m_native->currentFilterIndex();

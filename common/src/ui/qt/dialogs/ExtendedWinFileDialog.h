@@ -4,6 +4,7 @@
 #pragma once
 
 #include "property/PropertyAbstract.h"
+#include "ui/qt/dialogs/FileDialogCustomization.h"
 #include "ui/qt/MorvaneUiExport.h"
 
 #include <QDialog>
@@ -17,6 +18,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 class QWidget;
 namespace morvane::ui {
@@ -25,7 +27,8 @@ class NativeFileDialog;
 
 /**
  * The platform's own file dialog, with an interface like that of QFileDialog. It has features that the Qt dialog does
- * not have: the host can add push buttons and check boxes to the dialog, and a menu of options to the accept button.
+ * not have: the host can add push buttons, check boxes, lists, line edits, texts and groups to the dialog, and a menu
+ * of options to the accept button.
  *
  * On Windows this is the Shell's common item dialog. On other platforms a Qt dialog implements the same interface,
  * including the controls. In this Qt dialog, a wildcard that the user types filters the list and is never returned. If
@@ -142,8 +145,9 @@ public:
     /**
      * Adds a check box.
      * @param text    label; `&` marks the mnemonic key
-     * @param checked has the initial state of the box, and is set when the user toggles the box. Null: no state is
-     *                shared, and the box is unchecked initially.
+     * @param checked has the initial state of the box, and is set when the user toggles the box. If it is set otherwise
+     *                or rejects the new state, the box changes accordingly. Null: no state is shared, and the box is
+     *                unchecked initially.
      * @return a proxy widget for the check box, see addCustomButton()
      */
     QWidget* addCustomCheckBox(const std::string& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked);
@@ -162,6 +166,32 @@ public:
      * run. If the user picked no entry, it is the first visible and enabled entry, whose text the accept button shows.
      */
     int selectedAcceptMenuOption() const;
+
+    ///@{
+    /** See the function of the same name in FileDialogCustomization. */
+    QWidget* addCustomComboBox(const std::string& label, const std::vector<std::string>& entries,
+        boost::shared_ptr<morvane::PropertyAbstract<int>> chosen);
+    QWidget* addCustomRadioButtons(const std::string& label, const std::vector<std::string>& entries,
+        boost::shared_ptr<morvane::PropertyAbstract<int>> chosen);
+    QWidget* addCustomLineEdit(
+        const std::string& label, boost::shared_ptr<morvane::PropertyAbstract<std::string>> text);
+    QWidget* addCustomText(const std::string& text);
+    QWidget* addCustomSeparator();
+    QWidget* beginCustomGroup(const std::string& label);
+    void endCustomGroup();
+    QWidget* customEntry(const QWidget* control, int position);
+    void setAcceptanceCheck(morvane::ui::FileDialogCustomization::AcceptanceCheck check);
+    void setAcceptButtonText(const std::string& text);
+    void setFileNameLabel(const std::string& label);
+    void addPlace(const std::string& folder, morvane::ui::FileDialogCustomization::Place where);
+    void setMemoryKey(const std::string& key);
+    void clearMemory();
+    ///@}
+
+    /**
+     * The same functions as an object, which the other file dialogs have, too. Never null; owned by this object.
+     */
+    morvane::ui::FileDialogCustomization* customization();
 
     /**
      * The chosen file type, counted from 1; 0 means none. It is updated while the dialog runs, when the user chooses a

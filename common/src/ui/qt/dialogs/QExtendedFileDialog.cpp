@@ -5,6 +5,7 @@
 
 #include "host/ApplicationSettings.h"
 #include "host/HelpLauncher.h"
+#include "ui/qt/dialogs/custom/QtDialogCustomization_p.h"
 #include "ui/qt/dialogs/qtdialog/FileDialogAccessibility_p.h"
 #include "ui/qt/dialogs/qtdialog/FileDialogLayout_p.h"
 #include "ui/qt/dialogs/qtdialog/QtFileDialogNames_p.h"
@@ -36,6 +37,21 @@ struct QExtendedFileDialog::Impl
     QFileSystemModel* model = nullptr;
     QString shownFolder;
     QSet<QString> readFolders;
+    std::shared_ptr<morvane::ui::QtDialogCustomization> customization; // made when the host asks for it
+    std::unique_ptr<morvane::ui::FileDialogCustomization> customizationOfHost;
+
+    void beginRun() const
+    {
+        if (customization) {
+            customization->beginRun();
+        }
+    }
+    void endRun(int result) const
+    {
+        if (customization) {
+            customization->endRun(result == QDialog::Accepted);
+        }
+    }
 };
 
 QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
@@ -67,6 +83,19 @@ QExtendedFileDialog::QExtendedFileDialog(QWidget& parent, QFileDialog::AcceptMod
 QExtendedFileDialog::~QExtendedFileDialog()
 {
     restoreCursor();
+    if (m_impl->customization) {
+        m_impl->customization->leaveDialog();
+    }
+}
+
+morvane::ui::FileDialogCustomization* QExtendedFileDialog::customization()
+{
+    if (!m_impl->customizationOfHost) {
+        m_impl->customization = std::make_shared<morvane::ui::QtDialogCustomization>(
+            *this, [this](const std::string& key) { setGeometryPersistenceKey(key); });
+        m_impl->customizationOfHost = std::make_unique<morvane::ui::FileDialogCustomization>(*m_impl->customization);
+    }
+    return m_impl->customizationOfHost.get();
 }
 
 void QExtendedFileDialog::setGeometryPersistenceKey(std::string key)
@@ -106,6 +135,7 @@ void QExtendedFileDialog::prepareToShow()
 void QExtendedFileDialog::show()
 {
     prepareToShow();
+    m_impl->beginRun();
     QWidget::show();
     saveSizeAndPosition();
 }
@@ -113,7 +143,9 @@ void QExtendedFileDialog::show()
 int QExtendedFileDialog::exec()
 {
     prepareToShow();
+    m_impl->beginRun();
     const QPointer<QExtendedFileDialog> self(this);
+    const auto customization = m_impl->customization; // may have an exception for the caller
     const bool waits = m_overrideCursorSet || isBeingRead(m_impl->model->rootPath());
     restoreCursor(); // the wait cursor must be above the arrow on the stack
     const morvane::ui::ModalArrowCursor arrow;
@@ -129,8 +161,25 @@ int QExtendedFileDialog::exec()
     if (self) {
         restoreCursor();
         saveSizeAndPosition();
+        m_impl->endRun(result);
+    }
+    if (customization) {
+        customization->rethrow();
     }
     return result;
+}
+
+void QExtendedFileDialog::done(int result)
+{
+    const QPointer<QExtendedFileDialog> self(this);
+    const auto customization = m_impl->customization;
+    if (result == QDialog::Accepted && customization && (!customization->mayAccept(selectedFiles()) || !self)) {
+        return;
+    }
+    QFileDialog::done(result);
+    if (self) {
+        m_impl->endRun(result);
+    }
 }
 
 void QExtendedFileDialog::accept()

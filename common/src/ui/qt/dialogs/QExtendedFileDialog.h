@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ui/qt/dialogs/FileDialogCustomization.h"
 #include "ui/qt/MorvaneUiExport.h"
 
 #include <QFileDialog>
@@ -86,6 +87,13 @@ public:
     /** If true, only directories are listed; intended for the file mode `Directory`. */
     void setShowDirectoriesOnly(bool on);
 
+    /**
+     * Controls and more that the host can add to the dialog, with the same functions as for the native dialog. Never
+     * null; owned by this object. If an action of the host throws during exec(), the dialog is cancelled, and exec()
+     * throws the exception.
+     */
+    morvane::ui::FileDialogCustomization* customization();
+
 public Q_SLOTS:
     /**
      * Shows the dialog and returns at once. Restores the stored geometry, shows the dialog, and then stores the
@@ -102,6 +110,10 @@ public Q_SLOTS:
      * before and after the call, in every case.
      */
     int exec() override;
+
+protected:
+    /** Closes the dialog, unless the host's check refuses what the user has accepted. */
+    void done(int result) override;
 
 protected Q_SLOTS:
     /**

@@ -69,3 +69,8 @@ int SaveFileDialog::selectedWriter() const
 {
     return m_winDialog ? m_winDialog->selectedWriter() : m_qtDialog->selectedWriter();
 }
+
+morvane::ui::FileDialogCustomization* SaveFileDialog::customization()
+{
+    return m_winDialog ? m_winDialog->customization() : m_qtDialog->customization();
+}

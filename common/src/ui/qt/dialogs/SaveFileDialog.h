@@ -13,6 +13,9 @@
 class QWidget;
 class SaveFileQtDialog;
 class SaveFileWinDialog;
+namespace morvane::ui {
+class FileDialogCustomization;
+}
 
 /**
  * Asks the user for a file name for saving. Returns only a name that may be overwritten and that can really be written.
@@ -106,6 +109,15 @@ public:
      * not among them. If no filter was passed, the result is 0 with the Qt dialog and -1 with the native dialog.
      */
     int selectedWriter() const;
+
+    /**
+     * Controls and more that the host can add to the dialog before launch(), whichever of the two dialogs it is. The
+     * acceptance check is called before the questions of the flow, with the name as the user typed it. Null after the
+     * Qt dialog was destroyed with its parent.
+     *
+     * @snippet 35-save-with-a-comment/main.cpp options
+     */
+    morvane::ui::FileDialogCustomization* customization();
 
 private:
     std::unique_ptr<SaveFileQtDialog> m_qtDialog;

@@ -151,6 +151,11 @@ int SaveFileQtDialog::selectedWriter() const
     return m_impl->selectedWriter();
 }
 
+morvane::ui::FileDialogCustomization* SaveFileQtDialog::customization()
+{
+    return m_impl->m_dialog ? m_impl->m_dialog->customization() : nullptr;
+}
+
 QExtendedFileDialog* SaveFileQtDialog::dialog()
 {
     return m_impl->m_dialog;

@@ -14,6 +14,9 @@
 
 class QExtendedFileDialog;
 class QWidget;
+namespace morvane::ui {
+class FileDialogCustomization;
+}
 
 /**
  * The save flow of SaveFileDialog with the Qt file dialog. Use it to get that dialog independent of the switch.
@@ -50,6 +53,8 @@ public:
     std::string selectedFilter();
     /** See SaveFileDialog::selectedWriter(). */
     int selectedWriter() const;
+    /** See SaveFileDialog::customization(). */
+    morvane::ui::FileDialogCustomization* customization();
 
 protected:
     /** Returns the dialog that the flow runs; null after the parent was destroyed. */

@@ -115,6 +115,11 @@ int SaveFileWinDialog::selectedWriter() const
     return m_impl->selectedWriter();
 }
 
+morvane::ui::FileDialogCustomization* SaveFileWinDialog::customization()
+{
+    return m_impl->m_dialog->customization();
+}
+
 ExtendedWinFileDialog* SaveFileWinDialog::dialog()
 {
     return m_impl->m_dialog;

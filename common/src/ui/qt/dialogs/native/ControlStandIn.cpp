@@ -3,19 +3,30 @@
 
 #include "ui/qt/dialogs/native/ControlStandIn_p.h"
 
-#include "ui/qt/dialogs/shell/ComPtr.h"
-
 #include <QEvent>
+
+#include <utility>
 
 namespace morvane::ui {
 
-ControlStandIn::ControlStandIn(IFileDialog* dialog, ControlKind kind, unsigned int controlId, unsigned int itemId)
+namespace {
+
+CDCONTROLSTATEF changed(CDCONTROLSTATEF state, CDCONTROLSTATEF flag, bool on)
+{
+    const auto bits = static_cast<DWORD>(state);
+    const auto mask = static_cast<DWORD>(flag);
+    return static_cast<CDCONTROLSTATEF>(on ? bits | mask : bits & ~mask);
+}
+
+} // namespace
+
+ControlStandIn::ControlStandIn(ControlsSource source, ControlKind kind, unsigned int controlId, unsigned int itemId)
     : m_kind(kind), m_controlId(controlId), m_itemId(itemId)
 {
     setAttribute(Qt::WA_DontShowOnScreen);
     setAttribute(Qt::WA_QuitOnClose, false);
     QWidget::show();
-    m_dialog = dialog; // set after show(), because the native control is already visible
+    m_source = std::move(source); // set after show(), because the native control is already visible
 }
 
 ControlStandIn::~ControlStandIn() = default;
@@ -39,31 +50,32 @@ void ControlStandIn::changeEvent(QEvent* event)
 
 void ControlStandIn::setStateFlag(CDCONTROLSTATEF flag, bool on)
 {
-    if (!m_dialog) {
-        return;
-    }
-    ComPtr<IFileDialogCustomize> customize;
-    m_dialog->QueryInterface(iidOf<IFileDialogCustomize>(), customize.putVoid());
+    const auto customize = m_source ? m_source() : ComPtr<IFileDialogCustomize>();
     if (!customize) {
         return;
     }
-    const auto old = static_cast<DWORD>(nativeState(*customize));
-    const auto mask = static_cast<DWORD>(flag);
-    const auto state = static_cast<CDCONTROLSTATEF>(on ? old | mask : old & ~mask);
-    if (m_kind == ControlKind::AcceptMenuItem) {
+    const CDCONTROLSTATEF state = changed(nativeState(*customize), flag, on);
+    if (isItem()) {
         customize->SetControlItemState(m_controlId, m_itemId, state);
-    } else {
-        customize->SetControlState(m_controlId, state);
+        return;
     }
+    customize->SetControlState(m_controlId, state);
+    if (m_labelId) {
+        customize->SetControlState(*m_labelId, ownState());
+    }
+}
+
+CDCONTROLSTATEF ControlStandIn::ownState() const
+{
+    const CDCONTROLSTATEF enabled = changed(CDCS_INACTIVE, CDCS_ENABLED, isEnabled());
+    return changed(enabled, CDCS_VISIBLE, isVisible());
 }
 
 CDCONTROLSTATEF ControlStandIn::nativeState(IFileDialogCustomize& customize) const
 {
     // The result of the call is not checked. If it fails, the variable keeps the state of this widget.
-    const DWORD enabled = isEnabled() ? static_cast<DWORD>(CDCS_ENABLED) : 0;
-    const DWORD visible = isVisible() ? static_cast<DWORD>(CDCS_VISIBLE) : 0;
-    auto state = static_cast<CDCONTROLSTATEF>(enabled | visible);
-    if (m_kind == ControlKind::AcceptMenuItem) {
+    CDCONTROLSTATEF state = ownState();
+    if (isItem()) {
         customize.GetControlItemState(m_controlId, m_itemId, &state);
     } else {
         customize.GetControlState(m_controlId, &state);

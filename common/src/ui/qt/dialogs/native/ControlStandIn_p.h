@@ -3,9 +3,13 @@
 
 #pragma once
 
+#include "ui/qt/dialogs/shell/ComPtr.h"
 #include "ui/qt/dialogs/shell/ShellInterfaces.h"
 
 #include <QWidget>
+
+#include <functional>
+#include <optional>
 
 namespace morvane::ui {
 
@@ -13,8 +17,15 @@ enum class ControlKind : int
 {
     PushButton = 0,
     CheckBox = 1,
-    AcceptMenuItem = 2
+    AcceptMenuItem = 2,
+    /** Any other control: a list, an edit box, a text, a group or a separator. */
+    Other = 3,
+    /** An entry of a list. */
+    ListEntry = 4
 };
+
+/** Returns the interface for the dialog's controls. Empty if there is no dialog or it does not have the interface. */
+using ControlsSource = std::function<ComPtr<IFileDialogCustomize>()>;
 
 /**
  * Represents one control of the native dialog. Passes its visibility and its enabled state on to that control.
@@ -26,14 +37,16 @@ class ControlStandIn : public QWidget
 {
 public:
     /**
-     * @param dialog    not owned; with null, nothing is passed on
-     * @param controlId identifier of the control; for an item of the accept menu, that of the menu
-     * @param itemId    identifier of the item; 0 for a button or check box
+     * @param controlId identifier of the control; for an item or an entry, that of the menu or list
+     * @param itemId    identifier of the item or entry; 0 for a whole control
      */
-    ControlStandIn(IFileDialog* dialog, ControlKind kind, unsigned int controlId, unsigned int itemId);
+    ControlStandIn(ControlsSource source, ControlKind kind, unsigned int controlId, unsigned int itemId);
     ~ControlStandIn() override;
 
+    unsigned int controlId() const { return m_controlId; }
     unsigned int itemId() const { return m_itemId; }
+    /** The control that is the label of this one changes with it. */
+    void setLabel(std::optional<unsigned int> controlId) { m_labelId = controlId; }
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -41,13 +54,16 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    bool isItem() const { return m_kind == ControlKind::AcceptMenuItem || m_kind == ControlKind::ListEntry; }
     void setStateFlag(CDCONTROLSTATEF flag, bool on);
+    CDCONTROLSTATEF ownState() const;
     CDCONTROLSTATEF nativeState(IFileDialogCustomize& customize) const;
 
-    IFileDialog* m_dialog = nullptr;
+    ControlsSource m_source;
     ControlKind m_kind;
     unsigned int m_controlId;
     unsigned int m_itemId;
+    std::optional<unsigned int> m_labelId;
 };
 
 } // namespace morvane::ui

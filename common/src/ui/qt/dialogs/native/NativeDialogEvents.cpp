@@ -21,10 +21,8 @@ HRESULT STDMETHODCALLTYPE NativeDialogEvents::QueryInterface(REFIID riid, void**
 
 HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnFileOk(IFileDialog* dialog)
 {
-    if (m_observer && dialog) {
-        m_observer->onAccepting(*dialog);
-    }
-    return E_NOTIMPL;
+    const bool refused = m_observer && dialog && !m_observer->onAccepting(*dialog);
+    return refused ? S_FALSE : E_NOTIMPL;
 }
 
 HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnFolderChanging(IFileDialog*, IShellItem*)
@@ -63,8 +61,11 @@ HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnOverwrite(IFileDialog*, IShellIt
     return E_NOTIMPL;
 }
 
-HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnItemSelected(IFileDialogCustomize*, DWORD, DWORD)
+HRESULT STDMETHODCALLTYPE NativeDialogEvents::OnItemSelected(IFileDialogCustomize*, DWORD control, DWORD item)
 {
+    if (m_observer) {
+        m_observer->onItemSelected(control, item);
+    }
     return E_NOTIMPL;
 }
 

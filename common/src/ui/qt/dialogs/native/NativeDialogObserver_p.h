@@ -13,12 +13,13 @@ class NativeDialogObserver
 public:
     virtual ~NativeDialogObserver() = default;
 
-    /** The user has accepted. The dialog may still refuse the choice. */
-    virtual void onAccepting(IFileDialog& dialog) = 0;
+    /** The user has accepted. Returns whether the host agrees. The dialog may still refuse the choice. */
+    virtual bool onAccepting(IFileDialog& dialog) = 0;
     virtual void onFolderChanged(IFileDialog& dialog) = 0;
     virtual void onTypeChanged(IFileDialog& dialog) = 0;
     virtual void onButtonClicked(DWORD control) = 0;
     virtual void onCheckButtonToggled(DWORD control, BOOL checked) = 0;
+    virtual void onItemSelected(DWORD control, DWORD item) = 0;
 };
 
 } // namespace morvane::ui

@@ -57,14 +57,29 @@ void NativeDialogState::tellOptions(QFileDialog::FileMode mode, bool asksBeforeO
     m_dialog->SetOptions(options);
 }
 
-void NativeDialogState::tellFolder(std::string folder)
+ComPtr<IShellItem> NativeDialogState::itemFor(std::string path) const
 {
-    std::replace(folder.begin(), folder.end(), '/', '\\');
+    std::replace(path.begin(), path.end(), '/', '\\');
     ComPtr<IShellItem> item;
     const HRESULT result =
-        m_shell.createItemFromParsingName(shellText(folder).c_str(), nullptr, iidOf<IShellItem>(), item.putVoid());
-    if (SUCCEEDED(result) && item) {
+        m_shell.createItemFromParsingName(shellText(path).c_str(), nullptr, iidOf<IShellItem>(), item.putVoid());
+    return SUCCEEDED(result) ? std::move(item) : ComPtr<IShellItem>();
+}
+
+void NativeDialogState::tellFolder(const std::string& folder, bool asDefault)
+{
+    const auto item = itemFor(folder);
+    if (item && asDefault) {
+        m_dialog->SetDefaultFolder(item.get());
+    } else if (item) {
         m_dialog->SetFolder(item.get());
+    }
+}
+
+void NativeDialogState::tellPlace(const std::string& folder, FDAP where)
+{
+    if (const auto item = itemFor(folder)) {
+        m_dialog->AddPlace(item.get(), where);
     }
 }
 

@@ -29,7 +29,10 @@ public:
     // Texts are UTF-8.
     void tellTitle(const std::string& title);
     void tellOptions(QFileDialog::FileMode mode, bool asksBeforeOverwriting);
-    void tellFolder(std::string folder);
+    /** @param asDefault whether a folder that the Shell has kept takes precedence */
+    void tellFolder(const std::string& folder, bool asDefault = false);
+    /** Adds a folder to the list of places. */
+    void tellPlace(const std::string& folder, FDAP where);
     void tellFileTypes(const QStringList& nameFilters);
     /** @param count the length of the list of file types */
     void tellFileType(int type, int count);
@@ -49,6 +52,9 @@ public:
     const std::optional<std::string>& acceptedName() const { return m_acceptedName; }
 
 private:
+    /** Empty if there is no such folder. */
+    ComPtr<IShellItem> itemFor(std::string path) const;
+
     Shell& m_shell;
     const ComPtr<IFileDialog>& m_dialog;
 

@@ -6,15 +6,19 @@
 #include "host/HelpLauncher.h"
 #include "property/Property.h"
 #include "ui/qt/dialogs/native/AdvisedEvents_p.h"
+#include "ui/qt/dialogs/native/MemoryGuid_p.h"
 #include "ui/qt/dialogs/native/NameFilterText_p.h"
 #include "ui/qt/dialogs/native/NativeResults_p.h"
 #include "ui/qt/dialogs/native/NativeText_p.h"
+#include "ui/qt/dialogs/shell/DialogWarning_p.h"
 #include "ui/qt/dialogs/shell/TypedNames_p.h"
 #include "ui/qt/util/FilePath_p.h"
 #include "ui/qt/util/GuiThread_p.h"
 
 #include <QCoreApplication>
 #include <QScopedValueRollback>
+#include <QScopeGuard>
+#include <QTimer>
 
 #include <boost/filesystem/operations.hpp>
 #include <boost/make_shared.hpp>
@@ -22,6 +26,8 @@
 namespace morvane::ui {
 
 namespace {
+
+constexpr int textPollMilliseconds = 100;
 
 /** Whether a name may get this extension although the user has picked no type: it has one pattern and no wildcard. */
 bool isOneExtension(const std::string& extension)
@@ -42,7 +48,8 @@ NativeFileDialog::NativeFileDialog(QWidget* parent, const std::string& caption, 
       m_currentFilterIndex(boost::make_shared<Property<int>>(1)),
       m_fileName(boost::make_shared<Property<std::string>>()),
       m_useAcceptMenu(useAcceptMenu),
-      m_controls(m_dialog),
+      m_controls([this](LPWSTR text) { m_shell.coTaskMemFree(text); },
+          [this] { return m_dialog.query<IFileDialogCustomize>(); }),
       m_state(m_shell, m_dialog)
 {
     expectGuiThread("ExtendedWinFileDialog");
@@ -118,14 +125,44 @@ QDialog::DialogCode NativeFileDialog::exec()
     const QScopedValueRollback<bool> running(m_running, true);
     const AdvisedEvents events(m_shell, *m_dialog, *this);
     prepareRun();
-    // Qt stores the handle as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
-    const auto owner = m_parent ? reinterpret_cast<HWND>(m_parent->winId()) : HWND();
-    const HRESULT result = m_dialog->Show(owner);
+    const HRESULT result = show();
     m_accepted = result == S_OK && !m_closed;
     if (m_useAcceptMenu) {
         m_controls.readSelectedAcceptOption();
     }
     return result == S_OK ? QDialog::Accepted : QDialog::Rejected;
+}
+
+HRESULT NativeFileDialog::show()
+{
+    m_controls.setOpen(true);
+    const auto closed = qScopeGuard([this] { m_controls.setOpen(false); });
+    // The Shell has no event for the text of an edit box.
+    QTimer poll;
+    if (m_controls.hasTexts()) {
+        QObject::connect(&poll, &QTimer::timeout, [this] { pollTexts(); });
+        poll.start(textPollMilliseconds);
+    }
+    // Qt stores the handle as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
+    const auto owner = m_parent ? reinterpret_cast<HWND>(m_parent->winId()) : HWND();
+    const HRESULT result = m_dialog->Show(owner);
+    poll.stop();
+    if (m_thrown) {
+        std::rethrow_exception(std::exchange(m_thrown, nullptr));
+    }
+    m_controls.finishTexts();
+    return result;
+}
+
+void NativeFileDialog::pollTexts()
+{
+    try {
+        m_controls.readTexts();
+    } catch (...) {
+        // No exception may pass through the event loop.
+        m_thrown = std::current_exception();
+        m_dialog->Close(E_FAIL);
+    }
 }
 
 void NativeFileDialog::prepareRun()
@@ -147,7 +184,7 @@ void NativeFileDialog::configure()
     m_state.tellTitle(m_caption);
     m_state.tellOptions(m_fileMode, !m_dontConfirmOverwrite);
     if (!m_directory->value().empty()) {
-        m_state.tellFolder(m_directory->value());
+        m_state.tellFolder(m_directory->value(), m_hasMemory);
     }
     if (!m_nameFilters.isEmpty()) {
         m_state.tellFileTypes(m_nameFilters);
@@ -172,18 +209,98 @@ QStringList NativeFileDialog::selectedFiles()
     return NativeResults(m_shell, m_dialog).read(m_accepted ? m_state.acceptedName() : std::nullopt);
 }
 
-void NativeFileDialog::onAccepting(IFileDialog& dialog)
+void NativeFileDialog::setAcceptButtonText(const std::string& text)
 {
-    if (m_acceptMode == QFileDialog::AcceptOpen) {
-        return;
+    if (m_dialog && !text.empty()) {
+        m_dialog->SetOkButtonLabel(shellText(text).c_str());
     }
-    if (const auto name = typedName(dialog)) {
+}
+
+void NativeFileDialog::setFileNameLabel(const std::string& label)
+{
+    if (m_dialog && !label.empty()) {
+        m_dialog->SetFileNameLabel(shellText(label).c_str());
+    }
+}
+
+void NativeFileDialog::addPlace(const std::string& folder, bool atTop)
+{
+    if (m_dialog) {
+        m_state.tellPlace(folder, atTop ? FDAP_TOP : FDAP_BOTTOM);
+    }
+}
+
+void NativeFileDialog::setMemoryKey(const std::string& key)
+{
+    m_hasMemory = !key.empty();
+    if (m_dialog && m_hasMemory) {
+        m_dialog->SetClientGuid(memoryGuid(key));
+    }
+}
+
+void NativeFileDialog::clearMemory()
+{
+    if (m_dialog && m_hasMemory) {
+        m_dialog->ClearClientData();
+    }
+}
+
+bool NativeFileDialog::onAccepting(IFileDialog& dialog)
+{
+    const auto rejection = m_controls.finishTexts();
+    const auto name = m_acceptMode == QFileDialog::AcceptOpen ? std::nullopt : typedName(dialog);
+    if (name) {
         m_state.nameAccepted(name->toStdString());
     }
+    if (rejection) {
+        refuse(dialog, *rejection);
+        return false;
+    }
+    return mayAccept(dialog);
+}
+
+bool NativeFileDialog::mayAccept(IFileDialog& dialog)
+{
+    const AcceptanceCheck check = m_acceptanceCheck; // the check may replace itself
+    if (!check) {
+        return true;
+    }
+    const ValidationResult result = check(NativeResults(m_shell, m_dialog).read(m_state.acceptedName()));
+    if (!result.isValid()) {
+        refuse(dialog, result.errorString());
+    }
+    return result.isValid();
+}
+
+void NativeFileDialog::refuse(IFileDialog& dialog, const std::string& reason)
+{
+    if (m_closed) {
+        return;
+    }
+    showDialogWarning(dialog, m_parent, QString::fromStdString(m_caption), refusalText(reason));
+}
+
+void NativeFileDialog::onButtonClicked(DWORD control)
+{
+    m_controls.finishTexts();
+    m_controls.buttonClicked(control);
+}
+
+void NativeFileDialog::onCheckButtonToggled(DWORD control, BOOL checked)
+{
+    m_controls.finishTexts();
+    m_controls.checkButtonToggled(control, checked);
+}
+
+void NativeFileDialog::onItemSelected(DWORD control, DWORD item)
+{
+    m_controls.finishTexts();
+    m_controls.itemSelected(control, item);
 }
 
 void NativeFileDialog::onFolderChanged(IFileDialog& dialog)
 {
+    m_controls.readTexts();
     ComPtr<IShellItem> folder;
     dialog.GetFolder(folder.put());
     if (!folder) {
@@ -199,6 +316,7 @@ void NativeFileDialog::onFolderChanged(IFileDialog& dialog)
 
 void NativeFileDialog::onTypeChanged(IFileDialog& dialog)
 {
+    m_controls.readTexts();
     UINT index = static_cast<UINT>(m_currentFilterIndex->value());
     dialog.GetFileTypeIndex(&index);
     // The Shell also reports the type when the dialog opens.

@@ -4,6 +4,8 @@
 #pragma once
 
 #include "property/PropertyAbstract.h"
+#include "ui/qt/dialogs/FileDialogCustomization.h"
+#include "ui/qt/dialogs/native/CustomizationTarget_p.h"
 #include "ui/qt/dialogs/native/NativeControls_p.h"
 #include "ui/qt/dialogs/native/NativeDialogObserver_p.h"
 #include "ui/qt/dialogs/native/NativeDialogState_p.h"
@@ -18,8 +20,10 @@
 
 #include <boost/shared_ptr.hpp>
 
+#include <exception>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace morvane::ui {
 
@@ -28,7 +32,7 @@ namespace morvane::ui {
  *
  * Texts are UTF-8. Without a dialog object, all operations are allowed, and the settings are kept.
  */
-class NativeFileDialog final : private NativeDialogObserver
+class NativeFileDialog final : public CustomizationTarget, private NativeDialogObserver
 {
 public:
     NativeFileDialog(QWidget* parent, const std::string& caption, const std::string& directory,
@@ -52,22 +56,34 @@ public:
     void setNameFilters(const QStringList& filters) { m_nameFilters = filters; }
     /** Empty if the index of the current filter is outside the list. */
     QString currentNameFilter() const;
-    NativeControls& controls() { return m_controls; }
+    NativeControls& controls() override { return m_controls; }
+    void setAcceptanceCheck(AcceptanceCheck check) override { m_acceptanceCheck = std::move(check); }
+    void setAcceptButtonText(const std::string& text) override;
+    void setFileNameLabel(const std::string& label) override;
+    void addPlace(const std::string& folder, bool atTop) override;
+    void setMemoryKey(const std::string& key) override;
+    void clearMemory() override;
+    FileDialogCustomization* customization() { return &m_customization; }
     /** The Shell's dialog object, only for comparisons. Null if there is none. */
     const IFileDialog* shellDialog() const { return m_dialog.get(); }
 
 private:
-    void onAccepting(IFileDialog& dialog) override;
+    bool onAccepting(IFileDialog& dialog) override;
     void onFolderChanged(IFileDialog& dialog) override;
     void onTypeChanged(IFileDialog& dialog) override;
-    void onButtonClicked(DWORD control) override { m_controls.buttonClicked(control); }
-    void onCheckButtonToggled(DWORD control, BOOL checked) override { m_controls.checkButtonToggled(control, checked); }
+    void onButtonClicked(DWORD control) override;
+    void onCheckButtonToggled(DWORD control, BOOL checked) override;
+    void onItemSelected(DWORD control, DWORD item) override;
 
     void init(const std::string& directory, const std::string& filter);
     void initStartFolder(const std::string& directory);
     void initHelpButton();
     void prepareRun();
     void configure();
+    HRESULT show();
+    void pollTexts();
+    bool mayAccept(IFileDialog& dialog);
+    void refuse(IFileDialog& dialog, const std::string& reason);
     void replaceTypedExtension(IFileDialog& dialog, bool picked);
     /** The text of the name field. None if it cannot be read. */
     std::optional<QString> typedName(IFileDialog& dialog);
@@ -95,6 +111,11 @@ private:
     /** Whether close() has ended the last run, and whether the user has accepted in it. */
     bool m_closed = false;
     bool m_accepted = false;
+
+    AcceptanceCheck m_acceptanceCheck;
+    bool m_hasMemory = false;
+    FileDialogCustomization m_customization{*this};
+    std::exception_ptr m_thrown; ///< by an observer of a text that was read between two events
 };
 
 } // namespace morvane::ui

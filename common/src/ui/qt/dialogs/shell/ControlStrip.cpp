@@ -4,104 +4,141 @@
 #include "ui/qt/dialogs/shell/ControlStrip_p.h"
 
 #include "ui/qt/dialogs/shell/AcceptMenu_p.h"
-#include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
+#include "ui/qt/dialogs/shell/ControlFlow_p.h"
 
-#include <QCheckBox>
+#include <QAbstractButton>
 #include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QGridLayout>
-#include <QPushButton>
-#include <QSignalBlocker>
 
 #include <algorithm>
+#include <set>
 
 namespace morvane::ui {
 
-namespace {
+/** Found in one pass over the controls. */
+struct ControlStrip::Labels
+{
+    explicit Labels(const std::vector<Control>& controls)
+    {
+        std::map<DWORD, std::vector<const Control*>> members;
+        std::map<DWORD, const Control*> groups;
+        const Control* before = nullptr;
+        for (const Control& control : controls) {
+            if (control.kind == Control::Kind::VisualGroup) {
+                groups[control.id] = &control;
+            }
+            if (control.group) {
+                members[*control.group].push_back(&control);
+            }
+            if (before && before->kind == Control::Kind::Text && before->group == control.group &&
+                control.takesLabel()) {
+                add(*before, control);
+            }
+            before = &control;
+        }
+        for (const auto& [group, inside] : members) {
+            if (inside.size() == 1 && inside.front()->takesLabel()) {
+                add(*groups.at(group), *inside.front());
+            }
+        }
+    }
 
-constexpr int controlsPerRow = 4;
+    void add(const Control& label, const Control& labelled)
+    {
+        labels.insert(label.id);
+        labelOf[labelled.id] = &label;
+    }
+    const Control* of(const Control& control) const
+    {
+        const auto found = labelOf.find(control.id);
+        return found == labelOf.end() ? nullptr : found->second;
+    }
 
-} // namespace
+    std::set<DWORD> labels;
+    std::map<DWORD, const Control*> labelOf;
+};
 
-ControlStrip::ControlStrip(FileDialogWindow& dialog, ControlActions actions)
+ControlStrip::ControlStrip(QFileDialog& dialog, ControlActions actions)
     : QObject(&dialog),
       m_dialog(dialog),
       m_actions(std::move(actions)),
       m_buttonBox(dialog.findChild<QDialogButtonBox*>()),
-      m_row(new QWidget(&dialog)),
-      m_rowLayout(new QGridLayout(m_row))
+      m_row(new QWidget),
+      m_flow(new ControlFlow(m_row)),
+      m_scroller(new ControlScroller(m_row, &dialog))
 {
     m_row->setObjectName(QStringLiteral("customControls"));
-    m_rowLayout->setContentsMargins(0, 0, 0, 0);
-    m_rowLayout->setColumnStretch(controlsPerRow, 1);
+    m_flow->setContentsMargins(0, 0, 0, 0);
     if (auto* const grid = qobject_cast<QGridLayout*>(dialog.layout())) {
-        grid->addWidget(m_row, grid->rowCount(), 0, 1, grid->columnCount());
+        grid->addWidget(m_scroller, grid->rowCount(), 0, 1, grid->columnCount());
     }
 }
 
-ControlStrip::~ControlStrip() = default;
+ControlStrip::~ControlStrip()
+{
+    delete m_scroller; // unless the dialog has done it
+}
 
 void ControlStrip::update(const std::vector<Control>& controls)
 {
+    const Labels labels(controls);
     bool anyInRow = false;
     for (const Control& control : controls) {
         if (control.kind == Control::Kind::AcceptDropDown) {
             updateAcceptMenu(control);
             continue;
         }
-        QAbstractButton* const button = buttonFor(control);
-        const QSignalBlocker blocker(button);
-        place(control, *button);
-        button->setText(control.label);
-        button->setChecked(control.checked);
-        button->setEnabled(control.isEnabled());
-        button->setVisible(control.isVisible());
-        anyInRow = anyInRow || (control.isVisible() && button->parentWidget() == m_row);
+        if (labels.labels.count(control.id) != 0) {
+            hide(control); // it may have had a widget before it became a label
+            continue;
+        }
+        ControlWidget& widget = widgetFor(control, labels);
+        place(control, labels, widget);
+        widget.update(control, labels.of(control));
+        anyInRow = anyInRow || (!widget.cell().isHidden() && m_row->isAncestorOf(&widget.cell()));
     }
-    m_row->setVisible(anyInRow);
+    m_scroller->setVisible(anyInRow);
     // The button box sets the tab order of its buttons again when a button is added.
     if (m_acceptMenu) {
         QWidget::setTabOrder(m_acceptMenu->parentWidget(), m_acceptMenu);
     }
 }
 
-QAbstractButton* ControlStrip::buttonFor(const Control& control)
+void ControlStrip::hide(const Control& control)
 {
-    QAbstractButton*& button = m_buttons[control.id];
-    if (button) {
-        return button;
+    const auto found = m_widgets.find(control.id);
+    if (found != m_widgets.end()) {
+        found->second->cell().hide();
     }
-    const DWORD id = control.id;
-    if (control.kind == Control::Kind::CheckButton) {
-        button = new QCheckBox(m_row);
-        // toggled() is not used: Qt accesses the button after that signal, and a callback may destroy the dialog.
-        connect(button, &QAbstractButton::clicked, this, [this, id](bool checked) { m_actions.toggled(id, checked); });
-    } else {
-        button = new QPushButton(m_row);
-        connect(button, &QAbstractButton::clicked, this, [this, id] { m_actions.clicked(id); });
-    }
-    button->setObjectName(QStringLiteral("customControl%1").arg(id));
-    addToRow(*button);
-    return button;
 }
 
-void ControlStrip::addToRow(QAbstractButton& button)
+ControlWidget& ControlStrip::widgetFor(const Control& control, const Labels& labels)
 {
-    // When a button becomes prominent, its cell becomes empty.
-    int position = 0;
-    while (m_rowLayout->itemAtPosition(position / controlsPerRow, position % controlsPerRow)) {
-        ++position;
+    std::unique_ptr<ControlWidget>& widget = m_widgets[control.id];
+    if (!widget) {
+        ControlFlow& flow = flowFor(control, labels);
+        widget = makeControlWidget(control, labels.of(control), m_actions, *flow.parentWidget());
+        flow.addCell(widget->cell(), widget->takesWholeLine());
     }
-    m_rowLayout->addWidget(&button, position / controlsPerRow, position % controlsPerRow);
+    return *widget;
 }
 
-void ControlStrip::place(const Control& control, QAbstractButton& button)
+ControlFlow& ControlStrip::flowFor(const Control& control, const Labels& labels)
+{
+    const bool isFramed = control.group && labels.labels.count(*control.group) == 0;
+    return isFramed ? *m_widgets.at(*control.group)->members() : *m_flow;
+}
+
+void ControlStrip::place(const Control& control, const Labels& labels, ControlWidget& widget)
 {
     const bool standsApart = control.prominent && control.kind == Control::Kind::PushButton;
-    if (standsApart && button.parentWidget() == m_row) {
-        m_buttonBox->addButton(&button, QDialogButtonBox::HelpRole);
-    } else if (!standsApart && button.parentWidget() != m_row) {
-        m_buttonBox->removeButton(&button);
-        addToRow(button);
+    const bool isApart = m_buttonBox->isAncestorOf(&widget.cell());
+    if (standsApart && !isApart) {
+        m_buttonBox->addButton(widget.button(), QDialogButtonBox::HelpRole);
+    } else if (!standsApart && isApart) {
+        m_buttonBox->removeButton(widget.button());
+        flowFor(control, labels).addCell(widget.cell(), widget.takesWholeLine());
     }
 }
 
@@ -118,7 +155,7 @@ void ControlStrip::updateAcceptMenu(const Control& control)
         m_acceptMenu = new AcceptMenu(**accept, picked, opening);
     }
     const ControlItem* const first = control.isVisible() ? control.firstChoice() : nullptr;
-    m_dialog.setOptionText(first ? first->label : QString());
+    m_actions.optionTextChanged(first ? first->label : QString());
     m_acceptMenu->update(control);
 }
 

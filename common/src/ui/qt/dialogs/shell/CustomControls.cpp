@@ -3,8 +3,9 @@
 
 #include "ui/qt/dialogs/shell/CustomControls_p.h"
 
-#include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 #include "ui/qt/dialogs/shell/ShellText_p.h"
+
+#include <QFileDialog>
 
 #include <algorithm>
 #include <utility>
@@ -26,14 +27,21 @@ CustomControls::CustomControls(ControlActions actions) : m_actions(std::move(act
 
 CustomControls::~CustomControls() = default;
 
-void CustomControls::showIn(FileDialogWindow& window)
+void CustomControls::showIn(QFileDialog& window, std::function<void(const QString&)> setOptionText)
 {
     for (Control& control : m_controls) {
-        control.selectedItem.reset();
+        if (control.kind == Control::Kind::AcceptDropDown) {
+            control.selectedItem.reset();
+        }
     }
+    m_selections.clear();
+    delete m_oldStrip;
     ControlActions actions = m_actions;
     actions.toggled = [this](DWORD id, bool checked) { onToggled(id, checked); };
     actions.itemPicked = [this](DWORD id, DWORD item) { return onItemPicked(id, item); };
+    actions.itemSelected = [this](DWORD id, DWORD item) { onItemSelected(id, item); };
+    actions.edited = [this](DWORD id, const QString& text) { onEdited(id, text); };
+    actions.optionTextChanged = std::move(setOptionText);
     m_strip = new ControlStrip(window, std::move(actions));
     m_strip->update(m_controls);
 }
@@ -42,6 +50,22 @@ void CustomControls::refresh()
 {
     if (m_strip) {
         m_strip->update(m_controls);
+    }
+}
+
+void CustomControls::detach()
+{
+    // A widget of the strip may be calling, so the strip is not deleted here.
+    m_oldStrip = m_strip;
+    m_strip.clear();
+}
+
+void CustomControls::reportSelections()
+{
+    while (!m_selections.empty()) {
+        const auto [control, item] = m_selections.front();
+        m_selections.pop_front();
+        m_actions.itemSelected(control, item);
     }
 }
 
@@ -64,10 +88,74 @@ HRESULT CustomControls::AddCheckButton(DWORD control, LPCWSTR label, BOOL checke
     return add(std::move(check));
 }
 
+HRESULT CustomControls::AddComboBox(DWORD control)
+{
+    return add(Control{control, Control::Kind::ComboBox, QString()});
+}
+
+HRESULT CustomControls::AddRadioButtonList(DWORD control)
+{
+    return add(Control{control, Control::Kind::RadioButtonList, QString()});
+}
+
+HRESULT CustomControls::AddEditBox(DWORD control, LPCWSTR text)
+{
+    return add(Control{control, Control::Kind::EditBox, toQString(text)});
+}
+
+HRESULT CustomControls::AddSeparator(DWORD control)
+{
+    return add(Control{control, Control::Kind::Separator, QString()});
+}
+
+HRESULT CustomControls::AddText(DWORD control, LPCWSTR text)
+{
+    return add(Control{control, Control::Kind::Text, toQString(text)});
+}
+
+HRESULT CustomControls::StartVisualGroup(DWORD control, LPCWSTR label)
+{
+    if (m_openGroup) {
+        return E_UNEXPECTED; // groups are not nested
+    }
+    const HRESULT result = add(Control{control, Control::Kind::VisualGroup, toQString(label)});
+    if (SUCCEEDED(result)) {
+        m_openGroup = control;
+    }
+    return result;
+}
+
+HRESULT CustomControls::EndVisualGroup()
+{
+    const bool wasOpen = m_openGroup.has_value();
+    m_openGroup.reset();
+    return wasOpen ? S_OK : E_UNEXPECTED;
+}
+
+HRESULT CustomControls::GetEditBoxText(DWORD control, WCHAR** text)
+{
+    const Control* const found = findEditBox(control);
+    if (!found || !text) {
+        return withoutResult(text, E_INVALIDARG);
+    }
+    return copyToTaskMemory(found->label, text);
+}
+
+HRESULT CustomControls::SetEditBoxText(DWORD control, LPCWSTR text)
+{
+    Control* const found = findEditBox(control);
+    if (!found) {
+        return E_INVALIDARG;
+    }
+    found->label = toQString(text);
+    return updated();
+}
+
 HRESULT CustomControls::SetControlLabel(DWORD control, LPCWSTR label)
 {
     Control* const found = find(control);
-    if (!found || found->kind == Control::Kind::AcceptDropDown) {
+    if (!found || found->hasItems() || found->kind == Control::Kind::EditBox ||
+        found->kind == Control::Kind::Separator) {
         return E_INVALIDARG;
     }
     found->label = toQString(label);
@@ -116,8 +204,8 @@ HRESULT CustomControls::SetCheckButtonState(DWORD control, BOOL checked)
 
 HRESULT CustomControls::AddControlItem(DWORD control, DWORD item, LPCWSTR label)
 {
-    Control* const found = findDropDown(control);
-    if (!found || findItem(control, item)) {
+    Control* const found = findWithItems(control);
+    if (!found || !m_items.emplace(control, item).second) {
         return E_INVALIDARG;
     }
     found->items.push_back(ControlItem{item, toQString(label)});
@@ -126,8 +214,8 @@ HRESULT CustomControls::AddControlItem(DWORD control, DWORD item, LPCWSTR label)
 
 HRESULT CustomControls::RemoveControlItem(DWORD control, DWORD item)
 {
-    Control* const found = findDropDown(control);
-    if (!found || !findItem(control, item)) {
+    Control* const found = findWithItems(control);
+    if (!found || m_items.erase({control, item}) == 0) {
         return E_INVALIDARG;
     }
     found->items.erase(std::find_if(
@@ -140,9 +228,12 @@ HRESULT CustomControls::RemoveControlItem(DWORD control, DWORD item)
 
 HRESULT CustomControls::RemoveAllControlItems(DWORD control)
 {
-    Control* const found = findDropDown(control);
+    Control* const found = findWithItems(control);
     if (!found) {
         return E_INVALIDARG;
+    }
+    for (const ControlItem& item : found->items) {
+        m_items.erase({control, item.id});
     }
     found->items.clear();
     found->selectedItem.reset();
@@ -171,11 +262,12 @@ HRESULT CustomControls::SetControlItemState(DWORD control, DWORD item, CDCONTROL
 
 HRESULT CustomControls::GetSelectedControlItem(DWORD control, DWORD* item)
 {
-    const Control* const found = findDropDown(control);
+    const Control* const found = findWithItems(control);
     if (!found || !item) {
         return E_INVALIDARG;
     }
-    const ControlItem* const first = found->firstChoice();
+    // A list selects nothing by itself.
+    const ControlItem* const first = found->isList() ? nullptr : found->firstChoice();
     if (!found->selectedItem && !first) {
         return E_FAIL;
     }
@@ -189,7 +281,7 @@ HRESULT CustomControls::SetSelectedControlItem(DWORD control, DWORD item)
         return E_INVALIDARG;
     }
     find(control)->selectedItem = item;
-    return S_OK;
+    return updated();
 }
 
 HRESULT CustomControls::MakeProminent(DWORD control)
@@ -216,34 +308,62 @@ HRESULT CustomControls::SetControlItemText(DWORD control, DWORD item, LPCWSTR la
 
 HRESULT CustomControls::add(Control control)
 {
-    if (find(control.id)) {
+    if (!m_positions.emplace(control.id, m_controls.size()).second) {
         return E_INVALIDARG;
     }
+    control.group = m_openGroup;
     m_controls.push_back(std::move(control));
     return updated();
 }
 
 Control* CustomControls::find(DWORD id)
 {
-    return findById(m_controls, id);
+    const auto found = m_positions.find(id);
+    return found == m_positions.end() ? nullptr : &m_controls[found->second];
 }
 
 ControlItem* CustomControls::findItem(DWORD control, DWORD item)
 {
-    Control* const found = findDropDown(control);
+    Control* const found = findWithItems(control);
     return found ? findById(found->items, item) : nullptr;
 }
 
-Control* CustomControls::findDropDown(DWORD id)
+Control* CustomControls::findWithItems(DWORD id)
 {
     Control* const found = find(id);
-    return found && found->kind == Control::Kind::AcceptDropDown ? found : nullptr;
+    return found && found->hasItems() ? found : nullptr;
+}
+
+Control* CustomControls::findEditBox(DWORD id)
+{
+    Control* const found = find(id);
+    return found && found->kind == Control::Kind::EditBox ? found : nullptr;
 }
 
 void CustomControls::onToggled(DWORD id, bool checked)
 {
     find(id)->checked = checked;
     m_actions.toggled(id, checked);
+}
+
+void CustomControls::onItemSelected(DWORD id, DWORD item)
+{
+    Control& control = *find(id);
+    if (control.selectedItem == item) {
+        return;
+    }
+    control.selectedItem = item;
+    m_selections.emplace_back(id, item);
+    QMetaObject::invokeMethod(
+        m_strip, [this] { reportSelections(); }, Qt::QueuedConnection);
+}
+
+void CustomControls::onEdited(DWORD id, const QString& text)
+{
+    find(id)->label = text;
+    if (m_actions.edited) {
+        m_actions.edited(id, text);
+    }
 }
 
 bool CustomControls::onItemPicked(DWORD id, DWORD item)

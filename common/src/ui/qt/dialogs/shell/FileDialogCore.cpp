@@ -12,6 +12,7 @@
 #include <QScopeGuard>
 #include <QSet>
 #include <QThread>
+#include <QUuid>
 
 #include <algorithm>
 
@@ -101,7 +102,8 @@ void FileDialogCore::run(QWidget* owner)
     m_window = new FileDialogWindow(owner, settingsForRun(), *this);
     const auto close = qScopeGuard([this] { delete m_window; });
     if (m_window->consistsOfWidgets()) {
-        m_controls.showIn(*m_window);
+        m_window->restoreGeometry(m_memory.geometry());
+        m_controls.showIn(*m_window, [this](const QString& text) { m_window->setOptionText(text); });
     }
     announceOpening();
     if (isOpen()) {
@@ -110,6 +112,17 @@ void FileDialogCore::run(QWidget* owner)
     if (m_window) {
         m_fileName = m_window->typedName();
         m_settings.fileNameIsTyped = m_window->holdsWildcard();
+        keepMemory();
+    }
+}
+
+void FileDialogCore::keepMemory()
+{
+    if (m_window->consistsOfWidgets()) {
+        m_memory.keepGeometry(m_window->saveGeometry());
+    }
+    if (m_outcome == S_OK) {
+        m_memory.keepFolder(m_settings.folder);
     }
 }
 
@@ -152,7 +165,8 @@ FileDialogSettings FileDialogCore::settingsForRun() const
     settings.pathMustExist = has(FOS_PATHMUSTEXIST) && validates;
     settings.asksBeforeOverwriting = has(FOS_OVERWRITEPROMPT);
     settings.showsHidden = has(FOS_FORCESHOWHIDDEN);
-    settings.usesWidgets = m_alwaysWidgets || !m_controls.isEmpty() || !typesSurviveInText();
+    settings.usesWidgets =
+        m_alwaysWidgets || !m_controls.isEmpty() || !typesSurviveInText() || !m_settings.places.isEmpty();
     settings.fileName = m_fileName.value_or(QString());
     return settings;
 }
@@ -169,7 +183,7 @@ bool FileDialogCore::typesSurviveInText() const
 
 QString FileDialogCore::folder() const
 {
-    for (const QString& candidate : {m_settings.folder, m_defaultFolder}) {
+    for (const QString& candidate : {m_settings.folder, m_memory.folder(), m_defaultFolder}) {
         if (!candidate.isEmpty() && QFileInfo(candidate).isDir()) {
             return candidate;
         }
@@ -336,6 +350,30 @@ HRESULT FileDialogCore::setDefaultExtension(LPCWSTR extension)
     return S_OK;
 }
 
+HRESULT FileDialogCore::addPlace(IShellItem* folder, FDAP where)
+{
+    const QString path = pathOfShellItem(folder);
+    if (path.isEmpty() || !QFileInfo(path).isDir()) {
+        return E_INVALIDARG;
+    }
+    m_settings.places.add(path, where == FDAP_TOP);
+    return S_OK;
+}
+
+HRESULT FileDialogCore::setClientGuid(REFGUID guid)
+{
+    const QUuid name(guid.Data1, guid.Data2, guid.Data3, guid.Data4[0], guid.Data4[1], guid.Data4[2], guid.Data4[3],
+        guid.Data4[4], guid.Data4[5], guid.Data4[6], guid.Data4[7]);
+    m_memory.setKey("ExtendedWinFileDialog/Memory/" + name.toString(QUuid::WithoutBraces).toStdString());
+    return S_OK;
+}
+
+HRESULT FileDialogCore::clearClientData()
+{
+    m_memory.clear();
+    return S_OK;
+}
+
 HRESULT FileDialogCore::getResult(IShellItem** item) const
 {
     if (!item) {
@@ -373,6 +411,7 @@ bool FileDialogCore::mayAccept(const QStringList& paths)
         return false;
     }
     m_deciding = true;
+    m_controls.reportSelections();
     m_results = paths;
     const bool accepted = m_notifier.accepting();
     m_deciding = false;
@@ -399,6 +438,10 @@ ControlActions FileDialogCore::controlActions()
     actions.activating = [this](DWORD id) {
         m_notifier.tellControls(
             [&](IFileDialogControlEvents& sink) { return sink.OnControlActivating(&m_controls, id); });
+    };
+    actions.itemSelected = [this](DWORD id, DWORD item) {
+        m_notifier.tellControls(
+            [&](IFileDialogControlEvents& sink) { return sink.OnItemSelected(&m_controls, id, item); });
     };
     actions.itemPicked = [this](DWORD id, DWORD item) {
         m_notifier.tellControls(

@@ -5,6 +5,7 @@
 
 #include "ui/qt/dialogs/shell/ComPart_p.h"
 #include "ui/qt/dialogs/shell/CustomControls_p.h"
+#include "ui/qt/dialogs/shell/DialogMemory_p.h"
 #include "ui/qt/dialogs/shell/FileDialogWindow_p.h"
 #include "ui/qt/dialogs/shell/SinkNotifier_p.h"
 
@@ -49,6 +50,9 @@ public:
     HRESULT setOkButtonLabel(LPCWSTR label);
     HRESULT setFileNameLabel(LPCWSTR label);
     HRESULT setDefaultExtension(LPCWSTR extension);
+    HRESULT addPlace(IShellItem* folder, FDAP where);
+    HRESULT setClientGuid(REFGUID guid);
+    HRESULT clearClientData();
     HRESULT getResult(IShellItem** item) const;
     HRESULT getResults(IShellItemArray** items) const;
 
@@ -71,6 +75,7 @@ private:
     bool isOpen() const { return m_window && !m_notifier.hasRunEnded(); }
     void end(HRESULT result);
     void applyTexts();
+    void keepMemory();
 
     IFileDialog& m_dialog;
     const bool m_alwaysWidgets;
@@ -78,6 +83,7 @@ private:
     FileDialogSettings m_settings; // settingsForRun() adds the flags that depend on the options
     std::optional<QString> m_fileName;
     QString m_defaultFolder;
+    DialogMemory m_memory;
     SinkNotifier m_notifier;
     ComPart<CustomControls> m_controls;
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "ui/qt/dialogs/shell/SidebarPlaces_p.h"
+
 #include <QStringList>
 
 #include <vector>
@@ -34,6 +36,7 @@ struct FileDialogSettings
     QString fileName;
     bool fileNameIsTyped = false; ///< fileName is a wildcard that the user has typed in an earlier run
     QString defaultSuffix;        ///< added to names without suffix; empty: none
+    SidebarPlaces places;
     std::vector<FileTypeEntry> types;
     int typeIndex = 0;
 };

@@ -57,6 +57,7 @@ FileDialogWindow::FileDialogWindow(QWidget* owner, const FileDialogSettings& set
         m_acceptText = labelText(QFileDialog::Accept);
         setUpWidgets();
         setUpTypeCombo();
+        m_settings.places.addTo(*this);
         watchWidgets();
     } else {
         setUpNative();
@@ -67,7 +68,10 @@ FileDialogWindow::FileDialogWindow(QWidget* owner, const FileDialogSettings& set
     }
 }
 
-FileDialogWindow::~FileDialogWindow() = default;
+FileDialogWindow::~FileDialogWindow()
+{
+    m_settings.places.removeFrom(*this);
+}
 
 void FileDialogWindow::applySettings()
 {

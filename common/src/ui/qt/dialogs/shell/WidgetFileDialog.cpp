@@ -49,14 +49,14 @@ public:
     HRESULT STDMETHODCALLTYPE SetOkButtonLabel(LPCWSTR text) override { return m_core.setOkButtonLabel(text); }
     HRESULT STDMETHODCALLTYPE SetFileNameLabel(LPCWSTR label) override { return m_core.setFileNameLabel(label); }
     HRESULT STDMETHODCALLTYPE GetResult(IShellItem** item) override { return m_core.getResult(item); }
-    HRESULT STDMETHODCALLTYPE AddPlace(IShellItem*, FDAP) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE AddPlace(IShellItem* item, FDAP where) override { return m_core.addPlace(item, where); }
     HRESULT STDMETHODCALLTYPE SetDefaultExtension(LPCWSTR extension) override
     {
         return m_core.setDefaultExtension(extension);
     }
     HRESULT STDMETHODCALLTYPE Close(HRESULT result) override { return m_core.close(result); }
-    HRESULT STDMETHODCALLTYPE SetClientGuid(REFGUID) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE ClearClientData() override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetClientGuid(REFGUID guid) override { return m_core.setClientGuid(guid); }
+    HRESULT STDMETHODCALLTYPE ClearClientData() override { return m_core.clearClientData(); }
     HRESULT STDMETHODCALLTYPE SetFilter(IShellItemFilter*) override { return E_NOTIMPL; }
 
 protected:
