@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>ElidedTextLabel</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;نسخ</translation>
+    </message>
+</context>
+<context>
     <name>ExtendedWinFileDialog</name>
     <message>
         <source>File of Type</source>
@@ -14,6 +21,10 @@
     <message>
         <source>More ways to accept</source>
         <translation>طرق أخرى للقبول</translation>
+    </message>
+    <message>
+        <source>This choice is not accepted.</source>
+        <translation>هذا الاختيار غير مقبول.</translation>
     </message>
 </context>
 <context>
@@ -79,6 +90,35 @@ Do you want to replace it?</source>
     <message>
         <source>&quot;%1&quot; cannot be used here.</source>
         <translation>لا يمكن استخدام ⁦%1⁩ هنا.</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::RefusalMark</name>
+    <message>
+        <source>The text is not an acceptable number.</source>
+        <translation>النص ليس رقمًا مقبولًا.</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TableCopyHandler</name>
+    <message>
+        <source>Copy with &amp;Headers</source>
+        <translation>نسخ مع ال&amp;عناوين</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;نسخ</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TablePasteHandler</name>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;لصق</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>لصق</translation>
     </message>
 </context>
 </TS>

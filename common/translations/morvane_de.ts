@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ElidedTextLabel</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
     <name>ExtendedWinFileDialog</name>
     <message>
         <source>File of Type</source>
@@ -14,6 +21,10 @@
     <message>
         <source>More ways to accept</source>
         <translation>Weitere Möglichkeiten zum Annehmen</translation>
+    </message>
+    <message>
+        <source>This choice is not accepted.</source>
+        <translation>Diese Auswahl wird nicht angenommen.</translation>
     </message>
 </context>
 <context>
@@ -79,6 +90,35 @@ Möchten Sie die Datei ersetzen?</translation>
     <message>
         <source>&quot;%1&quot; cannot be used here.</source>
         <translation>„%1“ kann hier nicht verwendet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::RefusalMark</name>
+    <message>
+        <source>The text is not an acceptable number.</source>
+        <translation>Der Text ist keine zulässige Zahl.</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TableCopyHandler</name>
+    <message>
+        <source>Copy with &amp;Headers</source>
+        <translation>Mit &amp;Überschriften kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TablePasteHandler</name>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>ElidedTextLabel</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+</context>
+<context>
     <name>ExtendedWinFileDialog</name>
     <message>
         <source>File of Type</source>
@@ -14,6 +21,10 @@
     <message>
         <source>More ways to accept</source>
         <translation>Otras formas de aceptar</translation>
+    </message>
+    <message>
+        <source>This choice is not accepted.</source>
+        <translation>Esta elección no se acepta.</translation>
     </message>
 </context>
 <context>
@@ -79,6 +90,35 @@ Do you want to replace it?</source>
     <message>
         <source>&quot;%1&quot; cannot be used here.</source>
         <translation>«%1» no se puede usar aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::RefusalMark</name>
+    <message>
+        <source>The text is not an acceptable number.</source>
+        <translation>El texto no es un número admisible.</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TableCopyHandler</name>
+    <message>
+        <source>Copy with &amp;Headers</source>
+        <translation>Copiar con &amp;encabezados</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TablePasteHandler</name>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ElidedTextLabel</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>Co&amp;pier</translation>
+    </message>
+</context>
+<context>
     <name>ExtendedWinFileDialog</name>
     <message>
         <source>File of Type</source>
@@ -14,6 +21,10 @@
     <message>
         <source>More ways to accept</source>
         <translation>Autres façons d’accepter</translation>
+    </message>
+    <message>
+        <source>This choice is not accepted.</source>
+        <translation>Ce choix n’est pas accepté.</translation>
     </message>
 </context>
 <context>
@@ -79,6 +90,35 @@ Voulez-vous le remplacer ?</translation>
     <message>
         <source>&quot;%1&quot; cannot be used here.</source>
         <translation>« %1 » ne peut pas être utilisé ici.</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::RefusalMark</name>
+    <message>
+        <source>The text is not an acceptable number.</source>
+        <translation>Le texte n’est pas un nombre admissible.</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TableCopyHandler</name>
+    <message>
+        <source>Copy with &amp;Headers</source>
+        <translation>Copier avec les en-&amp;têtes</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>Co&amp;pier</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TablePasteHandler</name>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
     </message>
 </context>
 </TS>

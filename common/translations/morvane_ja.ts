@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>ElidedTextLabel</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>ExtendedWinFileDialog</name>
     <message>
         <source>File of Type</source>
@@ -14,6 +21,10 @@
     <message>
         <source>More ways to accept</source>
         <translation>その他の確定方法</translation>
+    </message>
+    <message>
+        <source>This choice is not accepted.</source>
+        <translation>この選択は受け付けられません。</translation>
     </message>
 </context>
 <context>
@@ -79,6 +90,35 @@ Do you want to replace it?</source>
     <message>
         <source>&quot;%1&quot; cannot be used here.</source>
         <translation>「%1」はここでは使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::RefusalMark</name>
+    <message>
+        <source>The text is not an acceptable number.</source>
+        <translation>テキストは有効な数値ではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TableCopyHandler</name>
+    <message>
+        <source>Copy with &amp;Headers</source>
+        <translation>見出し付きでコピー(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>morvane::ui::TablePasteHandler</name>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>貼り付け</translation>
     </message>
 </context>
 </TS>
