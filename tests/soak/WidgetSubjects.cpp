@@ -11,8 +11,8 @@
 #include "ui/qt/util/OverrideCursor.h"
 #include "ui/qt/util/OverrideCursorRestorer.h"
 #include "ui/qt/util/TableCopyHandler.h"
-#include "ui/qt/util/WheelGuard.h"
 #include "ui/qt/util/TablePasteHandler.h"
+#include "ui/qt/util/WheelGuard.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "ui/qt/compat/ctkCompleterFwd.h"
 #include "ui/qt/controls/AutoFilterModel_p.h"
 
 #include <ctkCompleter.h>
