@@ -194,6 +194,7 @@ TEST(StyledNumber, isReadInTheLanguage)
     EXPECT_EQ(read(QStringLiteral("\u0661\u066b\u0665"), arabic), 1.5);
     EXPECT_EQ(read(QStringLiteral("\u061c-\u0661\u066b\u0665"), arabic), -1.5);
     EXPECT_EQ(read(QStringLiteral("15"), arabic), 15);
+    EXPECT_EQ(read(QStringLiteral("\u0661E\u061c-\u0663"), arabic), 1e-3);
     EXPECT_EQ(read(QStringLiteral("1 234,5"), styleIn("fr_FR")), 1234.5);
     EXPECT_EQ(read(QStringLiteral("1'234.5"), styleIn("de_CH")), 1234.5);
     EXPECT_EQ(read(QStringLiteral("12,34,567.5"), styleIn("en_IN")), 1234567.5);

@@ -3,7 +3,6 @@
 
 #include "ui/qt/controls/StyledNumberScan_p.h"
 
-#include "ui/qt/controls/Decimal_p.h"
 #include "ui/qt/controls/SiPrefixes_p.h"
 
 #include <algorithm>
@@ -70,6 +69,13 @@ void StyledNumberScan::skipBlanks()
     }
 }
 
+void StyledNumberScan::skipDirectionMarks()
+{
+    while (!atEnd() && isDirectionMark(here())) {
+        ++m_at;
+    }
+}
+
 void StyledNumberScan::dropUnit()
 {
     const QString& unit = m_style.unit;
@@ -113,9 +119,7 @@ void StyledNumberScan::takeSign()
     } else {
         takePlus();
     }
-    while (!atEnd() && isDirectionMark(here())) {
-        ++m_at;
-    }
+    skipDirectionMarks();
 }
 
 void StyledNumberScan::takeMantissa()
@@ -186,11 +190,13 @@ bool StyledNumberScan::takeExponent(bool afterBlank)
         return false;
     }
     const int letter = m_at++;
+    skipDirectionMarks();
     const bool isExa = hasPrefixes() && afterBlank && atEnd() && m_text.at(letter) == QLatin1Char('E');
     const bool isNegative = takeMinus();
     if (!isNegative) {
         takePlus();
     }
+    skipDirectionMarks();
     if (isExa || (!atEnd() && !isDigit(m_at))) {
         m_at = letter;
         return false;
@@ -257,7 +263,8 @@ StyledReading StyledNumberScan::reading() const
     result.plain = m_exponent ? m_plain + 'E' + QByteArray::number(*m_exponent) : m_plain;
     result.symbol = m_symbol;
     bool isDouble = false;
-    result.value = nearestDouble(exponent() != 0 ? m_plain + 'E' + QByteArray::number(exponent()) : m_plain, &isDouble);
+    const QByteArray number = exponent() != 0 ? m_plain + 'E' + QByteArray::number(exponent()) : m_plain;
+    result.value = number.toDouble(&isDouble);
     if (isDouble && std::isfinite(result.value)) {
         result.state = QValidator::Acceptable;
     }

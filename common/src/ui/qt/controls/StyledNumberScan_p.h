@@ -28,6 +28,7 @@ private:
     QChar here() const { return m_text.at(m_at); }
 
     void skipBlanks();
+    void skipDirectionMarks();
     void dropUnit();
     bool isDigit(int index) const;
     bool takeAny(QChar first, QChar second, QChar third);
