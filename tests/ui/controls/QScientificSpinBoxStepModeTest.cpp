@@ -84,7 +84,8 @@ TEST_F(QScientificSpinBoxStepMode, decadesEndAtTheRange)
 TEST_F(QScientificSpinBoxStepMode, manyStepsAtOnceEndAtTheRange)
 {
     spin.setRange(-1e300, 1e300);
-    for (const auto mode : {QScientificSpinBox::Decade, QScientificSpinBox::OneTwoFive, QScientificSpinBox::LastDigit}) {
+    for (const auto mode :
+        {QScientificSpinBox::Decade, QScientificSpinBox::OneTwoFive, QScientificSpinBox::LastDigit}) {
         spin.setStepMode(mode);
         for (const double value : {2.5, -2.5}) {
             spin.setValue(value);
