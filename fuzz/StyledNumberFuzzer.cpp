@@ -68,8 +68,10 @@ void checkWriting(double number, const NumberStyle& style)
     require(shown == morvane::test::literalStyledNumber(number, style), "the text is that of the plain form");
     const auto back = readStyledNumber(shown + style.unit, style);
     const double expected = morvane::test::rounded(number, qMax(1, style.digits < 0 ? 6 : style.digits)).toDouble();
-    require(std::isinf(expected) || back.state == QValidator::Acceptable, "what is shown can be read");
-    require(std::isinf(expected) || back.value == expected, "it is the number that is shown");
+    // What Qt returns for a number that is rounded up beyond all doubles depends on its version.
+    const bool isBeyond = std::abs(number) > 1e307 && (std::isinf(expected) || expected == 0);
+    require(isBeyond || back.state == QValidator::Acceptable, "what is shown can be read");
+    require(isBeyond || back.value == expected, "it is the number that is shown");
 }
 
 } // namespace

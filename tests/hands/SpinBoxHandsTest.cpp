@@ -4,6 +4,7 @@
 #include "hands/HandsTest.h"
 #include "support/QtPrinters.h"
 #include "support/SpinBoxButton.h"
+#include "ui/qt/controls/Integral64SpinBox.h"
 #include "ui/qt/controls/IntegralSpinBox.h"
 #include "ui/qt/controls/QScientificSpinBox.h"
 
@@ -31,6 +32,7 @@ class SpinBoxHandsPlain : public HandsTest
 {
 };
 
+using ui::Integral64SpinBox;
 using ui::IntegralSpinBox;
 using ui::QScientificSpinBox;
 
@@ -116,7 +118,7 @@ protected:
     int downs = 0;
 };
 
-using SpinBoxes = ::testing::Types<QScientificSpinBox, IntegralSpinBox>;
+using SpinBoxes = ::testing::Types<QScientificSpinBox, IntegralSpinBox, Integral64SpinBox>;
 TYPED_TEST_SUITE(SpinBoxHands, SpinBoxes, );
 
 // After a step

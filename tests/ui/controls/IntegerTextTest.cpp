@@ -95,7 +95,7 @@ TEST(IntegerText, isReadAsByThePlainForm)
     const QStringList parts{
         "0", "1", "7", "9", "12", "345", "1234", "a", "F", "-", "+", ",", "_", "0x", "0b", "0o", "x", " "};
     int acceptable = 0;
-    for (int i = 0; i < 200000; ++i) {
+    for (int i = 0; i < 50000; ++i) {
         QString text;
         for (auto count = random() % 8; count > 0; --count) {
             text += parts.at(static_cast<int>(random() % static_cast<unsigned>(parts.size())));
@@ -109,7 +109,7 @@ TEST(IntegerText, isReadAsByThePlainForm)
             acceptable += expected.has_value();
         }
     }
-    EXPECT_GT(acceptable, 50000);
+    EXPECT_GT(acceptable, 10000);
 }
 
 } // namespace

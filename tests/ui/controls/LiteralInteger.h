@@ -46,7 +46,11 @@ inline std::optional<qint64> literalInteger(const QString& text, const ui::Integ
     if (!style.groupSeparator.isEmpty()) {
         plain.remove(style.groupSeparator);
     }
-    static const QRegularExpression allDigits("^[0-9a-fA-F]+\\z");
+    // Qt 6 reads marks of the base, too.
+    QRegularExpression allDigits(style.base == 2    ? "^[01]+\\z"
+                                 : style.base == 8  ? "^[0-7]+\\z"
+                                 : style.base == 10 ? "^[0-9]+\\z"
+                                                    : "^[0-9a-fA-F]+\\z");
     if (!allDigits.match(plain).hasMatch()) {
         return std::nullopt;
     }

@@ -5,6 +5,8 @@
 
 #include "support/SpinBoxButton.h"
 
+#include <limits>
+
 namespace {
 
 using morvane::test::ScientificSpinBox;
@@ -77,6 +79,27 @@ TEST_F(QScientificSpinBoxStepMode, decadesEndAtTheRange)
     EXPECT_EQ(after(1e-6, Qt::Key_Down, 3), 1e-7);
     spin.setRange(-1e308, 1e308);
     EXPECT_EQ(after(5e307, Qt::Key_Up), 1e308);
+}
+
+TEST_F(QScientificSpinBoxStepMode, manyStepsAtOnceEndAtTheRange)
+{
+    spin.setRange(-1e300, 1e300);
+    for (const auto mode :
+        {QScientificSpinBox::Decade, QScientificSpinBox::OneTwoFive, QScientificSpinBox::LastDigit}) {
+        spin.setStepMode(mode);
+        for (const double value : {2.5, -2.5}) {
+            spin.setValue(value);
+            spin.stepBy(std::numeric_limits<int>::max());
+            EXPECT_GE(spin.value(), value);
+            spin.setValue(value);
+            spin.stepBy(std::numeric_limits<int>::min());
+            EXPECT_LE(spin.value(), value);
+        }
+    }
+    spin.setStepMode(QScientificSpinBox::Decade);
+    spin.setValue(1);
+    spin.stepBy(std::numeric_limits<int>::max());
+    EXPECT_EQ(spin.value(), 1e300);
 }
 
 TEST_F(QScientificSpinBoxStepMode, oneTwoFiveGoesThroughTheSequence)

@@ -194,6 +194,7 @@ TEST(StyledNumber, isReadInTheLanguage)
     EXPECT_EQ(read(QStringLiteral("\u0661\u066b\u0665"), arabic), 1.5);
     EXPECT_EQ(read(QStringLiteral("\u061c-\u0661\u066b\u0665"), arabic), -1.5);
     EXPECT_EQ(read(QStringLiteral("15"), arabic), 15);
+    EXPECT_EQ(read(QStringLiteral("\u0661E\u061c-\u0663"), arabic), 1e-3);
     EXPECT_EQ(read(QStringLiteral("1 234,5"), styleIn("fr_FR")), 1234.5);
     EXPECT_EQ(read(QStringLiteral("1'234.5"), styleIn("de_CH")), 1234.5);
     EXPECT_EQ(read(QStringLiteral("12,34,567.5"), styleIn("en_IN")), 1234567.5);
@@ -233,22 +234,24 @@ TEST(StyledNumber, isRewrittenWithTheOwnSigns)
 
 TEST(StyledNumber, isReadAsTheNumberThatIsShownForAMillionDoubles)
 {
+    NumberStyle styles[] = {style(NumberNotation::SiPrefix, "V"), style(NumberNotation::SiPrefix, "m"),
+        style(NumberNotation::SiPrefix), style(NumberNotation::SiPrefix, "Pa"), style(NumberNotation::Engineering, "E"),
+        styleIn("de_DE", NumberNotation::SiPrefix, "T"), styleIn("sv_SE"), styleIn("ar_EG")};
     AnyNumber any;
     int withPrefix = 0;
     for (int i = 0; i < 1000000; ++i) {
         const double number = any.next();
-        NumberStyle how = any.pick({style(NumberNotation::SiPrefix, "V"), style(NumberNotation::SiPrefix, "m"),
-            style(NumberNotation::SiPrefix), style(NumberNotation::SiPrefix, "Pa"),
-            style(NumberNotation::Engineering, "E"), styleIn("de_DE", NumberNotation::SiPrefix, "T"), styleIn("sv_SE"),
-            styleIn("ar_EG")});
+        NumberStyle& how = styles[i % 8];
         how.digits = any.pick({1, 3, 8, 12, 12, 12});
         how.hasGroups = any.pick({false, true});
         const QString shown = styledNumber(number, how) + how.unit;
         const double expected = morvane::test::rounded(number, how.digits).toDouble();
         withPrefix += std::abs(number) >= 1e-30 && std::abs(number) < 1e33;
         const double back = read(shown, how);
-        ASSERT_TRUE(std::isinf(expected) || (back == expected && std::signbit(back) == std::signbit(number)))
-            << shown.toStdString() << " for " << number << " gives " << back;
+        const bool isSame = back == expected && std::signbit(back) == std::signbit(number);
+        // Qt 5 reads a number that is rounded up beyond all doubles as an infinity, Qt 6 as 0.
+        const bool isBeyond = std::abs(number) > 1e307 && (std::isinf(expected) || expected == 0);
+        ASSERT_TRUE(isSame || isBeyond) << shown.toStdString() << " for " << number << " gives " << back;
     }
     EXPECT_GT(withPrefix, 400000);
 }

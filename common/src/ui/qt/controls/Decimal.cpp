@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
+#include <limits>
 
 namespace morvane::ui {
 
@@ -54,22 +55,31 @@ Decimal roundedDecimal(double number, int significantDigits)
     return takenApart(buffer.data(), end);
 }
 
+Decimal scaledInteger(qint64 number, int exponent)
+{
+    Decimal result;
+    QByteArray digits = QByteArray::number(number);
+    result.isNegative = digits.startsWith('-');
+    digits.remove(0, result.isNegative ? 1 : 0);
+    result.count = static_cast<int>(digits.size());
+    std::copy(digits.begin(), digits.end(), result.digits.begin());
+    result.exponent = number == 0 ? 0 : exponent + result.count - 1;
+    return result;
+}
+
 double toDouble(const Decimal& decimal)
 {
     QByteArray text(decimal.isNegative ? "-" : "");
     text.append(decimal.digits.data(), decimal.count);
     text.append('E').append(QByteArray::number(decimal.exponent - decimal.count + 1));
-    return nearestDouble(text);
-}
-
-double nearestDouble(const QByteArray& number, bool* exact)
-{
-    bool ok = false;
-    const double result = number.toDouble(&ok);
-    if (exact) {
-        *exact = ok;
+    bool isDouble = false;
+    const double result = text.toDouble(&isDouble);
+    if (isDouble) {
+        return result;
     }
-    return result;
+    // What Qt returns then depends on its version.
+    const double limit = decimal.exponent > 0 ? std::numeric_limits<double>::infinity() : 0;
+    return decimal.isNegative ? -limit : limit;
 }
 
 } // namespace morvane::ui

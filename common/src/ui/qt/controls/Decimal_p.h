@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QByteArray>
+#include <QtGlobal>
 
 #include <array>
 
@@ -27,13 +27,10 @@ Decimal shortestDecimal(double number);
 /** Rounds to significant digits, without zeros at the end. A negative count means six, 0 means one; 17 at most. */
 Decimal roundedDecimal(double number, int significantDigits);
 
-/** Without loss; the nearest double. An infinity or 0 if there is none. */
-double toDouble(const Decimal& decimal);
+/** `number` times ten to the power of `exponent`; may have zeros at the end. */
+Decimal scaledInteger(qint64 number, int exponent);
 
-/**
- * The double that is nearest to a number in the C locale, such as "-1.5E-7"; an infinity if it is too large, 0 if it is
- * too small. `exact` becomes false in these two cases.
- */
-double nearestDouble(const QByteArray& number, bool* exact = nullptr);
+/** The nearest double; an infinity if the number is too large, 0 if it is too small. */
+double toDouble(const Decimal& decimal);
 
 } // namespace morvane::ui

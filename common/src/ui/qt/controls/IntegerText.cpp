@@ -62,7 +62,7 @@ bool append(quint64& number, unsigned digit, unsigned base)
 
 QString integerText(qint64 number, const IntegerStyle& style)
 {
-    const quint64 magnitude = number < 0 ? 0 - static_cast<quint64>(number) : static_cast<quint64>(number);
+    const quint64 magnitude = number < 0 ? static_cast<quint64>(-(number + 1)) + 1 : static_cast<quint64>(number);
     const QString digits = inGroups(QString::number(magnitude, style.base).toUpper(), style);
     return number < 0 ? QLatin1Char('-') + digits : digits;
 }
@@ -90,7 +90,9 @@ IntegerReading readInteger(const QString& text, const IntegerStyle& style)
     if (plain.isEmpty() || (digits.size() != plain.size() && digits != inGroups(plain, style))) {
         return {QValidator::Intermediate, 0};
     }
-    return {QValidator::Acceptable, static_cast<qint64>(isNegative ? 0 - magnitude : magnitude)};
+    const bool isBelowZero = isNegative && magnitude > 0;
+    return {
+        QValidator::Acceptable, isBelowZero ? -static_cast<qint64>(magnitude - 1) - 1 : static_cast<qint64>(magnitude)};
 }
 
 QString regrouped(const QString& text, int& cursor, const IntegerStyle& style)

@@ -17,6 +17,7 @@
 #include <QStyleOptionSpinBox>
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 
 namespace morvane::ui {
@@ -25,17 +26,28 @@ namespace {
 
 using Limits = std::numeric_limits<qint64>;
 
+/** How far it is up to `to`, which is not below `from`. */
+quint64 distance(qint64 from, qint64 to)
+{
+    const bool fits = from >= 0 || to < 0;
+    return fits ? static_cast<quint64>(to - from) : static_cast<quint64>(to) + static_cast<quint64>(-(from + 1)) + 1;
+}
+
 /** `value + step * steps`, limited to 64 bits. The step is not negative. */
 qint64 stepped(qint64 value, qint64 step, int steps)
 {
-    const auto count = static_cast<quint64>(steps < 0 ? -static_cast<qint64>(steps) : steps);
-    const quint64 room = steps < 0 ? static_cast<quint64>(value) - static_cast<quint64>(Limits::min())
-                                   : static_cast<quint64>(Limits::max()) - static_cast<quint64>(value);
+    constexpr auto most = static_cast<quint64>(Limits::max());
+    const auto count = static_cast<quint64>(std::abs(static_cast<qint64>(steps)));
+    const quint64 room = steps < 0 ? distance(Limits::min(), value) : distance(value, Limits::max());
     if (step != 0 && count > room / static_cast<quint64>(step)) {
         return steps < 0 ? Limits::min() : Limits::max();
     }
-    const quint64 distance = count * static_cast<quint64>(step);
-    return static_cast<qint64>(static_cast<quint64>(value) + (steps < 0 ? 0 - distance : distance));
+    for (quint64 rest = count * static_cast<quint64>(step); rest > 0;) {
+        const quint64 part = std::min(rest, most); // the whole may be more than a signed number holds
+        value += steps < 0 ? -static_cast<qint64>(part) : static_cast<qint64>(part);
+        rest -= part;
+    }
+    return value;
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 
 #include "ui/qt/controls/Decimal_p.h"
 
+#include <QByteArray>
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -14,6 +16,8 @@ namespace {
 
 /** Numbers with so many digits fit into 64 bits. */
 constexpr int mostDigits = 18;
+/** More steps lead beyond all doubles. */
+constexpr int mostSteps = 5000;
 
 qint64 timesPowerOfTen(qint64 number, int exponent)
 {
@@ -40,6 +44,7 @@ double decadesAway(double number, int steps)
     if (decimal.isZero()) {
         return number;
     }
+    steps = std::clamp(steps, -mostSteps, mostSteps);
     decimal.exponent += decimal.isNegative ? -steps : steps;
     return toDouble(decimal);
 }
@@ -50,6 +55,7 @@ double oneTwoFiveAway(double number, int steps)
     if (decimal.isZero() || steps == 0) {
         return number;
     }
+    steps = std::clamp(steps, -mostSteps, mostSteps);
     if (decimal.isNegative) {
         steps = -steps;
     }
@@ -72,10 +78,10 @@ double placesAway(double number, int place, int steps)
     const int highest = std::max(decimal.isZero() ? place : decimal.exponent, place);
     const auto stepDigits = static_cast<int>(QByteArray::number(steps).size());
     if (highest - lowest + 1 + stepDigits > mostDigits) {
-        return number + steps * nearestDouble("1E" + QByteArray::number(place));
+        return number + steps * toDouble(scaledInteger(1, place));
     }
     const qint64 sum = timesPowerOfTen(digitsOf(decimal), last - lowest) + timesPowerOfTen(steps, place - lowest);
-    return nearestDouble(QByteArray::number(sum) + 'E' + QByteArray::number(lowest));
+    return toDouble(scaledInteger(sum, lowest));
 }
 
 } // namespace morvane::ui

@@ -90,7 +90,8 @@ public:
     QScientificSpinBox::Notation m_notation = QScientificSpinBox::Scientific;
     QScientificSpinBox::StepMode m_stepMode = QScientificSpinBox::Linear;
     QLocale m_numberLocale = QLocale::c();
-    QString m_suffix; ///< as it was set
+    bool m_hasLanguage = false; ///< whether that is not the C locale
+    QString m_suffix;           ///< as it was set
     StyledLineValidator* m_styledValidator;
     RefusalMark* m_refusal = nullptr;
     TypedText m_typed;
@@ -141,7 +142,7 @@ const NumberStyle& QScientificSpinBoxPrivate::style() const
 {
     m_style.digits = m_decimals;
     m_style.unit = q->QDoubleSpinBox::suffix().trimmed();
-    m_style.hasGroups = m_numberLocale != QLocale::c() && q->isGroupSeparatorShown();
+    m_style.hasGroups = m_hasLanguage && q->isGroupSeparatorShown();
     return m_style;
 }
 
@@ -149,8 +150,9 @@ const NumberStyle& QScientificSpinBoxPrivate::style() const
 void QScientificSpinBoxPrivate::applyStyle()
 {
     m_style.notation = static_cast<NumberNotation>(m_notation);
-    m_style.signs = m_numberLocale == QLocale::c() ? NumberSigns() : signsOf(m_numberLocale);
-    m_styledValidator->setTakesForeignNumbers(m_numberLocale != QLocale::c());
+    m_hasLanguage = m_numberLocale != QLocale::c();
+    m_style.signs = m_hasLanguage ? signsOf(m_numberLocale) : NumberSigns();
+    m_styledValidator->setTakesForeignNumbers(m_hasLanguage);
     const bool initially = isReadAsInitially();
     line().setValidator(initially ? static_cast<QValidator*>(m_validator) : m_styledValidator);
     // Updates the text and the size hints, too.
@@ -160,7 +162,7 @@ void QScientificSpinBoxPrivate::applyStyle()
 
 bool QScientificSpinBoxPrivate::isReadAsInitially() const
 {
-    return m_notation != QScientificSpinBox::SiPrefix && m_numberLocale == QLocale::c();
+    return m_notation != QScientificSpinBox::SiPrefix && !m_hasLanguage;
 }
 
 double QScientificSpinBoxPrivate::interpretStyled(const QString& input, QValidator::State& state) const

@@ -3,7 +3,6 @@
 
 #include "ui/qt/controls/StyledNumberScan_p.h"
 
-#include "ui/qt/controls/Decimal_p.h"
 #include "ui/qt/controls/SiPrefixes_p.h"
 
 #include <algorithm>
@@ -48,6 +47,7 @@ bool equals(QStringView a, QStringView b)
 StyledNumberScan::StyledNumberScan(const QString& text, const NumberStyle& style)
     : m_text(text), m_style(style), m_end(static_cast<int>(text.size()))
 {
+    m_plain.reserve(m_end + 1);
     skipBlanks();
     while (!atEnd() && (m_text.at(m_end - 1).isSpace() || isDirectionMark(m_text.at(m_end - 1)))) {
         --m_end;
@@ -66,6 +66,13 @@ StyledNumberScan::StyledNumberScan(const QString& text, const NumberStyle& style
 void StyledNumberScan::skipBlanks()
 {
     while (!atEnd() && (here().isSpace() || isDirectionMark(here()))) {
+        ++m_at;
+    }
+}
+
+void StyledNumberScan::skipDirectionMarks()
+{
+    while (!atEnd() && isDirectionMark(here())) {
         ++m_at;
     }
 }
@@ -109,13 +116,11 @@ bool StyledNumberScan::takePlus()
 void StyledNumberScan::takeSign()
 {
     if (takeMinus()) {
-        m_plain = "-";
+        m_plain.append('-');
     } else {
         takePlus();
     }
-    while (!atEnd() && isDirectionMark(here())) {
-        ++m_at;
-    }
+    skipDirectionMarks();
 }
 
 void StyledNumberScan::takeMantissa()
@@ -145,14 +150,14 @@ void StyledNumberScan::takeMantissa()
     if (!m_hasPoint) {
         takeGroup(inGroup);
     }
-    m_isUnfinished = m_digitEnds.empty() || !groupsAreComplete();
+    m_isUnfinished = m_digitEnds.isEmpty() || !groupsAreComplete();
 }
 
 bool StyledNumberScan::takeSeparator()
 {
     const QChar character = here();
     const bool isSeparator =
-        m_groups.empty() ? m_style.signs.groupSeparators.contains(character) : character == m_separator;
+        m_groups.isEmpty() ? m_style.signs.groupSeparators.contains(character) : character == m_separator;
     // A blank may also stand before the prefix or the exponent.
     if (!isSeparator || (character.isSpace() && !isDigit(m_at + 1))) {
         return false;
@@ -164,19 +169,19 @@ bool StyledNumberScan::takeSeparator()
 
 void StyledNumberScan::takeGroup(int digits)
 {
-    if (!m_groups.empty()) {
+    if (!m_groups.isEmpty()) {
         m_groups.push_back(digits);
     }
 }
 
 bool StyledNumberScan::groupsAreComplete() const
 {
-    if (m_groups.empty() || m_digitEnds.empty()) {
-        return m_groups.empty();
+    if (m_groups.isEmpty() || m_digitEnds.isEmpty()) {
+        return m_groups.isEmpty();
     }
     const int inner = m_groups.size() > 2 && m_groups[1] == 2 ? 2 : 3;
     const char first = m_plain.at(m_plain.startsWith('-') ? 1 : 0);
-    return m_groups.front() >= 1 && m_groups.front() <= inner && first != '0' && m_groups.back() == 3 &&
+    return m_groups.first() >= 1 && m_groups.first() <= inner && first != '0' && m_groups.last() == 3 &&
            std::all_of(m_groups.begin() + 1, m_groups.end() - 1, [inner](int digits) { return digits == inner; });
 }
 
@@ -186,11 +191,13 @@ bool StyledNumberScan::takeExponent(bool afterBlank)
         return false;
     }
     const int letter = m_at++;
+    skipDirectionMarks();
     const bool isExa = hasPrefixes() && afterBlank && atEnd() && m_text.at(letter) == QLatin1Char('E');
     const bool isNegative = takeMinus();
     if (!isNegative) {
         takePlus();
     }
+    skipDirectionMarks();
     if (isExa || (!atEnd() && !isDigit(m_at))) {
         m_at = letter;
         return false;
@@ -212,7 +219,7 @@ void StyledNumberScan::takeExponentDigits(bool isNegative)
         value = std::min(value * 10 + digit, largestExponent);
     }
     m_exponent = isNegative ? -value : value;
-    m_isUnfinished = m_isUnfinished || digits == 0 || !m_groups.empty();
+    m_isUnfinished = m_isUnfinished || digits == 0 || !m_groups.isEmpty();
 }
 
 void StyledNumberScan::takePrefix()
@@ -257,7 +264,8 @@ StyledReading StyledNumberScan::reading() const
     result.plain = m_exponent ? m_plain + 'E' + QByteArray::number(*m_exponent) : m_plain;
     result.symbol = m_symbol;
     bool isDouble = false;
-    result.value = nearestDouble(exponent() != 0 ? m_plain + 'E' + QByteArray::number(exponent()) : m_plain, &isDouble);
+    const QByteArray number = m_prefix ? m_plain + 'E' + QByteArray::number(exponent()) : result.plain;
+    result.value = number.toDouble(&isDouble);
     if (isDouble && std::isfinite(result.value)) {
         result.state = QValidator::Acceptable;
     }
@@ -266,7 +274,7 @@ StyledReading StyledNumberScan::reading() const
 
 std::optional<int> StyledNumberScan::placeAt(int cursor) const
 {
-    if (m_isWrong || m_digitEnds.empty()) {
+    if (m_isWrong || m_digitEnds.isEmpty()) {
         return std::nullopt;
     }
     const auto behind = std::upper_bound(m_digitEnds.begin(), m_digitEnds.end(), cursor);
@@ -276,7 +284,7 @@ std::optional<int> StyledNumberScan::placeAt(int cursor) const
 
 int StyledNumberScan::cursorBehind(int place) const
 {
-    if (m_digitEnds.empty()) {
+    if (m_digitEnds.isEmpty()) {
         return m_end;
     }
     const int last = static_cast<int>(m_digitEnds.size()) - 1;

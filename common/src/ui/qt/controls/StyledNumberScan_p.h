@@ -7,9 +7,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QVarLengthArray>
 
 #include <optional>
-#include <vector>
 
 namespace morvane::ui {
 
@@ -28,6 +28,7 @@ private:
     QChar here() const { return m_text.at(m_at); }
 
     void skipBlanks();
+    void skipDirectionMarks();
     void dropUnit();
     bool isDigit(int index) const;
     bool takeAny(QChar first, QChar second, QChar third);
@@ -50,14 +51,14 @@ private:
     int m_at = 0;
     int m_end;
 
-    bool m_isWrong = false;       ///< no further typing helps
-    bool m_isUnfinished = false;  ///< something is missing
-    QByteArray m_plain;           ///< sign and digits in the C locale
-    std::vector<int> m_digitEnds; ///< the positions behind the digits
-    int m_wholeDigits = 0;        ///< digits before the point
+    bool m_isWrong = false;               ///< no further typing helps
+    bool m_isUnfinished = false;          ///< something is missing
+    QByteArray m_plain;                   ///< sign and digits in the C locale
+    QVarLengthArray<int, 32> m_digitEnds; ///< the positions behind the digits
+    int m_wholeDigits = 0;                ///< digits before the point
     bool m_hasPoint = false;
-    QChar m_separator;         ///< the one that this number uses
-    std::vector<int> m_groups; ///< the lengths of the groups, if there are separators
+    QChar m_separator;                ///< the one that this number uses
+    QVarLengthArray<int, 8> m_groups; ///< the lengths of the groups, if there are separators
     std::optional<int> m_exponent;
     std::optional<int> m_prefix;
     QString m_symbol;
