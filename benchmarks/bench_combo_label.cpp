@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // The filtering combo box and its completer beside Qt's own, and the elided label beside the label that it rests on.
+#include "support/ProcessorTime.h"
 #include "support/Ratio.h"
 
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
@@ -18,7 +19,6 @@
 #include <QStringListModel>
 
 #include <array>
-#include <ctime>
 #include <random>
 
 namespace {
@@ -158,26 +158,15 @@ Field<Box>& field(int count)
     return *large;
 }
 
-/**
- * Processor time of the process. The wall clock would also count the pauses in which the system runs something else,
- * and they are longer than a key.
- */
-double processorSeconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
-}
-
 /** Measures a key alone; @p prepare is not counted. */
 template <typename Prepare, typename Key>
 void measureKey(benchmark::State& state, Prepare prepare, Key key)
 {
     for (auto _ : state) {
         prepare();
-        const double start = processorSeconds();
+        const double start = morvane::bench::processorSeconds();
         key();
-        state.SetIterationTime(processorSeconds() - start);
+        state.SetIterationTime(morvane::bench::processorSeconds() - start);
     }
 }
 

@@ -18,27 +18,22 @@ AutoFilterCompleter::~AutoFilterCompleter()
 
 void AutoFilterCompleter::setEntries(QAbstractItemModel* entries)
 {
-    if (filters()) {
+    // With Qt 6, QComboBox itself has given its completer the new model instead of this one.
+    const bool mustFilter = m_matching.isExtended() && completionMode() == PopupCompletion;
+    if (mustFilter) {
         m_model->setSourceModel(entries);
+        setSourceModel(m_model.get());
         setCompletionPrefix(completionPrefix());
     } else {
         setSourceModel(entries);
+        m_model->setSourceModel(nullptr);
     }
 }
 
 void AutoFilterCompleter::setMatching(EntryMatching matching)
 {
     m_matching = matching;
-    const bool mustFilter = matching.isExtended() && completionMode() == PopupCompletion;
-    if (mustFilter && !filters()) {
-        m_model->setSourceModel(sourceModel());
-        setSourceModel(m_model.get());
-    } else if (!mustFilter && filters()) {
-        QAbstractItemModel* const entries = m_model->sourceModel();
-        setSourceModel(entries);
-        m_model->setSourceModel(nullptr);
-    }
-    setCompletionPrefix(completionPrefix());
+    setEntries(filters() ? m_model->sourceModel() : sourceModel());
 }
 
 QStringList AutoFilterCompleter::splitPath(const QString& path) const

@@ -44,6 +44,7 @@ public:
     explicit ElidedTextLabel(QWidget* parent = nullptr, Qt::WindowFlags flags = {});
     ~ElidedTextLabel() override;
 
+    /** False initially. */
     bool isCopyable() const;
     /**
      * True: the copy shortcut and a context menu with "Copy" put the whole text on the clipboard. The label gets the

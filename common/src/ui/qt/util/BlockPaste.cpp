@@ -98,12 +98,14 @@ void BlockPaste::check(DelayedWaitCursor& waitCursor)
     const QAbstractItemModel& shown = *m_first.model();
     const QModelIndex parent = m_first.parent();
     for (std::size_t row = 0; row < m_block.size(); ++row) {
+        waitCursor.step();
+        const bool isOutside = row >= m_target.rowCount();
         const int shownRow = m_first.row() + static_cast<int>(row);
-        for (std::size_t column = 0; column < m_block[row].size(); ++column) {
-            waitCursor.step();
-            if (column >= m_target.columnCount() || (row >= m_target.rowCount() && !m_rules.mayAddRows)) {
+        const std::size_t width = m_block[row].size();
+        for (std::size_t column = 0; column < width; ++column) {
+            if (column >= m_target.columnCount() || (isOutside && !m_rules.mayAddRows)) {
                 refuse({row, column}, TablePasteRefusal::Reason::OutsideTable);
-            } else if (row < m_target.rowCount()) {
+            } else if (!isOutside) {
                 checkCell({row, column}, shown.index(shownRow, m_first.column() + static_cast<int>(column), parent));
             }
         }

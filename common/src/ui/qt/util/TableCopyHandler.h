@@ -79,6 +79,7 @@ public:
 
     /** Values::Shown initially. */
     Values copiedValues() const;
+    /** With Values::Stored, the cells are copied as an editor would show them. */
     void setCopiedValues(Values values);
 
     /** False initially. */

@@ -62,6 +62,7 @@ public:
     /** Removes the event filter. */
     ~TablePasteHandler() override;
 
+    /** False initially. */
     bool isAddingRows() const;
     /** True: rows that the table does not have are added with `insertRows()` of the model. Columns are never added. */
     void setAddingRows(bool on);

@@ -12,6 +12,7 @@ namespace morvane::ui {
 /** A cell because of which a block was not pasted. */
 struct TablePasteRefusal
 {
+    /** Why the cell cannot be written. */
     enum class Reason
     {
         OutsideTable,  ///< the table has no such column, or no such row and none may be added
@@ -23,7 +24,7 @@ struct TablePasteRefusal
     int row = -1;    ///< of the view's model; a row that is to be added has the number that it would have
     int column = -1; ///< of the view's model
     QString text;    ///< the text that was to be pasted into the cell
-    Reason reason = Reason::RefusedByModel;
+    Reason reason = Reason::RefusedByModel; ///< why it cannot be pasted
 };
 
 } // namespace morvane::ui
