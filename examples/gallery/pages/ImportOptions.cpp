@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -47,7 +48,9 @@ ImportOptions::ImportOptions()
     row->addWidget(m_inches);
     row->addStretch(1);
     auto* const form = new QFormLayout(this);
-    form->addRow(tr("En&coding, unit:"), row);
+    auto* const label = new QLabel(tr("En&coding, unit:"));
+    label->setBuddy(m_encodingField);
+    form->addRow(label, row);
     form->addRow(tr("Comm&ent:"), m_commentField);
     m_encodingField->setAccessibleName(tr("Encoding"));
     m_comment->setValidator(boost::make_shared<NoQuestionMark>());
