@@ -3,6 +3,7 @@
 
 // The time from exec() to the first painted frame of each dialog, in a folder of 50,000 files, compared with Qt's own
 // dialog. The time from a key to the painted list of the filtering combo box with 1,000,000 entries.
+#include "property/Property.h"
 #include "support/Ratio.h"
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
@@ -148,6 +149,39 @@ void nativeDialog(benchmark::State& state)
     });
 }
 
+/** With as many controls of each kind; in a small folder, so that the controls count. */
+void nativeDialogWithControls(benchmark::State& state, int ofEachKind)
+{
+    static const QTemporaryDir small;
+    WidgetShell shell(WidgetShell::Appearance::AlwaysWidgets);
+    const ShellOverride shellOverride(shell);
+    measure(state, [ofEachKind](FirstFrame& frame) {
+        const auto chosen = boost::make_shared<morvane::Property<int>>(0);
+        const auto text = boost::make_shared<morvane::Property<std::string>>("text");
+        frame.start();
+        ExtendedWinFileDialog dialog(
+            window(), "Open", small.path().toStdString(), filters, "", QFileDialog::AcceptOpen, false);
+        for (int i = 0; i < ofEachKind; ++i) {
+            dialog.addCustomButton("Button", [] {});
+            dialog.addCustomCheckBox("Check box", boost::make_shared<morvane::Property<bool>>(false));
+            dialog.addCustomComboBox("List:", {"One", "Two", "Three"}, chosen);
+            dialog.addCustomLineEdit("Text:", text);
+            dialog.addCustomRadioButtons("Unit:", {"mm", "m"}, chosen);
+        }
+        dialog.exec();
+    });
+}
+
+void openWithoutControls(benchmark::State& state)
+{
+    nativeDialogWithControls(state, 0);
+}
+
+void openWith50Controls(benchmark::State& state)
+{
+    nativeDialogWithControls(state, 10);
+}
+
 void plainSaveDialog(benchmark::State& state)
 {
     measure(state, [](FirstFrame& frame) {
@@ -273,6 +307,8 @@ void comboKeyFiltering(benchmark::State& state)
 MORVANE_BENCHMARK(plainDialog)->Iterations(1)->Repetitions(41)->UseManualTime();
 MORVANE_BENCHMARK(extendedDialog)->Iterations(1)->Repetitions(41)->UseManualTime();
 MORVANE_BENCHMARK(nativeDialog)->Iterations(1)->Repetitions(41)->UseManualTime();
+MORVANE_BENCHMARK(openWithoutControls)->Iterations(1)->Repetitions(41)->UseManualTime();
+MORVANE_BENCHMARK(openWith50Controls)->Iterations(1)->Repetitions(41)->UseManualTime();
 MORVANE_BENCHMARK(plainSaveDialog)->Iterations(1)->Repetitions(41)->UseManualTime();
 MORVANE_BENCHMARK(saveFlow)->Iterations(1)->Repetitions(41)->UseManualTime();
 MORVANE_BENCHMARK(plainCall)->Iterations(1)->Repetitions(41)->UseManualTime();
@@ -284,6 +320,7 @@ MORVANE_BENCHMARK(comboKeyFiltering)->Iterations(1)->Repetitions(5);
 
 MORVANE_RATIO(firstframe_qtdialog, extendedDialog, plainDialog, 1.2);
 MORVANE_RATIO(firstframe_native, nativeDialog, plainCall, 1.2);
+MORVANE_RATIO(controls_50, openWith50Controls, openWithoutControls, 0);
 MORVANE_RATIO(firstframe_save, saveFlow, plainSaveDialog, 1.2);
 MORVANE_RATIO(firstframe_launcher, launcherCall, plainCallWithFile, 1.2);
 MORVANE_RATIO(combo_key_painted_1m, comboKeyFiltering, comboKeyPlain, 1.2);

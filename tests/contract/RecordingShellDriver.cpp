@@ -28,6 +28,7 @@ public:
     void chooseEntry(DWORD control, DWORD item, int) override { m_dialog.userChooses(control, item); }
     void chooseRadio(DWORD control, DWORD item, const QString&) override { m_dialog.userChooses(control, item); }
     void typeText(DWORD control, const QString& text) override { m_dialog.userTypes(control, text); }
+    QStringList places() const override { return m_dialog.places(); }
     void pressAcceptAndAnswer(bool replace) override
     {
         m_dialog.userAnswersOverwriting(replace);

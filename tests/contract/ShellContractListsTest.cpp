@@ -249,12 +249,27 @@ TEST_P(ShellContract, keepsTheFolderUnderAClientIdentifier)
     EXPECT_EQ(dialog->ClearClientData(), S_OK);
 }
 
-TEST_P(ShellContract, takesPlaces)
+TEST_P(ShellContract, takesPlacesBeforeItRuns)
 {
     prepare();
     EXPECT_EQ(dialog->AddPlace(itemFor(folder.path()).get(), FDAP_TOP), S_OK);
     EXPECT_EQ(dialog->AddPlace(itemFor(path(QStringLiteral("inner"))).get(), FDAP_BOTTOM), S_OK);
     EXPECT_EQ(show([](ShellUser& user) { user.pressCancel(); }), cancelled);
+}
+
+TEST_P(ShellContract, showsThePlacesThatWereAdded)
+{
+    prepare();
+    const QString inner = path(QStringLiteral("inner"));
+    EXPECT_EQ(dialog->AddPlace(itemFor(inner).get(), FDAP_TOP), S_OK);
+    EXPECT_EQ(dialog->AddPlace(itemFor(folder.path()).get(), FDAP_BOTTOM), S_OK);
+    QStringList shown;
+    show([&](ShellUser& user) {
+        shown = user.places();
+        user.pressCancel();
+    });
+    EXPECT_EQ(shown.value(0), inner);
+    EXPECT_EQ(shown.value(shown.size() - 1), folder.path());
 }
 
 } // namespace

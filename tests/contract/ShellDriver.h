@@ -7,6 +7,7 @@
 #include "ui/qt/dialogs/shell/Shell.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <iosfwd>
@@ -37,6 +38,8 @@ public:
     virtual void chooseRadio(DWORD control, DWORD item, const QString& label) = 0;
     /** Replaces the text in an edit box; returns when the Shell has it. */
     virtual void typeText(DWORD control, const QString& text) = 0;
+    /** The folders in the list of places, in order. */
+    virtual QStringList places() const = 0;
     /** Presses accept and answers the question whether a file may be replaced. */
     virtual void pressAcceptAndAnswer(bool replace) = 0;
 };

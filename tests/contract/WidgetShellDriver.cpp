@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
+#include <QUrl>
 
 namespace morvane::test {
 
@@ -44,6 +45,14 @@ public:
         QCoreApplication::processEvents();
     }
     void typeText(DWORD control, const QString& text) override { m_driver.typeText(nameOf(control), text); }
+    QStringList places() const override
+    {
+        QStringList folders;
+        for (const QUrl& url : m_driver.dialog().sidebarUrls()) {
+            folders.append(url.toLocalFile());
+        }
+        return folders;
+    }
     void pressAcceptAndAnswer(bool replace) override { m_driver.pressAcceptAndAnswer(replace); }
 
 private:

@@ -27,6 +27,7 @@ using Differences = std::map<std::string, const char*>;
 // What our own shells promise beyond the published interfaces.
 const char* const foreignFrames = "an exception cannot be expected to pass through the frames of the system's Shell";
 const Differences windowsDifferences{
+    {"showsThePlacesThatWereAdded", "nobody can read the places from outside, and Wine shows none of them"},
     {"anExceptionFromAButtonLeavesShow", foreignFrames},
     {"anExceptionWhileItOpensLeavesShowAndTheDialogStaysUsable", foreignFrames},
     {"anExceptionWhileItRunsLeavesShowAndTheDialogStaysUsable", foreignFrames},
@@ -34,6 +35,7 @@ const Differences windowsDifferences{
 
 // If the library relies on one of these, docs/windows-checklist.md has a step for it; it does none of the others.
 const Differences wineDifferences{
+    {"anEmptyEditBoxHasAnEmptyText", "Wine has no text for an edit box that is empty"},
     {"closingFromACallbackEndsShowWithTheGivenResult", "Wine goes on accepting when it is closed in OnFileOk"},
     {"closingFromEachCallbackEndsShow", "Wine goes on accepting when it is closed in OnFileOk"},
     {"closingGivesNoResultOfTheRunBefore", "Wine keeps the result of the run before"},
@@ -41,6 +43,7 @@ const Differences wineDifferences{
     {"forgetsTheResultOfTheRunBefore", "Wine keeps the result of the run before"},
     {"itemsMayBeAddedAndRemovedWhenOneIsPicked", "Wine accepts with the item of the menu, and tells no sink of it"},
     {"keepsFolderNameAndTypeFromRunToRun", "Wine goes back to the folder and the name that were set"},
+    {"keepsTheFolderUnderAClientIdentifier", "Wine takes a client identifier, and keeps nothing under it"},
     {"keepsTheNameThatTheSinkSetsOnATypeChange", "Wine puts the extension of the type in before it tells the sink"},
     {"pickingAnAcceptItemSelectsItAndAccepts", "Wine accepts with the item of the menu, and tells no sink of it"},
     {"refusesControlsThatAreNotThere", "Wine takes the state of a control that is not there"},

@@ -5,6 +5,7 @@
 
 #include "pages/ChosenFilesTable.h"
 #include "pages/FileDialogForm.h"
+#include "pages/ImportOptions.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
 
 #include <QCheckBox>
@@ -33,8 +34,8 @@ enum AcceptOption
 
 NativeDialogPage::NativeDialogPage()
     : Page(QStringLiteral("native-dialog"), tr("Native dialog"),
-          tr("The platform's own file dialog with controls of the host: check boxes, push buttons and a menu on the "
-             "accept button. What they do shows here while the dialog is open.")),
+          tr("The platform's own file dialog with controls of the host: check boxes, push buttons, lists, text and a "
+             "menu on the accept button. What they do shows here while the dialog is open.")),
       m_readOnly(boost::make_shared<morvane::Property<bool>>(false)),
       m_preview(boost::make_shared<morvane::Property<bool>>(true)),
       m_form(new FileDialogForm(
@@ -42,6 +43,8 @@ NativeDialogPage::NativeDialogPage()
       m_openMode(new QRadioButton(tr("&Open"))),
       m_saveMode(new QRadioButton(tr("&Save"))),
       m_withOptions(new QCheckBox(tr("&Menu on the accept button"))),
+      m_withMemory(new QCheckBox(tr("&Keep folder and size"))),
+      m_import(new ImportOptions),
       m_run(new QPushButton(tr("Sho&w Dialog…"))),
       m_readOnlyField(new QCheckBox(tr("&Read only"))),
       m_previewField(new QCheckBox(tr("&Preview"))),
@@ -52,14 +55,18 @@ NativeDialogPage::NativeDialogPage()
     addOptions();
     auto* const buttons = new QHBoxLayout;
     buttons->addWidget(m_run);
+    buttons->addSpacing(12);
+    buttons->addWidget(m_withMemory);
     buttons->addStretch(1);
     body().addWidget(m_form);
     body().addLayout(buttons);
     body().addWidget(makeLiveGroup());
+    body().addWidget(m_import);
     body().addWidget(m_chosen, 1);
 
     bind(m_readOnly, *m_readOnlyField);
     bind(m_preview, *m_previewField);
+    connect(m_import, &ImportOptions::reported, this, &Page::reported);
     connect(m_form, &FileDialogForm::usableChanged, m_run, &QWidget::setEnabled);
     connect(m_run, &QPushButton::clicked, this, [this] { runDialog(); });
 }
@@ -112,6 +119,11 @@ void NativeDialogPage::runDialog()
     // Types are counted from 1 there.
     dialog.currentFilterIndex()->setValue(m_form->startType() + 1);
     addControls(dialog);
+    m_import->addTo(*dialog.customization(), m_form->startFolder());
+    if (m_withMemory->isChecked()) {
+        dialog.setMemoryKey("gallery/native-dialog");
+        dialog.addCustomButton("Forget Folder", [&dialog] { dialog.clearMemory(); });
+    }
     QWidget* const edit = addAcceptOptions(dialog);
 
     const boost::signals2::scoped_connection typeShown =

@@ -16,6 +16,7 @@ namespace gallery {
 
 class ChosenFilesTable;
 class FileDialogForm;
+class ImportOptions;
 
 /** Runs ExtendedWinFileDialog with controls of the host, and shows their state while the dialog is open. */
 class NativeDialogPage : public Page
@@ -48,6 +49,9 @@ private:
     std::vector<TourStep> optionSteps(const TourWorkspace& workspace);
     std::vector<TourStep> checkBoxSteps(const TourWorkspace& workspace);
     std::vector<TourStep> controlStateSteps();
+    std::vector<TourStep> listSteps();
+    std::vector<TourStep> refusalSteps();
+    std::vector<TourStep> systemListSteps();
     std::vector<TourStep> acceptOptionSteps();
     std::vector<TourStep> saveSteps();
     TourStep systemOpenStep(const QString& name, int listed);
@@ -61,6 +65,8 @@ private:
     QRadioButton* m_openMode;
     QRadioButton* m_saveMode;
     QCheckBox* m_withOptions;
+    QCheckBox* m_withMemory;
+    ImportOptions* m_import;
     QPushButton* m_run;
     QCheckBox* m_readOnlyField;
     QCheckBox* m_previewField;

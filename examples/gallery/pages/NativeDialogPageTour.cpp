@@ -3,6 +3,7 @@
 
 #include "pages/ChosenFilesTable.h"
 #include "pages/FileDialogForm.h"
+#include "pages/ImportOptions.h"
 #include "pages/NativeDialogPage.h"
 #include "tour/OpenFileDialog.h"
 #include "tour/TourWorkspace.h"
@@ -13,8 +14,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+
+#include <algorithm>
 
 namespace gallery {
 
@@ -39,6 +43,17 @@ QString expectPreview(bool visible, bool enabled)
         "the check box does not have the requested state");
 }
 
+/** The list or line edit with this accessible name in the open dialog; null if there is none. */
+template <typename Field>
+Field* field(const QString& name)
+{
+    const OpenFileDialog open;
+    const auto fields = open ? open.dialog->findChildren<Field*>() : QList<Field*>();
+    const auto found =
+        std::find_if(fields.begin(), fields.end(), [&name](Field* one) { return one->accessibleName() == name; });
+    return found == fields.end() ? nullptr : *found;
+}
+
 QMenu* openMenu()
 {
     return qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -58,7 +73,9 @@ std::vector<TourStep> NativeDialogPage::tourSteps(const TourWorkspace& workspace
     std::vector<TourStep> steps = optionSteps(workspace);
     if (tour::canDriveNativeDialog()) {
         append(steps, checkBoxSteps(workspace));
+        append(steps, listSteps());
         append(steps, controlStateSteps());
+        append(steps, refusalSteps());
         append(steps, acceptOptionSteps());
         append(steps, saveSteps());
     } else {
@@ -120,6 +137,65 @@ std::vector<TourStep> NativeDialogPage::checkBoxSteps(const TourWorkspace& works
             return expect(m_type->text() == QStringLiteral("1, Measurements (*.dat)"),
                 QStringLiteral("the page shows \"%1\"").arg(m_type->text()));
         }});
+    return steps;
+}
+
+std::vector<TourStep> NativeDialogPage::listSteps()
+{
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("encoding-chosen"),
+        [] { tour::press(*field<QComboBox>(QStringLiteral("Encoding")), Qt::Key_Down); },
+        [this] {
+            return expect(m_import->encoding() == 1 && m_import->encodingField().currentIndex() == 1,
+                "the page does not show the new value");
+        }});
+    steps.push_back({QStringLiteral("unit-chosen"), [] { clickControl(QStringLiteral("&Inches")); },
+        [this] { return expect(m_import->unit() == 1, "the page does not have the new value"); }});
+    steps.push_back({QStringLiteral("comment-typed"),
+        [] { tour::type(*field<QLineEdit>(QStringLiteral("Comment")), QStringLiteral("night run")); },
+        [this] {
+            return expect(m_import->commentField().text() == QStringLiteral("night run"),
+                QStringLiteral("the page shows \"%1\"").arg(m_import->commentField().text()));
+        }});
+    steps.push_back({QStringLiteral("comment-rejected"),
+        [] { tour::type(*field<QLineEdit>(QStringLiteral("Comment")), QStringLiteral("which run?")); },
+        [this] {
+            return expect(!m_import->comment().contains(QLatin1Char('?')), "the page has a text that is not valid");
+        }});
+    steps.push_back({QStringLiteral("comment-put-back"), [] { clickControl(QStringLiteral("&Millimetres")); },
+        [this] {
+            const auto* const edit = field<QLineEdit>(QStringLiteral("Comment"));
+            return expect(edit && edit->text() == m_import->comment() && m_import->unit() == 0,
+                "the dialog still shows the text that is not valid");
+        }});
+    return steps;
+}
+
+std::vector<TourStep> NativeDialogPage::refusalSteps()
+{
+    std::vector<TourStep> steps;
+    steps.push_back(openStep(QStringLiteral("dialog-with-check")));
+    steps.push_back({QStringLiteral("inches-without-comment"),
+        [] {
+            tour::type(OpenFileDialog().name(), QStringLiteral("run-001.dat"));
+            tour::type(*field<QLineEdit>(QStringLiteral("Comment")), QStringLiteral(" "));
+            tour::press(*field<QLineEdit>(QStringLiteral("Comment")), Qt::Key_Backspace);
+            clickControl(QStringLiteral("&Inches"));
+        },
+        [this] { return expect(m_import->unit() == 1 && m_import->comment().isEmpty(), "the values are different"); }});
+    // The message has its own event loop, in which the next step runs.
+    steps.push_back({QStringLiteral("refused"), [] { tour::click(OpenFileDialog().acceptButton()); },
+        [] {
+            const auto* const box = tour::modal<QMessageBox>();
+            return expect(box && box->text() == QStringLiteral("Inches need a comment."), "no reason is shown");
+        }});
+    steps.push_back({QStringLiteral("reason-read"), [] { tour::press(*tour::modal<QMessageBox>(), Qt::Key_Return); },
+        [] { return expect(bool(OpenFileDialog()), "the dialog is not open"); }});
+    steps.push_back({QStringLiteral("unit-corrected"), [] { clickControl(QStringLiteral("&Millimetres")); },
+        [this] { return expect(m_import->unit() == 0, "the page does not have the new value"); }});
+    steps.push_back(chosenStep(
+        QStringLiteral("accepted-after-all"), [] { tour::click(OpenFileDialog().acceptButton()); },
+        QStringLiteral("run-001.dat"), QStringLiteral("view")));
     return steps;
 }
 

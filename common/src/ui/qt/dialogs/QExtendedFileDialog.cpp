@@ -40,10 +40,11 @@ struct QExtendedFileDialog::Impl
     std::shared_ptr<morvane::ui::QtDialogCustomization> customization; // made when the host asks for it
     std::unique_ptr<morvane::ui::FileDialogCustomization> customizationOfHost;
 
-    void beginRun() const
+    void beginRun(const std::string& geometryKey) const
     {
         if (customization) {
-            customization->beginRun();
+            auto& settings = morvane::ApplicationSettings::getInstance();
+            customization->beginRun(!settings.getByteArrayValue(geometryKey).isEmpty());
         }
     }
     void endRun(int result) const
@@ -135,7 +136,7 @@ void QExtendedFileDialog::prepareToShow()
 void QExtendedFileDialog::show()
 {
     prepareToShow();
-    m_impl->beginRun();
+    m_impl->beginRun(m_geometryPersistenceKey);
     QWidget::show();
     saveSizeAndPosition();
 }
@@ -143,7 +144,7 @@ void QExtendedFileDialog::show()
 int QExtendedFileDialog::exec()
 {
     prepareToShow();
-    m_impl->beginRun();
+    m_impl->beginRun(m_geometryPersistenceKey);
     const QPointer<QExtendedFileDialog> self(this);
     const auto customization = m_impl->customization; // may have an exception for the caller
     const bool waits = m_overrideCursorSet || isBeingRead(m_impl->model->rootPath());

@@ -42,20 +42,22 @@ void QtDialogCustomization::leaveDialog()
     m_dialog = nullptr;
 }
 
-void QtDialogCustomization::beginRun()
+void QtDialogCustomization::beginRun(bool hasKeptSize)
 {
     if (m_isRunning) {
         return;
     }
     m_isRunning = true;
     m_thrown = nullptr;
-    const QString folder = std::exchange(m_isFirstRun, false) ? m_memory.folder() : QString();
+    const bool isFirst = std::exchange(m_isFirstRun, false);
+    const QString folder = isFirst ? m_memory.folder() : QString();
     if (!folder.isEmpty() && QFileInfo(folder).isDir()) {
         m_dialog->setDirectory(folder);
     }
     m_places.addTo(*m_dialog);
     if (!m_widgets->isEmpty()) {
-        m_widgets->showIn(*m_dialog, [](const QString&) {});
+        m_widgets->showIn(
+            *m_dialog, [](const QString&) {}, isFirst && !hasKeptSize);
     }
     m_controls.setOpen(true);
 }

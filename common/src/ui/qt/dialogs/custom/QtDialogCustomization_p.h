@@ -38,8 +38,11 @@ public:
 
     /** The dialog is being destroyed. */
     void leaveDialog();
-    /** The dialog is about to be shown, for the first time or again. */
-    void beginRun();
+    /**
+     * The dialog is about to be shown, for the first time or again.
+     * @param hasKeptSize whether the dialog has the size of an earlier dialog
+     */
+    void beginRun(bool hasKeptSize);
     /** The dialog was closed. May be called again. */
     void endRun(bool accepted);
     /** Throws the exception of an action or an observer, if there was one in the last run. */

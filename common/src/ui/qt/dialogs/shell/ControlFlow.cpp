@@ -29,6 +29,7 @@ void ControlFlow::addCell(QWidget& cell, bool takesWholeLine)
 void ControlFlow::addItem(QLayoutItem* item)
 {
     m_cells.push_back({item, false});
+    invalidate();
 }
 
 int ControlFlow::count() const
@@ -53,23 +54,37 @@ QLayoutItem* ControlFlow::takeAt(int index)
 
 int ControlFlow::heightForWidth(int width) const
 {
+    const auto known = m_heights.find(width);
+    if (known != m_heights.end()) {
+        return known->second;
+    }
     const QMargins margins = contentsMargins();
     const auto lines = linesFor(width - margins.left() - margins.right());
-    int height = margins.top() + margins.bottom();
+    int height = margins.top() + margins.bottom() + std::max(0, static_cast<int>(lines.size()) - 1) * gap(Qt::Vertical);
     for (const Line& line : lines) {
         height += line.height;
     }
-    return height + std::max(0, static_cast<int>(lines.size()) - 1) * gap(Qt::Vertical);
+    m_heights[width] = height;
+    return height;
+}
+
+void ControlFlow::invalidate()
+{
+    m_heights.clear();
+    m_minimumSize = QSize();
+    QLayout::invalidate();
 }
 
 QSize ControlFlow::minimumSize() const
 {
-    QSize size;
-    for (const Cell& cell : m_cells) {
-        size = cell.item->isEmpty() ? size : size.expandedTo(cell.item->minimumSize());
+    if (!m_minimumSize.isValid()) {
+        m_minimumSize = QSize(0, 0);
+        for (const Cell& cell : m_cells) {
+            m_minimumSize = cell.item->isEmpty() ? m_minimumSize : m_minimumSize.expandedTo(cell.item->minimumSize());
+        }
     }
     const QMargins margins = contentsMargins();
-    return size + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
+    return m_minimumSize + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
 }
 
 QSize ControlFlow::sizeHint() const

@@ -5,6 +5,8 @@
 
 #include <QLayout>
 
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace morvane::ui {
@@ -31,6 +33,7 @@ public:
     QSize minimumSize() const override;
     QSize sizeHint() const override;
     void setGeometry(const QRect& rectangle) override;
+    void invalidate() override;
 
 private:
     struct Cell
@@ -49,6 +52,8 @@ private:
     int gap(Qt::Orientation orientation) const;
 
     std::vector<Cell> m_cells;
+    mutable std::map<int, int> m_heights; ///< by width; Qt asks many times
+    mutable QSize m_minimumSize;          ///< invalid: not known yet
 };
 
 } // namespace morvane::ui

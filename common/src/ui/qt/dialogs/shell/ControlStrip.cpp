@@ -10,6 +10,8 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QPushButton>
+#include <QScreen>
 
 #include <algorithm>
 #include <set>
@@ -102,6 +104,18 @@ void ControlStrip::update(const std::vector<Control>& controls)
     // The button box sets the tab order of its buttons again when a button is added.
     if (m_acceptMenu) {
         QWidget::setTabOrder(m_acceptMenu->parentWidget(), m_acceptMenu);
+    }
+}
+
+void ControlStrip::makeRoom()
+{
+    const QPushButton line(QStringLiteral("x"));
+    const int needed = m_scroller->isHidden() ? 0 : m_scroller->heightForWidth(m_dialog.width());
+    const int more = needed - line.sizeHint().height();
+    const QScreen* const screen = m_dialog.screen();
+    const int highest = screen ? screen->availableGeometry().height() : m_dialog.height();
+    if (more > 0 && m_dialog.height() < highest) {
+        m_dialog.resize(m_dialog.width(), std::min(m_dialog.height() + more, highest));
     }
 }
 

@@ -40,6 +40,9 @@ public:
     /** Updates the widgets for @p controls. A slot for a signal of such a widget may call this. */
     void update(const std::vector<Control>& controls);
 
+    /** Makes the dialog higher by what the controls need beyond their first line, if the screen has room. */
+    void makeRoom();
+
 private:
     struct Labels; // which controls are labels of others
 

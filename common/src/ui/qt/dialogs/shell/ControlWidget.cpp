@@ -212,6 +212,17 @@ private:
             button.setChecked(control.selectedItem == item.id);
         }
         m_group->setExclusive(true);
+        letTabReachOne();
+    }
+
+    /** The Tab key stops at the selected button, from which the arrow keys lead on. If there is none, at each. */
+    void letTabReachOne()
+    {
+        const QAbstractButton* const selected = m_group->checkedButton();
+        const bool isReachable = selected && selected->isEnabled() && !selected->isHidden();
+        for (const auto& entry : m_buttons) {
+            entry.second->setFocusPolicy(isReachable && entry.second != selected ? Qt::ClickFocus : Qt::StrongFocus);
+        }
     }
 
     void removeOthers(const Control& control)

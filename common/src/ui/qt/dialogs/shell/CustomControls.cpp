@@ -27,7 +27,7 @@ CustomControls::CustomControls(ControlActions actions) : m_actions(std::move(act
 
 CustomControls::~CustomControls() = default;
 
-void CustomControls::showIn(QFileDialog& window, std::function<void(const QString&)> setOptionText)
+void CustomControls::showIn(QFileDialog& window, std::function<void(const QString&)> setOptionText, bool makesRoom)
 {
     for (Control& control : m_controls) {
         if (control.kind == Control::Kind::AcceptDropDown) {
@@ -44,6 +44,9 @@ void CustomControls::showIn(QFileDialog& window, std::function<void(const QStrin
     actions.optionTextChanged = std::move(setOptionText);
     m_strip = new ControlStrip(window, std::move(actions));
     m_strip->update(m_controls);
+    if (makesRoom) {
+        m_strip->makeRoom();
+    }
 }
 
 void CustomControls::refresh()

@@ -34,8 +34,9 @@ public:
     /**
      * Shows the controls in @p window until it is destroyed, and forgets which drop-down item was picked before.
      * @param setOptionText called with the text that the accept button has to show; empty: its own
+     * @param makesRoom     whether the window becomes higher if the controls need many lines
      */
-    void showIn(QFileDialog& window, std::function<void(const QString&)> setOptionText);
+    void showIn(QFileDialog& window, std::function<void(const QString&)> setOptionText, bool makesRoom);
     /** From now on, changes are shown only by the next showIn(), which removes the widgets of now. */
     void detach();
     /**

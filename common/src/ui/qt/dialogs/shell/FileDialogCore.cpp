@@ -102,8 +102,9 @@ void FileDialogCore::run(QWidget* owner)
     m_window = new FileDialogWindow(owner, settingsForRun(), *this);
     const auto close = qScopeGuard([this] { delete m_window; });
     if (m_window->consistsOfWidgets()) {
-        m_window->restoreGeometry(m_memory.geometry());
-        m_controls.showIn(*m_window, [this](const QString& text) { m_window->setOptionText(text); });
+        const bool isKept = m_window->restoreGeometry(m_memory.geometry());
+        m_controls.showIn(
+            *m_window, [this](const QString& text) { m_window->setOptionText(text); }, !isKept);
     }
     announceOpening();
     if (isOpen()) {
