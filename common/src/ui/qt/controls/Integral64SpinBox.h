@@ -43,10 +43,15 @@ class MORVANE_UI_EXPORT Integral64SpinBox : public QAbstractSpinBox
      * connect to valueChanged() instead.
      */
     Q_PROPERTY(qint64 value READ enteredValue WRITE setValue USER true)
+    /** The smallest value; 0 initially. */
     Q_PROPERTY(qint64 minimum READ minimum WRITE setMinimum)
+    /** The largest value; 99 initially. */
     Q_PROPERTY(qint64 maximum READ maximum WRITE setMaximum)
+    /** What a step adds; 1 initially. */
     Q_PROPERTY(qint64 singleStep READ singleStep WRITE setSingleStep)
+    /** The text before the number; empty initially. */
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
+    /** The text behind the number; empty initially. */
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
     /** The text without prefix, suffix and white space around the number. */
     Q_PROPERTY(QString cleanText READ cleanText)
@@ -60,6 +65,7 @@ class MORVANE_UI_EXPORT Integral64SpinBox : public QAbstractSpinBox
     Q_PROPERTY(bool textRefused READ isTextRefused STORED false DESIGNABLE false)
 
 public:
+    /** The base of the digits. The values are the bases themselves. */
     enum Base
     {
         Binary = 2,
@@ -78,29 +84,39 @@ public:
     /** The value that was set last, by the program, by a step, or by Return or the loss of the focus after typing. */
     qint64 value() const;
 
+    /** Returns the smallest value. */
     qint64 minimum() const;
     /** Sets the minimum, and the maximum if it would be below. Limits the value to the range. */
     void setMinimum(qint64 minimum);
+    /** Returns the largest value. */
     qint64 maximum() const;
     /** Sets the maximum, and the minimum if it would be above. Limits the value to the range. */
     void setMaximum(qint64 maximum);
     /** Sets both limits; the maximum becomes the minimum if it is below. Limits the value to the range. */
     void setRange(qint64 minimum, qint64 maximum);
 
+    /** Returns what a step adds. */
     qint64 singleStep() const;
     /** Sets what a step adds. A negative number is ignored. */
     void setSingleStep(qint64 step);
 
+    /** Returns the text before the number. */
     QString prefix() const;
+    /** Sets the text before the number, and updates the line. */
     void setPrefix(const QString& prefix);
+    /** Returns the text behind the number. */
     QString suffix() const;
+    /** Sets the text behind the number, and updates the line. */
     void setSuffix(const QString& suffix);
+    /** Returns the text without prefix, suffix and white space around the number. */
     QString cleanText() const;
 
+    /** Returns the base of the digits. */
     Base base() const;
     /** Sets the base and updates the text. Other numbers than those of the enumeration are ignored. */
     void setBase(Base base);
 
+    /** Returns the text between groups of digits; empty for none. */
     QString groupSeparator() const;
 
     /**
@@ -110,6 +126,7 @@ public:
      */
     void setGroupSeparator(const QString& separator);
 
+    /** Returns whether a text that is not acceptable is shown as such. */
     bool isRefusalShown() const;
     /** As QScientificSpinBox::setRefusalShown(): red text, `textRefused` for style sheets, a sentence for screen
      * readers. */
@@ -143,7 +160,9 @@ public:
      */
     void stepBy(int steps) override;
 
+    /** Has space for both limits of the range. */
     QSize sizeHint() const override;
+    /** Has space for both limits of the range. */
     QSize minimumSizeHint() const override;
 
     boost::signals2::signal<void()> signalIncrement; ///< a step up that the host handles
@@ -161,13 +180,15 @@ Q_SIGNALS:
     void textChanged(const QString& text);
 
 protected:
+    /** A direction is enabled until its limit is reached, with wrapping() always; if read-only, none is. */
     StepEnabled stepEnabled() const override;
     /** Drops the remaining part of a notch when the focus is lost or the pointer leaves. */
     bool event(QEvent* event) override;
     /** Steps by whole notches; adds up parts of notches. */
     void wheelEvent(QWheelEvent* event) override;
-    /** Selects the number, without prefix and suffix, on Select All and when Tab brings the focus. */
+    /** Selects the number, without prefix and suffix, on Select All. */
     void keyPressEvent(QKeyEvent* event) override;
+    /** Selects the number, without prefix and suffix, when Tab brings the focus. */
     void focusInEvent(QFocusEvent* event) override;
 
 private:

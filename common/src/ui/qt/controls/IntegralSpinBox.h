@@ -59,6 +59,7 @@ public:
     /** Disconnects every slot of signalDecrement, then of signalIncrement. */
     ~IntegralSpinBox() override;
 
+    /** Returns whether a text that is not acceptable is shown as such. */
     bool isRefusalShown() const;
     /** As QScientificSpinBox::setRefusalShown(): red text, `textRefused` for style sheets, a sentence for screen
      * readers. */

@@ -192,6 +192,7 @@ public:
      */
     void setOwnValidation(bool own);
 
+    /** Returns how numbers are written. */
     Notation notation() const;
 
     /**
@@ -204,6 +205,7 @@ public:
      */
     void setNotation(Notation notation);
 
+    /** Returns the language of the numbers; the C locale for the initial behaviour. */
     QLocale numberLocale() const;
 
     /**
@@ -220,8 +222,10 @@ public:
      * the property `locale`, which is that of the base class.
      */
     void setNumberLocale(const QLocale& locale);
+    /** Restores the initial behaviour: sets the C locale. */
     void resetNumberLocale();
 
+    /** Returns what a step does if the host does not handle it. */
     StepMode stepMode() const;
 
     /**
@@ -230,6 +234,7 @@ public:
      */
     void setStepMode(StepMode mode);
 
+    /** Returns whether a text that is not acceptable is shown as such. */
     bool isRefusalShown() const;
 
     /**
