@@ -166,7 +166,8 @@ protected:
     bool event(QEvent* event) override;
     /** Steps by whole notches; adds up parts of notches. */
     void wheelEvent(QWheelEvent* event) override;
-    /** Selects the number, without prefix and suffix, on Select All and when Tab brings the focus. */
+    /** Selects the number, without prefix and suffix, on Select All, when Tab brings the focus, and when a view opens
+     * it. */
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
