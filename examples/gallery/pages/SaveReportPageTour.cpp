@@ -6,6 +6,7 @@
 #include "pages/SaveReportPage.h"
 #include "tour/OpenFileDialog.h"
 #include "tour/TourWorkspace.h"
+#include "ui/qt/dialogs/DefaultSaveFileMessageHandler.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 
 #include <QAbstractButton>

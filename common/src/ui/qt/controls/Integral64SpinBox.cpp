@@ -11,6 +11,7 @@
 #include "ui/qt/controls/WheelNotches_p.h"
 #include "ui/qt/util/GuiThread_p.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QStyle>
@@ -435,7 +436,10 @@ void Integral64SpinBox::keyPressEvent(QKeyEvent* event)
 void Integral64SpinBox::focusInEvent(QFocusEvent* event)
 {
     QAbstractSpinBox::focusInEvent(event);
-    if (lineEdit()->hasSelectedText()) {
+    // Item views select the text of Qt's own spin boxes when they open an editor.
+    const QWidget* const parent = parentWidget();
+    const bool isCellEditor = parent && qobject_cast<const QAbstractItemView*>(parent->parentWidget());
+    if (lineEdit()->hasSelectedText() || (isCellEditor && event->reason() == Qt::OtherFocusReason)) {
         m_private->selectNumber();
     }
 }

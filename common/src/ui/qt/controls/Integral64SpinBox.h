@@ -188,7 +188,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     /** Selects the number, without prefix and suffix, on Select All. */
     void keyPressEvent(QKeyEvent* event) override;
-    /** Selects the number, without prefix and suffix, when Tab brings the focus. */
+    /** Selects the number, without prefix and suffix, when Tab brings the focus and when a view opens it. */
     void focusInEvent(QFocusEvent* event) override;
 
 private:
