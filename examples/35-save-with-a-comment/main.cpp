@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -40,8 +39,9 @@ void save(QWidget& window, const ReportOptions& options)
     }
     //! [flow]
     QFile file(QString::fromStdString(dialog.selectedFilename()));
+    const QByteArray text = "# " + QByteArray::fromStdString(options.comment->value()) + "\nT1 reads 21.5\n";
     if (file.open(QIODevice::WriteOnly)) {
-        file.write("# " + QByteArray::fromStdString(options.comment->value()) + "\nT1 reads 21.5\n");
+        file.write(options.compress->value() ? qCompress(text) : text);
     }
 }
 
@@ -50,14 +50,10 @@ void save(QWidget& window, const ReportOptions& options)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    QWidget window;
+    QPushButton window("&Save report…");
     const ReportOptions options; // kept for the next dialog
-    auto* const button = new QPushButton("&Save report…");
-    QObject::connect(button, &QPushButton::clicked, &window, [&] { save(window, options); });
-    auto* const layout = new QVBoxLayout(&window);
-    layout->addWidget(button);
-    window.setWindowTitle("Save with a comment");
-    window.resize(320, 90);
+    QObject::connect(&window, &QPushButton::clicked, &window, [&] { save(window, options); });
+    window.resize(320, 60);
     window.show();
     return application.exec();
 }

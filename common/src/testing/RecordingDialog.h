@@ -69,7 +69,8 @@ public:
     bool userPicksItem(const QString& label);
     /**
      * Chooses an entry of a combo box or of a list of radio buttons, which is found by its label.
-     * @param position of the entry, counted from 0
+     * @param label    the label that the host passed
+     * @param position the entry, counted from 0
      * @return false if there is no such list or entry, or one of them is hidden or disabled; nothing is done then
      */
     bool userChooses(const QString& label, int position);

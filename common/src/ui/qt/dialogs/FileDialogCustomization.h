@@ -77,6 +77,7 @@ public:
 
     /**
      * Adds a push button.
+     * @param text   label, may have a mnemonic
      * @param action called at each click while the dialog is open. If it is empty, a click throws
      *        boost::bad_function_call. An exception ends the dialog and passes to the caller of exec(), if the platform
      *        allows it.
