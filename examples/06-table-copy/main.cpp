@@ -19,15 +19,9 @@ int main(int argc, char** argv)
 
     QStandardItemModel readings(0, 3);
     readings.setHorizontalHeaderLabels({"Sensor", "Quantity", "Reading"});
-    const QStringList sensors[] = {
-        {"T1", "Temperature", "21.5"}, {"T2", "Temperature", "22.1"}, {"P1", "Pressure", "1013.2"}};
-    for (const QStringList& sensor : sensors) {
-        QList<QStandardItem*> row;
-        for (const QString& text : sensor) {
-            row.append(new QStandardItem(text));
-        }
-        readings.appendRow(row);
-    }
+    readings.appendRow({new QStandardItem("T1"), new QStandardItem("Temperature"), new QStandardItem("21.5")});
+    readings.appendRow({new QStandardItem("T2"), new QStandardItem("Temperature"), new QStandardItem("22.1")});
+    readings.appendRow({new QStandardItem("P1"), new QStandardItem("Pressure"), new QStandardItem("1013.2")});
 
     QWidget window;
     auto* const table = new QTableView;
