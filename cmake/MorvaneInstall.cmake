@@ -32,14 +32,17 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}ConfigV
 install(FILES ${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}Config.cmake ${PROJECT_BINARY_DIR}/${MORVANE_PACKAGE}ConfigVersion.cmake
         DESTINATION ${package_dir} COMPONENT Development)
 
-# The guides, and the examples that the headers name; the reference pages if the target morvane-docs has made them.
-set(documents ${CMAKE_INSTALL_DATADIR}/doc/morvane${MORVANE_SUFFIX})
-install(FILES README.md CHANGELOG.md DESTINATION ${documents} COMPONENT Development)
-install(DIRECTORY docs/guides docs/images DESTINATION ${documents}/docs COMPONENT Development)
-install(DIRECTORY docs/ DESTINATION ${documents}/docs COMPONENT Development FILES_MATCHING REGEX "/docs/[a-z-]+\\.md$")
-install(DIRECTORY examples/ DESTINATION ${documents}/examples COMPONENT Development
-    REGEX "/examples/(gallery|CMakeLists\\.txt)$" EXCLUDE)
-install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/html DESTINATION ${documents} COMPONENT Development OPTIONAL)
+# The guides, and the examples that the headers name; the reference pages if the target morvane-docs has made them. A recipe of
+# a package manager may leave them out of the sources.
+if(EXISTS ${PROJECT_SOURCE_DIR}/examples)
+    set(documents ${CMAKE_INSTALL_DATADIR}/doc/morvane${MORVANE_SUFFIX})
+    install(FILES README.md CHANGELOG.md DESTINATION ${documents} COMPONENT Development)
+    install(DIRECTORY docs/guides docs/images DESTINATION ${documents}/docs COMPONENT Development)
+    install(DIRECTORY docs/ DESTINATION ${documents}/docs COMPONENT Development FILES_MATCHING REGEX "/docs/[a-z-]+\\.md$")
+    install(DIRECTORY examples/ DESTINATION ${documents}/examples COMPONENT Development
+        REGEX "/examples/(gallery|CMakeLists\\.txt)$" EXCLUDE)
+    install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/html DESTINATION ${documents} COMPONENT Development OPTIONAL)
+endif()
 
 include(MorvanePkgConfig)
 include(MorvaneSbom)
