@@ -45,5 +45,5 @@ fails_for 'a removed name' 'MISSING.*removedFunction'
 # --renew keeps the versions of the names that are listed, and enters the others with the new version.
 sed '/LaunchFileDialog/d' "$debian/$package.symbols" >"$list"
 sh "$work/debian/make-symbols" --renew "$package" 99.0 "$libraries"
-[ "$(grep -c ' 99\.0$' "$list")" = 1 ] || die 'renewing does not keep the versions'
+[ "$(grep -c ' 99\.0$' "$list")" = "$(grep -c LaunchFileDialog "$debian/$package.symbols")" ] || die 'renewing does not keep the versions'
 grep -q 'LaunchFileDialog.* 99\.0$' "$list" || die 'renewing does not enter the new name'

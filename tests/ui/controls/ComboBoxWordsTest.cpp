@@ -6,6 +6,7 @@
 
 #include <QMetaProperty>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QStringListModel>
 #include <QStyledItemDelegate>
 
@@ -229,8 +230,13 @@ protected:
         option.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
         QImage image(option.rect.size(), QImage::Format_RGB32);
         image.fill(Qt::white);
+        // Qt's own delegate paints the current suggestion as selected, whatever the option says.
+        const QModelIndex current = popup().currentIndex();
+        const QSignalBlocker blocker(popup().selectionModel());
+        popup().setCurrentIndex(QModelIndex());
         QPainter painter(&image);
         popup().itemDelegate()->paint(&painter, option, index);
+        popup().setCurrentIndex(current);
         return image;
     }
 
