@@ -74,17 +74,16 @@ protected:
 
 TEST_P(LaunchFileDialogByOptions, everyOptionReachesTheDialog)
 {
-    options.setCaption(QString::fromUtf8("Messung öffnen")).setNameFilters({"Data (*.dat)", "Text (*.txt)"});
+    options.setCaption(QString::fromUtf8("Messung öffnen")).setNameFilters({"Text (*.txt)", "Data (*.dat)"});
     options.setInitialFilterIndex(1).setInitialSelection({path("a.dat"), path("b.dat")}).setAllowMultiple();
     EXPECT_TRUE(launch([&](FileDialogDriver& driver) {
         EXPECT_EQ(driver.dialog().windowTitle(), QString::fromUtf8("Messung öffnen"));
         EXPECT_EQ(driver.typeCombo().currentIndex(), 1);
         EXPECT_TRUE(driver.name().contains("b.dat"));
         EXPECT_EQ(driver.dialog().acceptMode(), QFileDialog::AcceptOpen);
-        driver.typeName(QStringLiteral("\"a.dat\" \"c.txt\""));
         driver.pressAccept();
     }));
-    EXPECT_EQ(chosenFiles(), (QStringList{path("a.dat"), path("c.txt")}));
+    EXPECT_EQ(chosenFiles(), (QStringList{path("a.dat"), path("b.dat")}));
     EXPECT_EQ(index, 1);
 }
 
