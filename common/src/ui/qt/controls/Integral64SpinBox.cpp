@@ -38,7 +38,7 @@ quint64 distance(qint64 from, qint64 to)
 qint64 stepped(qint64 value, qint64 step, int steps)
 {
     constexpr auto most = static_cast<quint64>(Limits::max());
-    const auto count = static_cast<quint64>(std::abs(static_cast<qint64>(steps)));
+    const auto count = static_cast<quint64>(qAbs(static_cast<qint64>(steps)));
     const quint64 room = steps < 0 ? distance(Limits::min(), value) : distance(value, Limits::max());
     if (step != 0 && count > room / static_cast<quint64>(step)) {
         return steps < 0 ? Limits::min() : Limits::max();
