@@ -67,7 +67,7 @@ Decimal scaledInteger(qint64 number, int exponent)
     return result;
 }
 
-double toDouble(const Decimal& decimal)
+double toNearestDouble(const Decimal& decimal)
 {
     QByteArray text(decimal.isNegative ? "-" : "");
     text.append(decimal.digits.data(), decimal.count);

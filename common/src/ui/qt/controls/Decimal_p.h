@@ -31,6 +31,6 @@ Decimal roundedDecimal(double number, int significantDigits);
 Decimal scaledInteger(qint64 number, int exponent);
 
 /** The nearest double; an infinity if the number is too large, 0 if it is too small. */
-double toDouble(const Decimal& decimal);
+double toNearestDouble(const Decimal& decimal);
 
 } // namespace morvane::ui

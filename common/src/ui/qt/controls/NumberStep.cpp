@@ -46,7 +46,7 @@ double decadesAway(double number, int steps)
     }
     steps = std::clamp(steps, -mostSteps, mostSteps);
     decimal.exponent += decimal.isNegative ? -steps : steps;
-    return toDouble(decimal);
+    return toNearestDouble(decimal);
 }
 
 double oneTwoFiveAway(double number, int steps)
@@ -67,7 +67,7 @@ double oneTwoFiveAway(double number, int steps)
     decimal.exponent = (index >= 0 ? index : index - 2) / 3;
     decimal.count = 1;
     decimal.digits[0] = "125"[index - 3 * decimal.exponent];
-    return toDouble(decimal);
+    return toNearestDouble(decimal);
 }
 
 double placesAway(double number, int place, int steps)
@@ -78,10 +78,10 @@ double placesAway(double number, int place, int steps)
     const int highest = std::max(decimal.isZero() ? place : decimal.exponent, place);
     const auto stepDigits = static_cast<int>(QByteArray::number(steps).size());
     if (highest - lowest + 1 + stepDigits > mostDigits) {
-        return number + steps * toDouble(scaledInteger(1, place));
+        return number + steps * toNearestDouble(scaledInteger(1, place));
     }
     const qint64 sum = timesPowerOfTen(digitsOf(decimal), last - lowest) + timesPowerOfTen(steps, place - lowest);
-    return toDouble(scaledInteger(sum, lowest));
+    return toNearestDouble(scaledInteger(sum, lowest));
 }
 
 } // namespace morvane::ui
