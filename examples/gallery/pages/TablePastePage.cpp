@@ -150,7 +150,7 @@ void TablePastePage::showRefusals(const QList<TablePasteRefusal>& cells)
 {
     const TablePasteRefusal& first = cells.first();
     m_note->setText(tr("Row %1, column %2: %3").arg(first.row + 1).arg(first.column + 1).arg(reasonFor(first)));
-    Q_EMIT reported(tr("Nothing was pasted, because of %1 cells").arg(cells.size()));
+    Q_EMIT reported(tr("Nothing was pasted. Cells in the way: %1").arg(cells.size()));
 }
 
 } // namespace gallery
