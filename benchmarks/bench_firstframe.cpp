@@ -320,7 +320,7 @@ MORVANE_BENCHMARK(comboKeyFiltering)->Iterations(1)->Repetitions(5);
 
 MORVANE_RATIO(firstframe_qtdialog, extendedDialog, plainDialog, 1.2);
 MORVANE_RATIO(firstframe_native, nativeDialog, plainCall, 1.2);
-MORVANE_RATIO(controls_50, openWith50Controls, openWithoutControls, 0);
+MORVANE_RATIO(controls_50, openWith50Controls, openWithoutControls, 1.5);
 MORVANE_RATIO(firstframe_save, saveFlow, plainSaveDialog, 1.2);
 MORVANE_RATIO(firstframe_launcher, launcherCall, plainCallWithFile, 1.2);
 MORVANE_RATIO(combo_key_painted_1m, comboKeyFiltering, comboKeyPlain, 1.2);

@@ -237,6 +237,25 @@ TEST_F(ExtendedWinFileDialogStandIn, canBeChangedFromAnotherControlsAction)
     });
 }
 
+TEST_F(ExtendedWinFileDialogStandIn, isNeverPainted)
+{
+    struct PaintCounter : QObject
+    {
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            count += watched->isWidgetType() && event->type() == QEvent::UpdateRequest;
+            return false;
+        }
+        int count = 0;
+    } painted;
+    qApp->installEventFilter(&painted);
+    option->hide();
+    option->show();
+    QCoreApplication::processEvents();
+    run(*dialog, [](RecordingDialog&) { QCoreApplication::processEvents(); });
+    EXPECT_EQ(painted.count, 0) << "a picture takes time and memory, and no one sees it";
+}
+
 TEST_F(ExtendedWinFileDialogStandIn, doesNotKeepTheApplicationFromEnding)
 {
     for (const QWidget* const widget : all()) {

@@ -6,6 +6,7 @@
 
 #include "support/ActiveWindow.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -188,6 +189,22 @@ TEST_F(WidgetShellLists, manyControlsWrapAndScrollAndNoneIsCut)
         EXPECT_TRUE(QRect(QPoint(), area->viewport()->size())
                         .intersects(QRect(last->mapTo(area->viewport(), QPoint()), last->size())))
             << "the focus scrolls";
+        window.reject();
+    });
+}
+
+TEST_F(WidgetShellLists, aListThatWasNeverOpenedHasNoPopup)
+{
+    addList(1, "Encoding:");
+    show([&](QFileDialog& window) {
+        QCoreApplication::processEvents();
+        auto* const box = find<QComboBox>(window, 2);
+        EXPECT_TRUE(box->findChildren<QAbstractItemView*>().isEmpty());
+        EXPECT_GE(box->width(), box->fontMetrics().horizontalAdvance(QStringLiteral("Second")))
+            << "room for its entries";
+        box->showPopup();
+        EXPECT_FALSE(box->findChildren<QAbstractItemView*>().isEmpty());
+        box->hidePopup();
         window.reject();
     });
 }

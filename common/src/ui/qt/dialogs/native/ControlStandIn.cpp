@@ -25,6 +25,8 @@ ControlStandIn::ControlStandIn(ControlsSource source, ControlKind kind, unsigned
 {
     setAttribute(Qt::WA_DontShowOnScreen);
     setAttribute(Qt::WA_QuitOnClose, false);
+    setUpdatesEnabled(false); // it is never seen, so it needs no picture of its own
+    resize(1, 1);
     QWidget::show();
     m_source = std::move(source); // set after show(), because the native control is already visible
 }

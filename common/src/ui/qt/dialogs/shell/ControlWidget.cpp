@@ -16,9 +16,11 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
+#include <QStyleOptionComboBox>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 namespace morvane::ui {
@@ -75,12 +77,12 @@ private:
     QAbstractButton& m_button;
 };
 
-/** A label and an input widget side by side. */
+/** A label and an input widget side by side. The parent of the input widget is the cell of both. */
 class LabelledControl : public ControlWidget
 {
 protected:
-    LabelledControl(QWidget& input, QWidget& parent)
-        : ControlWidget(*new QWidget(&parent)), m_input(input), m_label(new QLabel(&cell()))
+    explicit LabelledControl(QWidget& input)
+        : ControlWidget(*input.parentWidget()), m_input(input), m_label(new QLabel(&cell()))
     {
         auto* const layout = new QHBoxLayout(&cell());
         layout->setContentsMargins(0, 0, 0, 0);
@@ -106,14 +108,46 @@ private:
     QLabel* m_label;
 };
 
+/**
+ * A combo box with room for a number of characters.
+ *
+ * QComboBox::setMinimumContentsLength() does that, too, but it makes the list of the box at once. Most lists are never
+ * opened.
+ */
+class SizedComboBox final : public QComboBox
+{
+public:
+    explicit SizedComboBox(QWidget* parent) : QComboBox(parent) {}
+
+    void setShownCharacters(int characters)
+    {
+        m_characters = characters;
+        updateGeometry();
+    }
+
+    QSize sizeHint() const override
+    {
+        constexpr int leastHeight = 14; // as QComboBox has it
+        const QFontMetrics metrics = fontMetrics();
+        const QSize text(m_characters * metrics.horizontalAdvance(QLatin1Char('X')),
+            std::max(static_cast<int>(std::ceil(QFontMetricsF(font()).height())), leastHeight) + 2);
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this);
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+private:
+    int m_characters = 0;
+};
+
 class ComboBoxControl final : public LabelledControl
 {
 public:
-    ComboBoxControl(QComboBox& box, const Control& control, const ControlActions& actions, QWidget& parent)
-        : LabelledControl(box, parent), m_box(box)
+    ComboBoxControl(SizedComboBox& box, const Control& control, const ControlActions& actions)
+        : LabelledControl(box), m_box(box)
     {
         m_box.setObjectName(QStringLiteral("customControl%1").arg(control.id));
-        m_box.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         QObject::connect(&m_box, QOverload<int>::of(&QComboBox::activated), &m_box,
             [&actions, &box, id = control.id](int row) { actions.itemSelected(id, box.itemData(row).toUInt()); });
     }
@@ -144,19 +178,19 @@ private:
         for (int row = 0; row < m_box.count(); ++row) {
             model->item(row)->setEnabled((items[static_cast<std::size_t>(row)].state & CDCS_ENABLED) != 0);
         }
-        m_box.setMinimumContentsLength(std::min(length, longest));
+        m_box.setShownCharacters(std::min(length, longest));
         m_shown.swap(items);
     }
 
-    QComboBox& m_box;
+    SizedComboBox& m_box;
     std::vector<ControlItem> m_shown;
 };
 
 class EditBoxControl final : public LabelledControl
 {
 public:
-    EditBoxControl(QLineEdit& edit, const Control& control, const ControlActions& actions, QWidget& parent)
-        : LabelledControl(edit, parent), m_edit(edit)
+    EditBoxControl(QLineEdit& edit, const Control& control, const ControlActions& actions)
+        : LabelledControl(edit), m_edit(edit)
     {
         constexpr int shownCharacters = 24;
         m_edit.setObjectName(QStringLiteral("customControl%1").arg(control.id));
@@ -353,9 +387,9 @@ std::unique_ptr<ControlWidget> makeControlWidget(
 {
     switch (control.kind) {
     case Control::Kind::ComboBox:
-        return std::make_unique<ComboBoxControl>(*new QComboBox, control, actions, parent);
+        return std::make_unique<ComboBoxControl>(*new SizedComboBox(new QWidget(&parent)), control, actions);
     case Control::Kind::EditBox:
-        return std::make_unique<EditBoxControl>(*new QLineEdit, control, actions, parent);
+        return std::make_unique<EditBoxControl>(*new QLineEdit(new QWidget(&parent)), control, actions);
     case Control::Kind::RadioButtonList:
         return std::make_unique<RadioListControl>(
             label ? *new QGroupBox(&parent) : *new QWidget(&parent), control, actions);
