@@ -199,13 +199,18 @@ void GallerySession::expectOnClipboard(const QByteArray& text)
 {
     QByteArray read;
     eventually([&] {
-        const auto reader = m_desktop.launch(
-            QStringLiteral("xclip"), {QStringLiteral("-out"), QStringLiteral("-selection"), QStringLiteral("clipboard"),
-                                         QStringLiteral("-target"), QStringLiteral("UTF8_STRING")});
-        read = reader && reader->waitForFinished(timeLimitMs) ? reader->readAllStandardOutput() : QByteArray();
+        read = clipboardText();
         return read == text;
     });
     EXPECT_EQ(read, text);
+}
+
+QByteArray GallerySession::clipboardText()
+{
+    const auto reader = m_desktop.launch(
+        QStringLiteral("xclip"), {QStringLiteral("-out"), QStringLiteral("-selection"), QStringLiteral("clipboard"),
+                                     QStringLiteral("-target"), QStringLiteral("UTF8_STRING")});
+    return reader && reader->waitForFinished(timeLimitMs) ? reader->readAllStandardOutput() : QByteArray();
 }
 
 void GallerySession::makeFile(const QString& name, const QByteArray& content) const

@@ -61,6 +61,8 @@ protected:
     QString waitForReport(const QString& text);
     /** Waits until another program reads this text from the clipboard. */
     void expectOnClipboard(const QByteArray& text);
+    /** What another program reads from the clipboard now; empty if it has no text. */
+    QByteArray clipboardText();
 
     QString path(const QString& name) const { return m_folder.filePath(name); }
     void makeFile(const QString& name, const QByteArray& content = QByteArray()) const;
