@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Morvane authors
 // SPDX-License-Identifier: MIT
 
+#include "property/Property.h"
 #include "soak/DialogAnswer.h"
 #include "soak/Platform.h"
 #include "soak/Subject.h"
 #include "ui/qt/dialogs/ExtendedFileDialog.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"
+#include "ui/qt/dialogs/FileDialogCustomization.h"
 #include "ui/qt/dialogs/LaunchFileDialog.h"
 #include "ui/qt/dialogs/QExtendedFileDialog.h"
 #include "ui/qt/dialogs/SaveFileDialog.h"
@@ -13,6 +15,9 @@
 #include <QFileDialog>
 #include <QWidget>
 
+#include <boost/make_shared.hpp>
+
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -59,6 +64,45 @@ void cancelWithControls(QWidget& parent, QFileDialog::AcceptMode mode)
     dialog.addAcceptButtonOption("Option", 1);
     const CancelSoon cancel(true);
     dialog.exec();
+}
+
+/** One control of each kind, which the host changes while the dialog is open. */
+template <typename Dialog>
+void cancelCustomized(Dialog& dialog, const std::function<bool()>& cancel, int intervalMs)
+{
+    const auto chosen = boost::make_shared<Property<int>>(0);
+    const auto text = boost::make_shared<Property<std::string>>("text");
+    FileDialogCustomization& controls = *dialog.customization();
+    controls.addCustomButton("Button", [] {});
+    controls.addCustomCheckBox("Check box", boost::make_shared<Property<bool>>(true));
+    QWidget* const list = controls.addCustomComboBox("List:", {"One", "Two", "Three"}, chosen);
+    controls.customEntry(list, 2)->setEnabled(false);
+    controls.beginCustomGroup("Group");
+    controls.addCustomRadioButtons("Unit:", {"mm", "m"}, chosen);
+    controls.addCustomLineEdit("Comment:", text);
+    controls.endCustomGroup();
+    controls.addCustomSeparator();
+    controls.addCustomText("Words");
+    controls.setAcceptanceCheck([](const QStringList&) { return ValidationResult(); });
+    const auto changeAndCancel = [&] {
+        chosen->setValue(1);
+        text->setValue("other");
+        return cancel();
+    };
+    const DialogAnswer answer(changeAndCancel, intervalMs);
+    dialog.exec();
+}
+
+void customizeQtDialog(QWidget& parent)
+{
+    QExtendedFileDialog dialog(parent, "Open", "", "Data (*.dat)", "", QFileDialog::AcceptOpen);
+    cancelCustomized(dialog, &DialogAnswer::cancelQtDialog, 0);
+}
+
+void customizeNativeDialog(QWidget& parent)
+{
+    ExtendedWinFileDialog dialog(parent, "Open", "", "Data (*.dat)", "", QFileDialog::AcceptOpen, false);
+    cancelCustomized(dialog, &cancelNativeDialog, nativeDialogInterval());
 }
 
 void acceptName(QWidget& parent)
@@ -114,6 +158,8 @@ std::vector<Subject> dialogSubjects()
             "system-open-controls"},
         {"ExtendedWinFileDialog-save", [](QWidget& parent) { cancelWithControls(parent, QFileDialog::AcceptSave); },
             "system-save-controls"},
+        {"QExtendedFileDialog, customized", &customizeQtDialog},
+        {"ExtendedWinFileDialog, customized", &customizeNativeDialog, "system-open-controls"},
         {"ExtendedWinFileDialog-accept", &acceptName, "system-save-accept"},
         {"LaunchFileDialog-qt", [](QWidget&) { launch(false); }},
         {"LaunchFileDialog-native", [](QWidget&) { launch(true); }, "system-open"},

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morvane authors
 // SPDX-License-Identifier: MIT
 
+#include "property/Property.h"
 #include "soak/Subject.h"
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 #include "ui/qt/controls/CorrectFontCommandLinkButton.h"
@@ -10,6 +11,7 @@
 #include "ui/qt/controls/QScientificSpinBox.h"
 #include "ui/qt/util/OverrideCursor.h"
 #include "ui/qt/util/OverrideCursorRestorer.h"
+#include "ui/qt/util/PropertyAdapter.h"
 #include "ui/qt/util/TableCopyHandler.h"
 #include "ui/qt/util/TablePasteHandler.h"
 #include "ui/qt/util/WheelGuard.h"
@@ -20,9 +22,12 @@
 #include <QCommandLinkButton>
 #include <QCompleter>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QUndoStack>
+
+#include <boost/make_shared.hpp>
 
 namespace morvane::test {
 
@@ -63,6 +68,66 @@ void showPrefixes(QWidget& parent)
     spinBox.setRefusalShown(true);
     spinBox.setSuffix(QStringLiteral("V"));
     showWidget(spinBox);
+}
+
+void pressKey(QWidget& widget, Qt::Key key, const QString& text = QString())
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&widget, &press);
+}
+
+/** Types a number that is accepted and one that is not, and steps in every mode. */
+void typeNumbers(QWidget& parent)
+{
+    QScientificSpinBox spinBox(&parent);
+    spinBox.setNotation(QScientificSpinBox::SiPrefix);
+    spinBox.setSuffix(QStringLiteral("V"));
+    spinBox.setRefusalShown(true);
+    spinBox.setRange(-1000, 1000);
+    spinBox.show();
+    for (const char* const text : {"4.7u", "1,5,", "99G"}) {
+        spinBox.selectAll();
+        for (const char* character = text; *character != '\0'; ++character) {
+            pressKey(spinBox, Qt::Key_unknown, QString(QLatin1Char(*character)));
+        }
+        pressKey(spinBox, Qt::Key_Return);
+    }
+    for (const auto mode : {QScientificSpinBox::Linear, QScientificSpinBox::Decade, QScientificSpinBox::OneTwoFive,
+             QScientificSpinBox::LastDigit}) {
+        spinBox.setStepMode(mode);
+        pressKey(spinBox, Qt::Key_Up);
+        pressKey(spinBox, Qt::Key_Down);
+    }
+    QCoreApplication::processEvents();
+}
+
+/** The same for a number of 64 bits, in each base. */
+void typeIntegers(QWidget& parent)
+{
+    Integral64SpinBox spinBox(&parent);
+    spinBox.setGroupSeparator(QStringLiteral("_"));
+    spinBox.show();
+    for (const auto base : {Integral64SpinBox::Decimal, Integral64SpinBox::Hexadecimal, Integral64SpinBox::Binary,
+             Integral64SpinBox::Octal}) {
+        spinBox.setBase(base);
+        spinBox.selectAll();
+        for (const char* const digit : {"1", "0", "1", "1", "0", "x"}) {
+            pressKey(spinBox, Qt::Key_unknown, QString::fromLatin1(digit));
+        }
+        pressKey(spinBox, Qt::Key_Return);
+        pressKey(spinBox, Qt::Key_Up);
+    }
+    QCoreApplication::processEvents();
+}
+
+void bindProperty(QWidget& parent)
+{
+    const auto value = boost::make_shared<Property<std::string>>("a");
+    QLineEdit edit(&parent);
+    PropertyAdapter adapter(value);
+    adapter.bindTo(&edit);
+    edit.setText(QStringLiteral("b"));
+    value->setValue("c");
 }
 
 void showGuardedForm(QWidget& parent)
@@ -173,6 +238,9 @@ std::vector<Subject> widgetSubjects()
         {"IntegralSpinBox", &showOne<IntegralSpinBox>},
         {"Integral64SpinBox", &showOne<Integral64SpinBox>},
         {"SiPrefixes", &showPrefixes},
+        {"SiPrefixes, typed", &typeNumbers},
+        {"Integral64SpinBox, typed", &typeIntegers},
+        {"PropertyAdapter", &bindProperty},
         {"guardWheel", &showGuardedForm},
         {"ElidedTextLabel", &elideText},
         {"QCommandLinkButton", &showStockLinkButton, nullptr, true},
