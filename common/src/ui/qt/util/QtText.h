@@ -33,10 +33,15 @@ inline constexpr bool isQtTextList =
     std::is_convertible_v<const Texts&, QStringList> &&
     !std::is_convertible_v<const Texts&, std::vector<std::string>> && !std::is_convertible_v<const Texts&, QString>;
 
-/** Texts in braces, as an argument beside a text of Qt: `{"UTF-8", tr("System")}`. */
+/**
+ * Texts in braces, as an argument beside a text of Qt. You need not name this class.
+ *
+ * @snippet 39-in-the-users-language/main.cpp texts
+ */
 class BracedTexts
 {
 public:
+    /** Takes the texts between the braces. */
     BracedTexts(std::initializer_list<QString> texts) : m_texts(texts) {}
     /** The texts in the order in which they were written. */
     const QStringList& texts() const { return m_texts; }
