@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morvane authors
 // SPDX-License-Identifier: MIT
 
-// The save flow with the native dialog, which has your own check box.
+// The save flow with the native dialog and your own check box in it.
 
 #include "property/Property.h"
 #include "ui/qt/dialogs/ExtendedWinFileDialog.h"

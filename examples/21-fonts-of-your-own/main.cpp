@@ -17,9 +17,9 @@ int main(int argc, char** argv)
     //! [fonts]
     // After the application object, before the first widget. A file that is not a font gives one warning in the log.
     if (QFileInfo(place).isDir()) {
-        morvane::ui::addFontsToDatabase(place.toStdString());
+        morvane::ui::addFontsToDatabase(place);
     } else {
-        morvane::ui::addFontToDatabase(place.toStdString());
+        morvane::ui::addFontToDatabase(place);
     }
     //! [fonts]
 

@@ -16,7 +16,7 @@
 // The function to test: returns the name to save to, or an empty one if the user cancels.
 static std::string askForReport(const QString& folder)
 {
-    SaveFileDialog dialog(nullptr, "Save report", folder.toStdString(), "report", "Text (*.txt)", "");
+    SaveFileDialog dialog(nullptr, "Save report", folder, "report", "Text (*.txt)", "");
     return dialog.launch() ? dialog.selectedFilename() : "";
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Morvane authors
 // SPDX-License-Identifier: MIT
 
-// A long form that scrolls. The wheel does not change the fields that one scrolls past.
+// A long form that scrolls. The wheel scrolls it and does not change its fields.
 
 #include "ui/qt/controls/QScientificSpinBox.h"
 #include "ui/qt/util/WheelGuard.h"
@@ -32,7 +32,7 @@ int main(int argc, char** argv)
     area.setWidget(page);
 
     //! [guard]
-    // Spin boxes and combo boxes take the wheel only with the focus. Otherwise the area scrolls.
+    // Spin boxes and combo boxes react to the wheel only when they have the focus. Otherwise the area scrolls.
     morvane::ui::guardWheel(area);
     //! [guard]
 

@@ -21,8 +21,14 @@ int main(int argc, char** argv)
     //! [install]
 
     QPushButton window("&Save…");
-    QObject::connect(&window, &QPushButton::clicked, &window,
-        [&window] { SaveFileDialog(&window, "Morvane", "", "report", "HTML (*.html)", "").launch(); });
+    QObject::connect(&window, &QPushButton::clicked, &window, [&window] {
+        //! [texts]
+        // Texts of Qt, such as those of tr(), and UTF-8 literals may stand side by side.
+        SaveFileDialog dialog(&window, QObject::tr("Save report"), "", "report",
+            {QObject::tr("HTML page (*.html)"), QObject::tr("Text (*.txt)")}, 0, "");
+        //! [texts]
+        dialog.launch();
+    });
     window.resize(240, 60);
     window.show();
     return application.exec();

@@ -6,8 +6,6 @@
 // What Qt 5 and Qt 6 spell differently. The only place of the gallery that asks for the version of Qt.
 
 #include <QCoreApplication>
-#include <QLibraryInfo>
-#include <QString>
 
 namespace gallery {
 
@@ -18,16 +16,6 @@ inline void enableHighDpi()
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-#endif
-}
-
-/** The directory below which Qt is installed. */
-inline QString directoryOfQt()
-{
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    return QLibraryInfo::location(QLibraryInfo::PrefixPath);
-#else
-    return QLibraryInfo::path(QLibraryInfo::PrefixPath);
 #endif
 }
 

@@ -58,7 +58,7 @@ QString FacadePage::typeText() const
 void FacadePage::runDialog()
 {
     const std::vector<std::string> filters = m_form->filterList();
-    ExtendedFileDialog dialog(*window(), m_caption.toStdString(), m_form->startFolder(),
+    ExtendedFileDialog dialog(*window(), m_caption, m_form->startFolder(),
         fileMode() == QFileDialog::Directory ? std::string() : m_form->filters(), m_form->helpTopic(), m_acceptMode);
     dialog.setFileMode(fileMode());
     if (fileMode() != QFileDialog::Directory && !filters.empty()) {

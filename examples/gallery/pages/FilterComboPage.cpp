@@ -4,11 +4,8 @@
 #include "pages/FilterComboPage.h"
 
 #include "pages/FileNameDelegate.h"
-#include "QtShims.h"
 #include "ui/qt/controls/ComboBoxAutoFilter.h"
 
-#include <QDir>
-#include <QDirIterator>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -23,24 +20,23 @@ using morvane::ui::ComboBoxAutoFilter;
 
 namespace {
 
-constexpr int mostNames = 20000;
-
-void appendFileNames(QStringList& names, const QString& place)
+/** Twenty thousand names of files, such as a test bench writes them. */
+QStringList fileNames()
 {
-    QDirIterator walk(place, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
-    while (walk.hasNext() && names.size() < mostNames) {
-        walk.next();
-        names.append(walk.fileName());
-    }
-}
-
-/** File names below the directory of the Qt installation, and of the rest of the machine if these are too few. */
-QStringList fileNamesOfTheMachine()
-{
+    const QStringList devices = {"bearing", "compressor", "converter", "coolant-pump", "flow-meter", "gearbox",
+        "generator", "heat-exchanger", "inlet-valve", "turbine"};
+    const QStringList kinds = {"calibration.csv", "config.xml", "current.dat", "flow.dat", "limits.csv", "log.txt",
+        "pressure.dat", "speed.dat", "temperature.dat", "voltage.dat"};
+    const int runs = 200;
     QStringList names;
-    appendFileNames(names, directoryOfQt());
-    appendFileNames(names, QDir::rootPath());
-    names.sort();
+    names.reserve(devices.size() * runs * kinds.size());
+    for (const QString& device : devices) {
+        for (int run = 1; run <= runs; ++run) {
+            for (const QString& kind : kinds) {
+                names.append(QStringLiteral("%1-%2-%3").arg(device).arg(run, 3, 10, QLatin1Char('0')).arg(kind));
+            }
+        }
+    }
     return names;
 }
 
@@ -67,7 +63,8 @@ void FilterComboPage::showEvent(QShowEvent* event)
 {
     Page::showEvent(event);
     if (m_names->rowCount() == 0) {
-        m_names->setStringList(fileNamesOfTheMachine());
+        m_names->setStringList(fileNames());
+        fillTable();
         addField();
         Q_EMIT reported(tr("%1 file names to choose from").arg(m_names->rowCount()));
     }
@@ -90,6 +87,15 @@ void FilterComboPage::addField()
     m_field->show();
     m_field->setFocus();
     m_field->lineEdit()->selectAll();
+}
+
+/** Gives each channel another one of the names. */
+void FilterComboPage::fillTable()
+{
+    const int distance = m_names->rowCount() / (m_table->rowCount() + 1);
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        m_table->item(row, 1)->setText(m_names->index((row + 1) * distance + row * 23).data().toString());
+    }
 }
 
 void FilterComboPage::prepareTable()

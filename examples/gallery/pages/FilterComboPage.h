@@ -34,6 +34,7 @@ protected:
 private:
     void addField();
     void prepareTable();
+    void fillTable();
 
     QStringListModel* m_names;
     QHBoxLayout* m_fieldRow;

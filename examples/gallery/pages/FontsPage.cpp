@@ -75,7 +75,7 @@ void FontsPage::registerFonts()
         return;
     }
     const int files = QDir(folder).entryList(QDir::Files).size();
-    morvane::ui::addFontsToDatabase(folder.toStdString());
+    morvane::ui::addFontsToDatabase(folder);
     const int fonts = previewNewFonts();
     m_result->setText(tr("%1 of %2 files were fonts.").arg(fonts).arg(files));
     Q_EMIT reported(tr("%1: %2").arg(m_folder->text(), m_result->text()));

@@ -104,8 +104,8 @@ void ImportOptions::addTo(morvane::ui::FileDialogCustomization& dialog, const st
 {
     dialog.addCustomComboBox("Enco&ding:", encodings, m_encoding);
     dialog.addCustomSeparator();
-    dialog.beginCustomGroup("How the numbers are read");
-    dialog.addCustomText("Inches need a comment that says where they come from.");
+    dialog.beginCustomGroup("Numbers");
+    dialog.addCustomText("Inches need a comment.");
     dialog.addCustomRadioButtons("Unit:", units, m_unit);
     dialog.addCustomLineEdit("&Comment:", m_comment);
     dialog.endCustomGroup();

@@ -43,7 +43,7 @@ std::vector<TourStep> LabelsPage::tourSteps(const TourWorkspace& workspace)
     steps.push_back({QStringLiteral("wide"),
         [this] {
             tour::type(*m_path, QStringLiteral("run-001.dat"));
-            m_splitter->setSizes({m_splitter->width() - 50, 50});
+            m_splitter->setSizes({m_splitter->width() - 160, 160}); // beside it, the hint is not cut
         },
         [this] { return expect(m_label->toolTip().isEmpty(), "a path that fits has a tool tip"); }});
     steps.push_back({QStringLiteral("narrow-button"), [this] { tour::click(*m_button); },

@@ -167,8 +167,9 @@ QWidget* NativeDialogPage::addAcceptOptions(ExtendedWinFileDialog& dialog)
     if (!m_withOptions->isChecked()) {
         return nullptr;
     }
-    dialog.addAcceptButtonOption("View", View);
-    QWidget* const edit = dialog.addAcceptButtonOption("Edit", Edit);
+    const bool saving = m_saveMode->isChecked();
+    dialog.addAcceptButtonOption(saving ? tr("Save") : tr("View"), View);
+    QWidget* const edit = dialog.addAcceptButtonOption(saving ? tr("Save and Edit") : tr("Edit"), Edit);
     edit->setEnabled(!m_readOnly->value());
     return edit;
 }

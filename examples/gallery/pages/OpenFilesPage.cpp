@@ -167,8 +167,8 @@ void OpenFilesPage::openDialog()
     }
     const std::string topic = m_withHelp->isChecked() ? m_helpTopic->text().toStdString() : std::string();
     const std::string filters = m_folder->isChecked() ? std::string() : m_filters->text().toStdString();
-    QExtendedFileDialog dialog(*window(), tr("Open").toStdString(),
-        QDir::fromNativeSeparators(m_startFolder->text()).toStdString(), filters, topic, QFileDialog::AcceptOpen);
+    QExtendedFileDialog dialog(*window(), tr("Open"), QDir::fromNativeSeparators(m_startFolder->text()), filters, topic,
+        QFileDialog::AcceptOpen);
     dialog.setFileMode(fileMode());
     dialog.setShowDirectoriesOnly(fileMode() == QFileDialog::Directory);
     dialog.setGeometryPersistenceKey(dialogGeometryKey);

@@ -36,12 +36,12 @@ std::vector<TourStep> ScientificSpinBoxPage::tourSteps(const TourWorkspace&)
     std::vector<TourStep> steps;
     steps.push_back({QStringLiteral("type-constant"),
         [=] {
-            tour::type(*chargeLine, QStringLiteral("1.5E-07"));
+            tour::type(*chargeLine, QStringLiteral("1.602E-20"));
             tour::press(*charge, Qt::Key_Return);
         },
-        [=] { return shows(charge, 1.5e-7, "1.5E-07 C"); }});
+        [=] { return shows(charge, 1.602e-20, "1.602E-20 C"); }});
     steps.push_back({QStringLiteral("decade-up"), [=] { tour::press(*charge, Qt::Key_Up); },
-        [=] { return shows(charge, 1.5e-6, "1.5E-06 C"); }});
+        [=] { return shows(charge, 1.602e-19, "1.602E-19 C"); }});
     steps.push_back({QStringLiteral("fewer-digits"),
         [=] {
             tour::type(*digitsLine, QStringLiteral("3"));
@@ -51,10 +51,10 @@ std::vector<TourStep> ScientificSpinBoxPage::tourSteps(const TourWorkspace&)
     steps.push_back({QStringLiteral("step-by-one"),
         [=] {
             tour::click(*m_decades);
-            tour::click(*chargeLine);
-            tour::press(*charge, Qt::Key_Up);
+            tour::click(*light->findChild<QLineEdit*>());
+            tour::press(*light, Qt::Key_Up);
         },
-        [=] { return shows(charge, 1.0000015, "1 C"); }});
+        [=] { return shows(light, 299792459, "3E+08 m/s"); }});
     steps.push_back({QStringLiteral("not-yet-valid"), [this] { tour::type(*m_pressureLine, QStringLiteral("15")); },
         [=] { return stateIs("Intermediate, go on typing"); }});
     steps.push_back({QStringLiteral("invalid"), [this] { tour::type(*m_pressureLine, QStringLiteral("99999")); },

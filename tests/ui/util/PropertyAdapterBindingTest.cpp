@@ -3,6 +3,9 @@
 
 #include "property/Property.h"
 #include "support/QtPrinters.h"
+#include "ui/qt/controls/Integral64SpinBox.h"
+#include "ui/qt/controls/IntegralSpinBox.h"
+#include "ui/qt/controls/QScientificSpinBox.h"
 #include "ui/qt/util/PropertyAdapter.h"
 
 #include <gtest/gtest.h>
@@ -139,6 +142,32 @@ TEST(PropertyAdapterBinding, laterControlIsRightWhenAnObserverSetsTheValueAgain)
     property->setValue(1);
     EXPECT_EQ(box.value(), 7);
     EXPECT_EQ(list.currentIndex(), 7);
+}
+
+/** The spin boxes replace the property `value` of Qt's. */
+template <typename Value>
+void expectBound(QAbstractSpinBox& box, Value value, Value next)
+{
+    const auto property = boost::make_shared<Property<Value>>(value);
+    PropertyAdapter adapter(property);
+    ASSERT_TRUE(adapter.bindTo(&box));
+    EXPECT_EQ(box.property("value").value<Value>(), value);
+    box.stepUp();
+    EXPECT_EQ(property->value(), next);
+    property->setValue(value);
+    EXPECT_EQ(box.property("value").value<Value>(), value);
+}
+
+TEST(PropertyAdapterBinding, spinBoxesOfTheLibraryAreBoundByTheirValue)
+{
+    morvane::ui::IntegralSpinBox integral(nullptr);
+    expectBound<int>(integral, 4, 5);
+    morvane::ui::Integral64SpinBox integral64;
+    integral64.setMaximum(Q_INT64_C(0x100000000000));
+    expectBound<qint64>(integral64, Q_INT64_C(0x10000000000), Q_INT64_C(0x10000000001));
+    morvane::ui::QScientificSpinBox scientific;
+    scientific.setStepMode(morvane::ui::QScientificSpinBox::Decade);
+    expectBound<double>(scientific, 0.5, 5);
 }
 
 TEST(PropertyAdapterBinding, refusesWhatCannotBeBound)

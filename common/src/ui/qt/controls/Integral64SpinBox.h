@@ -42,7 +42,7 @@ class MORVANE_UI_EXPORT Integral64SpinBox : public QAbstractSpinBox
      * not acceptable, the result is the number that Return would correct it to. The property has no notify signal;
      * connect to valueChanged() instead.
      */
-    Q_PROPERTY(qint64 value READ enteredValue WRITE setValue USER true)
+    Q_PROPERTY(qint64 value READ enteredValue WRITE setValue NOTIFY valueChanged USER true)
     /** The smallest value; 0 initially. */
     Q_PROPERTY(qint64 minimum READ minimum WRITE setMinimum)
     /** The largest value; 99 initially. */

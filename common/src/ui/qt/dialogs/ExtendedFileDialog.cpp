@@ -75,6 +75,11 @@ void ExtendedFileDialog::selectFile(const QString& file)
 
 QStringList ExtendedFileDialog::selectedFiles()
 {
+    return std::as_const(*this).selectedFiles();
+}
+
+QStringList ExtendedFileDialog::selectedFiles() const
+{
     return withDialog(m_winDialog.get(), m_qtDialog.get(), [](auto& dialog) { return dialog.selectedFiles(); });
 }
 
@@ -84,6 +89,11 @@ void ExtendedFileDialog::setFileMode(QFileDialog::FileMode mode)
 }
 
 QDir ExtendedFileDialog::directory()
+{
+    return std::as_const(*this).directory();
+}
+
+QDir ExtendedFileDialog::directory() const
 {
     return withDialog(m_winDialog.get(), m_qtDialog.get(), [](auto& dialog) { return dialog.directory(); });
 }
@@ -99,6 +109,11 @@ void ExtendedFileDialog::selectNameFilter(const QString& filter)
 }
 
 QStringList ExtendedFileDialog::nameFilters()
+{
+    return std::as_const(*this).nameFilters();
+}
+
+QStringList ExtendedFileDialog::nameFilters() const
 {
     return withDialog(m_winDialog.get(), m_qtDialog.get(), [](auto& dialog) { return dialog.nameFilters(); });
 }
@@ -119,6 +134,11 @@ int ExtendedFileDialog::chosenFilter()
 }
 
 QString ExtendedFileDialog::selectedNameFilter()
+{
+    return std::as_const(*this).selectedNameFilter();
+}
+
+QString ExtendedFileDialog::selectedNameFilter() const
 {
     return withDialog(m_winDialog.get(), m_qtDialog.get(), [](auto& dialog) { return dialog.selectedNameFilter(); });
 }

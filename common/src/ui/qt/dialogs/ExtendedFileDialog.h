@@ -6,6 +6,7 @@
 #include "property/PropertyAbstract.h"
 #include "ui/qt/dialogs/FileDialogCustomization.h"
 #include "ui/qt/MorvaneUiExport.h"
+#include "ui/qt/util/QtText.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -17,6 +18,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class ExtendedWinFileDialog;
@@ -56,6 +58,15 @@ public:
      */
     ExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
         const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode);
+    /** The same with texts of Qt, see morvane::ui::isQtText. */
+    template <typename Caption = std::string, typename Directory = std::string, typename Filter = std::string,
+        typename HelpTopic = std::string, morvane::ui::IfQtText<Caption, Directory, Filter, HelpTopic> = 0>
+    ExtendedFileDialog(QWidget& parent, const Caption& caption, const Directory& directory, const Filter& filter,
+        const HelpTopic& helpTopic, QFileDialog::AcceptMode acceptMode)
+        : ExtendedFileDialog(parent, morvane::ui::utf8Text(caption), morvane::ui::utf8Text(directory),
+              morvane::ui::utf8Text(filter), morvane::ui::utf8Text(helpTopic), acceptMode)
+    {
+    }
     virtual ~ExtendedFileDialog();
     ExtendedFileDialog(const ExtendedFileDialog&) = delete;
     ExtendedFileDialog& operator=(const ExtendedFileDialog&) = delete;
@@ -68,12 +79,18 @@ public:
      * native dialog uses only the last component of each path.
      */
     void selectFile(const QString& file);
+    ///@{
     /** Returns the chosen paths after exec() returned Accepted. The native dialog returns native paths. */
     QStringList selectedFiles();
+    QStringList selectedFiles() const;
+    ///@}
     /** Sets what the user may choose: an existing file, several existing files, any name, or a directory. */
     void setFileMode(QFileDialog::FileMode mode);
+    ///@{
     /** Returns the directory that the dialog shows, or showed last. Before the first run it is the start directory. */
     QDir directory();
+    QDir directory() const;
+    ///@}
     /** Sets the start directory. */
     void setDirectory(const QString& directory);
     /**
@@ -81,12 +98,18 @@ public:
      * native dialog chooses none and opens with the first one.
      */
     void selectNameFilter(const QString& filter);
+    ///@{
     /** Returns the name filters, one for each entry. */
     QStringList nameFilters();
+    QStringList nameFilters() const;
+    ///@}
     /** Replaces the name filters. */
     void setNameFilters(const QStringList& filters);
+    ///@{
     /** Returns the text of the chosen filter; empty if none is chosen. */
     QString selectedNameFilter();
+    QString selectedNameFilter() const;
+    ///@}
     /** If true, the dialog does not ask before it accepts an existing file for saving. */
     void setDontConfirmOverwrite(bool on);
     /** If true, the Qt dialog lists only directories. The native dialog ignores it. */
@@ -113,6 +136,68 @@ public:
     void addPlace(const std::string& folder, morvane::ui::FileDialogCustomization::Place where);
     void setMemoryKey(const std::string& key);
     void clearMemory();
+    ///@}
+    ///@{
+    /** The same with texts of Qt, see morvane::ui::isQtText. */
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* addCustomButton(const Text& text, boost::function<void()> action)
+    {
+        return addCustomButton(morvane::ui::utf8Text(text), std::move(action));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* addCustomCheckBox(const Text& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked)
+    {
+        return addCustomCheckBox(morvane::ui::utf8Text(text), std::move(checked));
+    }
+    template <typename Label = std::string, typename Entries = morvane::ui::BracedTexts,
+        morvane::ui::IfQtText<Label, Entries> = 0>
+    QWidget* addCustomComboBox(
+        const Label& label, const Entries& entries, boost::shared_ptr<morvane::PropertyAbstract<int>> chosen)
+    {
+        return addCustomComboBox(morvane::ui::utf8Text(label), morvane::ui::utf8Texts(entries), std::move(chosen));
+    }
+    template <typename Label = std::string, typename Entries = morvane::ui::BracedTexts,
+        morvane::ui::IfQtText<Label, Entries> = 0>
+    QWidget* addCustomRadioButtons(
+        const Label& label, const Entries& entries, boost::shared_ptr<morvane::PropertyAbstract<int>> chosen)
+    {
+        return addCustomRadioButtons(morvane::ui::utf8Text(label), morvane::ui::utf8Texts(entries), std::move(chosen));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* addCustomLineEdit(const Text& label, boost::shared_ptr<morvane::PropertyAbstract<std::string>> text)
+    {
+        return addCustomLineEdit(morvane::ui::utf8Text(label), std::move(text));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* addCustomText(const Text& text)
+    {
+        return addCustomText(morvane::ui::utf8Text(text));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* beginCustomGroup(const Text& label)
+    {
+        return beginCustomGroup(morvane::ui::utf8Text(label));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    void setAcceptButtonText(const Text& text)
+    {
+        setAcceptButtonText(morvane::ui::utf8Text(text));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    void setFileNameLabel(const Text& label)
+    {
+        setFileNameLabel(morvane::ui::utf8Text(label));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    void addPlace(const Text& folder, morvane::ui::FileDialogCustomization::Place where)
+    {
+        addPlace(morvane::ui::utf8Text(folder), where);
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    void setMemoryKey(const Text& key)
+    {
+        setMemoryKey(morvane::ui::utf8Text(key));
+    }
     ///@}
 
     /**

@@ -59,6 +59,11 @@ void ExtendedWinFileDialog::selectFile(const QString& file)
 
 QStringList ExtendedWinFileDialog::selectedFiles()
 {
+    return std::as_const(*this).selectedFiles();
+}
+
+QStringList ExtendedWinFileDialog::selectedFiles() const
+{
     return m_native->selectedFiles();
 }
 
@@ -68,6 +73,11 @@ void ExtendedWinFileDialog::setFileMode(QFileDialog::FileMode mode)
 }
 
 QDir ExtendedWinFileDialog::directory()
+{
+    return std::as_const(*this).directory();
+}
+
+QDir ExtendedWinFileDialog::directory() const
 {
     return QDir(QString::fromStdString(m_native->directory().value()));
 }
@@ -84,6 +94,11 @@ void ExtendedWinFileDialog::selectNameFilter(const QString& filter)
 
 QStringList ExtendedWinFileDialog::nameFilters()
 {
+    return std::as_const(*this).nameFilters();
+}
+
+QStringList ExtendedWinFileDialog::nameFilters() const
+{
     return m_native->nameFilters();
 }
 
@@ -93,6 +108,11 @@ void ExtendedWinFileDialog::setNameFilters(const QStringList& filters)
 }
 
 QString ExtendedWinFileDialog::selectedNameFilter()
+{
+    return std::as_const(*this).selectedNameFilter();
+}
+
+QString ExtendedWinFileDialog::selectedNameFilter() const
 {
     return m_native->currentNameFilter();
 }
@@ -214,6 +234,11 @@ void ExtendedWinFileDialog::setDontConfirmOverwrite(bool on)
 void ExtendedWinFileDialog::setShowDirectoriesOnly(bool) {}
 
 QWidget* ExtendedWinFileDialog::parent()
+{
+    return std::as_const(*this).parent();
+}
+
+QWidget* ExtendedWinFileDialog::parent() const
 {
     return m_native->parent();
 }

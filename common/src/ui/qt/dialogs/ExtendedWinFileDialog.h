@@ -6,6 +6,7 @@
 #include "property/PropertyAbstract.h"
 #include "ui/qt/dialogs/FileDialogCustomization.h"
 #include "ui/qt/MorvaneUiExport.h"
+#include "ui/qt/util/QtText.h"
 
 #include <QDialog>
 #include <QDir>
@@ -18,6 +19,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QWidget;
@@ -76,6 +78,15 @@ public:
     ExtendedWinFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
         const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode,
         bool useAcceptMenu);
+    /** The same with texts of Qt, see morvane::ui::isQtText. */
+    template <typename Caption = std::string, typename Directory = std::string, typename Filter = std::string,
+        typename HelpTopic = std::string, morvane::ui::IfQtText<Caption, Directory, Filter, HelpTopic> = 0>
+    ExtendedWinFileDialog(QWidget& parent, const Caption& caption, const Directory& directory, const Filter& filter,
+        const HelpTopic& helpTopic, QFileDialog::AcceptMode acceptMode, bool useAcceptMenu)
+        : ExtendedWinFileDialog(parent, morvane::ui::utf8Text(caption), morvane::ui::utf8Text(directory),
+              morvane::ui::utf8Text(filter), morvane::ui::utf8Text(helpTopic), acceptMode, useAcceptMenu)
+    {
+    }
     virtual ~ExtendedWinFileDialog();
     ExtendedWinFileDialog(const ExtendedWinFileDialog&) = delete;
     ExtendedWinFileDialog& operator=(const ExtendedWinFileDialog&) = delete;
@@ -95,6 +106,7 @@ public:
      * and stays in quotes. A list with only one path becomes a name without quotes.
      */
     void selectFile(const QString& file);
+    ///@{
     /**
      * After an exec() that the user accepted: returns the chosen paths in the platform's form. After close() ended the
      * dialog: returns an empty list. Otherwise: returns what the platform reports. With `ExistingFiles` there may be
@@ -102,6 +114,8 @@ public:
      * there is one.
      */
     QStringList selectedFiles();
+    QStringList selectedFiles() const;
+    ///@}
 
     /**
      * Sets what the user may choose; initially `AnyFile`. With `Directory` the user picks a folder. `DirectoryOnly`,
@@ -109,11 +123,14 @@ public:
      */
     void setFileMode(QFileDialog::FileMode mode);
 
+    ///@{
     /**
      * Returns the folder that was set; after a run, the folder that the dialog showed last. Returns `.` if no folder
      * was set and the dialog has not run.
      */
     QDir directory();
+    QDir directory() const;
+    ///@}
     /** Sets the start folder. Does not check whether it exists. */
     void setDirectory(const QString& dir);
 
@@ -122,12 +139,18 @@ public:
      * opens with the first type, which is the chosen one from then on.
      */
     void selectNameFilter(const QString& filter);
+    ///@{
     /** Returns the file types, one for each entry. */
     QStringList nameFilters();
+    QStringList nameFilters() const;
+    ///@}
     /** Replaces the filters. The texts are used unchanged. */
     void setNameFilters(const QStringList& filters);
+    ///@{
     /** Returns the text of the chosen file type; empty if none is chosen. */
     QString selectedNameFilter();
+    QString selectedNameFilter() const;
+    ///@}
 
     /**
      * Adds a push button.
@@ -187,6 +210,73 @@ public:
     void setMemoryKey(const std::string& key);
     void clearMemory();
     ///@}
+    ///@{
+    /** The same with texts of Qt, see morvane::ui::isQtText. */
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* addCustomButton(const Text& text, boost::function<void()> action)
+    {
+        return addCustomButton(morvane::ui::utf8Text(text), std::move(action));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* addCustomCheckBox(const Text& text, boost::shared_ptr<morvane::PropertyAbstract<bool>> checked)
+    {
+        return addCustomCheckBox(morvane::ui::utf8Text(text), std::move(checked));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* addAcceptButtonOption(const Text& text, int value)
+    {
+        return addAcceptButtonOption(morvane::ui::utf8Text(text), value);
+    }
+    template <typename Label = std::string, typename Entries = morvane::ui::BracedTexts,
+        morvane::ui::IfQtText<Label, Entries> = 0>
+    QWidget* addCustomComboBox(
+        const Label& label, const Entries& entries, boost::shared_ptr<morvane::PropertyAbstract<int>> chosen)
+    {
+        return addCustomComboBox(morvane::ui::utf8Text(label), morvane::ui::utf8Texts(entries), std::move(chosen));
+    }
+    template <typename Label = std::string, typename Entries = morvane::ui::BracedTexts,
+        morvane::ui::IfQtText<Label, Entries> = 0>
+    QWidget* addCustomRadioButtons(
+        const Label& label, const Entries& entries, boost::shared_ptr<morvane::PropertyAbstract<int>> chosen)
+    {
+        return addCustomRadioButtons(morvane::ui::utf8Text(label), morvane::ui::utf8Texts(entries), std::move(chosen));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* addCustomLineEdit(const Text& label, boost::shared_ptr<morvane::PropertyAbstract<std::string>> text)
+    {
+        return addCustomLineEdit(morvane::ui::utf8Text(label), std::move(text));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* addCustomText(const Text& text)
+    {
+        return addCustomText(morvane::ui::utf8Text(text));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    QWidget* beginCustomGroup(const Text& label)
+    {
+        return beginCustomGroup(morvane::ui::utf8Text(label));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    void setAcceptButtonText(const Text& text)
+    {
+        setAcceptButtonText(morvane::ui::utf8Text(text));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    void setFileNameLabel(const Text& label)
+    {
+        setFileNameLabel(morvane::ui::utf8Text(label));
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    void addPlace(const Text& folder, morvane::ui::FileDialogCustomization::Place where)
+    {
+        addPlace(morvane::ui::utf8Text(folder), where);
+    }
+    template <typename Text, morvane::ui::IfQtText<Text> = 0>
+    void setMemoryKey(const Text& key)
+    {
+        setMemoryKey(morvane::ui::utf8Text(key));
+    }
+    ///@}
 
     /**
      * The same functions as an object, which the other file dialogs have, too. Never null; owned by this object.
@@ -207,8 +297,11 @@ public:
      */
     void setShowDirectoriesOnly(bool on);
 
+    ///@{
     /** Returns the widget that was passed to the constructor; null after it was destroyed. */
     QWidget* parent();
+    QWidget* parent() const;
+    ///@}
 
     /**
      * Closes a running dialog; actions and observers may call it. exec() then returns `Accepted`, but nothing was

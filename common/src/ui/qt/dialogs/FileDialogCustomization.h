@@ -6,6 +6,7 @@
 #include "host/ValidationResult.h"
 #include "property/PropertyAbstract.h"
 #include "ui/qt/MorvaneUiExport.h"
+#include "ui/qt/util/QtText.h"
 
 #include <QStringList>
 
@@ -14,6 +15,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QWidget;
@@ -155,6 +157,67 @@ public:
     void setMemoryKey(const std::string& key);
     /** Forgets what is kept under the key that was set. Without a key it does nothing. */
     void clearMemory();
+
+    ///@{
+    /** The same with texts of Qt, see isQtText. */
+    template <typename Text, IfQtText<Text> = 0>
+    QWidget* addCustomButton(const Text& text, boost::function<void()> action)
+    {
+        return addCustomButton(utf8Text(text), std::move(action));
+    }
+    template <typename Text, IfQtText<Text> = 0>
+    QWidget* addCustomCheckBox(const Text& text, boost::shared_ptr<PropertyAbstract<bool>> checked)
+    {
+        return addCustomCheckBox(utf8Text(text), std::move(checked));
+    }
+    template <typename Label = std::string, typename Entries = BracedTexts, IfQtText<Label, Entries> = 0>
+    QWidget* addCustomComboBox(
+        const Label& label, const Entries& entries, boost::shared_ptr<PropertyAbstract<int>> chosen)
+    {
+        return addCustomComboBox(utf8Text(label), utf8Texts(entries), std::move(chosen));
+    }
+    template <typename Label = std::string, typename Entries = BracedTexts, IfQtText<Label, Entries> = 0>
+    QWidget* addCustomRadioButtons(
+        const Label& label, const Entries& entries, boost::shared_ptr<PropertyAbstract<int>> chosen)
+    {
+        return addCustomRadioButtons(utf8Text(label), utf8Texts(entries), std::move(chosen));
+    }
+    template <typename Text, IfQtText<Text> = 0>
+    QWidget* addCustomLineEdit(const Text& label, boost::shared_ptr<PropertyAbstract<std::string>> text)
+    {
+        return addCustomLineEdit(utf8Text(label), std::move(text));
+    }
+    template <typename Text, IfQtText<Text> = 0>
+    QWidget* addCustomText(const Text& text)
+    {
+        return addCustomText(utf8Text(text));
+    }
+    template <typename Text, IfQtText<Text> = 0>
+    QWidget* beginCustomGroup(const Text& label)
+    {
+        return beginCustomGroup(utf8Text(label));
+    }
+    template <typename Text, IfQtText<Text> = 0>
+    void setAcceptButtonText(const Text& text)
+    {
+        setAcceptButtonText(utf8Text(text));
+    }
+    template <typename Text, IfQtText<Text> = 0>
+    void setFileNameLabel(const Text& label)
+    {
+        setFileNameLabel(utf8Text(label));
+    }
+    template <typename Text, IfQtText<Text> = 0>
+    void addPlace(const Text& folder, Place where)
+    {
+        addPlace(utf8Text(folder), where);
+    }
+    template <typename Text, IfQtText<Text> = 0>
+    void setMemoryKey(const Text& key)
+    {
+        setMemoryKey(utf8Text(key));
+    }
+    ///@}
 
 private:
     struct Impl;

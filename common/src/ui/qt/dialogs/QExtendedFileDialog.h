@@ -5,6 +5,7 @@
 
 #include "ui/qt/dialogs/FileDialogCustomization.h"
 #include "ui/qt/MorvaneUiExport.h"
+#include "ui/qt/util/QtText.h"
 
 #include <QFileDialog>
 #include <QSize>
@@ -57,6 +58,15 @@ public:
      */
     QExtendedFileDialog(QWidget& parent, const std::string& caption, const std::string& directory,
         const std::string& filter, const std::string& helpTopic, QFileDialog::AcceptMode acceptMode);
+    /** The same with texts of Qt, see morvane::ui::isQtText. */
+    template <typename Caption = std::string, typename Directory = std::string, typename Filter = std::string,
+        typename HelpTopic = std::string, morvane::ui::IfQtText<Caption, Directory, Filter, HelpTopic> = 0>
+    QExtendedFileDialog(QWidget& parent, const Caption& caption, const Directory& directory, const Filter& filter,
+        const HelpTopic& helpTopic, QFileDialog::AcceptMode acceptMode)
+        : QExtendedFileDialog(parent, morvane::ui::utf8Text(caption), morvane::ui::utf8Text(directory),
+              morvane::ui::utf8Text(filter), morvane::ui::utf8Text(helpTopic), acceptMode)
+    {
+    }
 
     /** Without caption, directory, filter and help topic. The geometry is stored under the empty key. */
     QExtendedFileDialog(QWidget& parent, QFileDialog::AcceptMode acceptMode);

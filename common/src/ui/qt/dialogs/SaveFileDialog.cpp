@@ -57,10 +57,20 @@ bool SaveFileDialog::launch()
 
 std::string SaveFileDialog::selectedFilename()
 {
+    return std::as_const(*this).selectedFilename();
+}
+
+std::string SaveFileDialog::selectedFilename() const
+{
     return m_winDialog ? m_winDialog->selectedFilename() : m_qtDialog->selectedFilename();
 }
 
 std::string SaveFileDialog::selectedFilter()
+{
+    return std::as_const(*this).selectedFilter();
+}
+
+std::string SaveFileDialog::selectedFilter() const
 {
     return m_winDialog ? m_winDialog->selectedFilter() : m_qtDialog->selectedFilter();
 }

@@ -5,9 +5,11 @@
 
 #include "ui/qt/dialogs/SaveFileMessageHandlerInterface.h"
 #include "ui/qt/MorvaneUiExport.h"
+#include "ui/qt/util/QtText.h"
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class QWidget;
@@ -80,6 +82,31 @@ public:
         const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
         const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
     ///@}
+    ///@{
+    /** The same with texts of Qt, see morvane::ui::isQtText. */
+    template <typename Caption = std::string, typename Directory = std::string, typename Filename = std::string,
+        typename Filter = std::string, typename HelpTopic = std::string,
+        morvane::ui::IfQtText<Caption, Directory, Filename, Filter, HelpTopic> = 0>
+    SaveFileDialog(QWidget* parent, const Caption& caption, const Directory& directory, const Filename& filename,
+        const Filter& filter, const HelpTopic& helpTopic,
+        std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler = nullptr)
+        : SaveFileDialog(parent, morvane::ui::utf8Text(caption), morvane::ui::utf8Text(directory),
+              morvane::ui::utf8Text(filename), morvane::ui::utf8Text(filter), morvane::ui::utf8Text(helpTopic),
+              std::move(handler))
+    {
+    }
+    template <typename Caption = std::string, typename Directory = std::string, typename Filename = std::string,
+        typename WriterFilters = morvane::ui::BracedTexts, typename HelpTopic = std::string,
+        morvane::ui::IfQtText<Caption, Directory, Filename, WriterFilters, HelpTopic> = 0>
+    SaveFileDialog(QWidget* parent, const Caption& caption, const Directory& directory, const Filename& filename,
+        const WriterFilters& writerFilters, int selectedWriterIndex, const HelpTopic& helpTopic,
+        std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler = nullptr)
+        : SaveFileDialog(parent, morvane::ui::utf8Text(caption), morvane::ui::utf8Text(directory),
+              morvane::ui::utf8Text(filename), morvane::ui::utf8Texts(writerFilters), selectedWriterIndex,
+              morvane::ui::utf8Text(helpTopic), std::move(handler))
+    {
+    }
+    ///@}
     virtual ~SaveFileDialog();
     SaveFileDialog(const SaveFileDialog&) = delete;
     SaveFileDialog& operator=(const SaveFileDialog&) = delete;
@@ -93,17 +120,23 @@ public:
      */
     virtual bool launch();
 
+    ///@{
     /**
      * Returns the name from the last accepted dialog, with its extension; empty before that. After launch() returned
      * true, write to this name.
      */
     std::string selectedFilename();
+    std::string selectedFilename() const;
+    ///@}
+    ///@{
     /**
      * Returns the text of the chosen filter as the dialog has it. The Qt dialog simplifies blanks and replaces the
      * patterns by a typed wildcard. If no filter was passed, the Qt dialog returns "All Files (*)", and the native
      * dialog returns an empty text.
      */
     std::string selectedFilter();
+    std::string selectedFilter() const;
+    ///@}
     /**
      * Returns the position of the chosen filter in the passed filters; the first one among equal filters; -1 if it is
      * not among them. If no filter was passed, the result is 0 with the Qt dialog and -1 with the native dialog.

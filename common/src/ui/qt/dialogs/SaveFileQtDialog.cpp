@@ -138,10 +138,20 @@ bool SaveFileQtDialog::launch()
 
 std::string SaveFileQtDialog::selectedFilename()
 {
+    return std::as_const(*this).selectedFilename();
+}
+
+std::string SaveFileQtDialog::selectedFilename() const
+{
     return m_impl->m_selectedFilename;
 }
 
 std::string SaveFileQtDialog::selectedFilter()
+{
+    return std::as_const(*this).selectedFilter();
+}
+
+std::string SaveFileQtDialog::selectedFilter() const
 {
     return m_impl->selectedFilter().toStdString();
 }

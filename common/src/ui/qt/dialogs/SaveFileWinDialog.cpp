@@ -102,10 +102,20 @@ bool SaveFileWinDialog::launch()
 
 std::string SaveFileWinDialog::selectedFilename()
 {
+    return std::as_const(*this).selectedFilename();
+}
+
+std::string SaveFileWinDialog::selectedFilename() const
+{
     return m_impl->m_selectedFilename;
 }
 
 std::string SaveFileWinDialog::selectedFilter()
+{
+    return std::as_const(*this).selectedFilter();
+}
+
+std::string SaveFileWinDialog::selectedFilter() const
 {
     return m_impl->selectedFilter().toStdString();
 }

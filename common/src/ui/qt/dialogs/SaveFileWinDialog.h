@@ -5,11 +5,13 @@
 
 #include "ui/qt/dialogs/SaveFileMessageHandlerInterface.h"
 #include "ui/qt/MorvaneUiExport.h"
+#include "ui/qt/util/QtText.h"
 
 #include <QObject>
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 class ExtendedWinFileDialog;
@@ -43,14 +45,45 @@ public:
         const std::string& filename, const std::vector<std::string>& writerFilters, int selectedWriterIndex,
         const std::string& helpTopic, std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler);
     ///@}
+    ///@{
+    /** The same with texts of Qt, see morvane::ui::isQtText. */
+    template <typename Caption = std::string, typename Directory = std::string, typename Filename = std::string,
+        typename Filter = std::string, typename HelpTopic = std::string,
+        morvane::ui::IfQtText<Caption, Directory, Filename, Filter, HelpTopic> = 0>
+    SaveFileWinDialog(QWidget* parent, const Caption& caption, const Directory& directory, const Filename& filename,
+        const Filter& filter, const HelpTopic& helpTopic,
+        std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler = nullptr)
+        : SaveFileWinDialog(parent, morvane::ui::utf8Text(caption), morvane::ui::utf8Text(directory),
+              morvane::ui::utf8Text(filename), morvane::ui::utf8Text(filter), morvane::ui::utf8Text(helpTopic),
+              std::move(handler))
+    {
+    }
+    template <typename Caption = std::string, typename Directory = std::string, typename Filename = std::string,
+        typename WriterFilters = morvane::ui::BracedTexts, typename HelpTopic = std::string,
+        morvane::ui::IfQtText<Caption, Directory, Filename, WriterFilters, HelpTopic> = 0>
+    SaveFileWinDialog(QWidget* parent, const Caption& caption, const Directory& directory, const Filename& filename,
+        const WriterFilters& writerFilters, int selectedWriterIndex, const HelpTopic& helpTopic,
+        std::unique_ptr<morvane::SaveFileMessageHandlerInterface> handler = nullptr)
+        : SaveFileWinDialog(parent, morvane::ui::utf8Text(caption), morvane::ui::utf8Text(directory),
+              morvane::ui::utf8Text(filename), morvane::ui::utf8Texts(writerFilters), selectedWriterIndex,
+              morvane::ui::utf8Text(helpTopic), std::move(handler))
+    {
+    }
+    ///@}
     ~SaveFileWinDialog() override;
 
     /** Runs the flow; see SaveFileDialog::launch(). */
     virtual bool launch();
+    ///@{
     /** See SaveFileDialog::selectedFilename(). */
     std::string selectedFilename();
+    std::string selectedFilename() const;
+    ///@}
+    ///@{
     /** See SaveFileDialog::selectedFilter(). */
     std::string selectedFilter();
+    std::string selectedFilter() const;
+    ///@}
     /** See SaveFileDialog::selectedWriter(). */
     int selectedWriter() const;
     /** See SaveFileDialog::customization(). */

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "ui/qt/MorvaneUiExport.h"
+#include "ui/qt/util/QtText.h"
 
 #include <string>
 
@@ -31,5 +32,19 @@ MORVANE_UI_EXPORT void addFontToDatabase(const std::string& fontFile);
  *        from the root directory.
  */
 MORVANE_UI_EXPORT void addFontsToDatabase(const std::string& fontDirectory);
+
+///@{
+/** The same with texts of Qt, see isQtText. */
+template <typename Text, IfQtText<Text> = 0>
+void addFontToDatabase(const Text& fontFile)
+{
+    addFontToDatabase(utf8Text(fontFile));
+}
+template <typename Text, IfQtText<Text> = 0>
+void addFontsToDatabase(const Text& fontDirectory)
+{
+    addFontsToDatabase(utf8Text(fontDirectory));
+}
+///@}
 
 } // namespace morvane::ui

@@ -24,11 +24,23 @@ QMetaProperty propertyOf(const QMetaObject& meta, const QByteArray& name)
     return name.isEmpty() ? meta.userProperty() : meta.property(meta.indexOfProperty(name.constData()));
 }
 
+/** The notify signal of @p property or, if it has none, of the property of a base class that it replaces. */
+QMetaMethod notifySignalOf(const QMetaObject& meta, const QMetaProperty& property)
+{
+    for (const QMetaObject* type = property.isValid() ? &meta : nullptr; type; type = type->superClass()) {
+        const QMetaProperty replaced = type->property(type->indexOfProperty(property.name()));
+        if (replaced.hasNotifySignal()) {
+            return replaced.notifySignal();
+        }
+    }
+    return {};
+}
+
 /** @param text null, or the result of Qt's macro SIGNAL, which puts a digit before the signature */
 QMetaMethod signalOf(const QMetaObject& meta, const QMetaProperty& property, const char* text)
 {
     if (!text) {
-        return property.notifySignal();
+        return notifySignalOf(meta, property);
     }
     const QByteArray signature = QMetaObject::normalizedSignature(*text == '2' ? text + 1 : text);
     return meta.method(meta.indexOfSignal(signature.constData()));

@@ -71,7 +71,8 @@ public:
      *
      * @param object may be null; nothing is bound then
      * @param name   a property with a notify signal; if empty, the object's user property, such as the text of a
-     *               QLineEdit or the value of a QSpinBox
+     *               QLineEdit or the value of a spin box. A property without a notify signal that replaces one of a
+     *               base class has that one's signal, such as the value of a QScientificSpinBox.
      * @param signal if not null, the signal that replaces the notify signal, in Qt's notation:
      *               `SIGNAL(editingFinished())`. A line edit needs it if the validator would reject a text that is not
      *               typed to its end.
