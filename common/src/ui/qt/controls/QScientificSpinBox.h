@@ -307,6 +307,11 @@ public:
     boost::signals2::signal<void()> signalDecrement; ///< a step down, or by 0, that the host handles
 
 protected:
+    /**
+     * As in QDoubleSpinBox. With another stepMode than Linear, a typed number counts instead of value(), because the
+     * step begins there.
+     */
+    StepEnabled stepEnabled() const override;
     /** Drops the remaining part of a notch when the focus is lost or the pointer leaves. */
     bool event(QEvent* event) override;
     /** Steps by whole notches; adds up parts of notches. */
