@@ -122,6 +122,45 @@ TEST_F(QScientificSpinBoxLocale, refusesPastedNumbersWithTwoMeaningsUntilTheyAre
     EXPECT_EQ(spin.value(), 1.5);
 }
 
+TEST_F(QScientificSpinBoxLocale, knowsAPastedNumberThatIsAlmostTheOneItReplaces)
+{
+    const auto pasteOver = [this](double value, const QString& text) {
+        spin.setValue(value);
+        spin.selectAll();
+        QApplication::clipboard()->setText(text);
+        QTest::keyClick(&spin, Qt::Key_V, Qt::ControlModifier);
+        window.commit();
+        return spin.value();
+    };
+    EXPECT_EQ(pasteOver(1.5, "1.5"), 1.5) << "the one meaning";
+    EXPECT_EQ(pasteOver(2.5, "3.5"), 3.5);
+    EXPECT_EQ(pasteOver(1.125, "1.125"), 1.125) << "two meanings: not 1125";
+    EXPECT_EQ(pasteOver(1.125, "2.125"), 1.125);
+    EXPECT_EQ(pasteOver(1.125, "2,125"), 1.125);
+    EXPECT_EQ(pasteOver(1.125, "1,125"), 1.125) << "as it is shown";
+}
+
+TEST_F(QScientificSpinBoxLocale, undoesAndRedoesWhatWasTyped)
+{
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        QTest::keyClick(&spin, key, modifiers);
+    };
+    window.type("1,500");
+    window.type("7");
+    press(Qt::Key_Z);
+    EXPECT_EQ(window.shown(), "1,500");
+    EXPECT_TRUE(spin.hasAcceptableInput()) << "typed, not pasted";
+    while (window.shown() != "1") {
+        press(Qt::Key_Z);
+    }
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(window.shown(), "1,500");
+    EXPECT_TRUE(spin.hasAcceptableInput());
+    window.commit();
+    EXPECT_EQ(spin.value(), 1.5);
+    EXPECT_EQ(pasted("1,500"), 1) << "typing it once does not allow to paste it";
+}
+
 TEST_F(QScientificSpinBoxLocale, typesOnAfterTheLanguageHasChanged)
 {
     spin.setValue(5);

@@ -23,9 +23,12 @@ StyledLineValidator::~StyledLineValidator() = default;
 
 void StyledLineValidator::follow(const QLineEdit& line)
 {
+    m_lineEdit = &line;
     connect(&line, &QLineEdit::selectionChanged, this, [this, &line] {
         // When the user replaces the selection, the line validates the new text before it emits this signal.
         const auto behindNumber = line.text().size() - m_spinBox.suffix().size();
+        m_selectionLine = line.text();
+        m_selectedLength = static_cast<int>(line.selectedText().size());
         m_isSuffixSelected = line.hasSelectedText() && line.selectionEnd() > behindNumber;
         m_isNumberSelected = line.hasSelectedText() && line.selectionEnd() > m_spinBox.prefix().size() &&
                              line.selectionStart() < behindNumber;
@@ -37,6 +40,9 @@ void StyledLineValidator::begin(const QString& line) const
     m_line = line;
     m_ambiguous = QString();
     m_hasFolded = false;
+    if (m_lineEdit && !m_lineEdit->isUndoAvailable() && !m_lineEdit->isRedoAvailable()) {
+        m_typed.clear();
+    }
 }
 
 QValidator::State StyledLineValidator::validate(QString& input, int& pos) const
@@ -59,10 +65,19 @@ bool StyledLineValidator::isShownValue(const QString& input) const
            input == m_spinBox.prefix() + m_spinBox.textFromValue(m_spinBox.value()) + m_spinBox.suffix();
 }
 
+/** How many characters the user has put in at once; also if some of them equal those that they replace. */
+int StyledLineValidator::lengthPutIn(const QString& input) const
+{
+    const int selected = m_selectionLine == m_line ? m_selectedLength : 0;
+    const auto longer = static_cast<int>(input.size() - m_line.size()) + selected;
+    return std::max(longer, static_cast<int>(putIn(m_line, input).size()));
+}
+
 QValidator::State StyledLineValidator::validateChange(QString& input, int& pos) const
 {
     const NumberStyle& style = m_style();
-    const auto added = static_cast<int>(putIn(m_line, input).size());
+    // What was typed before comes back when the user undoes or redoes a change.
+    const int added = m_typed.contains(input) ? 0 : lengthPutIn(input);
     QString number = input;
     int cursor = pos;
     if (number.startsWith(m_spinBox.prefix())) {
@@ -87,6 +102,9 @@ QValidator::State StyledLineValidator::validateChange(QString& input, int& pos) 
     input = line;
     pos = static_cast<int>(m_spinBox.prefix().size()) + qBound(0, cursor, static_cast<int>(number.size()));
     m_line = line;
+    if (added <= 1) {
+        m_typed.insert(line);
+    }
     m_hasFolded = folds;
     m_ambiguous = isAmbiguousNow ? line : QString();
     return isAmbiguousNow ? Intermediate : state;

@@ -5,6 +5,7 @@
 
 #include "ui/qt/controls/StyledNumber_p.h"
 
+#include <QSet>
 #include <QString>
 #include <QValidator>
 
@@ -50,6 +51,7 @@ public:
 
 private:
     State validateChange(QString& input, int& pos) const;
+    int lengthPutIn(const QString& input) const;
     bool isShownValue(const QString& input) const;
     bool foldsUnit(const QString& number, int added, const NumberStyle& style) const;
     bool translate(QString& number, const NumberStyle& style) const;
@@ -60,6 +62,10 @@ private:
     mutable QString m_line; ///< the text that was accepted last
     mutable QString m_ambiguous;
     mutable bool m_hasFolded = false; ///< whether the last change was a unit that was there already
+    mutable QSet<QString> m_typed;    ///< what the line has shown while the user typed since the value was set
+    const QLineEdit* m_lineEdit = nullptr;
+    QString m_selectionLine; ///< the line when something was selected
+    int m_selectedLength = 0;
     bool m_isNumberSelected = false;
     bool m_isSuffixSelected = false;
 };
