@@ -140,6 +140,60 @@ TEST_F(QScientificSpinBoxLocale, knowsAPastedNumberThatIsAlmostTheOneItReplaces)
     EXPECT_EQ(pasteOver(1.125, "1,125"), 1.125) << "as it is shown";
 }
 
+TEST_F(QScientificSpinBoxLocale, movesItsGroupsWhileDigitsAreTypedAndDeleted)
+{
+    const auto press = [this](Qt::Key key, int times = 1) {
+        for (int i = 0; i < times; ++i) {
+            QTest::keyClick(&spin, key);
+        }
+    };
+    spin.setDecimals(10);
+    spin.setGroupSeparatorShown(true);
+    spin.setPrefix("F = ");
+    spin.setSuffix(" N");
+    spin.setValue(1234567.5);
+    EXPECT_EQ(window.shown(), "F = 1.234.567,5 N");
+    spin.lineEdit()->setCursorPosition(9); // behind the 4
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(window.shown(), "F = 123.567,5 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 7);
+    QTest::keyClicks(&spin, "89");
+    EXPECT_EQ(window.shown(), "F = 12.389.567,5 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 10);
+    window.commit();
+    EXPECT_EQ(spin.value(), 12389567.5);
+    spin.lineEdit()->setCursorPosition(4);
+    press(Qt::Key_Delete, 2);
+    EXPECT_EQ(window.shown(), "F = 389.567,5 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 4);
+    QTest::keyClicks(&spin, "-7");
+    EXPECT_EQ(window.shown(), "F = -7.389.567,5 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 6);
+    spin.lineEdit()->setCursorPosition(16);
+    QTest::keyClicks(&spin, "4");
+    window.commit();
+    EXPECT_EQ(spin.value(), -7389567.54);
+
+    spin.setValue(1234567);
+    spin.lineEdit()->setCursorPosition(10);
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(window.shown(), "F = 1.234.567 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 9) << "before the separator";
+    press(Qt::Key_Delete);
+    EXPECT_EQ(window.shown(), "F = 1.234.567 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 10) << "behind it again";
+    press(Qt::Key_Delete);
+    EXPECT_EQ(window.shown(), "F = 123.467 N");
+    spin.setValue(-7389567.54);
+
+    window.type("1.2345");
+    EXPECT_EQ(window.shown(), "F = 1.2345 N");
+    EXPECT_FALSE(spin.hasAcceptableInput()) << "the point was typed, and may be meant as decimal point";
+    QTest::keyClicks(&spin, "6");
+    window.commit();
+    EXPECT_EQ(spin.value(), -7389567.54);
+}
+
 TEST_F(QScientificSpinBoxLocale, undoesAndRedoesWhatWasTyped)
 {
     const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
