@@ -172,6 +172,11 @@ TEST_F(ElidedTextCopyTest, policiesOfTheHostStay)
     EXPECT_EQ(openMenu(), nullptr);
     label.setCopyable(false);
     EXPECT_EQ(label.focusPolicy(), Qt::ClickFocus);
+    label.setFocusPolicy(Qt::NoFocus);
+    label.setCopyable(true);
+    label.setFocusPolicy(Qt::TabFocus);
+    label.setCopyable(false);
+    EXPECT_EQ(label.focusPolicy(), Qt::TabFocus) << "set while the label was copyable";
 }
 
 TEST_F(ElidedTextCopyTest, bothPropertiesAreForDesigner)

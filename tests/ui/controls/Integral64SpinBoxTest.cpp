@@ -211,6 +211,11 @@ TEST_F(Integral64SpinBoxField, showsTheSpecialValueTextAtTheMinimum)
 {
     spin.setRange(0, 10);
     spin.setSpecialValueText("none");
+    EXPECT_EQ(window.shown(), "none") << "at once, as in QSpinBox";
+    spin.setProperty("specialValueText", "");
+    EXPECT_EQ(window.shown(), "0");
+    spin.setProperty("specialValueText", "none");
+    EXPECT_EQ(window.shown(), "none");
     spin.setValue(3);
     spin.setValue(0);
     EXPECT_EQ(window.shown(), "none");
@@ -257,6 +262,22 @@ TEST_F(Integral64SpinBoxField, stepsOnlyWithinTheRangeAndNotIfItIsReadOnly)
     spin.setMaximum(3);
     EXPECT_EQ(spin.minimum(), 3);
     EXPECT_EQ(spin.value(), 3);
+}
+
+TEST_F(Integral64SpinBoxField, stepsFromTheTypedNumberAlsoIfTheValueIsAtItsLimit)
+{
+    spin.setRange(1, 10);
+    spin.setValue(10);
+    window.type("5");
+    QTest::keyClick(&spin, Qt::Key_Up);
+    EXPECT_EQ(spin.value(), 6);
+    spin.setValue(1);
+    window.type("8");
+    window.clickButton(QStyle::SC_SpinBoxDown);
+    EXPECT_EQ(spin.value(), 7);
+    window.type("10");
+    QTest::keyClick(&spin, Qt::Key_Up);
+    EXPECT_EQ(window.shown(), "10") << "the typed number is at the limit";
 }
 
 TEST_F(Integral64SpinBoxField, hasABaseThatDesignerOffersByName)

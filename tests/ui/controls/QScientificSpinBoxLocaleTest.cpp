@@ -122,6 +122,99 @@ TEST_F(QScientificSpinBoxLocale, refusesPastedNumbersWithTwoMeaningsUntilTheyAre
     EXPECT_EQ(spin.value(), 1.5);
 }
 
+TEST_F(QScientificSpinBoxLocale, knowsAPastedNumberThatIsAlmostTheOneItReplaces)
+{
+    const auto pasteOver = [this](double value, const QString& text) {
+        spin.setValue(value);
+        spin.selectAll();
+        QApplication::clipboard()->setText(text);
+        QTest::keyClick(&spin, Qt::Key_V, Qt::ControlModifier);
+        window.commit();
+        return spin.value();
+    };
+    EXPECT_EQ(pasteOver(1.5, "1.5"), 1.5) << "the one meaning";
+    EXPECT_EQ(pasteOver(2.5, "3.5"), 3.5);
+    EXPECT_EQ(pasteOver(1.125, "1.125"), 1.125) << "two meanings: not 1125";
+    EXPECT_EQ(pasteOver(1.125, "2.125"), 1.125);
+    EXPECT_EQ(pasteOver(1.125, "2,125"), 1.125);
+    EXPECT_EQ(pasteOver(1.125, "1,125"), 1.125) << "as it is shown";
+}
+
+TEST_F(QScientificSpinBoxLocale, movesItsGroupsWhileDigitsAreTypedAndDeleted)
+{
+    const auto press = [this](Qt::Key key, int times = 1) {
+        for (int i = 0; i < times; ++i) {
+            QTest::keyClick(&spin, key);
+        }
+    };
+    spin.setDecimals(10);
+    spin.setGroupSeparatorShown(true);
+    spin.setPrefix("F = ");
+    spin.setSuffix(" N");
+    spin.setValue(1234567.5);
+    EXPECT_EQ(window.shown(), "F = 1.234.567,5 N");
+    spin.lineEdit()->setCursorPosition(9); // behind the 4
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(window.shown(), "F = 123.567,5 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 7);
+    QTest::keyClicks(&spin, "89");
+    EXPECT_EQ(window.shown(), "F = 12.389.567,5 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 10);
+    window.commit();
+    EXPECT_EQ(spin.value(), 12389567.5);
+    spin.lineEdit()->setCursorPosition(4);
+    press(Qt::Key_Delete, 2);
+    EXPECT_EQ(window.shown(), "F = 389.567,5 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 4);
+    QTest::keyClicks(&spin, "-7");
+    EXPECT_EQ(window.shown(), "F = -7.389.567,5 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 6);
+    spin.lineEdit()->setCursorPosition(16);
+    QTest::keyClicks(&spin, "4");
+    window.commit();
+    EXPECT_EQ(spin.value(), -7389567.54);
+
+    spin.setValue(1234567);
+    spin.lineEdit()->setCursorPosition(10);
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(window.shown(), "F = 1.234.567 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 9) << "before the separator";
+    press(Qt::Key_Delete);
+    EXPECT_EQ(window.shown(), "F = 1.234.567 N");
+    EXPECT_EQ(spin.lineEdit()->cursorPosition(), 10) << "behind it again";
+    press(Qt::Key_Delete);
+    EXPECT_EQ(window.shown(), "F = 123.467 N");
+    spin.setValue(-7389567.54);
+
+    window.type("1.2345");
+    EXPECT_EQ(window.shown(), "F = 1.2345 N");
+    EXPECT_FALSE(spin.hasAcceptableInput()) << "the point was typed, and may be meant as decimal point";
+    QTest::keyClicks(&spin, "6");
+    window.commit();
+    EXPECT_EQ(spin.value(), -7389567.54);
+}
+
+TEST_F(QScientificSpinBoxLocale, undoesAndRedoesWhatWasTyped)
+{
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        QTest::keyClick(&spin, key, modifiers);
+    };
+    window.type("1,500");
+    window.type("7");
+    press(Qt::Key_Z);
+    EXPECT_EQ(window.shown(), "1,500");
+    EXPECT_TRUE(spin.hasAcceptableInput()) << "typed, not pasted";
+    while (window.shown() != "1") {
+        press(Qt::Key_Z);
+    }
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(window.shown(), "1,500");
+    EXPECT_TRUE(spin.hasAcceptableInput());
+    window.commit();
+    EXPECT_EQ(spin.value(), 1.5);
+    EXPECT_EQ(pasted("1,500"), 1) << "typing it once does not allow to paste it";
+}
+
 TEST_F(QScientificSpinBoxLocale, typesOnAfterTheLanguageHasChanged)
 {
     spin.setValue(5);

@@ -135,6 +135,29 @@ TEST_F(QScientificSpinBoxStepMode, takesTheTypedNumberFirst)
     }
 }
 
+TEST_F(QScientificSpinBoxStepMode, stepsFromTheTypedNumberAlsoIfTheValueIsAtItsLimit)
+{
+    spin.setRange(1, 100);
+    spin.setStepMode(QScientificSpinBox::Decade);
+    spin.setValue(1);
+    window.type("50");
+    press(Qt::Key_Down);
+    EXPECT_EQ(spin.value(), 5);
+    spin.setValue(100);
+    window.type("3");
+    window.clickButton(QStyle::SC_SpinBoxUp);
+    EXPECT_EQ(spin.value(), 30);
+    spin.setReadOnly(true);
+    press(Qt::Key_Up);
+    EXPECT_EQ(spin.value(), 30);
+    spin.setReadOnly(false);
+    spin.setStepMode(QScientificSpinBox::Linear);
+    spin.setValue(100);
+    window.type("50");
+    press(Qt::Key_Up);
+    EXPECT_EQ(window.shown(), "50") << "as Qt does it, which counts from value()";
+}
+
 TEST_F(QScientificSpinBoxStepMode, lastDigitStepsTheDigitBeforeTheCursor)
 {
     spin.setStepMode(QScientificSpinBox::LastDigit);

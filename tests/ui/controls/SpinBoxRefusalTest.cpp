@@ -4,6 +4,7 @@
 #include "SpinBoxFixture.h"
 
 #include <QAccessible>
+#include <QScopeGuard>
 
 #include <cmath>
 #include <memory>
@@ -78,6 +79,56 @@ TYPED_TEST(SpinBoxRefusal, endsWhenTheProgramReplacesTheText)
     this->window.type("3");
     QTest::keyClick(&this->spin, Qt::Key_Up);
     EXPECT_TRUE(QTest::qWaitFor([this] { return this->colour() == this->ordinary; }));
+}
+
+TYPED_TEST(SpinBoxRefusal, endsAndBeginsWhenTheProgramChangesTheRange)
+{
+    const auto flash =
+        qScopeGuard([before = QApplication::cursorFlashTime()] { QApplication::setCursorFlashTime(before); });
+    QApplication::setCursorFlashTime(0);           // nothing is painted by itself
+    this->spin.setProperty("ownValidation", true); // otherwise the shared result stays, too
+    this->window.type("3");
+    EXPECT_NE(this->colour(), this->ordinary);
+    this->spin.setRange(1, 1000);
+    EXPECT_FALSE(this->spin.isTextRefused());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return this->colour() == this->ordinary; }));
+    this->spin.setRange(5, 1000);
+    EXPECT_TRUE(this->spin.isTextRefused());
+    this->spin.lineEdit()->update();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return this->colour() != this->ordinary; }));
+}
+
+TYPED_TEST(SpinBoxRefusal, leavesAPaletteToTheHostThatChangesMeanwhileOrLater)
+{
+    const auto paint = [this](const QColor& text, const QColor& base) {
+        QPalette palette;
+        palette.setColor(QPalette::Text, text);
+        palette.setColor(QPalette::Base, base);
+        this->spin.setPalette(palette);
+    };
+    const auto base = [this] { return this->spin.lineEdit()->palette().color(QPalette::Base); };
+    paint(Qt::blue, QColor(0xff, 0xff, 0xe0));
+    this->window.type("3");
+    EXPECT_NE(this->colour(), QColor(Qt::blue));
+    EXPECT_EQ(base(), QColor(0xff, 0xff, 0xe0));
+    paint(Qt::darkBlue, QColor(0xe0, 0xff, 0xff));
+    EXPECT_NE(this->colour(), QColor(Qt::darkBlue)) << "still refused";
+    EXPECT_EQ(base(), QColor(0xe0, 0xff, 0xff));
+    this->window.commit();
+    EXPECT_EQ(this->colour(), QColor(Qt::darkBlue));
+    paint(Qt::darkGreen, Qt::white);
+    EXPECT_EQ(this->colour(), QColor(Qt::darkGreen));
+    EXPECT_EQ(base(), QColor(Qt::white));
+}
+
+TYPED_TEST(SpinBoxRefusal, leavesADescriptionToTheHostThatChangesMeanwhile)
+{
+    this->spin.setAccessibleDescription("From 5 to 1000");
+    this->window.type("3");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return this->spin.accessibleDescription() != "From 5 to 1000"; }));
+    this->spin.setAccessibleDescription("Of the motor");
+    QTest::keyClicks(&this->spin, "0");
+    EXPECT_EQ(this->spin.accessibleDescription(), "Of the motor");
 }
 
 TYPED_TEST(SpinBoxRefusal, endsWhenItIsSwitchedOff)

@@ -316,6 +316,7 @@ TEST_F(TableCopyOptionsTest, theContextMenuGoesWhenItIsSwitchedOffAndThePolicyCo
 
 TEST_F(TableCopyOptionsTest, aHandlerThatIsDeletedTakesItsMenuWithIt)
 {
+    view.setContextMenuPolicy(Qt::ActionsContextMenu);
     handler->setContextMenu(true);
     ASSERT_NE(openMenu(0, 0), nullptr);
     delete handler;
@@ -325,6 +326,7 @@ TEST_F(TableCopyOptionsTest, aHandlerThatIsDeletedTakesItsMenuWithIt)
         QTest::keyClick(menu, Qt::Key_Return);
     }
     closeMenu();
+    EXPECT_EQ(view.contextMenuPolicy(), Qt::ActionsContextMenu);
     EXPECT_EQ(openMenu(0, 0), nullptr);
 }
 

@@ -8,11 +8,76 @@
 #include <QTableWidget>
 #include <QUndoStack>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
 
 using TablePasteModelTest = morvane::test::TablePasteFixture;
+
+/** Texts in a table whose columns can be moved, and that is reset for each change if wanted. */
+class OwnTable : public QAbstractTableModel
+{
+public:
+    explicit OwnTable(const QList<QStringList>& texts) : m_rows(texts) {}
+
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : m_rows.size(); }
+    int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : m_rows[0].size(); }
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        return role == Qt::DisplayRole || role == Qt::EditRole ? m_rows[index.row()][index.column()] : QVariant();
+    }
+    Qt::ItemFlags flags(const QModelIndex& index) const override
+    {
+        return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+    }
+    bool setData(const QModelIndex& index, const QVariant& value, int /*role*/) override
+    {
+        if (value.toString() == refused) {
+            return false;
+        }
+        m_rows[index.row()][index.column()] = value.toString();
+        reload();
+        return true;
+    }
+    bool insertRows(int row, int count, const QModelIndex& /*parent*/) override
+    {
+        for (int i = 0; i < count; ++i) {
+            m_rows.insert(row, QStringList{"", ""});
+        }
+        reload();
+        return true;
+    }
+    bool removeRows(int row, int count, const QModelIndex& /*parent*/) override
+    {
+        m_rows.erase(m_rows.begin() + row, m_rows.begin() + row + count);
+        reload();
+        return true;
+    }
+    bool moveColumns(const QModelIndex& from, int first, int count, const QModelIndex& target, int destination) override
+    {
+        beginMoveColumns(from, first, first + count - 1, target, destination);
+        QStringList& row = m_rows[0];
+        std::rotate(row.begin() + std::min(first, destination),
+            row.begin() + (destination < first ? first : first + count),
+            row.begin() + std::max(first + count, destination));
+        endMoveColumns();
+        return true;
+    }
+    void reload()
+    {
+        if (resets) {
+            beginResetModel();
+            endResetModel();
+        }
+    }
+
+    QString refused = "never";
+    bool resets = false;
+
+private:
+    QList<QStringList> m_rows;
+};
 
 const char* const untouched = "00 01 02/10 11 12/20 21 22/30 31 32";
 
@@ -190,6 +255,83 @@ TEST_F(TablePasteModelTest, aTableWidgetThatSortsItselfGetsEachCellInItsRow)
     EXPECT_EQ(texts(*table.model()), "7 c/8 b/9 a");
     stack.undo();
     EXPECT_EQ(texts(*table.model()), "0 old0/1 old1/2 old2");
+}
+
+TEST_F(TablePasteModelTest, theStepFollowsColumnsAndLeavesOutThoseThatWereRemoved)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    click(0, 0);
+    pressPaste("a\tb\nc\td");
+    model.insertColumn(0);
+    model.insertColumn(2);
+    stack.undo();
+    EXPECT_EQ(texts(), " 00  01 02/ 10  11 12/ 20  21 22/ 30  31 32");
+    stack.redo();
+    EXPECT_EQ(texts(), " a  b 02/ c  d 12/ 20  21 22/ 30  31 32");
+    model.removeColumns(0, 2);
+    EXPECT_EQ(texts(), " b 02/ d 12/ 21 22/ 31 32");
+    stack.undo();
+    EXPECT_EQ(texts(), " 01 02/ 11 12/ 21 22/ 31 32") << "the column that is left";
+    model.removeColumns(0, 3);
+    stack.redo();
+    stack.undo();
+    EXPECT_EQ(model.columnCount(), 0);
+}
+
+TEST_F(TablePasteModelTest, theStepFollowsColumnsThatTheModelMoves)
+{
+    for (int first = 0; first < 5; ++first) {
+        for (int count = 1; count < 3 && first + count <= 5; ++count) {
+            for (int to = 0; to <= 5; ++to) {
+                if (to >= first && to <= first + count) {
+                    continue;
+                }
+                OwnTable moving({{"a", "b", "c", "d", "e"}});
+                OwnTable expected({{"a", "b", "c", "d", "e"}});
+                expected.moveColumns(QModelIndex(), first, count, QModelIndex(), to);
+                view.setModel(&moving);
+                QUndoStack stack;
+                handler->setUndoStack(&stack);
+                view.setCurrentIndex(moving.index(0, 1));
+                EXPECT_TRUE(handler->paste("x\ty\tz"));
+                EXPECT_TRUE(moving.moveColumns(QModelIndex(), first, count, QModelIndex(), to));
+                stack.undo();
+                EXPECT_EQ(texts(moving), texts(expected)) << first << ' ' << count << ' ' << to;
+                view.setModel(&model);
+            }
+        }
+    }
+}
+
+TEST_F(TablePasteModelTest, aModelThatResetsItselfForEachChangeGetsTheWholeBlockOrNothing)
+{
+    OwnTable resetting({{"00", "01"}, {"10", "11"}});
+    resetting.resets = true;
+    view.setModel(&resetting);
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    handler->setAddingRows(true);
+    view.setCurrentIndex(resetting.index(1, 0));
+    EXPECT_TRUE(handler->paste("a\tb\nc\td"));
+    EXPECT_EQ(texts(resetting), "00 01/a b/c d");
+    stack.undo();
+    EXPECT_EQ(texts(resetting), "00 01/10 11");
+    stack.redo();
+    EXPECT_EQ(texts(resetting), "00 01/a b/c d");
+    stack.undo();
+    EXPECT_EQ(texts(resetting), "00 01/10 11");
+    resetting.refused = "d";
+    view.setCurrentIndex(resetting.index(0, 0));
+    EXPECT_FALSE(handler->paste("a\tb\nc\td"));
+    EXPECT_EQ(refusals(), "1,1:model:d");
+    EXPECT_EQ(texts(resetting), "00 01/10 11");
+    view.setCurrentIndex(resetting.index(0, 0));
+    EXPECT_TRUE(handler->paste("e"));
+    resetting.reload();
+    stack.undo();
+    EXPECT_EQ(texts(resetting), "e 01/10 11") << "after any other reset, nobody knows what the rows are";
+    view.setModel(nullptr);
 }
 
 TEST_F(TablePasteModelTest, aModelThatIsResetMeanwhileRefusesTheRest)

@@ -31,7 +31,8 @@ ElidedTextCopyHandler* ElidedTextCopyHandler::find(const ElidedTextLabel& label)
 
 void ElidedTextCopyHandler::remove()
 {
-    if (m_setsFocusPolicy) {
+    const bool isOurs = m_label.focusPolicy() == Qt::StrongFocus; // the host may have set another one
+    if (m_setsFocusPolicy && isOurs) {
         m_label.setFocusPolicy(Qt::NoFocus);
         m_label.clearFocus();
     }

@@ -170,6 +170,7 @@ void Integral64SpinBoxPrivate::trackTyping()
     if (q->keyboardTracking() && q->validate(text, pos) == QValidator::Acceptable) {
         setValue(q->valueFromText(text), true);
     }
+    q->update(); // the typed number decides which of the buttons are enabled
 }
 
 void Integral64SpinBoxPrivate::selectNumber()
@@ -282,6 +283,12 @@ QString Integral64SpinBox::suffix() const
 void Integral64SpinBox::setSuffix(const QString& suffix)
 {
     m_private->m_suffix = suffix;
+    m_private->applyStyle();
+}
+
+void Integral64SpinBox::setSpecialValueText(const QString& text)
+{
+    QAbstractSpinBox::setSpecialValueText(text);
     m_private->applyStyle();
 }
 
@@ -400,9 +407,10 @@ QAbstractSpinBox::StepEnabled Integral64SpinBox::stepEnabled() const
     if (isReadOnly()) {
         return StepNone;
     }
+    const qint64 from = enteredValue();
     StepEnabled enabled = StepNone;
-    enabled.setFlag(StepUpEnabled, wrapping() || m_private->m_value < m_private->m_maximum);
-    enabled.setFlag(StepDownEnabled, wrapping() || m_private->m_value > m_private->m_minimum);
+    enabled.setFlag(StepUpEnabled, wrapping() || from < m_private->m_maximum);
+    enabled.setFlag(StepDownEnabled, wrapping() || from > m_private->m_minimum);
     return enabled;
 }
 

@@ -53,6 +53,8 @@ class MORVANE_UI_EXPORT Integral64SpinBox : public QAbstractSpinBox
     Q_PROPERTY(QString prefix READ prefix WRITE setPrefix)
     /** The text behind the number; empty initially. */
     Q_PROPERTY(QString suffix READ suffix WRITE setSuffix)
+    /** As in QSpinBox. */
+    Q_PROPERTY(QString specialValueText READ specialValueText WRITE setSpecialValueText)
     /** The text without prefix, suffix and white space around the number. */
     Q_PROPERTY(QString cleanText READ cleanText)
     /** The base of the digits; Decimal initially. */
@@ -108,6 +110,11 @@ public:
     QString suffix() const;
     /** Sets the text behind the number, and updates the line. */
     void setSuffix(const QString& suffix);
+    /**
+     * Sets the text that is shown instead of the minimum, and updates the line; empty for none. Hides
+     * QAbstractSpinBox::setSpecialValueText(), which does not update it here.
+     */
+    void setSpecialValueText(const QString& text);
     /** Returns the text without prefix, suffix and white space around the number. */
     QString cleanText() const;
 
@@ -180,7 +187,10 @@ Q_SIGNALS:
     void textChanged(const QString& text);
 
 protected:
-    /** A direction is enabled until its limit is reached, with wrapping() always; if read-only, none is. */
+    /**
+     * A direction is enabled until the typed number, or else the value, is at its limit, with wrapping() always; if
+     * read-only, none is.
+     */
     StepEnabled stepEnabled() const override;
     /** Drops the remaining part of a notch when the focus is lost or the pointer leaves. */
     bool event(QEvent* event) override;

@@ -283,6 +283,8 @@ QScientificSpinBox::QScientificSpinBox(QWidget* parent)
     setRange(std::numeric_limits<double>::lowest(), std::numeric_limits<double>::max());
     setKeyboardTracking(false);
     m_private->m_typed.follow(*this, *lineEdit(), QOverload<double>::of(&QDoubleSpinBox::valueChanged));
+    // The typed number decides which of the buttons are enabled.
+    connect(lineEdit(), &QLineEdit::textEdited, this, QOverload<>::of(&QWidget::update));
 }
 
 QScientificSpinBox::~QScientificSpinBox() = default;
@@ -454,6 +456,19 @@ void QScientificSpinBox::stepBy(int steps)
         setValue(value() + singleStep() * steps);
     }
     selectAll();
+}
+
+QAbstractSpinBox::StepEnabled QScientificSpinBox::stepEnabled() const
+{
+    const bool beginsAtTypedNumber = m_private->m_stepMode != Linear && m_private->m_typed.isShownBy(*lineEdit());
+    if (!beginsAtTypedNumber || isReadOnly() || wrapping()) {
+        return QDoubleSpinBox::stepEnabled();
+    }
+    const double from = enteredValue();
+    StepEnabled enabled = StepNone;
+    enabled.setFlag(StepUpEnabled, from < maximum());
+    enabled.setFlag(StepDownEnabled, from > minimum());
+    return enabled;
 }
 
 bool QScientificSpinBox::event(QEvent* event)

@@ -210,7 +210,8 @@ public:
 
     /**
      * Sets the language in which numbers are written and read, and updates the text: with its decimal point, its signs
-     * and its digits, and in groups if groupSeparatorShown is true. Numbers are also read with the digits 0 to 9, with
+     * and its digits, and in groups if groupSeparatorShown is true. While digits are typed or deleted in such a number,
+     * the separators move; those that the user has typed stay. Numbers are also read with the digits 0 to 9, with
      * `-` and with U+2212. The letter of the exponent is `E` in all languages.
      *
      * If several characters are put in at once, for instance pasted, they may come from another language. A number is
@@ -307,6 +308,11 @@ public:
     boost::signals2::signal<void()> signalDecrement; ///< a step down, or by 0, that the host handles
 
 protected:
+    /**
+     * As in QDoubleSpinBox. With another stepMode than Linear, a typed number counts instead of value(), because the
+     * step begins there.
+     */
+    StepEnabled stepEnabled() const override;
     /** Drops the remaining part of a notch when the focus is lost or the pointer leaves. */
     bool event(QEvent* event) override;
     /** Steps by whole notches; adds up parts of notches. */

@@ -15,6 +15,7 @@ namespace morvane::ui {
 namespace {
 
 constexpr int announcementDelay = 700; // milliseconds
+constexpr int lookInterval = 200;      // milliseconds
 
 /** A red with a contrast of at least 4.5 to any usual background of its kind. */
 QColor refusalColour(const QColor& background)
@@ -38,6 +39,13 @@ RefusalMark::RefusalMark(QAbstractSpinBox* spinBox, QLineEdit* line, std::functi
     m_announcement.setSingleShot(true);
     m_announcement.setInterval(announcementDelay);
     connect(&m_announcement, &QTimer::timeout, this, &RefusalMark::announce);
+    // Nothing tells that the program has changed the range.
+    m_look.setInterval(lookInterval);
+    connect(&m_look, &QTimer::timeout, this, [this] {
+        if (!isRefused()) {
+            update();
+        }
+    });
 }
 
 RefusalMark::~RefusalMark() = default;
@@ -76,7 +84,7 @@ void RefusalMark::update()
 // A spin box blocks the signals of its line while it sets the text. The line is painted anyway.
 bool RefusalMark::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Paint && m_line.text() != m_checkedText) {
+    if (event->type() == QEvent::Paint && (m_line.text() != m_checkedText || isRefused() != m_isMarked)) {
         QMetaObject::invokeMethod(this, &RefusalMark::update, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
@@ -86,11 +94,14 @@ void RefusalMark::setMarked(bool marked)
 {
     m_isMarked = marked;
     if (marked) {
-        m_palette = m_line.palette();
+        // What the line inherits is not kept, because it may change meanwhile.
+        m_palette = m_line.testAttribute(Qt::WA_SetPalette) ? m_line.palette() : QPalette();
         QPalette palette = m_palette;
-        palette.setColor(QPalette::Text, refusalColour(palette.color(QPalette::Base)));
+        palette.setColor(QPalette::Text, refusalColour(m_line.palette().color(QPalette::Base)));
         m_line.setPalette(palette);
+        m_look.start();
     } else {
+        m_look.stop();
         m_line.setPalette(m_palette);
         endAnnouncement();
     }
@@ -100,17 +111,18 @@ void RefusalMark::setMarked(bool marked)
 
 void RefusalMark::announce()
 {
-    m_isAnnounced = true;
     m_description = m_spinBox.accessibleDescription();
     const QString refusal = tr("The text is not an acceptable number.");
     // Screen readers are told of the change.
-    m_spinBox.setAccessibleDescription(m_description.isEmpty() ? refusal : refusal + QLatin1Char(' ') + m_description);
+    m_announced = m_description.isEmpty() ? refusal : refusal + QLatin1Char(' ') + m_description;
+    m_spinBox.setAccessibleDescription(m_announced);
 }
 
 void RefusalMark::endAnnouncement()
 {
     m_announcement.stop();
-    if (std::exchange(m_isAnnounced, false)) {
+    const QString announced = std::exchange(m_announced, QString());
+    if (!announced.isNull() && m_spinBox.accessibleDescription() == announced) { // not if the host has set another one
         m_spinBox.setAccessibleDescription(m_description);
     }
 }

@@ -41,7 +41,7 @@ public:
     /** Whether the mark is enabled and the text is not acceptable. */
     bool isRefused() const { return m_isEnabled && !m_isAcceptable(); }
 
-    /** Compares the mark with the text. Called by itself when the user or the program changes the text. */
+    /** Compares the mark with the text. Called by itself when the text changes, or what is acceptable. */
     void update();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -57,10 +57,11 @@ private:
     bool m_isEnabled = false;
     bool m_isMarked = false;
     QString m_checkedText;
-    QPalette m_palette;    ///< of the line, without the mark
+    QPalette m_palette;    ///< what the host has set for the line
+    QTimer m_look;         ///< runs while the mark is shown
     QTimer m_announcement; ///< runs until the description changes
     QString m_description; ///< of the spin box, without the announcement
-    bool m_isAnnounced = false;
+    QString m_announced;   ///< the description with the announcement; null if there is none
 };
 
 } // namespace morvane::ui

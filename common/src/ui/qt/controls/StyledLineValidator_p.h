@@ -5,6 +5,7 @@
 
 #include "ui/qt/controls/StyledNumber_p.h"
 
+#include <QSet>
 #include <QString>
 #include <QValidator>
 
@@ -20,7 +21,8 @@ namespace morvane::ui {
  *
  * Adds prefix and suffix of the spin box where they are missing. A typed unit replaces the one that is there already. A
  * text of several characters that is put in at once is read as readForeignNumber() does, if the spin box has a
- * language, and is rewritten with the signs of that language.
+ * language, and is rewritten with the signs of that language. When digits are typed or deleted in a number that the
+ * spin box has written in groups, the separators move.
  */
 class StyledLineValidator : public QValidator
 {
@@ -50,6 +52,8 @@ public:
 
 private:
     State validateChange(QString& input, int& pos) const;
+    int lengthPutIn(const QString& input) const;
+    bool moveGroups(QString& number, int& cursor, const QString& putIn, const NumberStyle& style) const;
     bool isShownValue(const QString& input) const;
     bool foldsUnit(const QString& number, int added, const NumberStyle& style) const;
     bool translate(QString& number, const NumberStyle& style) const;
@@ -59,7 +63,13 @@ private:
     bool m_takesForeign = false;
     mutable QString m_line; ///< the text that was accepted last
     mutable QString m_ambiguous;
-    mutable bool m_hasFolded = false; ///< whether the last change was a unit that was there already
+    mutable bool m_hasOwnGroups = false; ///< whether the spin box has put the separators in the line, not the user
+    mutable bool m_hasFolded = false;    ///< whether the last change was a unit that was there already
+    mutable QSet<QString> m_typed;       ///< what the line has shown while the user typed since the value was set
+    const QLineEdit* m_lineEdit = nullptr;
+    QString m_selectionLine; ///< the line when something was selected
+    int m_selectedLength = 0;
+    int m_cursor = 0; ///< before the change
     bool m_isNumberSelected = false;
     bool m_isSuffixSelected = false;
 };

@@ -9,6 +9,7 @@
 #include "ui/qt/controls/StyledNumberScan_p.h"
 
 #include <cmath>
+#include <vector>
 
 namespace morvane::ui {
 
@@ -58,6 +59,40 @@ QString withPrefix(const Decimal& number, const NumberStyle& style)
     return symbol.isEmpty() ? text + blank : text + QLatin1Char(' ') + symbol;
 }
 
+/** The integer part of a text: its digits without separators. */
+struct IntegerPart
+{
+    int begin = 0;
+    int end = 0;
+    int digitsBehindCursor = 0;
+    std::vector<QString> digits; ///< of one or two code units each
+};
+
+IntegerPart integerPart(const QString& text, int cursor, const NumberSigns& signs)
+{
+    int units = 1;
+    const auto size = static_cast<int>(text.size());
+    const auto isDigit = [&](int at) { return at < size && digitAt(text, at, signs, &units) >= 0; };
+    const auto isSeparator = [&](int at) { return signs.groupSeparators.contains(text.at(at)) && isDigit(at + 1); };
+    IntegerPart part;
+    while (part.begin < size && !isDigit(part.begin) && !isSeparator(part.begin)) {
+        ++part.begin;
+    }
+    part.end = part.begin;
+    while (part.end < size) {
+        if (isDigit(part.end)) {
+            part.digits.push_back(text.mid(part.end, units));
+            part.digitsBehindCursor += part.end >= cursor ? 1 : 0;
+            part.end += units;
+        } else if (isSeparator(part.end)) {
+            ++part.end;
+        } else {
+            break;
+        }
+    }
+    return part;
+}
+
 } // namespace
 
 QString styledNumber(double number, const NumberStyle& style)
@@ -103,6 +138,27 @@ QString rewritten(const StyledReading& reading, const NumberStyle& style)
 {
     const QString number = withSigns(reading.plain, style.signs, false);
     return reading.symbol.isEmpty() ? number : number + QLatin1Char(' ') + reading.symbol;
+}
+
+QString withGroupsMoved(const QString& text, int& cursor, const NumberStyle& style)
+{
+    const IntegerPart part = integerPart(text, cursor, style.signs);
+    QString result = text.left(part.begin);
+    int newCursor = cursor;
+    auto rest = static_cast<int>(part.digits.size()); // digits
+    for (const QString& digit : part.digits) {
+        newCursor = rest == part.digitsBehindCursor ? static_cast<int>(result.size()) : newCursor;
+        if (rest % 3 == 0 && result.size() > part.begin) {
+            result.append(style.signs.groupSeparators.at(0));
+        }
+        result.append(digit);
+        --rest;
+    }
+    if (part.digitsBehindCursor == 0) {
+        newCursor = cursor + static_cast<int>(result.size()) - part.end;
+    }
+    cursor = cursor < part.begin ? cursor : newCursor;
+    return result + text.mid(part.end);
 }
 
 std::optional<int> decimalPlaceAt(int cursor, const QString& text, const NumberStyle& style)

@@ -72,6 +72,9 @@ ForeignReading readForeignNumber(const QString& text, const NumberStyle& style);
 /** Writes the number that was read with the style's own signs, with its prefix but without unit. */
 QString rewritten(const StyledReading& reading, const NumberStyle& style);
 
+/** Puts the separators of the integer part where they belong. The cursor remains between the same digits. */
+QString withGroupsMoved(const QString& text, int& cursor, const NumberStyle& style);
+
 /**
  * The decimal place of the digit before `cursor`: 0 for ones, -3 for thousandths; counts the exponent and the prefix,
  * too. If no digit is before the cursor, that of the first digit; behind the digits, that of the last one. None if the

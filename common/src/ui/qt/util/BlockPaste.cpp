@@ -44,6 +44,7 @@ BlockPaste::BlockPaste(const QModelIndex& first, CellBlock block, Rules rules)
 
 bool BlockPaste::paste()
 {
+    const BlockTarget::ResetGuard guard(m_target);
     DelayedWaitCursor waitCursor;
     check(waitCursor);
     if (!m_refusals.isEmpty()) {
@@ -67,6 +68,7 @@ bool BlockPaste::paste()
 
 void BlockPaste::takeBack()
 {
+    const BlockTarget::ResetGuard guard(m_target);
     DelayedWaitCursor waitCursor;
     std::vector<Place> skipped = std::exchange(m_unchanged, {});
     // Backwards, because a value may depend on one that was written before it.
@@ -88,6 +90,7 @@ void BlockPaste::takeBack()
 
 void BlockPaste::pasteAgain()
 {
+    const BlockTarget::ResetGuard guard(m_target);
     DelayedWaitCursor waitCursor;
     m_target.addRows(m_block.size());
     write(waitCursor);

@@ -16,7 +16,13 @@ TableCopyExtras::TableCopyExtras(TableCopyHandler& handler, QTableView& view)
 {
 }
 
-TableCopyExtras::~TableCopyExtras() = default;
+TableCopyExtras::~TableCopyExtras()
+{
+    // The view may be only a QObject by now.
+    if (qobject_cast<QTableView*>(m_handler.parent())) {
+        setContextMenu(false);
+    }
+}
 
 TableCopyExtras* TableCopyExtras::find(const TableCopyHandler& handler)
 {

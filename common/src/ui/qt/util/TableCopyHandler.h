@@ -123,7 +123,8 @@ public:
     bool hasContextMenu() const;
     /**
      * True: the view has a context menu with "Copy", "Copy with Headers" and the actions of the view
-     * (`QWidget::actions()`). Sets the context menu policy of the view; false sets the previous one again.
+     * (`QWidget::actions()`). Sets the context menu policy of the view; false, and the end of the handler, set the
+     * previous one again.
      */
     void setContextMenu(bool on);
 

@@ -40,8 +40,10 @@ namespace morvane::ui {
  * or filter rows away as soon as they change. So `setData()` of the proxy is not called. New rows are added at the end
  * of the source model.
  * - Other roles than Qt::EditRole do not change.
- * - With an undo stack, a paste is one step. The step uses the model until the stack deletes it. After the model is
- *   destroyed it does nothing, and it leaves out rows that were removed since.
+ * - With an undo stack, a paste is one step. The step uses the model until the stack deletes it. It follows rows and
+ *   columns that were moved, and leaves out those that were removed since. After the model is reset or destroyed it
+ *   does nothing.
+ * - The model may reset itself in `setData()`, if it keeps the number and the order of its rows.
  *
  * Like CopyHandlerAbstract, the handler filters the key presses that reach the view, and it is a child of the view. Key
  * presses in an open cell editor go to the editor. A handler may be deleted earlier, also in a slot of its signals. GUI
