@@ -7,9 +7,10 @@
 
 namespace morvane::test {
 
-void ShellFaults::start(int failing)
+void ShellFaults::start(const std::string& failing, int before)
 {
     m_failing = failing;
+    m_before = before;
     m_calls.clear();
     m_failed.clear();
 }
@@ -17,7 +18,7 @@ void ShellFaults::start(int failing)
 bool ShellFaults::isHit(const std::string& name)
 {
     m_calls.push_back(name);
-    if (static_cast<int>(m_calls.size()) - 1 != m_failing) {
+    if (name != m_failing || m_before-- != 0) {
         return false;
     }
     m_failed = name;

@@ -15,8 +15,11 @@ namespace morvane::test {
 class ShellFaults
 {
 public:
-    /** Makes the call with this number fail, counted from 0; -1 for none. Forgets the calls so far. */
-    void start(int failing);
+    /**
+     * Forgets the calls so far, and makes one call fail: that of this name before which there were @p before others of
+     * the same name. An empty name for none.
+     */
+    void start(const std::string& failing, int before);
     const std::vector<std::string>& calls() const { return m_calls; }
     /** The name of the call that has failed; empty when none has. */
     const std::string& failed() const { return m_failed; }
@@ -31,7 +34,8 @@ public:
 private:
     std::vector<std::string> m_calls;
     std::string m_failed;
-    int m_failing = -1;
+    std::string m_failing;
+    int m_before = 0;
 };
 
 /**

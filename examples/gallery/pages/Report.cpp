@@ -27,37 +27,44 @@ Report Report::example(const QString& title)
                        {QStringLiteral("F1"), QStringLiteral("Flow"), QStringLiteral("4.2 m³/h")}}};
 }
 
-QByteArray Report::toText() const
+QString Report::toText() const
 {
     QString text = title + QStringLiteral("\n\n");
     for (const Reading& reading : readings) {
         text += QStringLiteral("%1  %2  %3\n").arg(reading.sensor, reading.quantity.leftJustified(20), reading.value);
     }
-    return text.toUtf8();
+    return comment.isEmpty() ? text : text + QStringLiteral("\nComment: %1\n").arg(comment);
 }
 
-QByteArray Report::toCsv() const
+QString Report::toCsv() const
 {
     QString text = QStringLiteral("\"Sensor\",\"Quantity\",\"Reading\"\n");
     for (const Reading& reading : readings) {
         text += csvField(reading.sensor) + QLatin1Char(',') + csvField(reading.quantity) + QLatin1Char(',') +
                 csvField(reading.value) + QLatin1Char('\n');
     }
-    return text.toUtf8();
+    if (!comment.isEmpty()) {
+        text += QStringLiteral("\"Comment\",%1,\n").arg(csvField(comment));
+    }
+    return text;
 }
 
-QByteArray Report::toHtml() const
+QString Report::toHtml() const
 {
     const QString escapedTitle = title.toHtmlEscaped();
-    QString text = QStringLiteral("<!DOCTYPE html>\n<html>\n<head><meta charset=\"utf-8\"><title>%1</title></head>\n"
+    QString text = QStringLiteral("<!DOCTYPE html>\n<html>\n<head><meta charset=\"%2\"><title>%1</title></head>\n"
                                   "<body>\n<h1>%1</h1>\n<table>\n")
-                       .arg(escapedTitle);
+                       .arg(escapedTitle, encoding);
     for (const Reading& reading : readings) {
         text += QStringLiteral("<tr>") + cell(reading.sensor) + cell(reading.quantity) + cell(reading.value) +
                 QStringLiteral("</tr>\n");
     }
-    text += QStringLiteral("</table>\n</body>\n</html>\n");
-    return text.toUtf8();
+    text += QStringLiteral("</table>\n");
+    if (!comment.isEmpty()) {
+        text += QStringLiteral("<p>%1</p>\n").arg(comment.toHtmlEscaped());
+    }
+    text += QStringLiteral("</body>\n</html>\n");
+    return text;
 }
 
 const std::vector<ReportWriter>& reportWriters()

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <string>
@@ -23,13 +22,16 @@ struct Report
 
     QString title;
     std::vector<Reading> readings;
+    QString comment{};
+    /** A name of IANA, as it stands in a web page. */
+    QString encoding = QStringLiteral("UTF-8");
 
     /** Returns readings of a small plant. */
     static Report example(const QString& title);
 
-    QByteArray toText() const;
-    QByteArray toCsv() const;
-    QByteArray toHtml() const;
+    QString toText() const;
+    QString toCsv() const;
+    QString toHtml() const;
 };
 
 /** One file format of a report. */
@@ -37,7 +39,7 @@ struct ReportWriter
 {
     QString name;
     std::string filter; ///< name filter of the files
-    QByteArray (Report::*write)() const;
+    QString (Report::*write)() const;
 };
 
 /** Text, CSV and HTML. */

@@ -24,11 +24,14 @@ protected:
     void configure(ExtendedFileDialog& dialog) override;
 
 private:
+    void forgetFolder();
     std::vector<TourStep> dialogSteps(const TourWorkspace& workspace, bool native);
     std::vector<TourStep> questionSteps(const TourWorkspace& workspace);
     std::vector<TourStep> oneCallSteps();
+    std::vector<TourStep> memorySteps();
 
     QCheckBox* m_ask;
+    QCheckBox* m_remember;
 };
 
 } // namespace gallery

@@ -58,6 +58,7 @@ std::vector<TourStep> SavePage::dialogSteps(const TourWorkspace& workspace, bool
     }
     append(steps, questionSteps(workspace));
     append(steps, oneCallSteps());
+    append(steps, memorySteps());
     return namedAfterKind(std::move(steps), native);
 }
 
@@ -93,6 +94,31 @@ std::vector<TourStep> SavePage::oneCallSteps()
     steps.push_back(chosenStep(
         QStringLiteral("one-call-chosen"), [] { tour::enterName(QStringLiteral("new.dat")); },
         QStringLiteral("new.dat=does not exist"), firstType));
+    return steps;
+}
+
+std::vector<TourStep> SavePage::memorySteps()
+{
+    const auto isInArchive = [] {
+        const OpenFileDialog open;
+        return expect(
+            open && open.dialog->directory().dirName() == QStringLiteral("archive"), "the dialog is in another folder");
+    };
+    std::vector<TourStep> steps;
+    steps.push_back({QStringLiteral("remember"), [this] { tour::click(*m_remember); },
+        [this] { return expect(m_remember->isChecked(), "the option is not set"); }});
+    steps.push_back(openStep(QStringLiteral("dialog-that-remembers"), entriesBeforeSaving));
+    steps.push_back(
+        {QStringLiteral("another-folder"), [] { tour::enterName(QStringLiteral("archive")); }, isInArchive});
+    steps.push_back(chosenStep(
+        QStringLiteral("chosen-elsewhere"), [] { tour::enterName(QStringLiteral("new.dat")); },
+        QStringLiteral("new.dat=does not exist"), firstType));
+    steps.push_back({QStringLiteral("folder-is-back"), [this] { tour::click(openButton()); }, isInArchive});
+    steps.push_back(tour::cancelStep(QStringLiteral("remembered-cancelled")));
+    steps.push_back({QStringLiteral("remember-no-more"), [this] { tour::click(*m_remember); },
+        [this] { return expect(!m_remember->isChecked(), "the option is still set"); }});
+    steps.push_back(openStep(QStringLiteral("start-folder-again"), entriesBeforeSaving));
+    steps.push_back(tour::cancelStep(QStringLiteral("start-folder-cancelled")));
     return steps;
 }
 

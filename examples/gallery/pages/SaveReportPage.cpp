@@ -99,6 +99,8 @@ void SaveReportPage::save()
     }
     SaveFileDialog dialog(window(), "Save Report", m_form->startFolder(), m_form->startFile(), filters, 0,
         m_form->helpTopic(), makeHandler());
+    // The same for the native dialog and for Qt's.
+    m_options.addTo(*dialog.customization());
     if (!dialog.launch()) {
         showNothingWritten(tr("given up"));
         return;
@@ -106,13 +108,20 @@ void SaveReportPage::save()
     write(QString::fromStdString(dialog.selectedFilename()), dialog.selectedWriter());
 }
 
+QString SaveReportPage::reportText(int writer) const
+{
+    Report report = Report::example(m_reportTitle->text());
+    m_options.applyTo(report);
+    return (report.*reportWriters().at(static_cast<size_t>(qMax(0, writer))).write)();
+}
+
 void SaveReportPage::write(const QString& fileName, int writer)
 {
     const ReportWriter& chosen = reportWriters().at(static_cast<size_t>(qMax(0, writer)));
-    const QByteArray content = (Report::example(m_reportTitle->text()).*chosen.write)();
+    const QByteArray content = m_options.encoded(reportText(writer));
     QSaveFile file(fileName);
     if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() && file.commit()) {
-        showWritten(fileName, tr("%1, writer %2").arg(chosen.name).arg(writer));
+        showWritten(fileName, tr("%1, writer %2, %3").arg(chosen.name).arg(writer).arg(m_options.encodingName()));
     } else {
         showNothingWritten(file.errorString());
     }
@@ -124,7 +133,7 @@ void SaveReportPage::showWritten(const QString& fileName, const QString& writer)
     const QString size = QLocale().formattedDataSize(file.size());
     m_file->setText(QDir::toNativeSeparators(fileName));
     m_writer->setText(tr("%1, %2").arg(writer, size));
-    m_content->setPlainText(file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString());
+    m_content->setPlainText(file.open(QIODevice::ReadOnly) ? m_options.decoded(file.readAll()) : QString());
     Q_EMIT reported(tr("Written: %1 (%2, %3)").arg(QDir::toNativeSeparators(fileName), writer, size));
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Page.h"
+#include "pages/ReportOptions.h"
 
 #include <memory>
 
@@ -37,6 +38,8 @@ private:
 
     std::unique_ptr<morvane::SaveFileMessageHandlerInterface> makeHandler() const;
     void save();
+    /** The report as a writer writes it with the options of the dialog. */
+    QString reportText(int writer) const;
     void write(const QString& fileName, int writer);
     void showWritten(const QString& fileName, const QString& writer);
     void showNothingWritten(const QString& reason);
@@ -46,10 +49,12 @@ private:
     std::vector<TourStep> replaceSteps(const TourWorkspace& workspace);
     std::vector<TourStep> refusedSteps(const TourWorkspace& workspace);
     std::vector<TourStep> wordingSteps(const TourWorkspace& workspace);
+    std::vector<TourStep> optionSteps(const TourWorkspace& workspace);
     TourStep saveStep(const QString& name);
     TourStep writtenStep(const QString& name, const std::function<void()>& action, const QString& path, int writer);
 
     FileDialogForm* m_form;
+    ReportOptions m_options;
     QLineEdit* m_reportTitle;
     QPushButton* m_save;
     QGroupBox* m_wording;

@@ -107,6 +107,7 @@ std::vector<TourStep> SaveReportPage::dialogSteps(const TourWorkspace& workspace
     append(steps, replaceSteps(workspace));
     append(steps, refusedSteps(workspace));
     append(steps, wordingSteps(workspace));
+    append(steps, optionSteps(workspace));
     return namedAfterKind(std::move(steps), native);
 }
 
@@ -121,12 +122,12 @@ TourStep SaveReportPage::writtenStep(
     return {
         name, action, [=] {
             const ReportWriter& chosen = reportWriters().at(static_cast<size_t>(writer));
-            const QByteArray content = (Report::example(m_reportTitle->text()).*chosen.write)();
+            const QString content = reportText(writer);
             const QString complaint = tour::expectClosed();
             return complaint.isEmpty()
-                       ? expect(contentOf(path) == content && m_file->text() == QDir::toNativeSeparators(path) &&
-                                    m_writer->text().startsWith(chosen.name) &&
-                                    m_content->toPlainText().toUtf8() == content,
+                       ? expect(contentOf(path) == m_options.encoded(content) &&
+                                    m_file->text() == QDir::toNativeSeparators(path) &&
+                                    m_writer->text().startsWith(chosen.name) && m_content->toPlainText() == content,
                              QStringLiteral("the page shows \"%1\" by \"%2\"").arg(m_file->text(), m_writer->text()))
                        : complaint;
         }};
@@ -213,6 +214,49 @@ std::vector<TourStep> SaveReportPage::refusedSteps(const TourWorkspace& workspac
             return complaint.isEmpty() ? expect(m_file->text() == tr("nothing was written: given up"), m_file->text())
                                        : complaint;
         }});
+    return steps;
+}
+
+std::vector<TourStep> SaveReportPage::optionSteps(const TourWorkspace& workspace)
+{
+    const auto customEdit = [](const char* name) {
+        return OpenFileDialog().dialog->findChild<QLineEdit*>(QLatin1String(name));
+    };
+    const auto customList = [](const char* name) {
+        return OpenFileDialog().dialog->findChild<QComboBox*>(QLatin1String(name));
+    };
+    // The names count the controls: the Help button only if it is the native one, a label, the list, and so on.
+    const auto list = [=] { return ExtendedFileDialog::useNativeFileDialog() ? "customControl2" : "customControl1"; };
+    const auto edit = [=] { return ExtendedFileDialog::useNativeFileDialog() ? "customControl6" : "customControl5"; };
+    const QString path = workspace.folder().path(QStringLiteral("archive/report-d.txt"));
+    std::vector<TourStep> steps;
+    steps.push_back(saveStep(QStringLiteral("dialog-with-options")));
+    steps.push_back({QStringLiteral("options"),
+        [=] {
+            tour::press(*customList(list()), Qt::Key_Down);
+            tour::type(*customEdit(edit()), QStringLiteral("4 °C above plan"));
+        },
+        [=] {
+            return expect(customList(list())->currentText() == QStringLiteral("Latin 1") &&
+                              customEdit(edit())->text() == QStringLiteral("4 °C above plan"),
+                "the dialog shows other options");
+        }});
+    steps.push_back(writtenStep(
+        QStringLiteral("written-with-options"), [] { tour::enterName(QStringLiteral("report-d")); }, path, 0));
+    steps.push_back({QStringLiteral("options-in-the-file"), [] {},
+        [=] {
+            return expect(contentOf(path).endsWith("\nComment: 4 \xB0"
+                                                   "C above plan\n"),
+                "the file has other options");
+        }});
+    steps.push_back(saveStep(QStringLiteral("dialog-with-the-same-options")));
+    steps.push_back({QStringLiteral("options-stay"), [] {},
+        [=] {
+            return expect(customList(list())->currentIndex() == 1 && !customEdit(edit())->text().isEmpty(),
+                "the options are not the last ones");
+        }});
+    steps.push_back(tour::cancelStep(QStringLiteral("options-cancelled")));
+    steps.push_back({QStringLiteral("first-options"), [this] { m_options.reset(); }, [] { return QString(); }});
     return steps;
 }
 

@@ -603,65 +603,6 @@ TEST_F(ExtendedWinFileDialogLists, withoutADialogEverythingIsSafe)
     EXPECT_EQ(dialog->exec(), QDialog::Rejected);
 }
 
-/** Uses everything once, with a Shell that may fail any call. */
-void useEverything(ExtendedWinFileDialog& dialog, const std::string& folder)
-{
-    const auto encoding = number(0);
-    const auto comment = words("a");
-    QWidget* const list = dialog.addCustomComboBox("Encoding:", encodings, encoding);
-    dialog.customEntry(list, 1)->setEnabled(false);
-    dialog.beginCustomGroup("Group");
-    QWidget* const radio = dialog.addCustomRadioButtons("Unit:", {"mm", "m"}, number(1));
-    dialog.addCustomLineEdit("Comment:", comment);
-    dialog.addCustomText("words");
-    dialog.endCustomGroup();
-    dialog.addCustomSeparator();
-    radio->hide();
-    radio->show();
-    encoding->setValue(2);
-    comment->setValue("b");
-    dialog.setAcceptButtonText("Import");
-    dialog.setFileNameLabel("Name:");
-    dialog.addPlace(folder, Place::Bottom);
-    dialog.setMemoryKey("key");
-    dialog.clearMemory();
-    dialog.setAcceptanceCheck([](const QStringList&) { return ValidationResult(); });
-    dialog.exec();
-}
-
-TEST_F(ExtendedWinFileDialogLists, eachCallMayFailOnce)
-{
-    makeFile(QStringLiteral("a.dat"));
-    m_shell.script.duringShow = [&](RecordingDialog& shown) {
-        shown.userChooses(QStringLiteral("Encoding:"), 0);
-        shown.userTypes(QStringLiteral("Comment:"), QStringLiteral("typed"));
-        shown.userTypesName(path(QStringLiteral("a.dat")));
-        shown.userAccepts();
-    };
-    int count = 0;
-    for (int failing = 0; failing <= count; ++failing) {
-        m_shell.clearCalls();
-        m_shell.failNothing();
-        if (failing > 0) {
-            m_shell.failCall(failing);
-        }
-        const int apartments = m_shell.apartments();
-        {
-            const auto dialog = openDialog();
-            useEverything(*dialog, folder());
-        }
-        const std::string name = failing > 0 ? m_shell.callNames().at(static_cast<std::size_t>(failing - 1)) : "";
-        SCOPED_TRACE(name);
-        count = failing == 0 ? static_cast<int>(m_shell.calls().size()) : count;
-        EXPECT_EQ(m_shell.liveObjects(), 0);
-        EXPECT_EQ(m_shell.liveStrings(), 0);
-        EXPECT_EQ(m_shell.apartments(), name == "CoInitializeEx" ? apartments - 1 : apartments);
-        m_expectedApartments = m_shell.apartments();
-    }
-    EXPECT_GT(count, 60);
-    m_shell.failNothing();
-}
-
 } // namespace
 
 } // namespace morvane::test

@@ -36,7 +36,8 @@ class CustomizationTarget;
  * **Order and layout.** Controls appear in the order in which they were added, below the list of files. The platform
  * arranges them: Windows in columns, the dialogs made of Qt widgets in lines that break where the dialog ends, with a
  * scroll bar if there are very many. In right-to-left languages the order is mirrored. The label of a list or a line
- * edit is before it. The controls of a group are together, with the heading of the group.
+ * edit is before it. The controls of a group are together, with the heading of the group. In the dialogs made of Qt
+ * widgets, the mouse wheel scrolls the controls, and changes only the list that has the focus.
  *
  * **Identifiers.** Each dialog counts from 0. These take the next identifier, in this order: the menu of the accept
  * button, the native dialog's Help button, each push button, check box, text, separator and group, and each entry of

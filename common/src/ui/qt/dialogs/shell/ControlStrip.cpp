@@ -5,6 +5,7 @@
 
 #include "ui/qt/dialogs/shell/AcceptMenu_p.h"
 #include "ui/qt/dialogs/shell/ControlFlow_p.h"
+#include "ui/qt/util/WheelGuard.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
@@ -72,6 +73,7 @@ ControlStrip::ControlStrip(QFileDialog& dialog, ControlActions actions)
 {
     m_row->setObjectName(QStringLiteral("customControls"));
     m_flow->setContentsMargins(0, 0, 0, 0);
+    guardWheel(*m_row); // the wheel scrolls the controls
     if (auto* const grid = qobject_cast<QGridLayout*>(dialog.layout())) {
         grid->addWidget(m_scroller, grid->rowCount(), 0, 1, grid->columnCount());
     }
