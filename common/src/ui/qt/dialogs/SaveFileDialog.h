@@ -60,7 +60,7 @@ public:
      *   dialog is then deleted with this object.
      * - `caption` is the title of the dialog and of the questions.
      * - `directory` is the start directory. Empty: the dialog chooses.
-     * - `filename` is the initial name; may be empty.
+     * - `filename` is the initial name, without a folder; may be empty.
      * - `filter` has the name filters, such as `Data (*.dat)`, joined by `;;`. Empty: all files are listed, and no name
      *   gets an extension.
      * - `writerFilters` replaces `filter`: it has one name filter for each file format.
