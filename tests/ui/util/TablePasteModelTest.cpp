@@ -38,6 +38,9 @@ public:
         }
         change([&] {
             m_rows[index.row()][index.column()] = value.toString();
+            if (value.toString() == "longer") {
+                m_rows.prepend(QStringList{"new", "new"});
+            }
             if (value.toString() == "wider") {
                 std::for_each(m_rows.begin(), m_rows.end(), [](QStringList& row) { row.prepend("new"); });
             }
@@ -118,6 +121,22 @@ TEST_F(TablePasteModelTest, severalPastesAreUndoneOneByOne)
     EXPECT_EQ(texts(), "a b 02/10 11 12/20 21 22/30 31 32");
     stack.undo();
     EXPECT_EQ(texts(), untouched);
+}
+
+TEST_F(TablePasteModelTest, anUndoThatTheModelRefusesIsRedoneWithoutAChange)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    click(0, 0);
+    pressPaste("a\tb");
+    model.accepts = [](const QModelIndex&, const QVariant& value) { return value != "00"; };
+    stack.undo();
+    EXPECT_EQ(texts(), "a 01 02/10 11 12/20 21 22/30 31 32");
+    stack.redo();
+    EXPECT_EQ(texts(), "a b 02/10 11 12/20 21 22/30 31 32");
+    model.accepts = nullptr;
+    stack.undo();
+    EXPECT_EQ(texts(), untouched) << "the old value is not lost";
 }
 
 TEST_F(TablePasteModelTest, addedRowsAreUndoneAndRedone)
@@ -356,6 +375,10 @@ TEST_F(TablePasteModelTest, aModelThatResetsItselfForEachChangeGetsTheWholeBlock
     resetting.change([] {});
     stack.undo();
     EXPECT_EQ(texts(resetting), "e 01/10 11") << "after any other reset, nobody knows what the rows are";
+    view.setCurrentIndex(resetting.index(0, 0));
+    EXPECT_FALSE(handler->paste("longer\tf"));
+    EXPECT_EQ(texts(resetting), "new new/longer 01/10 11") << "nobody knows what the rows are";
+    resetting.removeRows(0, 1, QModelIndex());
     view.setCurrentIndex(resetting.index(0, 0));
     EXPECT_FALSE(handler->paste("wider\tf"));
     EXPECT_EQ(texts(resetting), "new wider 01/new 10 11") << "nobody knows what the columns are";
