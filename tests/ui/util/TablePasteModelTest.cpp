@@ -36,22 +36,29 @@ public:
         if (value.toString() == refused) {
             return false;
         }
-        m_rows[index.row()][index.column()] = value.toString();
-        reload();
+        change([&] {
+            m_rows[index.row()][index.column()] = value.toString();
+            if (value.toString() == "longer") {
+                m_rows.prepend(QStringList{"new", "new"});
+            }
+            if (value.toString() == "wider") {
+                std::for_each(m_rows.begin(), m_rows.end(), [](QStringList& row) { row.prepend("new"); });
+            }
+        });
         return true;
     }
     bool insertRows(int row, int count, const QModelIndex& /*parent*/) override
     {
-        for (int i = 0; i < count; ++i) {
-            m_rows.insert(row, QStringList{"", ""});
-        }
-        reload();
+        change([&] {
+            for (int i = 0; i < count; ++i) {
+                m_rows.insert(row, QStringList{"", ""});
+            }
+        });
         return true;
     }
     bool removeRows(int row, int count, const QModelIndex& /*parent*/) override
     {
-        m_rows.erase(m_rows.begin() + row, m_rows.begin() + row + count);
-        reload();
+        change([&] { m_rows.erase(m_rows.begin() + row, m_rows.begin() + row + count); });
         return true;
     }
     bool moveColumns(const QModelIndex& from, int first, int count, const QModelIndex& target, int destination) override
@@ -64,10 +71,14 @@ public:
         endMoveColumns();
         return true;
     }
-    void reload()
+    template <typename Change>
+    void change(Change change)
     {
         if (resets) {
             beginResetModel();
+        }
+        change();
+        if (resets) {
             endResetModel();
         }
     }
@@ -110,6 +121,22 @@ TEST_F(TablePasteModelTest, severalPastesAreUndoneOneByOne)
     EXPECT_EQ(texts(), "a b 02/10 11 12/20 21 22/30 31 32");
     stack.undo();
     EXPECT_EQ(texts(), untouched);
+}
+
+TEST_F(TablePasteModelTest, anUndoThatTheModelRefusesIsRedoneWithoutAChange)
+{
+    QUndoStack stack;
+    handler->setUndoStack(&stack);
+    click(0, 0);
+    pressPaste("a\tb");
+    model.accepts = [](const QModelIndex&, const QVariant& value) { return value != "00"; };
+    stack.undo();
+    EXPECT_EQ(texts(), "a 01 02/10 11 12/20 21 22/30 31 32");
+    stack.redo();
+    EXPECT_EQ(texts(), "a b 02/10 11 12/20 21 22/30 31 32");
+    model.accepts = nullptr;
+    stack.undo();
+    EXPECT_EQ(texts(), untouched) << "the old value is not lost";
 }
 
 TEST_F(TablePasteModelTest, addedRowsAreUndoneAndRedone)
@@ -269,14 +296,31 @@ TEST_F(TablePasteModelTest, theStepFollowsColumnsAndLeavesOutThoseThatWereRemove
     EXPECT_EQ(texts(), " 00  01 02/ 10  11 12/ 20  21 22/ 30  31 32");
     stack.redo();
     EXPECT_EQ(texts(), " a  b 02/ c  d 12/ 20  21 22/ 30  31 32");
-    model.removeColumns(0, 2);
-    EXPECT_EQ(texts(), " b 02/ d 12/ 21 22/ 31 32");
+    model.removeColumn(3);
+    EXPECT_EQ(texts(), " a  02/ c  12/ 20  22/ 30  32");
     stack.undo();
-    EXPECT_EQ(texts(), " 01 02/ 11 12/ 21 22/ 31 32") << "the column that is left";
-    model.removeColumns(0, 3);
+    EXPECT_EQ(texts(), " 00  02/ 10  12/ 20  22/ 30  32") << "the column that is left";
+    model.removeColumns(0, 4);
     stack.redo();
     stack.undo();
     EXPECT_EQ(model.columnCount(), 0);
+}
+
+TEST_F(TablePasteModelTest, theStepFindsItsRowsAgainAfterTheColumnOfTheFirstCellWasRemoved)
+{
+    for (const int first : {0, 1}) {
+        QUndoStack stack;
+        QStandardItemModel fresh(1, 4);
+        view.setModel(&fresh);
+        handler->setUndoStack(&stack);
+        view.setCurrentIndex(fresh.index(0, first));
+        EXPECT_TRUE(handler->paste("a\tb"));
+        fresh.removeColumn(first);
+        fresh.setData(fresh.index(0, 2), "end");
+        stack.undo();
+        EXPECT_EQ(texts(fresh), "  end");
+        view.setModel(&model);
+    }
 }
 
 TEST_F(TablePasteModelTest, theStepFollowsColumnsThatTheModelMoves)
@@ -328,9 +372,16 @@ TEST_F(TablePasteModelTest, aModelThatResetsItselfForEachChangeGetsTheWholeBlock
     EXPECT_EQ(texts(resetting), "00 01/10 11");
     view.setCurrentIndex(resetting.index(0, 0));
     EXPECT_TRUE(handler->paste("e"));
-    resetting.reload();
+    resetting.change([] {});
     stack.undo();
     EXPECT_EQ(texts(resetting), "e 01/10 11") << "after any other reset, nobody knows what the rows are";
+    view.setCurrentIndex(resetting.index(0, 0));
+    EXPECT_FALSE(handler->paste("longer\tf"));
+    EXPECT_EQ(texts(resetting), "new new/longer 01/10 11") << "nobody knows what the rows are";
+    resetting.removeRows(0, 1, QModelIndex());
+    view.setCurrentIndex(resetting.index(0, 0));
+    EXPECT_FALSE(handler->paste("wider\tf"));
+    EXPECT_EQ(texts(resetting), "new wider 01/new 10 11") << "nobody knows what the columns are";
     view.setModel(nullptr);
 }
 
