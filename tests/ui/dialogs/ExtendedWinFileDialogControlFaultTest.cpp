@@ -280,13 +280,17 @@ TEST_F(ExtendedWinFileDialogControlFault, eachCallMayFailOnce)
         m_shell.failCall(static_cast<int>(i) + 1);
         m_expectedApartments -= names[i] == "CoInitializeEx" ? 1 : 0;
         const Outcome outcome = play();
+        // A timer reads the edit box while a message is open, so the calls are not the same each time.
+        const std::vector<std::string> made = m_shell.callNames();
+        const std::string failed = i < made.size() ? made[i] : std::string();
+        SCOPED_TRACE(failed);
         EXPECT_EQ(m_shell.liveObjects(), 0);
         EXPECT_EQ(m_shell.liveStrings(), 0);
         EXPECT_EQ(m_shell.apartments(), m_expectedApartments);
         expectValidValues(outcome);
         for (const auto& [what, value] : normal) {
             const auto found = outcome.find(what);
-            if (reasonsFor(what).count(names[i]) == 0) {
+            if (reasonsFor(what).count(failed) == 0) {
                 EXPECT_EQ(found == outcome.end() ? QStringLiteral("(nothing)") : found->second, value) << what;
             }
         }

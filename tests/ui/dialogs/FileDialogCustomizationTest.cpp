@@ -401,6 +401,66 @@ TEST_P(FileDialogCustomization, aKeptFolderThatHasGoneIsNotUsed)
     }
 }
 
+TEST_P(FileDialogCustomization, aKeptFolderIsForTheFirstRunOfADialog)
+{
+    const auto dialog = makeDialog(QFileDialog::AcceptSave);
+    dialog->setMemoryKey("export");
+    use(*dialog, [&](FileDialogDriver& user) {
+        user.enterFolder(path(QStringLiteral("inner")));
+        user.typeName(QStringLiteral("new.dat"));
+        user.pressAccept();
+    });
+    use(*dialog, [&](FileDialogDriver& user) {
+        EXPECT_EQ(user.dialog().directory().path(), path(QStringLiteral("inner")));
+        user.enterFolder(m_folder.path());
+    });
+    use(*dialog, [&](FileDialogDriver& user) {
+        EXPECT_EQ(user.dialog().directory().path(), m_folder.path()) << "as the user has left it";
+    });
+}
+
+TEST_P(FileDialogCustomization, nothingIsAddedWhileTheDialogIsOpen)
+{
+    const auto dialog = makeDialog();
+    use(*dialog, [&](FileDialogDriver&) {
+        EXPECT_THROW(dialog->addCustomText("x"), std::logic_error);
+        EXPECT_THROW(dialog->addCustomComboBox("x", {"One"}, nullptr), std::logic_error);
+    });
+    EXPECT_TRUE(dialog->addCustomText("between two runs"));
+}
+
+TEST_P(FileDialogCustomization, aCheckThatIsSetWhileTheDialogIsOpenSaysWhyItRefuses)
+{
+    const auto dialog = makeDialog();
+    EXPECT_EQ(use(*dialog,
+                  [&](FileDialogDriver& user) {
+                      dialog->setAcceptanceCheck([](const QStringList&) { return ValidationResult("not now"); });
+                      expectMessage("not now");
+                      user.typeName(QStringLiteral("a.dat"));
+                      user.pressAccept();
+                      EXPECT_TRUE(user.isOpen());
+                  }),
+        QDialog::Rejected);
+    EXPECT_TRUE(m_user.finished());
+}
+
+TEST_P(FileDialogCustomization, aRefusalHasTheTitleOfTheDialogAndItsReasonIsNoMarkup)
+{
+    const auto dialog = makeDialog();
+    dialog->setAcceptanceCheck([](const QStringList&) { return ValidationResult("<b>no</b>"); });
+    use(*dialog, [&](FileDialogDriver& user) {
+        m_user.on<QMessageBox>([&user](QMessageBox& box) {
+            EXPECT_EQ(box.windowTitle(), QStringLiteral("Files"));
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            EXPECT_EQ(box.parentWidget(), &user.dialog()) << "above the dialog";
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        user.typeName(QStringLiteral("a.dat"));
+        user.pressAccept();
+    });
+    EXPECT_TRUE(m_user.finished());
+}
+
 TEST_P(FileDialogCustomization, theSaveFlowTakesTheSameFunction)
 {
     SaveFileDialog flow(m_parent.get(), "Save", m_folder.path().toStdString(), "", "Data (*.dat)", "");
@@ -441,6 +501,9 @@ TEST(FileDialogCustomizationOfQt, anExceptionOfAnObserverOfAShownDialogDoesNotPa
     dialog.show();
     QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("customControl1")), QStringLiteral("x"));
     EXPECT_FALSE(dialog.isVisible());
+    ModalScript user;
+    user.on<QFileDialog>([](QFileDialog& shown) { shown.reject(); });
+    EXPECT_EQ(dialog.exec(), QDialog::Rejected) << "an exception of a run before has no receiver";
 }
 
 TEST(FileDialogCustomizationOfQt, aDialogWithoutAdditionsHasNoStrip)

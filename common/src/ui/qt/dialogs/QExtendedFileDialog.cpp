@@ -95,6 +95,9 @@ morvane::ui::FileDialogCustomization* QExtendedFileDialog::customization()
         m_impl->customization = std::make_shared<morvane::ui::QtDialogCustomization>(
             *this, [this](const std::string& key) { setGeometryPersistenceKey(key); });
         m_impl->customizationOfHost = std::make_unique<morvane::ui::FileDialogCustomization>(*m_impl->customization);
+        if (isVisible()) {
+            m_impl->beginRun(m_geometryPersistenceKey); // for a host that asks for it only now
+        }
     }
     return m_impl->customizationOfHost.get();
 }
