@@ -279,6 +279,29 @@ TEST_F(TablePasteTest, withALocaleATextThatIsNoSuchNumberIsRefused)
     EXPECT_EQ(refusals(), "0,1:nonumber:3000000000");
 }
 
+TEST_F(TablePasteTest, addedRowsGetNumbersWhereTheLastRowHasThem)
+{
+    handler->setAddingRows(true);
+    handler->setNumberLocale(QLocale(QLocale::German, QLocale::Germany));
+    model.setData(model.index(3, 0), 1.5, Qt::EditRole);
+    click(3, 0);
+    pressPaste("2,5\tb\n1.234,5\t3,5\n\tc");
+    EXPECT_EQ(model.rowCount(), 6);
+    EXPECT_EQ(model.index(4, 0).data(Qt::EditRole), QVariant(1234.5));
+    EXPECT_EQ(model.index(4, 1).data(Qt::EditRole), QVariant("3,5"));
+    EXPECT_FALSE(model.index(5, 0).data(Qt::EditRole).isValid());
+
+    click(5, 0); // the last row has no number now
+    pressPaste("1,5\n2,5");
+    EXPECT_EQ(model.index(6, 0).data(Qt::EditRole), QVariant("2,5"));
+
+    model.setData(model.index(6, 0), 1.5, Qt::EditRole);
+    click(6, 0);
+    pressPaste("1,5\nhigh");
+    EXPECT_EQ(refusals(), "7,0:nonumber:high");
+    EXPECT_EQ(model.rowCount(), 7);
+}
+
 TEST_F(TablePasteTest, blanksBetweenGroupsOfDigitsMayBeAnyThatProgramsWrite)
 {
     handler->setNumberLocale(QLocale(QLocale::French, QLocale::France));

@@ -110,6 +110,9 @@ void BlockPaste::check(DelayedWaitCursor& waitCursor)
                 refuse({row, column}, TablePasteRefusal::Reason::OutsideTable);
             } else if (!isOutside) {
                 checkCell({row, column}, shown.index(shownRow, m_first.column() + static_cast<int>(column), parent));
+            } else if (m_rules.numberLocale) {
+                // A row that does not exist yet gets numbers where the last row has them.
+                readNumber({row, column}, m_target.cell(m_target.rowCount() - 1, column));
             }
         }
     }
@@ -120,13 +123,13 @@ void BlockPaste::checkCell(Place place, const QModelIndex& shown)
     if (!isEditable(shown)) {
         refuse(place, TablePasteRefusal::Reason::NotEditable);
     } else if (m_rules.numberLocale) {
-        readNumber(place);
+        readNumber(place, m_target.cell(place.row, place.column));
     }
 }
 
-void BlockPaste::readNumber(Place place)
+void BlockPaste::readNumber(Place place, const QModelIndex& example)
 {
-    const QVariant old = m_target.cell(place.row, place.column).data(Qt::EditRole);
+    const QVariant old = example.data(Qt::EditRole);
     if (!isNumber(old)) {
         return;
     }

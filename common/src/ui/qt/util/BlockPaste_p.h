@@ -54,7 +54,8 @@ private:
 
     void check(DelayedWaitCursor& waitCursor);
     void checkCell(Place place, const QModelIndex& shown);
-    void readNumber(Place place);
+    /** @param example a cell that has a number if a number is wanted */
+    void readNumber(Place place, const QModelIndex& example);
     void addRows();
     void write(DelayedWaitCursor& waitCursor);
     void refuseUnchanged();
