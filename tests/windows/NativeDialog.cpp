@@ -109,6 +109,15 @@ BOOL CALLBACK matchCustomClass(HWND window, LPARAM argument)
     return FALSE;
 }
 
+BOOL CALLBACK matchWords(HWND window, LPARAM argument)
+{
+    auto& words = *reinterpret_cast<std::wstring*>(argument);
+    if (hasClass(window, WC_STATICW)) {
+        words += windowText(window); // that of the icon is empty
+    }
+    return TRUE;
+}
+
 HWND waitForMenu()
 {
     HWND menu = nullptr;
@@ -386,6 +395,12 @@ bool NativeDialog::setCustomText(const std::wstring& text) const
     return edit && send(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str())) != 0;
 }
 
+std::wstring NativeDialog::customListText() const
+{
+    const HWND combo = customControlOfClass(WC_COMBOBOXW);
+    return combo ? windowText(combo) : std::wstring();
+}
+
 bool NativeDialog::chooseAcceptOption(int index) const
 {
     press(AcceptArrow);
@@ -415,6 +430,18 @@ bool NativeDialog::waitForQuestion(int seconds) const
 bool NativeDialog::hasQuestion() const
 {
     return question() != nullptr;
+}
+
+std::wstring NativeDialog::questionTitle() const
+{
+    return windowText(question());
+}
+
+std::wstring NativeDialog::questionText() const
+{
+    std::wstring words;
+    EnumChildWindows(question(), matchWords, reinterpret_cast<LPARAM>(&words));
+    return words;
 }
 
 void NativeDialog::answer(int button) const

@@ -93,6 +93,9 @@ public:
     /** Sets the text in the edit box that was added first. False when there is none. Only for the dialog's thread. */
     bool setCustomText(const std::wstring& text) const;
 
+    /** The shown entry of the combo box that was added first. */
+    std::wstring customListText() const;
+
     /** Opens the menu of the accept button and selects the entry @p index, counted from 0. False when no menu opens. */
     bool chooseAcceptOption(int index) const;
     /** Waits for a menu of this process and selects the entry with this text. False when there is none. */
@@ -101,6 +104,9 @@ public:
     /** Waits for a message box of the dialog, such as the overwrite question. */
     bool waitForQuestion(int seconds = 10) const;
     bool hasQuestion() const;
+    std::wstring questionTitle() const;
+    /** The words in the message box. */
+    std::wstring questionText() const;
     /** Presses IDYES, IDNO, IDOK, ... in the message box. */
     void answer(int button) const;
 
