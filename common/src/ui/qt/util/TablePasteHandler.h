@@ -81,8 +81,8 @@ public:
     std::optional<QLocale> numberLocale() const;
     /**
      * With a locale, the text for a cell that stores a number is read in this locale and written as a number of the
-     * same type; an empty text is written as an invalid QVariant. A text that is no such number is refused. In rows that
-     * are added, a number is wanted where the last row of the table stores one. Without a locale, and in all other
+     * same type; an empty text is written as an invalid QVariant. A text that is no such number is refused. In rows
+     * that are added, a number is wanted where the last row of the table stores one. Without a locale, and in all other
      * cells, the text is written as it is, and the model converts it.
      */
     void setNumberLocale(const std::optional<QLocale>& locale);
