@@ -279,6 +279,28 @@ TEST_F(TablePasteTest, withALocaleATextThatIsNoSuchNumberIsRefused)
     EXPECT_EQ(refusals(), "0,1:nonumber:3000000000");
 }
 
+TEST_F(TablePasteTest, aSelectedBlockIsPastedFromItsFirstCellOn)
+{
+    for (const bool upwards : {false, true}) {
+        click(upwards ? 2 : 1, upwards ? 2 : 1);
+        const QModelIndex end = model.index(upwards ? 1 : 2, upwards ? 1 : 2);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::ShiftModifier, view.visualRect(end).center());
+        ASSERT_EQ(view.currentIndex(), end);
+        ASSERT_EQ(view.selectionModel()->selectedIndexes().size(), 4);
+        pressPaste("a\tb\nc\td"); // and once more
+        pressPaste("a\tb\nc\td");
+        EXPECT_EQ(texts(), "00 01 02/10 a b/20 c d/30 31 32");
+    }
+    // The current cell alone counts outside of the selection, and where whole rows are selected.
+    view.selectionModel()->setCurrentIndex(model.index(3, 2), QItemSelectionModel::NoUpdate);
+    pressPaste("x");
+    EXPECT_EQ(texts(), "00 01 02/10 a b/20 c d/30 31 x");
+    view.setSelectionBehavior(QAbstractItemView::SelectRows);
+    click(0, 1);
+    pressPaste("y");
+    EXPECT_EQ(texts(), "00 y 02/10 a b/20 c d/30 31 x");
+}
+
 TEST_F(TablePasteTest, addedRowsGetNumbersWhereTheLastRowHasThem)
 {
     handler->setAddingRows(true);

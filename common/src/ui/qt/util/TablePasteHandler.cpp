@@ -9,12 +9,32 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QItemSelection>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QTableView>
 #include <QUndoStack>
 
 namespace morvane::ui {
+
+namespace {
+
+/** After a drag, the current cell is where the mouse was released, but spreadsheet programs begin at the corner. */
+QModelIndex firstCell(const QTableView& view)
+{
+    const QModelIndex current = view.currentIndex();
+    if (view.selectionBehavior() == QAbstractItemView::SelectItems && view.selectionModel()) {
+        const QItemSelection selection = view.selectionModel()->selection();
+        for (const QItemSelectionRange& range : selection) {
+            if (range.contains(current)) {
+                return range.topLeft();
+            }
+        }
+    }
+    return current;
+}
+
+} // namespace
 
 struct TablePasteHandler::Impl
 {
@@ -97,7 +117,7 @@ bool TablePasteHandler::pasteFromClipboard()
 bool TablePasteHandler::paste(const QString& block)
 {
     expectGuiThread("TablePasteHandler");
-    const QModelIndex first = m_impl->view.currentIndex();
+    const QModelIndex first = firstCell(m_impl->view);
     CellBlock cells = readCellBlock(block);
     if (cells.empty() || !first.isValid()) {
         return false;

@@ -20,7 +20,9 @@ namespace morvane::ui {
 
 /**
  * Adds the platform's paste shortcut to a table view: a block of cells from a spreadsheet program, or from
- * TableCopyHandler, is written into the model of the view, from the current cell on to the right and down.
+ * TableCopyHandler, is written into the model of the view, from the current cell on to the right and down. If the
+ * current cell is in a selected block of cells, it is written from the first cell of this block on. A view that selects
+ * whole rows or columns begins at the current cell.
  *
  * @snippet 31-paste-a-block/main.cpp paste
  *
