@@ -38,7 +38,7 @@ int main(int argc, char** argv)
 
     //! [options]
     // All of this is off initially.
-    handler->setQuoting(true);           // cells with tabs or line ends are pasted as one cell
+    handler->setQuoting(true);           // a spreadsheet reads a cell with tabs or line ends as one cell
     handler->setNumberLocale(QLocale()); // numbers as the user's spreadsheet reads them
     handler->setKeepingClipboard(true);  // nothing selected: nothing copied
     handler->setContextMenu(true);       // with "Copy" and "Copy with Headers"
